@@ -1,0 +1,17 @@
+# Warnings are errors everywhere; the sanitizers exist only in the native build.
+function(tnt_target_options target)
+    if(MSVC)
+        target_compile_options(${target} PRIVATE /W4 /WX /permissive- /utf-8 /EHsc)
+    else()
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow -Werror)
+    endif()
+    if(TNT_SANITIZE)
+        target_compile_options(${target} PUBLIC -fsanitize=address,undefined
+            -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(${target} PUBLIC -fsanitize=address,undefined)
+    endif()
+    if(WIN32)
+        target_compile_definitions(${target} PUBLIC UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN
+            STRICT WINVER=0x0A00 _WIN32_WINNT=0x0A00)
+    endif()
+endfunction()

@@ -1,0 +1,30 @@
+# GoogleTest comes as source, so that it is built with the options of this build.
+set(TNT_GOOGLETEST_DIR /usr/src/googletest CACHE PATH "Source folder of GoogleTest")
+set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
+add_subdirectory(${TNT_GOOGLETEST_DIR} googletest EXCLUDE_FROM_ALL)
+
+function(tnt_test_program name)
+    cmake_parse_arguments(arg "" "" "FOLDERS;LIBRARIES" ${ARGN})
+    tnt_sources(sources ${arg_FOLDERS})
+    add_executable(${name} ${sources})
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+    target_compile_definitions(${name} PRIVATE TNT_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    tnt_target_options(${name})
+    if(WIN32 AND NOT MSVC)
+        target_link_options(${name} PRIVATE -static)
+    endif()
+    add_test(NAME ${name} COMMAND ${name})
+endfunction()
+
+set(portable_test_folders tests/common tests/library tests/solidworks tests/support
+    tests/mainwindow tests/app tests/standin tests/fakes)
+tnt_test_program(portable_tests FOLDERS ${portable_test_folders}
+    LIBRARIES standin_model tnt_portable gmock gtest gtest_main)
+
+if(WIN32)
+    tnt_test_program(windows_tests FOLDERS tests/platform tests/ui
+        LIBRARIES standin_model tnt_forms gmock gtest gtest_main)
+    tnt_test_program(main_job FOLDERS tests/e2e LIBRARIES tnt_platform gdiplus)
+endif()

@@ -1,0 +1,34 @@
+# The Windows half: toolkit, forms, the program and the stand-in.
+tnt_sources(platform_sources platform)
+add_library(tnt_platform STATIC ${platform_sources})
+target_link_libraries(tnt_platform PUBLIC tnt_portable comctl32 comdlg32 gdi32 user32 shell32 ole32
+    oleaut32 uuid advapi32 uxtheme)
+tnt_target_options(tnt_platform)
+
+add_library(tnt_forms STATIC ${form_sources})
+target_link_libraries(tnt_forms PUBLIC tnt_platform)
+tnt_target_options(tnt_forms)
+
+add_executable(tnt4swx WIN32 app/main.cpp resources/tnt4swx.rc)
+target_link_libraries(tnt4swx PRIVATE tnt_forms)
+tnt_target_options(tnt4swx)
+
+tnt_sources(standin_sources standin/com)
+add_executable(swx_standin WIN32 ${standin_sources} resources/swx_standin.rc)
+target_link_libraries(swx_standin PRIVATE standin_model tnt_platform)
+tnt_target_options(swx_standin)
+
+foreach(program tnt4swx swx_standin)
+    if(NOT MSVC)
+        # One file that runs anywhere: no run-time library beside it.
+        target_link_options(${program} PRIVATE -static -municode -Wl,--dynamicbase
+            -Wl,--nxcompat -Wl,--high-entropy-va $<$<CONFIG:Release>:-s>)
+    endif()
+    set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+endforeach()
+
+# What the program reads at run time stands beside it.
+add_custom_target(program_data ALL
+    COMMAND ${CMAKE_COMMAND} -DSOURCE=${CMAKE_SOURCE_DIR}/resources
+        -DTARGET=${CMAKE_BINARY_DIR}/bin -P ${CMAKE_SOURCE_DIR}/cmake/CopyProgramData.cmake)
+add_dependencies(tnt4swx program_data)

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+
+// A colour number as Windows keeps it: 0x00BBGGRR, red in the low byte.
+using ColorNumber = std::uint32_t;
+
+struct RedGreenBlue {
+    int red = 0;   // 0..255
+    int green = 0; // 0..255
+    int blue = 0;  // 0..255
+
+    bool operator==(const RedGreenBlue&) const = default;
+};
+
+// The two masks that turn a background into a text colour.  They are different on purpose: the
+// 20-bit mask inverts blue only in its low four bits.
+inline constexpr ColorNumber kFullComplementMask = 0xFFFFFF;
+inline constexpr ColorNumber kPartialComplementMask = 0xFFFFF;
+
+// red, green, blue: 0..255 each.
+[[nodiscard]] ColorNumber MakeColorNumber(int red, int green, int blue) noexcept;
+
+// Splits a colour number; bits above the third byte are ignored.
+[[nodiscard]] RedGreenBlue SplitColorNumber(ColorNumber color) noexcept;

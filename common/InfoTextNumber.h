@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+
+// Numbers of the message texts in the section "Info" of the language files.
+namespace InfoTextNumber {
+inline constexpr std::int32_t NoSolidWorks = 0;
+inline constexpr std::int32_t NoActiveDocument = 1;
+inline constexpr std::int32_t NoPartOrAssembly = 2;
+inline constexpr std::int32_t ErrorOccurred = 3;
+inline constexpr std::int32_t SaveFailed = 4;
+inline constexpr std::int32_t InvalidFormat = 5;
+inline constexpr std::int32_t OpenFailed = 6;
+inline constexpr std::int32_t DropOnGroupOnly = 7;
+inline constexpr std::int32_t RevisionTooLow = 8;
+inline constexpr std::int32_t NoPart = 9;
+inline constexpr std::int32_t NoAssembly = 10;
+inline constexpr std::int32_t ColorLibrary = 20;
+inline constexpr std::int32_t ColorLibraries = 21;
+inline constexpr std::int32_t AllFiles = 22;
+inline constexpr std::int32_t Color = 23;
+inline constexpr std::int32_t AskAutoload = 24;
+inline constexpr std::int32_t AskCancelAutoload = 25;
+inline constexpr std::int32_t Save = 30;
+inline constexpr std::int32_t NameOfLibrary = 50;
+inline constexpr std::int32_t NameOfGroup = 51;
+inline constexpr std::int32_t NameOfColor = 52;
+inline constexpr std::int32_t ReadingLibrary = 60;
+inline constexpr std::int32_t WritingLibrary = 61;
+inline constexpr std::int32_t ClearingPart = 62;
+inline constexpr std::int32_t ClearingAssembly = 63;
+inline constexpr std::int32_t StandardColors = 70;
+inline constexpr std::int32_t StandardColorsDifferInSize = 72;
+inline constexpr std::int32_t StandardColorNamesDiffer = 73;
+inline constexpr std::int32_t AskContinue = 74;
+inline constexpr std::int32_t Attention = 98;
+inline constexpr std::int32_t AskDelete = 99;
+inline constexpr std::int32_t LibraryLabel = 100;
+inline constexpr std::int32_t GroupLabel = 101;
+inline constexpr std::int32_t ColorLabel = 102;
+inline constexpr std::int32_t LibraryWithoutGroups = 103;
+inline constexpr std::int32_t CharactersNotStorable = 104;
+} // namespace InfoTextNumber

@@ -1,0 +1,111 @@
+#include "common/Numbers.h"
+
+#include "common/RuntimeError.h"
+#include "common/Text.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+struct ParsedNumber {
+    double value = 0;
+    std::size_t length = 0; // characters used, leading blanks included; 0: no number
+};
+
+ParsedNumber ParseNumber(std::string_view text) noexcept {
+    const std::size_t start = text.find_first_not_of(" \t");
+    if (start == std::string_view::npos)
+        return {};
+    std::size_t digits = start;
+    const bool plus = text[digits] == '+';
+    if (plus)
+        ++digits;
+    // "inf" and "nan" are words here, not numbers, and only one sign is a sign.
+    const std::size_t afterSign = text[start] == '-' ? start + 1 : digits;
+    if (afterSign >= text.size() ||
+        (text[afterSign] != '.' && (text[afterSign] < '0' || text[afterSign] > '9')))
+        return {};
+    ParsedNumber parsed;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data() + digits, end, parsed.value);
+    if (error == std::errc::result_out_of_range)
+        parsed.value = text[start] == '-' ? -std::numeric_limits<double>::infinity()
+                                          : std::numeric_limits<double>::infinity();
+    else if (error != std::errc())
+        return {};
+    parsed.length = static_cast<std::size_t>(stop - text.data());
+    return parsed;
+}
+
+template <typename Integer>
+Integer RoundTo(double number) {
+    const double rounded = RoundHalfToEven(number);
+    // Written so that a value that is not a number fails too.
+    if (!(rounded >= std::numeric_limits<Integer>::min() &&
+          rounded <= std::numeric_limits<Integer>::max()))
+        throw RuntimeError(ErrorNumber::Overflow, "Overflow");
+    return static_cast<Integer>(rounded);
+}
+
+} // namespace
+
+double LeadingNumber(std::string_view text) noexcept {
+    return ParseNumber(text).value;
+}
+
+double RoundHalfToEven(double number) noexcept {
+    const double lower = std::floor(number);
+    const double part = number - lower;
+    if (part < 0.5)
+        return lower;
+    if (part > 0.5)
+        return lower + 1;
+    return std::fmod(lower, 2) == 0 ? lower : lower + 1;
+}
+
+std::int16_t RoundToInt16(double number) {
+    return RoundTo<std::int16_t>(number);
+}
+
+std::int32_t RoundToInt32(double number) {
+    return RoundTo<std::int32_t>(number);
+}
+
+double TextToDouble(std::string_view text) {
+    const ParsedNumber parsed = ParseNumber(text);
+    const bool onlyBlanksFollow =
+        text.find_first_not_of(" \t", parsed.length) == std::string_view::npos;
+    if (parsed.length == 0 || !onlyBlanksFollow)
+        throw RuntimeError(ErrorNumber::TypeMismatch, "Type mismatch: \"" + std::string(text) + "\"");
+    return parsed.value;
+}
+
+std::int16_t TextToInt16(std::string_view text) {
+    return RoundToInt16(TextToDouble(text));
+}
+
+std::int32_t TextToInt32(std::string_view text) {
+    return RoundToInt32(TextToDouble(text));
+}
+
+bool TextToBoolean(std::string_view text) {
+    const std::string lower = ToLowerAscii(text);
+    if (lower == "true")
+        return true;
+    if (lower == "false")
+        return false;
+    return TextToDouble(text) != 0;
+}
+
+std::string BooleanToText(bool value) {
+    return value ? "True" : "False";
+}
+
+std::string SingleToText(float value) {
+    char buffer[64];
+    const auto [end, error] =
+        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed);
+    return error == std::errc() ? std::string(buffer, end) : std::string("0");
+}

@@ -1,0 +1,21 @@
+#include "common/Text.h"
+
+std::vector<std::string> SplitFields(std::string_view text, std::string_view separator) {
+    std::vector<std::string> fields;
+    std::size_t start = 0;
+    for (std::size_t found = text.find(separator); found != std::string_view::npos;
+         found = text.find(separator, start)) {
+        fields.emplace_back(text.substr(start, found - start));
+        start = found + separator.size();
+    }
+    fields.emplace_back(text.substr(start));
+    return fields;
+}
+
+std::string ToLowerAscii(std::string_view text) {
+    std::string lower(text);
+    for (char& character : lower)
+        if (character >= 'A' && character <= 'Z')
+            character = static_cast<char>(character - 'A' + 'a');
+    return lower;
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Splits a text at a separator.  The result holds separators + 1 fields; an empty text gives one
+// empty field.
+[[nodiscard]] std::vector<std::string> SplitFields(std::string_view text, std::string_view separator);
+
+// Lower case for A..Z only; every other character stays.
+[[nodiscard]] std::string ToLowerAscii(std::string_view text);
+
+// The line break inside messages and text files.
+inline constexpr const char* kLineBreak = "\r\n";

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "library/LibraryNode.h"
+
+// Follows the changes of the library tree, so that a tree control can mirror them.
+class LibraryTreeObserver {
+public:
+    virtual ~LibraryTreeObserver() = default;
+
+    virtual void NodeAdded(const LibraryNode& node) = 0; // as the last child of its parent
+    virtual void NodeRemoved(const std::string& key) = 0; // with everything below it
+    virtual void NodeTextChanged(const std::string& key, const std::string& text) = 0;
+    virtual void NodeExpanded(const std::string& key) = 0;
+    virtual void NodeSelected(const std::string& key) = 0; // empty: no node is selected
+};

@@ -1,0 +1,152 @@
+#pragma once
+
+#include "common/ColorNumber.h"
+#include "common/Twips.h"
+#include "common/ports/FormWindow.h"
+#include "library/LibraryTreeObserver.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+// The main window as its rules see it.  frmMain implements these five panes and reports what the
+// user did through MainViewEvents; it decides nothing.  Texts are UTF-8, lengths are twips.
+
+// tvColor.
+class TreePane : public LibraryTreeObserver {
+public:
+    virtual void EditNodeLabel(const std::string& key) = 0;
+};
+
+// lvColor: an owner-data list; its texts are asked through MainViewEvents.
+enum class ListViewMode { LargeIcons = 0, SmallIcons = 1, List = 2, Details = 3 };
+
+struct ListColumn {
+    std::string caption;
+    std::string key;
+    float width = 0;
+};
+
+class ListPane {
+public:
+    virtual ~ListPane() = default;
+    [[nodiscard]] virtual float ListWidth() const = 0;
+    virtual void AddColumns(const std::vector<ListColumn>& columns) = 0;
+    // All rows may be different now, also in number; nothing is selected afterwards.
+    virtual void RowsChanged(int rowCount) = 0;
+    virtual void SelectRow(int row) = 0; // from 0
+    virtual void EnsureRowVisible(int row) = 0;
+    virtual void EditRowLabel(int row) = 0;
+    virtual void SetListViewMode(ListViewMode mode) = 0;
+};
+
+// The active-colour editor: nine text boxes and sliders (index 0..8), name label, two swatches.
+class EditorPane {
+public:
+    virtual ~EditorPane() = default;
+    virtual void SetColorName(const std::string& name) = 0; // lblActiveColorName
+    // Does not report a text change back.
+    virtual void SetValueText(std::size_t index, const std::string& text) = 0;
+    virtual void SelectWholeValueText(std::size_t index) = 0;
+    virtual void SetSlider(std::size_t index, int position) = 0;
+    virtual void SetLargeSwatch(ColorNumber background) = 0;
+    virtual void SetSmallSwatch(ColorNumber background, ColorNumber text) = 0;
+    virtual void SetSmallSwatchCaption(const std::string& caption) = 0;
+};
+
+// Menus, toolbar and status bar.
+class BarsPane {
+public:
+    virtual ~BarsPane() = default;
+    virtual void SetMenuChecked(int command, bool checked) = 0; // command: IDM_ number
+    virtual void SetButtonPressed(const std::string& buttonKey, bool pressed) = 0;
+    virtual void SetButtonVisible(const std::string& buttonKey, bool visible) = 0;
+    virtual void SetToolbarVisible(bool visible) = 0;
+    virtual void SetStatusBarVisible(bool visible) = 0;
+    virtual void SetInfoPanelText(const std::string& text) = 0; // panel "Infotext"
+};
+
+// What the layout pass needs to know, and what it decides.
+struct LayoutMetrics {
+    WindowState state = WindowState::Normal;
+    float formWidth = 0;  // outer width, border included
+    float innerWidth = 0; // client area
+    float innerHeight = 0;
+    float toolbarHeight = 0; // 0 when hidden
+    float statusBarHeight = 0; // 0 when hidden
+    float hugeFrameHeight = 0;
+    float smallSwatchHeight = 0;
+};
+
+struct MainLayout {
+    TwipsRect tree;
+    TwipsRect splitter;
+    TwipsRect list;
+    TwipsRect colorArea; // of the frame or of the small swatch, whichever is shown
+    bool hugeFrameShown = false;
+};
+
+class LayoutPane {
+public:
+    virtual ~LayoutPane() = default;
+    [[nodiscard]] virtual LayoutMetrics Metrics() const = 0;
+    virtual void ApplyLayout(const MainLayout& layout) = 0;
+    // picSplitter, the bar that is shown while the splitter is dragged.
+    virtual void ShowSplitterBar(const TwipsRect& bounds) = 0;
+    virtual void HideSplitterBar() = 0;
+};
+
+class MainView : public TreePane,
+                 public ListPane,
+                 public EditorPane,
+                 public BarsPane,
+                 public LayoutPane {
+public:
+    virtual void ShowWindow() = 0;
+    virtual void ShowAbout() = 0;                            // modal
+    virtual void ShowTextViewer(const std::string& entry) = 0; // modeless
+    virtual void SetBanner(int index) = 0;                   // from 1; 0: none
+    virtual void EndProgram() = 0;                           // leaves the message loop
+};
+
+// What the user did in the main window.  Rows count from 0, columns from 1, values from 0.
+class MainViewEvents {
+public:
+    virtual ~MainViewEvents() = default;
+
+    virtual void RunCommand(int command) = 0; // IDM_ number: menu, toolbar, button menu, shortcut
+
+    virtual void NodeClicked(const std::string& key) = 0;
+    virtual void NodeLabelEdited(const std::string& key, const std::string& text) = 0;
+    virtual void NodeEditRequested() = 0; // F2 in the tree
+
+    [[nodiscard]] virtual std::string CellText(int row, int column) const = 0;
+    // First row from start (wrapping at the end) whose name begins with the text, letter case
+    // ignored; -1: none.
+    [[nodiscard]] virtual int FindRow(const std::string& text, int start) const = 0;
+    virtual void RowClicked(int row) = 0; // selected by mouse or keyboard
+    virtual void RowEditRequested() = 0;  // F2 in the list
+    [[nodiscard]] virtual bool MayEditRow() const = 0;
+    virtual void RowLabelEdited(int row, const std::string& text) = 0;
+    virtual void ColumnClicked(int column) = 0;
+
+    virtual void ValueTextChanged(std::size_t index, const std::string& text) = 0;
+    [[nodiscard]] virtual bool IsValueCharacter(char32_t character) const = 0;
+    virtual void ValueFocused(std::size_t index) = 0;
+    virtual void SliderMoved(std::size_t index, int position) = 0;
+    virtual void SwatchDoubleClicked() = 0;
+
+    virtual void Resized() = 0;
+    virtual void Repainted() = 0;
+    virtual void SplitterPressed() = 0;
+    virtual void SplitterDragged(float x) = 0; // x: from the splitter's left edge
+    virtual void SplitterReleased() = 0;
+
+    virtual void BannerTicked() = 0;
+    virtual void BannerClicked() = 0;
+    virtual void WindowClosing() = 0; // close box
+
+    // Something that no operation handled; shows the shared error message.  Never throws.
+    virtual void ReportError(const std::string& description) noexcept = 0;
+};
