@@ -104,8 +104,6 @@ class MainView : public TreePane,
                  public LayoutPane {
 public:
     virtual void ShowWindow() = 0;
-    virtual void ShowAbout() = 0;                            // modal
-    virtual void ShowTextViewer(const std::string& entry) = 0; // modeless
     virtual void SetBanner(int index) = 0;                   // from 1; 0: none
     virtual void EndProgram() = 0;                           // leaves the message loop
 };
@@ -146,7 +144,4 @@ public:
     virtual void BannerTicked() = 0;
     virtual void BannerClicked() = 0;
     virtual void WindowClosing() = 0; // close box
-
-    // Something that no operation handled; shows the shared error message.  Never throws.
-    virtual void ReportError(const std::string& description) noexcept = 0;
 };
