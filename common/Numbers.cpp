@@ -78,7 +78,8 @@ double TextToDouble(std::string_view text) {
     const bool onlyBlanksFollow =
         text.find_first_not_of(" \t", parsed.length) == std::string_view::npos;
     if (parsed.length == 0 || !onlyBlanksFollow)
-        throw RuntimeError(ErrorNumber::TypeMismatch, "Type mismatch: \"" + std::string(text) + "\"");
+        throw RuntimeError(ErrorNumber::TypeMismatch,
+                           "Type mismatch: \"" + std::string(text) + "\"");
     return parsed.value;
 }
 

@@ -17,13 +17,14 @@
 [[nodiscard]] std::int16_t RoundToInt16(double number);
 [[nodiscard]] std::int32_t RoundToInt32(double number);
 
-// The whole text as a number (blanks around it allowed); whole numbers are rounded as above.  Throws RuntimeError
-// TypeMismatch when it is not a number, Overflow when it does not fit.
+// The whole text as a number (blanks around it allowed); whole numbers are rounded as above. Throws
+// RuntimeError TypeMismatch when it is not a number, Overflow when it does not fit.
 [[nodiscard]] double TextToDouble(std::string_view text);
 [[nodiscard]] std::int16_t TextToInt16(std::string_view text);
 [[nodiscard]] std::int32_t TextToInt32(std::string_view text);
 
-// "True" and "False" in any letter case, or a number (0 is false).  Throws RuntimeError TypeMismatch.
+// "True" and "False" in any letter case, or a number (0 is false).  Throws RuntimeError
+// TypeMismatch.
 [[nodiscard]] bool TextToBoolean(std::string_view text);
 
 // "True" or "False".

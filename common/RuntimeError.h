@@ -18,7 +18,8 @@ inline constexpr int DuplicateKey = 35602;
 // the edge of a form, which reports it and lets the program go on.
 class RuntimeError : public std::runtime_error {
 public:
-    // description: UTF-8, what the user is shown; member: the automation member that failed, or empty.
+    // description: UTF-8, what the user is shown; member: the automation member that failed, or
+    // empty.
     RuntimeError(int number, const std::string& description, std::string member = {})
         : std::runtime_error(description), number_(number), member_(std::move(member)) {}
 

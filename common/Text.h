@@ -6,7 +6,8 @@
 
 // Splits a text at a separator.  The result holds separators + 1 fields; an empty text gives one
 // empty field.
-[[nodiscard]] std::vector<std::string> SplitFields(std::string_view text, std::string_view separator);
+[[nodiscard]] std::vector<std::string> SplitFields(std::string_view text,
+                                                   std::string_view separator);
 
 // Lower case for A..Z only; every other character stays.
 [[nodiscard]] std::string ToLowerAscii(std::string_view text);

@@ -16,11 +16,11 @@ inline constexpr const char* kUnsavedTag = "unsaved";
 
 // A node of the tree: a main node (a library) or a group.  Texts are UTF-8.
 struct LibraryNode {
-    std::string key;   // unique in the tree
-    std::string text;  // the name that the user sees
-    std::string image; // NodeImage
-    std::string tag;   // main node: path of its file or "unsaved"; group: key of its last colour
-    std::string parent;                // key of the parent; empty for a main node
+    std::string key;    // unique in the tree
+    std::string text;   // the name that the user sees
+    std::string image;  // NodeImage
+    std::string tag;    // main node: path of its file or "unsaved"; group: key of its last colour
+    std::string parent; // key of the parent; empty for a main node
     std::vector<std::string> children; // keys, in order
 };
 

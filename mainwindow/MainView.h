@@ -73,7 +73,7 @@ struct LayoutMetrics {
     float formWidth = 0;  // outer width, border included
     float innerWidth = 0; // client area
     float innerHeight = 0;
-    float toolbarHeight = 0; // 0 when hidden
+    float toolbarHeight = 0;   // 0 when hidden
     float statusBarHeight = 0; // 0 when hidden
     float hugeFrameHeight = 0;
     float smallSwatchHeight = 0;
@@ -104,8 +104,8 @@ class MainView : public TreePane,
                  public LayoutPane {
 public:
     virtual void ShowWindow() = 0;
-    virtual void SetBanner(int index) = 0;                   // from 1; 0: none
-    virtual void EndProgram() = 0;                           // leaves the message loop
+    virtual void SetBanner(int index) = 0; // from 1; 0: none
+    virtual void EndProgram() = 0;         // leaves the message loop
 };
 
 // What the user did in the main window.  Rows count from 0, columns from 1, values from 0.

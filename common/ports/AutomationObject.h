@@ -12,8 +12,8 @@ struct AutomationValue;
 using AutomationObjectPtr = std::shared_ptr<AutomationObject>;
 using AutomationArray = std::vector<AutomationValue>;
 
-// What travels in an automation call.  std::monostate is the empty variant; a null object pointer is
-// "Nothing"; a vector of doubles is an array of doubles (one dimension, lower bound 0); an
+// What travels in an automation call.  std::monostate is the empty variant; a null object pointer
+// is "Nothing"; a vector of doubles is an array of doubles (one dimension, lower bound 0); an
 // AutomationArray is an array of variants.  Strings are UTF-8.
 struct AutomationValue {
     using Storage = std::variant<std::monostate, bool, std::int32_t, double, std::string,
@@ -34,8 +34,8 @@ struct AutomationValue {
         return std::holds_alternative<std::monostate>(data);
     }
 
-    // Each throws RuntimeError TypeMismatch (or Overflow) when the value is of another kind and does
-    // not convert; numbers, booleans and number texts convert among each other.
+    // Each throws RuntimeError TypeMismatch (or Overflow) when the value is of another kind and
+    // does not convert; numbers, booleans and number texts convert among each other.
     [[nodiscard]] double AsDouble() const;
     [[nodiscard]] std::int32_t AsInt32() const;
     [[nodiscard]] std::string AsString() const;

@@ -9,5 +9,6 @@ public:
     virtual ~ErrorSink() = default;
 
     // description: UTF-8; member: the automation member that failed, or empty.
-    virtual void ReportError(const std::string& description, const std::string& member) noexcept = 0;
+    virtual void ReportError(const std::string& description,
+                             const std::string& member) noexcept = 0;
 };

@@ -54,8 +54,8 @@ public:
     // "Menu", "Label", "TextBox", "Toolbar", ...
     [[nodiscard]] virtual std::string TypeName() const = 0;
 
-    // property: "Caption", "Text" or "ToolTipText".  Throws RuntimeError NoSuchMember when the control
-    // has no such property.
+    // property: "Caption", "Text" or "ToolTipText".  Throws RuntimeError NoSuchMember when the
+    // control has no such property.
     [[nodiscard]] virtual std::string Property(const std::string& property) const = 0;
     virtual void SetProperty(const std::string& property, const std::string& text) = 0;
 

@@ -16,7 +16,8 @@ public:
     // GetPrivateProfileStringA with a buffer of bufferSize characters, the closing NUL included:
     // the characters up to the count that the platform returns.
     [[nodiscard]] virtual std::string GetString(const std::string& section, const std::string& key,
-                                                const std::string& fallback, const std::string& file,
+                                                const std::string& fallback,
+                                                const std::string& file,
                                                 std::uint32_t bufferSize) = 0;
 
     // WritePrivateProfileStringA: true when the platform reports success.

@@ -33,7 +33,8 @@ class RegistryAccess {
 public:
     virtual ~RegistryAccess() = default;
 
-    // Opens the key with the rights, queries type and size, then the content.  Nothing on any error.
+    // Opens the key with the rights, queries type and size, then the content.  Nothing on any
+    // error.
     [[nodiscard]] virtual std::optional<RegistryValue> Query(std::uint32_t root,
                                                              const std::string& keyPath,
                                                              const std::string& valueName,

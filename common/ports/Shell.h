@@ -24,6 +24,7 @@ public:
     // What ShellExecuteA returns, as a number.
     virtual int Execute(const ShellRequest& request) = 0;
 
-    // Starts a program with a normal, focused window and does not wait; false when it does not start.
+    // Starts a program with a normal, focused window and does not wait; false when it does not
+    // start.
     virtual bool StartProgram(const std::string& commandLine) = 0;
 };
