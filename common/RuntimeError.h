@@ -9,6 +9,7 @@ inline constexpr int Overflow = 6;
 inline constexpr int SubscriptOutOfRange = 9;
 inline constexpr int TypeMismatch = 13;
 inline constexpr int Automation = 440;
+inline constexpr int PermissionDenied = 70;
 inline constexpr int NoSuchMember = 438;
 inline constexpr int InvalidPropertyValue = 380;
 inline constexpr int DuplicateKey = 35602;

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "common/Settings.h"
+#include "common/ports/InfoTexts.h"
+#include "common/ports/Prompts.h"
+#include "library/ColorLibrary.h"
+#include "library/LibraryFiles.h"
+
+#include <string>
+
+// What the file commands ask of the main window.
+class FileCommandsHost {
+public:
+    virtual ~FileCommandsHost() = default;
+
+    // The status bar's first panel.
+    virtual void ShowStatus(const std::string& text) = 0;
+
+    // The delete command without a node argument: removes the selected tree node.
+    virtual void DeleteSelectedNode() = 0;
+};
+
+// The file menu but for Quit.  One file dialog serves Open and Save As and keeps its last file
+// name.
+class FileCommands {
+public:
+    struct Parts {
+        ColorLibrary& library;
+        LibraryFiles& files;
+        Settings& settings;
+        Prompts& prompts;
+        InfoTexts& texts;
+        std::string programFolder; // without a backslash at its end
+    };
+
+    explicit FileCommands(Parts parts) : parts_(std::move(parts)) {}
+
+    // Must be called before any other operation.
+    void SetHost(FileCommandsHost& host) noexcept { host_ = &host; }
+
+    void mnuFileNew_Click();
+    void mnuFileOpen_Click();
+    void mnuFileSave_Click();
+    void mnuFileSaveAs_Click();
+    void mnuFileClose_Click();
+    void mnuFileCancelAutoload_Click();
+
+    // Loads the default library at start-up; the file dialog starts from it then.
+    void Autoload();
+
+    // Loads a library as Open does once the file is chosen, with its question and its messages.
+    void OpenLibrary(const std::string& path);
+
+    [[nodiscard]] const std::string& DialogFileName() const noexcept { return dialogFileName_; }
+
+private:
+    [[nodiscard]] FileDialogRequest Request(unsigned flags) const;
+    [[nodiscard]] std::string Text(std::int32_t number) const;
+    void AskAutoload(const std::string& path);
+    bool WriteTo(const std::string& path, const std::string& mainKey);
+
+    Parts parts_;
+    FileCommandsHost* host_ = nullptr;
+    std::string dialogFileName_;
+};

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "common/ColorRecord.h"
+#include "common/ports/AnsiCodePage.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The records of a library file, one per line:
+//   "D#name=main key:count"
+//   "G#name=group key"
+//   "E#name=group key:alt name÷value 1÷ ... ÷value 9"
+// Each line is one quoted string, ended by CR LF, in the system's ANSI code page.  Quotes inside
+// names are not escaped.
+namespace LibraryFileFormat {
+
+struct Header {
+    std::string name;
+    std::int32_t count = 0; // groups plus colours; only the range of the progress bar
+};
+
+struct Group {
+    std::string name;
+    std::string key; // as saved
+};
+
+struct Color {
+    std::string name;
+    std::string groupKey; // as saved
+    std::string altName;
+    ColorValueArray values{};
+};
+
+// The lines of a file's content, without their ends (CR LF, LF or CR).
+[[nodiscard]] std::vector<std::string_view> SplitLines(std::string_view content);
+
+// A line without its first character (header), or without its first and last character (all
+// others).  line: UTF-8.
+[[nodiscard]] std::string_view WithoutFirstCharacter(std::string_view line);
+[[nodiscard]] std::string_view WithoutQuotes(std::string_view line);
+
+// What separates the fields of a colour record, after decoding: the division sign, or what stands
+// for byte 0xF7 in a code page that has no division sign.
+[[nodiscard]] std::string FieldSeparator(const AnsiCodePage& codePage);
+
+// Nothing when the record is invalid.  record: UTF-8, with its tag, without quotes.
+[[nodiscard]] std::optional<Header> ParseHeader(std::string_view record);
+[[nodiscard]] std::optional<Group> ParseGroup(std::string_view record);
+// Throws RuntimeError TypeMismatch or Overflow for a value that is no 16-bit number.
+[[nodiscard]] std::optional<Color> ParseColor(std::string_view record, std::string_view separator);
+
+// Lines ready for the file, with quotes and CR LF, in UTF-8.
+[[nodiscard]] std::string FormatHeader(std::string_view name, std::string_view mainKey, int count);
+[[nodiscard]] std::string FormatGroup(std::string_view name, std::string_view key);
+[[nodiscard]] std::string FormatColor(const ColorRecord& color, std::string_view separator);
+
+} // namespace LibraryFileFormat

@@ -1,0 +1,99 @@
+#include "library/LibraryTree.h"
+
+#include "common/RuntimeError.h"
+
+#include <algorithm>
+#include <utility>
+
+void LibraryTree::AddMainNode(const std::string& key, const std::string& text) {
+    Insert({key, text, NodeImage::MainNode, {}, {}, {}}, mainNodes_);
+}
+
+void LibraryTree::AddGroup(const std::string& mainKey, const std::string& key,
+                           const std::string& text) {
+    Insert({key, text, NodeImage::Group, {}, mainKey, {}}, Existing(mainKey).children);
+}
+
+void LibraryTree::Insert(LibraryNode node, std::vector<std::string>& siblings) {
+    const auto [place, added] = nodes_.try_emplace(node.key, node);
+    if (!added)
+        throw RuntimeError(ErrorNumber::DuplicateKey,
+                           "The key is not unique in the tree: " + node.key);
+    siblings.push_back(node.key);
+    if (observer_)
+        observer_->NodeAdded(node);
+}
+
+void LibraryTree::Remove(const std::string& key) {
+    const LibraryNode node = At(key);
+    const bool selectionGoes = HoldsSelection(node);
+    const std::string nextSelection = SelectionWithout(node);
+    for (const std::string& child : node.children)
+        nodes_.erase(child);
+    nodes_.erase(key);
+    std::erase(node.parent.empty() ? mainNodes_ : Existing(node.parent).children, key);
+    if (selectionGoes)
+        selected_ = nextSelection;
+    if (!observer_)
+        return;
+    observer_->NodeRemoved(key);
+    if (selectionGoes)
+        observer_->NodeSelected(selected_);
+}
+
+const LibraryNode* LibraryTree::Find(const std::string& key) const {
+    const auto found = nodes_.find(key);
+    return found == nodes_.end() ? nullptr : &found->second;
+}
+
+const LibraryNode& LibraryTree::At(const std::string& key) const {
+    const LibraryNode* node = Find(key);
+    if (!node)
+        throw RuntimeError(ErrorNumber::SubscriptOutOfRange,
+                           "There is no node with the key " + key);
+    return *node;
+}
+
+LibraryNode& LibraryTree::Existing(const std::string& key) {
+    return const_cast<LibraryNode&>(std::as_const(*this).At(key));
+}
+
+void LibraryTree::SetText(const std::string& key, const std::string& text) {
+    LibraryNode& node = Existing(key);
+    if (node.text == text)
+        return;
+    node.text = text;
+    if (observer_)
+        observer_->NodeTextChanged(key, text);
+}
+
+void LibraryTree::SetTag(const std::string& key, const std::string& tag) {
+    Existing(key).tag = tag;
+}
+
+void LibraryTree::Expand(const std::string& key) {
+    if (observer_)
+        observer_->NodeExpanded(At(key).key);
+}
+
+void LibraryTree::Select(const std::string& key) {
+    selected_ = At(key).key;
+    if (observer_)
+        observer_->NodeSelected(selected_);
+}
+
+const std::vector<std::string>& LibraryTree::SiblingsOf(const LibraryNode& node) const {
+    return node.parent.empty() ? mainNodes_ : At(node.parent).children;
+}
+
+bool LibraryTree::HoldsSelection(const LibraryNode& node) const {
+    return selected_ == node.key || std::ranges::count(node.children, selected_) > 0;
+}
+
+std::string LibraryTree::SelectionWithout(const LibraryNode& node) const {
+    const std::vector<std::string>& siblings = SiblingsOf(node);
+    const auto place = std::ranges::find(siblings, node.key);
+    if (std::next(place) != siblings.end())
+        return *std::next(place);
+    return place != siblings.begin() ? *std::prev(place) : node.parent;
+}
