@@ -8,6 +8,7 @@ namespace ErrorNumber {
 inline constexpr int Overflow = 6;
 inline constexpr int SubscriptOutOfRange = 9;
 inline constexpr int TypeMismatch = 13;
+inline constexpr int ObjectNotSet = 91;
 inline constexpr int Automation = 440;
 inline constexpr int PermissionDenied = 70;
 inline constexpr int NoSuchMember = 438;

@@ -1,17 +1,9 @@
 #include "library/FileCommands.h"
 
+#include "common/FileNames.h"
 #include "common/InfoTextNumber.h"
 #include "common/Text.h"
 #include "common/ValueRestorer.h"
-
-namespace {
-
-std::string WithoutFolder(const std::string& path) {
-    const std::size_t backslash = path.rfind('\\');
-    return backslash == std::string::npos ? path : path.substr(backslash + 1);
-}
-
-} // namespace
 
 std::string FileCommands::Text(std::int32_t number) const {
     return parts_.texts.GetInfoText(number);
@@ -42,7 +34,7 @@ void FileCommands::OpenLibrary(const std::string& path) {
                                    Text(InfoTextNumber::Attention));
         return;
     }
-    host_->ShowStatus("Okay " + WithoutFolder(path));
+    host_->ShowStatus("Okay " + FileNamePart(path));
     AskAutoload(path);
 }
 
@@ -68,7 +60,7 @@ void FileCommands::mnuFileSave_Click() {
     // Both come from the dialog and not from the file just written, on purpose: after another file
     // was opened, the library is re-targeted to the dialog's file.
     parts_.library.Tree().SetTag(mainKey, dialogFileName_);
-    host_->ShowStatus("Okay " + WithoutFolder(dialogFileName_));
+    host_->ShowStatus("Okay " + FileNamePart(dialogFileName_));
 }
 
 void FileCommands::mnuFileSaveAs_Click() {
@@ -85,7 +77,7 @@ void FileCommands::mnuFileSaveAs_Click() {
     if (!WriteTo(*path, mainKey))
         return;
     parts_.library.Tree().SetTag(mainKey, *path);
-    host_->ShowStatus("Okay " + WithoutFolder(*path));
+    host_->ShowStatus("Okay " + FileNamePart(*path));
 }
 
 bool FileCommands::WriteTo(const std::string& path, const std::string& mainKey) {
@@ -110,7 +102,10 @@ void FileCommands::mnuFileCancelAutoload_Click() {
 }
 
 void FileCommands::Autoload() {
-    const std::string path = parts_.settings.defaultColorFile;
-    if (parts_.files.FileReadColorValues(path))
-        dialogFileName_ = path;
+    // Save re-targets to the dialog's file, so the dialog starts with it, also when only a part of
+    // the library could be read.
+    dialogFileName_ = parts_.settings.defaultColorFile;
+    parts_.files.FileReadColorValues(dialogFileName_);
+    if (parts_.library.Tree().MainNodes().empty())
+        dialogFileName_.clear();
 }

@@ -2,26 +2,12 @@
 
 #include "common/InfoTextNumber.h"
 #include "common/RuntimeError.h"
+#include "common/ShownProgress.h"
 #include "common/Text.h"
 #include "library/LibraryFileFormat.h"
 #include "library/SafeFileWriter.h"
 
 namespace {
-
-// Shown while it lives, on every way out.
-class ShownProgress {
-public:
-    ShownProgress(ProgressView& view, const std::string& label, std::int32_t maximum)
-        : view_(view) {
-        view_.ShowProgress(label, 0, maximum);
-    }
-    ~ShownProgress() { view_.HideProgress(); }
-    ShownProgress(const ShownProgress&) = delete;
-    ShownProgress& operator=(const ShownProgress&) = delete;
-
-private:
-    ProgressView& view_;
-};
 
 bool StartsWith(std::string_view text, std::string_view start) {
     return text.substr(0, start.size()) == start;

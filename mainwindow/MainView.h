@@ -3,6 +3,7 @@
 #include "common/ColorNumber.h"
 #include "common/Twips.h"
 #include "common/ports/FormWindow.h"
+#include "common/ports/MenuMarks.h"
 #include "library/LibraryTreeObserver.h"
 
 #include <cstddef>
@@ -56,10 +57,8 @@ public:
 };
 
 // Menus, toolbar and status bar.
-class BarsPane {
+class BarsPane : public MenuMarks {
 public:
-    virtual ~BarsPane() = default;
-    virtual void SetMenuChecked(int command, bool checked) = 0; // command: IDM_ number
     virtual void SetButtonPressed(const std::string& buttonKey, bool pressed) = 0;
     virtual void SetButtonVisible(const std::string& buttonKey, bool visible) = 0;
     virtual void SetToolbarVisible(bool visible) = 0;
@@ -83,8 +82,9 @@ struct MainLayout {
     TwipsRect tree;
     TwipsRect splitter;
     TwipsRect list;
-    TwipsRect colorArea; // of the frame or of the small swatch, whichever is shown
-    bool hugeFrameShown = false;
+    TwipsRect frame;             // fraShowColor
+    TwipsRect smallSwatch;       // lblActiveColorSmall
+    bool hugeFrameShown = false; // the frame is visible, else the small swatch
 };
 
 class LayoutPane {

@@ -1,0 +1,116 @@
+#include "mainwindow/ColorEditor.h"
+
+#include "common/InfoTextNumber.h"
+#include "common/Numbers.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr char32_t kBackspace = 8;
+constexpr char32_t kFullStop = 46;
+
+} // namespace
+
+ColorEditor::ColorEditor(EditorPane& pane, Prompts& prompts, InfoTexts& texts)
+    : pane_(pane), prompts_(prompts), infoTexts_(texts) {
+    texts_.fill("0");
+}
+
+void ColorEditor::ShowInitialColor() {
+    ColorRecord color;
+    color.name = "New Color";
+    color.values = {255, 255, 255, 100, 100, 100, 30, 0, 0};
+    ShowColor(color);
+}
+
+void ColorEditor::ShowColor(const ColorRecord& color) {
+    Load(color, kFullComplementMask);
+}
+
+void ColorEditor::ShowColorFromSolidWorks(const ColorRecord& color) {
+    Load(color, kPartialComplementMask);
+}
+
+void ColorEditor::Load(const ColorRecord& color, ColorNumber complementMask) {
+    SetName(color.name);
+    for (std::size_t index = 0; index < kColorValueCount; ++index)
+        SetText(index, std::to_string(color.values[index]));
+    ShowSmallSwatch(complementMask);
+    pane_.SetSmallSwatchCaption(name_ + ColorInNumbers());
+}
+
+void ColorEditor::SetName(const std::string& name) {
+    name_ = name;
+    pane_.SetColorName(name);
+}
+
+void ColorEditor::SetText(std::size_t index, const std::string& text) {
+    pane_.SetValueText(index, text);
+    TextChanged(index, text);
+}
+
+ColorValueArray ColorEditor::Values() const {
+    ColorValueArray values{};
+    std::ranges::transform(texts_, values.begin(),
+                           [](const std::string& text) { return TextToInt16(text); });
+    return values;
+}
+
+void ColorEditor::TextChanged(std::size_t index, const std::string& text) {
+    texts_.at(index) = text;
+    const int maximum = MaximumOfColorValue(index);
+    const int value = text.empty() ? 0 : std::clamp(TextToInt32(text), 0, maximum);
+    const std::string written = std::to_string(value);
+    texts_[index] = written;
+    if (written != text)
+        pane_.SetValueText(index, written);
+    if (value == 0 || value == maximum)
+        pane_.SelectWholeValueText(index);
+    pane_.SetSlider(index, value);
+    PaintSwatches();
+    // Without the colour's name on purpose: an edited colour is not the named one any more.
+    pane_.SetSmallSwatchCaption(ColorInNumbers());
+}
+
+bool ColorEditor::IsValueCharacter(char32_t character) noexcept {
+    return (character >= U'0' && character <= U'9') || character == kBackspace ||
+           character == kFullStop;
+}
+
+void ColorEditor::Focused(std::size_t index) {
+    pane_.SelectWholeValueText(index);
+}
+
+void ColorEditor::SliderMoved(std::size_t index, int position) {
+    SetText(index, std::to_string(position));
+}
+
+void ColorEditor::PickActiveColorFromDialog() {
+    const auto color = prompts_.AskColor(infoTexts_.GetInfoText(InfoTextNumber::Color), swatch_);
+    if (!color)
+        return;
+    const RedGreenBlue parts = SplitColorNumber(*color);
+    SetText(0, std::to_string(parts.red));
+    SetText(1, std::to_string(parts.green));
+    SetText(2, std::to_string(parts.blue));
+}
+
+void ColorEditor::Repainted() {
+    ShowSmallSwatch(kPartialComplementMask);
+}
+
+void ColorEditor::PaintSwatches() {
+    swatch_ =
+        MakeColorNumber(TextToInt32(texts_[0]), TextToInt32(texts_[1]), TextToInt32(texts_[2]));
+    pane_.SetLargeSwatch(swatch_);
+    ShowSmallSwatch(kFullComplementMask);
+}
+
+void ColorEditor::ShowSmallSwatch(ColorNumber complementMask) {
+    pane_.SetSmallSwatch(swatch_, swatch_ ^ complementMask);
+}
+
+std::string ColorEditor::ColorInNumbers() const {
+    return " (R:" + texts_[0] + " G:" + texts_[1] + " B:" + texts_[2] + ")";
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "common/ColorNumber.h"
+#include "common/ColorRecord.h"
+#include "common/ports/InfoTexts.h"
+#include "common/ports/Prompts.h"
+#include "mainwindow/MainView.h"
+
+#include <array>
+#include <string>
+
+// The active-colour editor: a scratch copy of a colour in nine text boxes with sliders, a name
+// label and two swatches.  It knows nothing of the library.
+class ColorEditor {
+public:
+    ColorEditor(EditorPane& pane, Prompts& prompts, InfoTexts& texts);
+
+    // "New Color", white, as the program starts.
+    void ShowInitialColor();
+
+    // Loads a colour of the library.
+    void ShowColor(const ColorRecord& color);
+
+    // Loads a colour that was read from SolidWorks: as above, but the small swatch's text takes the
+    // partial complement, on purpose.
+    void ShowColorFromSolidWorks(const ColorRecord& color);
+
+    void SetName(const std::string& name);
+    [[nodiscard]] const std::string& Name() const noexcept { return name_; }
+
+    // Assigns a text box by code, with everything that a change of its text brings.
+    void SetText(std::size_t index, const std::string& text);
+    [[nodiscard]] const std::string& Text(std::size_t index) const { return texts_.at(index); }
+
+    // The nine texts as numbers.  Throws RuntimeError when one does not convert.
+    [[nodiscard]] ColorValueArray Values() const;
+
+    // The user changed a text.  Throws RuntimeError when it does not convert; the text then stays.
+    void TextChanged(std::size_t index, const std::string& text);
+
+    // Digits, backspace and the full stop.
+    [[nodiscard]] static bool IsValueCharacter(char32_t character) noexcept;
+
+    void Focused(std::size_t index);
+    void SliderMoved(std::size_t index, int position);
+    void PickActiveColorFromDialog();
+
+    // The window is repainted: the small swatch's text takes the partial complement, on purpose.
+    void Repainted();
+
+private:
+    void Load(const ColorRecord& color, ColorNumber complementMask);
+    void PaintSwatches();
+    void ShowSmallSwatch(ColorNumber complementMask);
+    [[nodiscard]] std::string ColorInNumbers() const;
+
+    EditorPane& pane_;
+    Prompts& prompts_;
+    InfoTexts& infoTexts_;
+    std::string name_;
+    std::array<std::string, kColorValueCount> texts_;
+    ColorNumber swatch_ = 0; // background of both swatches
+};

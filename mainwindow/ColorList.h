@@ -1,0 +1,61 @@
+#pragma once
+
+#include "common/ports/TextCollation.h"
+#include "library/ColorLibrary.h"
+#include "mainwindow/MainView.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+// The rows of lvColor: one for each colour of the current group, with the selected one, sorted by a
+// column once the user asked for it.  Rows count from 0, columns from 1.
+class ColorList {
+public:
+    ColorList(const ColorLibrary& library, ListPane& pane, const TextCollation& collation)
+        : library_(library), pane_(pane), collation_(collation) {}
+
+    // Name and nine values, with widths that are shares of the list's width at this moment.
+    void AddColumns();
+
+    // Fills the list with a group's colours; nothing is selected afterwards.
+    void Fill(const std::string& groupKey);
+    void Clear();
+
+    [[nodiscard]] int RowCount() const noexcept { return static_cast<int>(keys_.size()); }
+    [[nodiscard]] std::string KeyOfRow(int row) const; // empty when there is no such row
+    [[nodiscard]] std::optional<int> RowOfKey(const std::string& key) const;
+    [[nodiscard]] const std::vector<std::string>& Keys() const noexcept { return keys_; }
+
+    // Selects a row by program; the view follows.
+    void Select(int row);
+    // Selects the row that the view has selected already.
+    void SelectedByUser(int row) noexcept { selected_ = row; }
+    [[nodiscard]] std::optional<int> SelectedRow() const noexcept { return selected_; }
+    [[nodiscard]] std::string SelectedKey() const; // empty: none
+    void ShowSelected();
+
+    // Takes the selected row out; the row after it (else the last one) is selected then.
+    void RemoveSelected();
+
+    // Sorts by the column as text; the column that sorts already flips the order.
+    void ColumnClicked(int column);
+
+    [[nodiscard]] std::string CellText(int row, int column) const;
+
+    // First row from start (wrapping at the end) whose name begins with the text; -1: none.
+    [[nodiscard]] int FindRow(const std::string& text, int start) const;
+
+private:
+    void Sort();
+    [[nodiscard]] std::string TextOfKey(const std::string& key, int column) const;
+
+    const ColorLibrary& library_;
+    ListPane& pane_;
+    const TextCollation& collation_;
+    std::vector<std::string> keys_; // of the colours, in the order of the rows
+    std::optional<int> selected_;
+    bool sorted_ = false;
+    int sortKey_ = 0; // column - 1
+    bool descending_ = false;
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "mainwindow/MainView.h"
+
+// Runs the layout pass and the splitter drag of the main window.
+class LayoutController {
+public:
+    static constexpr float kInitialSplitter = 3000; // left edge as designed
+
+    explicit LayoutController(LayoutPane& pane) : pane_(pane) {
+        layout_.splitter.left = kInitialSplitter;
+    }
+
+    // The layout pass.  Nothing happens while the window is minimised or maximised, on purpose: it
+    // keeps the geometry of its last normal size.
+    void Resize();
+
+    // The large frame instead of the small swatch; runs the layout pass.
+    void SetHugeFrame(bool shown);
+
+    void SplitterPressed();
+    void SplitterDragged(float x); // x: from the splitter's left edge
+    void SplitterReleased();
+
+private:
+    LayoutPane& pane_;
+    MainLayout layout_;
+    bool splitterMoving_ = false;
+    TwipsRect splitterBar_;
+};

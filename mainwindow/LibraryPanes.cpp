@@ -1,0 +1,79 @@
+#include "mainwindow/LibraryPanes.h"
+
+void LibraryPanes::ShowColorNodes(const std::optional<std::string>& groupKey,
+                                  const std::optional<std::string>& selectKey) {
+    const std::string& selectedNode = library_.Tree().Selected();
+    if (!groupKey && selectedNode.empty()) {
+        list_.Clear();
+        library_.NewMainNode();
+        return;
+    }
+    const std::string firstGroup = library_.SelectedGroup();
+    // A main node without groups is used as it is; it has no colours.
+    const std::string shown =
+        groupKey ? *groupKey : (firstGroup.empty() ? selectedNode : firstGroup);
+    list_.Fill(shown);
+    if (list_.RowCount() < 1)
+        return;
+    if (selectKey)
+        library_.Tree().SetTag(shown, *selectKey);
+    SelectRememberedColor(shown);
+    list_.ShowSelected();
+    ShowColorPreview();
+}
+
+// The first colour, or the one that was last selected in the group when it is still there.
+void LibraryPanes::SelectRememberedColor(const std::string& groupKey) {
+    const LibraryNode* group = library_.Tree().Find(groupKey);
+    const std::optional<int> row = group ? list_.RowOfKey(group->tag) : std::nullopt;
+    list_.Select(row.value_or(0));
+}
+
+void LibraryPanes::ShowSelectedGroup() {
+    if (library_.Tree().Selected().empty())
+        list_.Clear();
+    else
+        ShowColorNodes({}, {});
+}
+
+void LibraryPanes::ShowColorPreview() {
+    const int index = library_.GetColornodeIndex(list_.SelectedKey());
+    if (index > 0)
+        editor_.ShowColor(library_.Colors().At(index));
+}
+
+void LibraryPanes::UpdateFromColorPreview() {
+    const int index = library_.GetColornodeIndex(list_.SelectedKey());
+    if (index == 0)
+        return;
+    const ColorValueArray values = editor_.Values();
+    library_.Colors().SetName(index, editor_.Name());
+    library_.Colors().SetValues(index, values);
+    ShowSelectedGroup();
+}
+
+void LibraryPanes::NodeClicked(const std::string& key) {
+    library_.Tree().Select(key);
+    ShowColorNodes({}, {});
+}
+
+void LibraryPanes::NodeLabelEdited(const std::string& key, const std::string& text) {
+    if (library_.Tree().Find(key))
+        library_.Tree().SetText(key, text);
+}
+
+void LibraryPanes::RowClicked(int row) {
+    list_.SelectedByUser(row);
+    ShowColorPreview();
+    library_.RememberActiveColorNode();
+}
+
+// Any text is accepted as typed, also an empty one.
+void LibraryPanes::RowLabelEdited(int row, const std::string& text) {
+    const int index = library_.GetColornodeIndex(list_.KeyOfRow(row));
+    if (index == 0)
+        return;
+    library_.Colors().SetNames(index, text);
+    if (list_.SelectedRow() == row)
+        editor_.SetName(text);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+// What the operations of modSldTools return.
+namespace ResultKey {
+inline constexpr const char* Okay = "okay";
+// The standard-colour operations', capitalised on purpose; their callers test the failures only.
+inline constexpr const char* StandardColorsOkay = "Okay";
+inline constexpr const char* ColorRead = ""; // success of reading a colour
+inline constexpr const char* NoSolidWorksFound = "NoSolidWorksFound";
+inline constexpr const char* NoActiveDocument = "NoActiveDocument";
+inline constexpr const char* NoPartOrAssembly = "NoPartOrAssembly";
+inline constexpr const char* NoAssembly = "NoAssembly";
+inline constexpr const char* NoPart = "NoPart";
+inline constexpr const char* NoPartBody = "NoPartBody";
+inline constexpr const char* NoRequiredSWAPI = "NoRequiredSWAPI";
+inline constexpr const char* ProgressStopped = "ProgressStopped";
+inline constexpr const char* NoValidColorScheme = "NoValidColorScheme";
+inline constexpr const char* NoValidColorName = "NoValidColorName";
+// Followed by details.
+inline constexpr const char* NoValidSelection = "NoValidSelection: ";
+inline constexpr const char* NoValidSelectionNoObject = "NoValidSelection:"; // no blank, on purpose
+inline constexpr const char* NoColorValueFound = "NoColorValueFound: ";
+} // namespace ResultKey

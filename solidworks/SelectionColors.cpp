@@ -1,0 +1,152 @@
+#include "common/RuntimeError.h"
+#include "common/Text.h"
+#include "solidworks/ColorArray.h"
+#include "solidworks/ResultKey.h"
+#include "solidworks/SolidWorksSession.h"
+#include "solidworks/modSldTools.h"
+
+#include <functional>
+
+// Colours from and to the selection.
+
+namespace {
+
+constexpr const char* kValues = "MaterialPropertyValues";
+
+// Always this name, whatever the user's language.
+constexpr const char* kNameOfReadColor = "Neuer Farbwert";
+
+// Asks one source of a colour.  A call that fails is a source without a usable array.
+AutomationValue Probe(const std::function<AutomationValue()>& source) {
+    try {
+        return source();
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}
+
+AutomationValue ColorOfFeature(const AutomationObjectPtr& feature, AutomationObject& document) {
+    AutomationValue array;
+    if (feature)
+        array = Probe([&] { return feature->Get("GetMaterialPropertyValues"); });
+    return ColorArray::IsUsable(array) ? array : Probe([&] { return document.Get(kValues); });
+}
+
+AutomationValue ColorOfFace(const AutomationObjectPtr& face, AutomationObject& document) {
+    if (!face)
+        return ColorOfFeature(nullptr, document);
+    AutomationValue array = Probe([&] { return face->Get(kValues); });
+    if (ColorArray::IsUsable(array))
+        return array;
+    const AutomationValue feature = Probe([&] { return face->Get("GetFeature").AsObject(); });
+    return ColorOfFeature(feature.AsObject(), document);
+}
+
+AutomationValue ColorOfComponent(const AutomationObjectPtr& component, AutomationObject& document) {
+    AutomationObject& asked = component ? *component : document;
+    AutomationValue array = Probe([&] { return asked.Get(kValues); });
+    if (ColorArray::IsUsable(array) || !component)
+        return array;
+    return Probe([&] { return RequiredObject(*component, "GetModelDoc")->Get(kValues); });
+}
+
+AutomationValue ColorOfSelected(std::int32_t type, const AutomationObjectPtr& object,
+                                AutomationObject& document) {
+    switch (type) {
+    case SelectionType::Face:
+        return ColorOfFace(object, document);
+    case SelectionType::Component:
+        return ColorOfComponent(object, document);
+    default:
+        return ColorOfFeature(object, document);
+    }
+}
+
+bool CarriesColor(std::int32_t type) {
+    return type == SelectionType::Face || type == SelectionType::Component ||
+           type == SelectionType::BodyFeature;
+}
+
+void Fill(ColorRecord& color, const AutomationValue& array) {
+    color.values = ColorArray::ToValues(array);
+    color.name = kNameOfReadColor;
+}
+
+// Colours one selected object; an object of another kind is reported and left alone.
+void SetColorOfSelected(const SolidWorksSelection& selection, std::int32_t index,
+                        const std::vector<double>& array, AutomationObject& document,
+                        std::string& report) {
+    const AutomationObjectPtr object = selection.ObjectAt(index);
+    if (!object) {
+        document.Put(kValues, array);
+        return;
+    }
+    const std::int32_t type = selection.TypeAt(index);
+    if (type == SelectionType::Face || type == SelectionType::Component)
+        object->Put(kValues, array);
+    else if (type == SelectionType::BodyFeature)
+        object->Invoke("SetMaterialPropertyValues", {array});
+    else
+        report += kLineBreak + (ResultKey::NoValidSelection + std::to_string(type));
+}
+
+} // namespace
+
+std::string modSldTools::SWXGetColor(ColorRecord& color) {
+    SolidWorksSession session(ports_.service);
+    if (const std::string refusal = session.TakeDocument(DocumentDemand::PartOrAssembly);
+        !refusal.empty())
+        return refusal;
+    const SolidWorksSelection selection(session.Document());
+    if (selection.Count() == 0) {
+        Fill(color, session.Document().Get(kValues));
+        return ResultKey::ColorRead;
+    }
+    // Only the first selected object counts, on purpose.
+    const AutomationObjectPtr object = selection.ObjectAt(1);
+    const std::int32_t type = selection.TypeAt(1);
+    if (!CarriesColor(type))
+        return ResultKey::NoValidSelection + std::to_string(type);
+    const AutomationValue array = ColorOfSelected(type, object, session.Document());
+    if (!ColorArray::IsUsable(array))
+        return ResultKey::NoColorValueFound + std::to_string(type);
+    Fill(color, array);
+    return ResultKey::ColorRead;
+}
+
+std::string modSldTools::SWXSetColor(const ColorRecord& color) {
+    SolidWorksSession session(ports_.service);
+    if (const std::string refusal = session.TakeDocument(DocumentDemand::PartOrAssembly);
+        !refusal.empty())
+        return refusal;
+    AutomationObject& document = session.Document();
+    const std::vector<double> array = ColorArray::FromValues(color.values);
+    const SolidWorksSelection selection(document);
+    const std::int32_t count = selection.Count();
+    std::string report;
+    if (count == 0)
+        document.Put(kValues, array);
+    for (std::int32_t index = 1; index <= count; ++index)
+        SetColorOfSelected(selection, index, array, document, report);
+    document.Invoke("EditRebuild", {});
+    return report.empty() ? ResultKey::Okay : report;
+}
+
+std::string modSldTools::SWXSetColorComponent(const ColorRecord& color) {
+    SolidWorksSession session(ports_.service);
+    if (const std::string refusal = session.TakeDocument(DocumentDemand::Assembly);
+        !refusal.empty())
+        return refusal;
+    AutomationObject& document = session.Document();
+    const std::vector<double> array = ColorArray::FromValues(color.values);
+    const SolidWorksSelection selection(document);
+    const std::int32_t count = selection.Count();
+    if (count == 0)
+        document.Put(kValues, array);
+    for (std::int32_t index = 1; index <= count; ++index) {
+        const AutomationObjectPtr component = selection.ComponentAt(index);
+        (component ? *component : document).Put(kValues, array);
+    }
+    document.Invoke("EditRebuild", {});
+    return ResultKey::Okay;
+}

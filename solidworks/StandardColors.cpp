@@ -1,0 +1,72 @@
+#include "common/ColorNumber.h"
+#include "common/InfoTextNumber.h"
+#include "common/RuntimeError.h"
+#include "common/Text.h"
+#include "solidworks/ResultKey.h"
+#include "solidworks/SolidWorksSession.h"
+#include "solidworks/modSldTools.h"
+
+// The document's table of named standard colours.
+
+namespace {
+
+constexpr const char* kQuestionTitle = "TNT4SWX";
+
+ColorRecord ReadEntry(AutomationObject& table, std::int32_t index) {
+    ColorRecord color;
+    color.name = table.Invoke("GetNameAtIndex", {index}).AsString();
+    const RedGreenBlue parts = SplitColorNumber(
+        static_cast<ColorNumber>(table.Invoke("GetColorRefAtIndex", {index}).AsInt32()));
+    color.values[0] = static_cast<std::int16_t>(parts.red);
+    color.values[1] = static_cast<std::int16_t>(parts.green);
+    color.values[2] = static_cast<std::int16_t>(parts.blue);
+    return color;
+}
+
+void WriteEntry(AutomationObject& table, std::int32_t index, const ColorRecord& color) {
+    const ColorNumber number = MakeColorNumber(color.values[0], color.values[1], color.values[2]);
+    table.Invoke("SetColorRefAtIndex", {index, static_cast<std::int32_t>(number), std::int32_t{0}});
+}
+
+} // namespace
+
+std::string modSldTools::SWXGetStandardColors(std::vector<ColorRecord>& colors) {
+    SolidWorksSession session(ports_.service);
+    if (const std::string refusal = session.TakeDocument(DocumentDemand::Any); !refusal.empty())
+        return refusal;
+    const AutomationObjectPtr table = RequiredObject(session.Document(), "GetColorTable");
+    const std::int32_t count = table->Get("GetStandardCount").AsInt32();
+    colors.clear();
+    for (std::int32_t index = 0; index < count; ++index)
+        colors.push_back(ReadEntry(*table, index));
+    return ResultKey::StandardColorsOkay;
+}
+
+std::string modSldTools::SWXSetStandardColors(const std::vector<ColorRecord>& colors) {
+    SolidWorksSession session(ports_.service);
+    if (const std::string refusal = session.TakeDocument(DocumentDemand::Any); !refusal.empty())
+        return refusal;
+    const AutomationObjectPtr table = RequiredObject(session.Document(), "GetColorTable");
+    const std::int32_t count = table->Get("GetStandardCount").AsInt32();
+    if (count != static_cast<std::int32_t>(colors.size()) &&
+        !AskContinue(InfoTextNumber::StandardColorsDifferInSize))
+        return ResultKey::NoValidColorScheme;
+    for (std::int32_t index = 0; index < count; ++index) {
+        const std::string name = table->Invoke("GetNameAtIndex", {index}).AsString();
+        if (static_cast<std::size_t>(index) >= colors.size())
+            throw RuntimeError(ErrorNumber::SubscriptOutOfRange, "Subscript out of range");
+        const ColorRecord& color = colors[static_cast<std::size_t>(index)];
+        if (color.name == name)
+            WriteEntry(*table, index, color);
+        else if (!AskContinue(InfoTextNumber::StandardColorNamesDiffer))
+            return ResultKey::NoValidColorName;
+    }
+    return ResultKey::StandardColorsOkay;
+}
+
+bool modSldTools::AskContinue(std::int32_t textNumber) {
+    const std::string prompt = ports_.texts.GetInfoText(textNumber) + kLineBreak +
+                               ports_.texts.GetInfoText(InfoTextNumber::AskContinue);
+    return ports_.prompts.ShowMessage(prompt, MessageStyle::InformationOkCancel, kQuestionTitle) ==
+           Answer::Ok;
+}

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "common/ColorRecord.h"
+#include "common/ports/AutomationObject.h"
+#include "common/ports/EventPump.h"
+#include "common/ports/InfoTexts.h"
+#include "common/ports/ProgressView.h"
+#include "common/ports/Prompts.h"
+
+#include <string>
+#include <vector>
+
+class SolidWorksSelection;
+class SolidWorksSession;
+class WalkProgress;
+
+// The nine operations on the running SolidWorks.  Each attaches anew, checks the active document,
+// does its work and returns a result key (ResultKey).  Only the attachment is guarded: every later
+// call that fails throws RuntimeError.
+class modSldTools {
+public:
+    struct Ports {
+        AutomationService& service;
+        Prompts& prompts;
+        InfoTexts& texts;
+        ProgressView& progress;
+        EventPump& events;
+        bool& stopFlag; // set by the progress window's Stop button
+    };
+
+    explicit modSldTools(const Ports& ports) : ports_(ports) {}
+
+    // Fills the record from the first selected object, or from the document when nothing is
+    // selected. The record stays as it was unless the result is ResultKey::ColorRead.
+    std::string SWXGetColor(ColorRecord& color);
+
+    // Colours every selected face, feature and component, or the document when nothing is selected.
+    std::string SWXSetColor(const ColorRecord& color);
+
+    // Colours the components that own the selected objects.
+    std::string SWXSetColorComponent(const ColorRecord& color);
+
+    // Takes the colours off the selected faces, features and components.
+    std::string SWXClearColor();
+
+    // Takes the colours off the components that own the selected objects.
+    std::string SWXClearComponentColor();
+
+    // Takes the colours off every feature and face of the active part.
+    std::string SWXClearColorPart();
+
+    // Takes the colours off the direct children of the active assembly's root component.  It does
+    // not descend, on purpose: sub-assemblies keep the colours of their own components.
+    std::string SWXClearColorAssembly();
+
+    // Names and red, green, blue of the colour table's standard colours.
+    std::string SWXGetStandardColors(std::vector<ColorRecord>& colors);
+
+    // Writes red, green and blue into the colour table, entry by entry, where the names agree.
+    std::string SWXSetStandardColors(const std::vector<ColorRecord>& colors);
+
+private:
+    void ClearSelectedObject(const SolidWorksSession& session, const SolidWorksSelection& selection,
+                             std::int32_t index, std::string& report);
+    void ClearComponent(const SolidWorksSession& session, AutomationObject& component,
+                        std::string& report);
+    // Each false when the user stopped the walk.
+    bool ClearFeatures(AutomationObject& document, WalkProgress& walk);
+    bool ClearFaces(AutomationObject& document, AutomationObject& body, WalkProgress& walk);
+    bool ClearChildren(AutomationObject& root);
+    bool AskContinue(std::int32_t textNumber);
+
+    Ports ports_;
+};
