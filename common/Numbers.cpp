@@ -9,13 +9,15 @@
 
 namespace {
 
+constexpr const char* kBlanks = " \t\r\n\v\f";
+
 struct ParsedNumber {
     double value = 0;
     std::size_t length = 0; // characters used, leading blanks included; 0: no number
 };
 
 ParsedNumber ParseNumber(std::string_view text) noexcept {
-    const std::size_t start = text.find_first_not_of(" \t");
+    const std::size_t start = text.find_first_not_of(kBlanks);
     if (start == std::string_view::npos)
         return {};
     std::size_t digits = start;
@@ -76,7 +78,7 @@ std::int32_t RoundToInt32(double number) {
 double TextToDouble(std::string_view text) {
     const ParsedNumber parsed = ParseNumber(text);
     const bool onlyBlanksFollow =
-        text.find_first_not_of(" \t", parsed.length) == std::string_view::npos;
+        text.find_first_not_of(kBlanks, parsed.length) == std::string_view::npos;
     if (parsed.length == 0 || !onlyBlanksFollow)
         throw RuntimeError(ErrorNumber::TypeMismatch,
                            "Type mismatch: \"" + std::string(text) + "\"");

@@ -13,6 +13,7 @@ inline constexpr int Automation = 440;
 inline constexpr int PermissionDenied = 70;
 inline constexpr int NoSuchMember = 438;
 inline constexpr int InvalidPropertyValue = 380;
+inline constexpr int ClipboardUnavailable = 521;
 inline constexpr int DuplicateKey = 35602;
 } // namespace ErrorNumber
 

@@ -13,7 +13,6 @@ void LayoutController::Resize() {
 void LayoutController::SetHugeFrame(bool shown) {
     layout_.hugeFrameShown = shown;
     pane_.ApplyLayout(layout_);
-    Resize();
 }
 
 void LayoutController::SplitterPressed() {

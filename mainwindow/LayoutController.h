@@ -15,7 +15,7 @@ public:
     // keeps the geometry of its last normal size.
     void Resize();
 
-    // The large frame instead of the small swatch; runs the layout pass.
+    // The large frame instead of the small swatch, at once and in every window state.
     void SetHugeFrame(bool shown);
 
     void SplitterPressed();

@@ -1,0 +1,73 @@
+#include "app/Application.h"
+
+#include "common/RuntimeError.h"
+
+namespace {
+
+std::string Joined(const std::vector<std::string>& names) {
+    std::string text;
+    for (const std::string& name : names)
+        text += (text.empty() ? "" : ", ") + name;
+    return text;
+}
+
+} // namespace
+
+Application::Application(const Platform& platform, const Windows& windows, const Data& data)
+    : windows_(windows), registry_(platform.registry, platform.codePage),
+      settingsStore_(registry_), language_(platform.profile, platform.files, platform.codePage),
+      errors_(platform.prompts, language_), library_(platform.prompts, language_),
+      libraryFiles_(library_, settings_,
+                    {platform.files, platform.codePage, platform.prompts, language_,
+                     windows.progressView}),
+      fileCommands_({library_, libraryFiles_, settings_, platform.prompts, language_,
+                     data.programFolder}),
+      solidWorks_({platform.automation, platform.prompts, language_, windows.progressView,
+                   platform.events, stopFlag_}),
+      links_(platform.shell),
+      banner_(links_, data.bannerAddresses, [this](int index) { ShowBanner(index); }),
+      systemInformation_({platform.registry, platform.codePage, platform.files, platform.shell,
+                          platform.prompts}),
+      localisation_(language_, data.programFolder,
+                    {&windows.mainForm, &windows.about, &windows.progressForm}),
+      options_({settings_, localisation_, windows.mainView, windows.mainWindow,
+                [this] { settingsStore_.Save(settings_); }}),
+      about_({windows.about, language_, settings_, registry_, links_, systemInformation_, banner_,
+              data.version}),
+      textViewer_({windows.textViewer, language_, platform.files, platform.codePage, settings_,
+                   banner_, data.programFolder}),
+      progress_(windows.progressWindow, windows.progressForm, language_, settings_, stopFlag_),
+      mainWindow_({windows.mainView, windows.mainWindow, settings_, library_, libraryFiles_,
+                   fileCommands_, solidWorks_, options_, about_, textViewer_, banner_, registry_,
+                   platform.prompts, language_, platform.clipboard, platform.collation, stopFlag_,
+                   [this] { Quit(); }}) {}
+
+void Application::Start() {
+    const std::vector<std::string> unreadable = settingsStore_.Load(settings_);
+    banner_.Start(settingsStore_.LoadLastSponsorShown());
+    SetFormDefaults();
+    // Reported once and only now: the messages have their language since the window has its texts.
+    if (!unreadable.empty())
+        errors_.ReportError("Type mismatch", Joined(unreadable));
+    windows_.mainView.ShowWindow();
+}
+
+// A library that cannot be read must not keep the window from being shown.
+void Application::SetFormDefaults() {
+    try {
+        mainWindow_.SetFormDefaults();
+    } catch (const RuntimeError& error) {
+        errors_.ReportError(error.Description(), error.Member());
+    }
+}
+
+void Application::Quit() {
+    settingsStore_.SaveLastSponsorShown(banner_.Index());
+    windows_.mainView.EndProgram();
+}
+
+void Application::ShowBanner(int index) {
+    windows_.mainView.SetBanner(index);
+    windows_.about.SetBanner(index);
+    windows_.textViewer.SetBanner(index);
+}

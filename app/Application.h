@@ -1,0 +1,114 @@
+#pragma once
+
+#include "app/SettingsStore.h"
+#include "common/Settings.h"
+#include "common/ports/AnsiCodePage.h"
+#include "common/ports/AutomationObject.h"
+#include "common/ports/Clipboard.h"
+#include "common/ports/EventPump.h"
+#include "common/ports/Files.h"
+#include "common/ports/FormWindow.h"
+#include "common/ports/LocalizableForm.h"
+#include "common/ports/PrivateProfile.h"
+#include "common/ports/ProgressView.h"
+#include "common/ports/Prompts.h"
+#include "common/ports/RegistryAccess.h"
+#include "common/ports/Shell.h"
+#include "common/ports/TextCollation.h"
+#include "library/ColorLibrary.h"
+#include "library/FileCommands.h"
+#include "library/LibraryFiles.h"
+#include "mainwindow/MainView.h"
+#include "mainwindow/MainWindow.h"
+#include "solidworks/modSldTools.h"
+#include "support/About.h"
+#include "support/Banner.h"
+#include "support/ErrorReporter.h"
+#include "support/Localisation.h"
+#include "support/Options.h"
+#include "support/Progress.h"
+#include "support/SystemInformation.h"
+#include "support/TextViewer.h"
+#include "support/clsMultiLanguage.h"
+#include "support/modRegistry.h"
+#include "support/modinternet.h"
+
+#include <string>
+#include <vector>
+
+// The whole program on top of its ports: owns the application-wide state (settings, colour library,
+// language, banner, stop flag) and everything that works on it.
+class Application {
+public:
+    struct Platform {
+        Files& files;
+        const AnsiCodePage& codePage;
+        PrivateProfile& profile;
+        RegistryAccess& registry;
+        Prompts& prompts;
+        Clipboard& clipboard;
+        const TextCollation& collation;
+        Shell& shell;
+        EventPump& events;
+        AutomationService& automation;
+    };
+
+    struct Windows {
+        MainView& mainView;
+        FormWindow& mainWindow;
+        LocalizableForm& mainForm;
+        AboutView& about;
+        TextViewerView& textViewer;
+        ProgressView& progressView;
+        FormWindow& progressWindow;
+        LocalizableForm& progressForm;
+    };
+
+    struct Data {
+        std::string programFolder; // without a backslash at its end
+        std::string version;       // major, minor and revision joined by "."
+        std::vector<std::string> bannerAddresses;
+    };
+
+    Application(const Platform& platform, const Windows& windows, const Data& data);
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    // Start-up: settings, banner, main window with its defaults and the default library, then the
+    // window is shown.
+    void Start();
+
+    // Stops the banner, stores its index and ends the program at once; asks and saves nothing else.
+    void Quit();
+
+    [[nodiscard]] MainViewEvents& MainEvents() noexcept { return mainWindow_; }
+    [[nodiscard]] AboutEvents& AboutWindowEvents() noexcept { return about_; }
+    [[nodiscard]] TextViewerEvents& TextViewerWindowEvents() noexcept { return textViewer_; }
+    [[nodiscard]] ProgressEvents& ProgressWindowEvents() noexcept { return progress_; }
+    [[nodiscard]] ErrorSink& Errors() noexcept { return errors_; }
+
+private:
+    void SetFormDefaults();
+    void ShowBanner(int index);
+
+    Windows windows_;
+    bool stopFlag_ = false;
+    Settings settings_;
+    modRegistry registry_;
+    SettingsStore settingsStore_;
+    clsMultiLanguage language_;
+    ErrorReporter errors_;
+    ColorLibrary library_;
+    LibraryFiles libraryFiles_;
+    FileCommands fileCommands_;
+    modSldTools solidWorks_;
+    modinternet links_;
+    Banner banner_;
+    SystemInformation systemInformation_;
+    Localisation localisation_;
+    Options options_;
+    About about_;
+    TextViewer textViewer_;
+    Progress progress_;
+    MainWindow mainWindow_;
+};

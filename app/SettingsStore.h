@@ -1,0 +1,29 @@
+#pragma once
+
+#include "common/Settings.h"
+#include "support/modRegistry.h"
+
+#include <string>
+#include <vector>
+
+// Keeps the settings as string values under the program's registry key.
+class SettingsStore {
+public:
+    explicit SettingsStore(const modRegistry& registry) : registry_(registry) {}
+
+    // Replaces each setting that is stored.  A value that does not convert leaves the setting as it is;
+    // the names of these values are returned.
+    std::vector<std::string> Load(Settings& settings) const;
+
+    void Save(const Settings& settings) const;
+
+    // The banner last shown, as text; "1" when nothing is stored.
+    [[nodiscard]] std::string LoadLastSponsorShown() const;
+    void SaveLastSponsorShown(int index) const;
+
+private:
+    [[nodiscard]] std::string Read(const std::string& name) const;
+    void Write(const std::string& name, const std::string& text) const;
+
+    const modRegistry& registry_;
+};

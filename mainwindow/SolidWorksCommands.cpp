@@ -1,0 +1,139 @@
+#include "mainwindow/SolidWorksCommands.h"
+
+#include "common/InfoTextNumber.h"
+#include "common/ProgramNames.h"
+#include "solidworks/ResultKey.h"
+
+#include <array>
+#include <utility>
+
+namespace {
+
+// In this wording whatever the user's language.
+constexpr const char* kStatusOkay = "Okay setzen in SolidWorks";
+
+constexpr int kFirstEmission = 10;
+
+struct RefusalText {
+    const char* resultKey;
+    std::int32_t textNumber;
+};
+
+constexpr std::array kRefusalTexts = {
+    RefusalText{ResultKey::NoSolidWorksFound, InfoTextNumber::NoSolidWorks},
+    RefusalText{ResultKey::NoActiveDocument, InfoTextNumber::NoActiveDocument},
+    RefusalText{ResultKey::NoPartOrAssembly, InfoTextNumber::NoPartOrAssembly},
+    RefusalText{ResultKey::NoRequiredSWAPI, InfoTextNumber::RevisionTooLow},
+    RefusalText{ResultKey::NoPart, InfoTextNumber::NoPart},
+    RefusalText{ResultKey::NoAssembly, InfoTextNumber::NoAssembly},
+};
+
+} // namespace
+
+void SolidWorksCommands::ShowMessage(const std::string& text) {
+    parts_.prompts.ShowMessage(text, MessageStyle::Information,
+                               ProgramNames::SolidWorksMessageTitle);
+}
+
+bool SolidWorksCommands::ReportRefusal(const std::string& resultKey) {
+    for (const RefusalText& refusal : kRefusalTexts)
+        if (resultKey == refusal.resultKey) {
+            ShowMessage(parts_.texts.GetInfoText(refusal.textNumber));
+            return true;
+        }
+    return false;
+}
+
+void SolidWorksCommands::Report(const std::string& resultKey) {
+    if (resultKey == ResultKey::Okay)
+        parts_.bars.SetInfoPanelText(kStatusOkay);
+    else if (!ReportRefusal(resultKey))
+        ShowMessage(resultKey);
+}
+
+ColorRecord SolidWorksCommands::ColorOfEditor() const {
+    ColorRecord color;
+    color.name = parts_.editor.Name();
+    color.values = parts_.editor.Values();
+    return color;
+}
+
+void SolidWorksCommands::mnuSWXGetColor_Click() {
+    ColorRecord color;
+    // No message for the detailed keys, on purpose: the editor then shows the record as handed in.
+    if (!ReportRefusal(parts_.tools.SWXGetColor(color)))
+        parts_.editor.ShowColorFromSolidWorks(color);
+}
+
+void SolidWorksCommands::NewColorNodeFromSWX() {
+    parts_.library.NewColorNode();
+    mnuSWXGetColor_Click();
+    parts_.panes.UpdateFromColorPreview();
+}
+
+void SolidWorksCommands::mnuSWXSetColor_Click() {
+    Report(parts_.tools.SWXSetColor(ColorOfEditor()));
+}
+
+void SolidWorksCommands::mnuSWXSetColorComponent_Click() {
+    Report(parts_.tools.SWXSetColorComponent(ColorOfEditor()));
+}
+
+void SolidWorksCommands::mnuSWXClearColorFromSelection_Click() {
+    Report(parts_.tools.SWXClearColor());
+}
+
+void SolidWorksCommands::mnuSWXClearComponentColorFromSelection_Click() {
+    Report(parts_.tools.SWXClearComponentColor());
+}
+
+void SolidWorksCommands::mnuSWXClearColorPart_Click() {
+    Report(parts_.tools.SWXClearColorPart());
+}
+
+void SolidWorksCommands::mnuSWXClearColorAssembly_Click() {
+    Report(parts_.tools.SWXClearColorAssembly());
+}
+
+void SolidWorksCommands::mnuSWXGetStandardColor_Click() {
+    std::vector<ColorRecord> colors;
+    if (!ReportRefusal(parts_.tools.SWXGetStandardColors(colors)))
+        ImportStandardColors(colors);
+}
+
+void SolidWorksCommands::ImportStandardColors(const std::vector<ColorRecord>& colors) {
+    LibraryTree& tree = parts_.library.Tree();
+    if (tree.Selected().empty())
+        parts_.library.NewMainNode();
+    const std::string mainKey = parts_.library.GetActiveMainnode();
+    if (mainKey.empty())
+        return;
+    tree.SetTag(mainKey, kUnsavedTag);
+    const std::string groupKey = parts_.library.NewGroupNode(
+        mainKey, parts_.texts.GetInfoText(InfoTextNumber::StandardColors));
+    tree.Expand(mainKey);
+    tree.Select(groupKey);
+    parts_.panes.ShowSelectedGroup();
+    int index = 0;
+    for (const ColorRecord& color : colors)
+        ImportStandardColor(color, index++, groupKey);
+}
+
+// The emission tells the place in the table, on purpose; the editor's range ends it at 100.
+void SolidWorksCommands::ImportStandardColor(const ColorRecord& color, int index,
+                                             const std::string& groupKey) {
+    parts_.library.NewColorNode(groupKey, color.name);
+    parts_.editor.SetName(color.name);
+    for (const std::size_t value : {0U, 1U, 2U})
+        parts_.editor.SetText(value, std::to_string(color.values[value]));
+    parts_.editor.SetText(static_cast<std::size_t>(ColorValue::Emission),
+                          std::to_string(index + kFirstEmission));
+    parts_.panes.UpdateFromColorPreview();
+}
+
+void SolidWorksCommands::mnuSWXSetStandardColor_Click() {
+    std::vector<ColorRecord> colors;
+    for (const std::string& key : parts_.list.Keys())
+        colors.push_back(parts_.library.Colors().At(parts_.library.GetColornodeIndex(key)));
+    ReportRefusal(parts_.tools.SWXSetStandardColors(colors));
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "common/ColorRecord.h"
+#include "common/ports/InfoTexts.h"
+#include "common/ports/Prompts.h"
+#include "library/ColorLibrary.h"
+#include "mainwindow/ColorEditor.h"
+#include "mainwindow/ColorList.h"
+#include "mainwindow/LibraryPanes.h"
+#include "mainwindow/MainView.h"
+#include "solidworks/modSldTools.h"
+
+#include <string>
+#include <vector>
+
+// The main window's ten SolidWorks commands: each prepares its input, runs an operation and turns the
+// result key into a message, a status text or an update of editor and library.
+class SolidWorksCommands {
+public:
+    struct Parts {
+        modSldTools& tools;
+        ColorLibrary& library;
+        ColorList& list;
+        LibraryPanes& panes;
+        ColorEditor& editor;
+        BarsPane& bars;
+        Prompts& prompts;
+        InfoTexts& texts;
+    };
+
+    explicit SolidWorksCommands(const Parts& parts) : parts_(parts) {}
+
+    void mnuSWXGetColor_Click();
+    void mnuSWXNewColorUpdate_Click() { NewColorNodeFromSWX(); }
+    void mnuSWXSetColor_Click();
+    void mnuSWXSetColorComponent_Click();
+    void mnuSWXClearColorFromSelection_Click();
+    void mnuSWXClearComponentColorFromSelection_Click();
+    void mnuSWXClearColorPart_Click();
+    void mnuSWXClearColorAssembly_Click();
+    void mnuSWXGetStandardColor_Click();
+    void mnuSWXSetStandardColor_Click();
+
+    // A new colour with a name asked from the user and the colour of SolidWorks's selection.  The
+    // colour is read and written also when the user cancelled the name, on purpose.
+    void NewColorNodeFromSWX();
+
+private:
+    void Report(const std::string& resultKey);
+    bool ReportRefusal(const std::string& resultKey);
+    void ShowMessage(const std::string& text);
+    [[nodiscard]] ColorRecord ColorOfEditor() const;
+    void ImportStandardColors(const std::vector<ColorRecord>& colors);
+    void ImportStandardColor(const ColorRecord& color, int index, const std::string& groupKey);
+
+    Parts parts_;
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "common/Settings.h"
+#include "mainwindow/ColorList.h"
+#include "mainwindow/LayoutController.h"
+#include "mainwindow/MainView.h"
+
+#include <map>
+
+// The view menu: which bars are shown, which editor, and how the list shows its colours.  A switch
+// flips its entry's check mark first; the window and the setting follow the mark.
+class ViewCommands {
+public:
+    ViewCommands(BarsPane& bars, ListPane& list, LayoutController& layout, Settings& settings)
+        : bars_(bars), list_(list), layout_(layout), settings_(settings) {}
+
+    // The window as it is designed: everything shown, the small swatch.
+    void ShowDesignedState();
+
+    // Runs each switch once whose setting differs from the designed state.
+    void ApplySettings();
+
+    // command: a switch of the view menu.
+    void Toggle(int command);
+
+    void SetListView(ListViewMode mode);
+
+private:
+    void SetMark(int command, bool checked);
+    void Show(int command, bool visible);
+
+    BarsPane& bars_;
+    ListPane& list_;
+    LayoutController& layout_;
+    Settings& settings_;
+    std::map<int, bool> marks_;
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "common/Settings.h"
+#include "support/AboutView.h"
+#include "support/Banner.h"
+#include "support/CFormPos.h"
+#include "support/SystemInformation.h"
+#include "support/clsMultiLanguage.h"
+#include "support/modinternet.h"
+
+#include <string>
+
+// The About window.
+class About : public AboutEvents {
+public:
+    struct Parts {
+        AboutView& view;
+        clsMultiLanguage& language;
+        const Settings& settings;
+        const modRegistry& registry;
+        const modinternet& links;
+        SystemInformation& systemInformation;
+        const Banner& banner;
+        std::string version; // major, minor and revision joined by "."
+    };
+
+    explicit About(Parts parts);
+
+    // Loads the window and shows it modally, always centred.
+    void ShowModal();
+
+    void AboutUnloading() override;
+    void SystemInfoClicked() override;
+    void HomepageClicked() override;
+    void MailClicked() override;
+    void BannerClicked() override;
+
+private:
+    Parts parts_;
+    CFormPos position_;
+};

@@ -1,0 +1,43 @@
+#include "support/Banner.h"
+
+#include "common/Numbers.h"
+#include "common/RuntimeError.h"
+
+namespace {
+
+int NumberOrFirst(const std::string& text) {
+    try {
+        return TextToInt32(text);
+    } catch (const RuntimeError&) {
+        return 1;
+    }
+}
+
+} // namespace
+
+void Banner::Start(const std::string& storedIndex) {
+    const int stored = NumberOrFirst(storedIndex);
+    const bool isPicture = stored >= 1 && stored <= Count();
+    Show(addresses_.empty() ? 0 : (isPicture ? stored : 1));
+}
+
+void Banner::Tick() {
+    if (addresses_.empty())
+        return;
+    if (counter_ == 0)
+        counter_ = index_;
+    ++counter_;
+    if (counter_ > Count())
+        counter_ = 1;
+    Show(counter_);
+}
+
+void Banner::Click() const {
+    if (index_ > 0)
+        links_.OpenURL(addresses_[static_cast<std::size_t>(index_ - 1)]);
+}
+
+void Banner::Show(int index) {
+    index_ = index;
+    show_(index);
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "support/modinternet.h"
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+// One picture at a time out of a list, each with the web address that a click on it opens.
+class Banner {
+public:
+    // addresses: one for each picture.  show: puts the picture with an index (from 1; 0: none) into
+    // the banner picture boxes.
+    Banner(const modinternet& links, std::vector<std::string> addresses,
+           std::function<void(int)> show)
+        : links_(links), addresses_(std::move(addresses)), show_(std::move(show)) {}
+
+    // The index that start-up read as text; anything but the number of a picture gives 1.
+    void Start(const std::string& storedIndex);
+
+    // The timer: the next picture, after the last one the first.
+    void Tick();
+    void Click() const;
+
+    // From 1; 0: there are no pictures.
+    [[nodiscard]] int Index() const noexcept { return index_; }
+
+private:
+    [[nodiscard]] int Count() const noexcept { return static_cast<int>(addresses_.size()); }
+    void Show(int index);
+
+    const modinternet& links_;
+    std::vector<std::string> addresses_;
+    std::function<void(int)> show_;
+    int index_ = 0;
+    int counter_ = 0; // of the timer; starts from the index
+};
