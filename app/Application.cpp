@@ -14,20 +14,19 @@ std::string Joined(const std::vector<std::string>& names) {
 } // namespace
 
 Application::Application(const Platform& platform, const Windows& windows, const Data& data)
-    : windows_(windows), registry_(platform.registry, platform.codePage),
-      settingsStore_(registry_), language_(platform.profile, platform.files, platform.codePage),
-      errors_(platform.prompts, language_), library_(platform.prompts, language_),
-      libraryFiles_(library_, settings_,
-                    {platform.files, platform.codePage, platform.prompts, language_,
-                     windows.progressView}),
-      fileCommands_({library_, libraryFiles_, settings_, platform.prompts, language_,
-                     data.programFolder}),
+    : windows_(windows), registry_(platform.registry, platform.codePage), settingsStore_(registry_),
+      language_(platform.language), errors_(platform.errors), library_(platform.prompts, language_),
+      libraryFiles_(
+          library_, settings_,
+          {platform.files, platform.codePage, platform.prompts, language_, windows.progressView}),
+      fileCommands_(
+          {library_, libraryFiles_, settings_, platform.prompts, language_, data.programFolder}),
       solidWorks_({platform.automation, platform.prompts, language_, windows.progressView,
                    platform.events, stopFlag_}),
       links_(platform.shell),
       banner_(links_, data.bannerAddresses, [this](int index) { ShowBanner(index); }),
-      systemInformation_({platform.registry, platform.codePage, platform.files, platform.shell,
-                          platform.prompts}),
+      systemInformation_(
+          {platform.registry, platform.codePage, platform.files, platform.shell, platform.prompts}),
       localisation_(language_, data.programFolder,
                     {&windows.mainForm, &windows.about, &windows.progressForm}),
       options_({settings_, localisation_, windows.mainView, windows.mainWindow,

@@ -5,11 +5,11 @@
 #include "common/ports/AnsiCodePage.h"
 #include "common/ports/AutomationObject.h"
 #include "common/ports/Clipboard.h"
+#include "common/ports/ErrorSink.h"
 #include "common/ports/EventPump.h"
 #include "common/ports/Files.h"
 #include "common/ports/FormWindow.h"
 #include "common/ports/LocalizableForm.h"
-#include "common/ports/PrivateProfile.h"
 #include "common/ports/ProgressView.h"
 #include "common/ports/Prompts.h"
 #include "common/ports/RegistryAccess.h"
@@ -23,7 +23,6 @@
 #include "solidworks/modSldTools.h"
 #include "support/About.h"
 #include "support/Banner.h"
-#include "support/ErrorReporter.h"
 #include "support/Localisation.h"
 #include "support/Options.h"
 #include "support/Progress.h"
@@ -43,7 +42,6 @@ public:
     struct Platform {
         Files& files;
         const AnsiCodePage& codePage;
-        PrivateProfile& profile;
         RegistryAccess& registry;
         Prompts& prompts;
         Clipboard& clipboard;
@@ -51,6 +49,8 @@ public:
         Shell& shell;
         EventPump& events;
         AutomationService& automation;
+        clsMultiLanguage& language; // the one of the program; the forms' error sink speaks it too
+        ErrorSink& errors;
     };
 
     struct Windows {
@@ -85,7 +85,6 @@ public:
     [[nodiscard]] AboutEvents& AboutWindowEvents() noexcept { return about_; }
     [[nodiscard]] TextViewerEvents& TextViewerWindowEvents() noexcept { return textViewer_; }
     [[nodiscard]] ProgressEvents& ProgressWindowEvents() noexcept { return progress_; }
-    [[nodiscard]] ErrorSink& Errors() noexcept { return errors_; }
 
 private:
     void SetFormDefaults();
@@ -96,8 +95,8 @@ private:
     Settings settings_;
     modRegistry registry_;
     SettingsStore settingsStore_;
-    clsMultiLanguage language_;
-    ErrorReporter errors_;
+    clsMultiLanguage& language_;
+    ErrorSink& errors_;
     ColorLibrary library_;
     LibraryFiles libraryFiles_;
     FileCommands fileCommands_;

@@ -94,8 +94,8 @@ void SettingsStore::SaveLastSponsorShown(int index) const {
 }
 
 std::string SettingsStore::Read(const std::string& name) const {
-    const RegistryVariant value = registry_.RegistryGetKeyValue(
-        RegistryRoot::CurrentUser, ProgramNames::RegistryPath, name);
+    const RegistryVariant value =
+        registry_.RegistryGetKeyValue(RegistryRoot::CurrentUser, ProgramNames::RegistryPath, name);
     if (const auto* text = std::get_if<std::string>(&value))
         return *text;
     if (const auto* number = std::get_if<std::int32_t>(&value))
@@ -104,6 +104,6 @@ std::string SettingsStore::Read(const std::string& name) const {
 }
 
 void SettingsStore::Write(const std::string& name, const std::string& text) const {
-    registry_.RegistrySetKeyValue(RegistryRoot::CurrentUser, ProgramNames::RegistryPath, name,
-                                  text, RegistryType::String);
+    registry_.RegistrySetKeyValue(RegistryRoot::CurrentUser, ProgramNames::RegistryPath, name, text,
+                                  RegistryType::String);
 }

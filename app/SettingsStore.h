@@ -11,8 +11,8 @@ class SettingsStore {
 public:
     explicit SettingsStore(const modRegistry& registry) : registry_(registry) {}
 
-    // Replaces each setting that is stored.  A value that does not convert leaves the setting as it is;
-    // the names of these values are returned.
+    // Replaces each setting that is stored.  A value that does not convert leaves the setting as it
+    // is; the names of these values are returned.
     std::vector<std::string> Load(Settings& settings) const;
 
     void Save(const Settings& settings) const;

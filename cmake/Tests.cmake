@@ -26,5 +26,7 @@ tnt_test_program(portable_tests FOLDERS ${portable_test_folders}
 if(WIN32)
     tnt_test_program(windows_tests FOLDERS tests/platform tests/ui
         LIBRARIES standin_model tnt_forms gmock gtest gtest_main)
+    # The forms' icons, and the manifest that gives the program its common controls.
+    target_sources(windows_tests PRIVATE resources/tnt4swx.rc)
     tnt_test_program(main_job FOLDERS tests/e2e LIBRARIES tnt_platform gdiplus)
 endif()

@@ -1,8 +1,8 @@
 # The Windows half: toolkit, forms, the program and the stand-in.
-tnt_sources(platform_sources platform)
+tnt_sources(platform_sources platform platform/controls)
 add_library(tnt_platform STATIC ${platform_sources})
 target_link_libraries(tnt_platform PUBLIC tnt_portable comctl32 comdlg32 gdi32 user32 shell32 ole32
-    oleaut32 uuid advapi32 uxtheme)
+    oleaut32 uuid advapi32 uxtheme dwmapi)
 tnt_target_options(tnt_platform)
 
 add_library(tnt_forms STATIC ${form_sources})
@@ -19,7 +19,11 @@ target_link_libraries(swx_standin PRIVATE standin_model tnt_platform)
 tnt_target_options(swx_standin)
 
 foreach(program tnt4swx swx_standin)
-    if(NOT MSVC)
+    target_compile_definitions(${program} PRIVATE TNT_VERSION_MAJOR=${PROJECT_VERSION_MAJOR}
+        TNT_VERSION_MINOR=${PROJECT_VERSION_MINOR} TNT_VERSION_PATCH=${PROJECT_VERSION_PATCH})
+    if(MSVC)
+        target_link_options(${program} PRIVATE /MANIFEST:NO) # the resource script holds it
+    else()
         # One file that runs anywhere: no run-time library beside it.
         target_link_options(${program} PRIVATE -static -municode -Wl,--dynamicbase
             -Wl,--nxcompat -Wl,--high-entropy-va $<$<CONFIG:Release>:-s>)

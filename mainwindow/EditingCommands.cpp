@@ -23,8 +23,7 @@ void EditingCommands::DeleteGroup(const std::optional<std::string>& groupKey) {
     const std::string key = groupKey ? *groupKey : parts_.library.Tree().Selected();
     if (parts_.library.Tree().Selected().empty() || !IsGroupKey(key))
         return;
-    const std::string details =
-        parts_.library.Tree().At(key).text + kLineBreak + ColorLines(key);
+    const std::string details = parts_.library.Tree().At(key).text + kLineBreak + ColorLines(key);
     if (!IsConfirmed(InfoTextNumber::GroupLabel, details))
         return;
     RemoveGroup(key);
@@ -37,8 +36,7 @@ void EditingCommands::DeleteMainNode(const std::optional<std::string>& mainKey) 
         return;
     if (!mainKey && parts_.library.Tree().Selected() != key)
         parts_.library.Tree().Select(key);
-    if (!IsConfirmed(InfoTextNumber::LibraryLabel,
-                     parts_.library.Tree().At(key).text + kLineBreak))
+    if (!IsConfirmed(InfoTextNumber::LibraryLabel, parts_.library.Tree().At(key).text + kLineBreak))
         return;
     for (const std::string& group : parts_.library.GetGroupInMainnode(key))
         RemoveGroup(group);

@@ -60,7 +60,8 @@ public:
     // Initialises the window before it is shown, autoload of the default library included.
     void SetFormDefaults();
 
-    // While a SolidWorks operation runs, every command is refused silently; Quit stops a walk first.
+    // While a SolidWorks operation runs, every command is refused silently; Quit stops a walk
+    // first.
     void RunCommand(int command) override;
 
     void NodeClicked(const std::string& key) override;

@@ -13,8 +13,8 @@
 #include <string>
 #include <vector>
 
-// The main window's ten SolidWorks commands: each prepares its input, runs an operation and turns the
-// result key into a message, a status text or an update of editor and library.
+// The main window's ten SolidWorks commands: each prepares its input, runs an operation and turns
+// the result key into a message, a status text or an update of editor and library.
 class SolidWorksCommands {
 public:
     struct Parts {

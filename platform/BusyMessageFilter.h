@@ -1,0 +1,33 @@
+#pragma once
+
+#include <windows.h>
+#include <objidl.h>
+#include <wrl/client.h>
+
+// The calling thread's message filter for as long as this object lives (CoRegisterMessageFilter):
+// calls that a busy program rejects are repeated by the rules of common/BusyRetry.h, and during a
+// call windows are repainted but take no input.
+class BusyMessageFilter : private IMessageFilter {
+public:
+    BusyMessageFilter();
+    BusyMessageFilter(const BusyMessageFilter&) = delete;
+    BusyMessageFilter& operator=(const BusyMessageFilter&) = delete;
+    ~BusyMessageFilter();
+
+    // IMessageFilter
+    STDMETHODIMP_(DWORD)
+    HandleInComingCall(DWORD callType, HTASK caller, DWORD tickCount,
+                       LPINTERFACEINFO interfaceInfo) noexcept override;
+    STDMETHODIMP_(DWORD)
+    RetryRejectedCall(HTASK callee, DWORD tickCount, DWORD rejectType) noexcept override;
+    STDMETHODIMP_(DWORD)
+    MessagePending(HTASK callee, DWORD tickCount, DWORD pendingType) noexcept override;
+
+private:
+    // IUnknown.  The object's lifetime is its owner's; the counts are only COM's.
+    STDMETHODIMP QueryInterface(REFIID interfaceId, void** object) noexcept override;
+    STDMETHODIMP_(ULONG) AddRef() noexcept override;
+    STDMETHODIMP_(ULONG) Release() noexcept override;
+
+    Microsoft::WRL::ComPtr<IMessageFilter> previous_;
+};

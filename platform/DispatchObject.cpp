@@ -1,0 +1,83 @@
+#include "platform/DispatchObject.h"
+
+#include "common/RuntimeError.h"
+#include "platform/BusyResult.h"
+#include "platform/ExceptionInfo.h"
+#include "platform/Utf16.h"
+
+namespace {
+
+[[noreturn]] void ThrowCallFailed(const std::string& description, const std::string& member) {
+    throw RuntimeError(ErrorNumber::Automation, description, member);
+}
+
+// Calls take their arguments as an array of plain variants.
+static_assert(sizeof(_variant_t) == sizeof(VARIANT));
+
+} // namespace
+
+DispatchObject::DispatchObject(DispatchPtr dispatch, BusyRetry& retry)
+    : dispatch_(std::move(dispatch)), retry_(retry) {}
+
+AutomationValue DispatchObject::Invoke(const std::string& member,
+                                       const AutomationArray& arguments) {
+    std::vector<_variant_t> reversed(arguments.size());
+    for (std::size_t i = 0; i < arguments.size(); ++i)
+        ToVariant(arguments[i], Unwrap, reversed[arguments.size() - 1 - i]);
+    const DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
+    return Call(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, parameters);
+}
+
+void DispatchObject::Put(const std::string& member, const AutomationValue& value) {
+    _variant_t argument;
+    ToVariant(value, Unwrap, argument);
+    DISPID assigned = DISPID_PROPERTYPUT;
+    static_cast<void>(Call(member, DISPATCH_PROPERTYPUT, {&argument, &assigned, 1, 1}));
+}
+
+DISPID DispatchObject::Resolve(const std::string& member) {
+    if (const auto known = members_.find(member); known != members_.end())
+        return known->second;
+    std::wstring name = ToUtf16(member);
+    LPOLESTR names = name.data();
+    DISPID id = DISPID_UNKNOWN;
+    HRESULT result = S_OK;
+    retry_.RepeatWhileBusy([&] {
+        result = dispatch_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id);
+        return IsBusy(result);
+    });
+    if (FAILED(result))
+        ThrowCallFailed(ExceptionInfo().Describe(result), member);
+    return members_.emplace(member, id).first->second;
+}
+
+AutomationValue DispatchObject::Call(const std::string& member, WORD kind,
+                                     const DISPPARAMS& parameters) {
+    const DISPID id = Resolve(member);
+    DISPPARAMS passed = parameters; // the interface takes it without const
+    VARIANT* noResult = nullptr;
+    _variant_t answer;
+    ExceptionInfo exception;
+    UINT badArgument = 0;
+    HRESULT result = S_OK;
+    retry_.RepeatWhileBusy([&] {
+        result = dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &passed,
+                                   kind == DISPATCH_PROPERTYPUT ? noResult : &answer,
+                                   exception.Receive(), &badArgument);
+        return IsBusy(result);
+    });
+    if (FAILED(result))
+        ThrowCallFailed(exception.Describe(result), member);
+    return FromVariant(answer, [this](const DispatchPtr& dispatch) { return Wrap(dispatch); });
+}
+
+AutomationObjectPtr DispatchObject::Wrap(const DispatchPtr& dispatch) const {
+    return std::make_shared<DispatchObject>(dispatch, retry_);
+}
+
+DispatchPtr DispatchObject::Unwrap(const AutomationObjectPtr& object) {
+    const auto* other = dynamic_cast<const DispatchObject*>(object.get());
+    if (other == nullptr)
+        throw RuntimeError(ErrorNumber::TypeMismatch, "Type mismatch");
+    return other->dispatch_;
+}

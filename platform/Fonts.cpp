@@ -1,0 +1,85 @@
+#include "platform/Fonts.h"
+
+#include "platform/DpiScale.h"
+#include "platform/UserFunction.h"
+
+namespace {
+
+// The metrics of the screen's own resolution, scaled by hand: for systems that cannot be asked for
+// another one.
+LOGFONTW ScaledMessageFont(unsigned dpi) {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+    LOGFONTW font = metrics.lfMessageFont;
+    font.lfHeight = MulDiv(font.lfHeight, static_cast<int>(dpi), static_cast<int>(DpiOfScreen()));
+    return font;
+}
+
+LOGFONTW DescribeFont(HFONT font) {
+    LOGFONTW description{};
+    GetObjectW(font, sizeof description, &description);
+    return description;
+}
+
+// A screen device with a font selected into it.
+class FontDevice {
+public:
+    explicit FontDevice(HFONT font) noexcept
+        : device_(GetDC(nullptr)), before_(SelectObject(device_, font)) {}
+    FontDevice(const FontDevice&) = delete;
+    FontDevice& operator=(const FontDevice&) = delete;
+    ~FontDevice() {
+        SelectObject(device_, before_);
+        ReleaseDC(nullptr, device_);
+    }
+    [[nodiscard]] HDC Device() const noexcept { return device_; }
+
+private:
+    HDC device_;
+    HGDIOBJ before_;
+};
+
+} // namespace
+
+FontHandle MessageFont(unsigned dpi) {
+    using Function = BOOL(WINAPI*)(UINT, UINT, PVOID, UINT, UINT);
+    static const auto infoForDpi = UserFunction<Function>("SystemParametersInfoForDpi");
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    LOGFONTW font{};
+    if (infoForDpi != nullptr &&
+        infoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi) != FALSE)
+        font = metrics.lfMessageFont;
+    else
+        font = ScaledMessageFont(dpi);
+    return FontHandle(CreateFontIndirectW(&font));
+}
+
+FontHandle EnlargedFont(HFONT font, int percent, bool bold) {
+    LOGFONTW description = DescribeFont(font);
+    description.lfHeight = MulDiv(description.lfHeight, percent, 100);
+    description.lfWeight = bold ? FW_BOLD : description.lfWeight;
+    return FontHandle(CreateFontIndirectW(&description));
+}
+
+FontHandle UnderlinedFont(HFONT font) {
+    LOGFONTW description = DescribeFont(font);
+    description.lfUnderline = TRUE;
+    return FontHandle(CreateFontIndirectW(&description));
+}
+
+SIZE MeasureText(HFONT font, std::wstring_view text, int maximumWidth) {
+    const FontDevice device(font);
+    RECT box{0, 0, maximumWidth, 0};
+    const UINT format = DT_CALCRECT | (maximumWidth > 0 ? DT_WORDBREAK : 0U);
+    DrawTextW(device.Device(), text.data(), static_cast<int>(text.size()), &box, format);
+    return {WidthOf(box), HeightOf(box)};
+}
+
+int LineHeight(HFONT font) {
+    const FontDevice device(font);
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(device.Device(), &metrics);
+    return metrics.tmHeight;
+}

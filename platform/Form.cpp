@@ -1,0 +1,288 @@
+#include "platform/Form.h"
+
+#include "platform/Fonts.h"
+#include "platform/Guarded.h"
+#include "platform/Icons.h"
+#include "platform/Utf16.h"
+#include "platform/WindowGeometry.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace {
+
+constexpr UINT kLayoutMessage = WM_APP + 1;
+
+HINSTANCE Module() noexcept {
+    return GetModuleHandleW(nullptr);
+}
+
+void RegisterFormClass(const wchar_t* name, WNDPROC procedure) {
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    if (GetClassInfoExW(Module(), name, &windowClass) != FALSE)
+        return;
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = procedure;
+    windowClass.hInstance = Module();
+    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.hbrBackground = GetSysColorBrush(COLOR_3DFACE);
+    windowClass.lpszClassName = name;
+    RegisterClassExW(&windowClass);
+}
+
+int ShowCommand(WindowState state) noexcept {
+    switch (state) {
+    case WindowState::Minimised:
+        return SW_SHOWMINIMIZED;
+    case WindowState::Maximised:
+        return SW_SHOWMAXIMIZED;
+    default:
+        return SW_SHOWNORMAL;
+    }
+}
+
+void ForwardToChildren(const WindowMessage& message) {
+    for (HWND child = GetWindow(message.window, GW_CHILD); child != nullptr;
+         child = GetWindow(child, GW_HWNDNEXT))
+        SendMessageW(child, message.id, message.wParam, message.lParam);
+}
+
+} // namespace
+
+Form::Form(const FormDesign& design, ErrorSink& errors)
+    : name_(ToUtf8(design.name)), errors_(errors), minimumSize_(design.minimumSize) {
+    RegisterFormClass(design.name, WindowProcedure);
+    CreateWindowExW(design.extendedStyle, design.name, design.caption, design.style, CW_USEDEFAULT,
+                    CW_USEDEFAULT, 100, 100, design.owner, nullptr, Module(), this);
+    if (window_ == nullptr)
+        throw std::runtime_error("The window could not be created");
+    scale_ = DpiScale(DpiOfWindow(window_));
+    font_ = MessageFont(static_cast<unsigned>(scale_.Dpi()));
+    LoadIcons();
+    SetWindowPos(window_, nullptr, 0, 0, scale_.FromDesign(design.size.cx),
+                 scale_.FromDesign(design.size.cy), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+Form::~Form() {
+    // The parts that a derived form added are gone already: nothing is reported any more.
+    closing_ = true;
+    if (window_ != nullptr)
+        DestroyWindow(window_);
+}
+
+Form* Form::FromWindow(HWND window) noexcept {
+    const HWND root = GetAncestor(window, GA_ROOT);
+    if (root == nullptr || GetWindowThreadProcessId(root, nullptr) != GetCurrentThreadId())
+        return nullptr;
+    const auto procedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(root, GWLP_WNDPROC));
+    if (procedure != &Form::WindowProcedure)
+        return nullptr;
+    return reinterpret_cast<Form*>(GetWindowLongPtrW(root, GWLP_USERDATA));
+}
+
+LRESULT CALLBACK Form::WindowProcedure(HWND window, UINT id, WPARAM wParam,
+                                       LPARAM lParam) noexcept {
+    if (id == WM_NCCREATE) {
+        const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+        SetWindowLongPtrW(window, GWLP_USERDATA,
+                          reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
+        static_cast<Form*>(creation->lpCreateParams)->window_ = window;
+    }
+    auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (form == nullptr || form->closing_)
+        return DefWindowProcW(window, id, wParam, lParam);
+    return form->Answer({window, id, wParam, lParam});
+}
+
+LRESULT Form::Answer(const WindowMessage& message) noexcept {
+    MessageResult result;
+    const bool succeeded = RunGuarded(errors_, [&] { result = OnMessage(message); });
+    if (result)
+        return *result;
+    // After an error only painting falls back to the default: an invalid area would come again for
+    // ever, while the default of a close box would destroy the window.
+    if (!succeeded && message.id != WM_PAINT)
+        return 0;
+    return DefWindowProcW(message.window, message.id, message.wParam, message.lParam);
+}
+
+MessageResult Form::OnMessage(const WindowMessage& message) {
+    switch (message.id) {
+    case WM_COMMAND:
+        return OfferCommand(message);
+    case WM_NOTIFY:
+        return OfferNotification(message);
+    case WM_HSCROLL:
+        if (Control* control = FindControl(reinterpret_cast<HWND>(message.lParam)))
+            return control->OnScroll(LOWORD(message.wParam));
+        return {};
+    case WM_CTLCOLORSTATIC:
+        return OfferColor(message);
+    case WM_CLOSE:
+        OnCloseBox();
+        return 0;
+    case WM_DPICHANGED:
+        ChangeScale(LOWORD(message.wParam), reinterpret_cast<const RECT*>(message.lParam));
+        return 0;
+    case WM_SETTINGCHANGE:
+        if (message.wParam == SPI_SETNONCLIENTMETRICS)
+            ApplyScale();
+        return {};
+    case WM_SYSCOLORCHANGE:
+        ForwardToChildren(message);
+        return {};
+    case WM_GETMINMAXINFO:
+        LimitSize(*reinterpret_cast<MINMAXINFO*>(message.lParam));
+        return 0;
+    case WM_ACTIVATE:
+        if (LOWORD(message.wParam) == WA_INACTIVE)
+            RememberFocus();
+        return {};
+    case WM_SETFOCUS:
+        RestoreFocus();
+        return 0;
+    case DM_GETDEFID:
+        return defaultButton_ != 0 ? MAKELRESULT(defaultButton_, DC_HASDEFID) : 0;
+    case kLayoutMessage:
+        layoutRequested_ = false;
+        OnLayout();
+        return 0;
+    default:
+        return {};
+    }
+}
+
+Control* Form::FindControl(HWND window) const noexcept {
+    const auto found = std::find_if(controls_.begin(), controls_.end(), [window](const auto& each) {
+        return each->Handle() == window;
+    });
+    return window != nullptr && found != controls_.end() ? found->get() : nullptr;
+}
+
+MessageResult Form::OfferCommand(const WindowMessage& message) {
+    const auto sender = reinterpret_cast<HWND>(message.lParam);
+    const int id = LOWORD(message.wParam);
+    if (Control* control = FindControl(sender))
+        control->OnCommand(message.wParam);
+    else if (id == IDCANCEL)
+        OnCancelKey();
+    else if (sender == nullptr && id != IDOK) // IDOK: Enter in a form without a default button
+        OnMenuCommand(id);
+    return 0;
+}
+
+MessageResult Form::OfferNotification(const WindowMessage& message) {
+    auto& header = *reinterpret_cast<NMHDR*>(message.lParam);
+    Control* control = FindControl(header.hwndFrom);
+    return control != nullptr ? control->OnNotify(header) : MessageResult();
+}
+
+MessageResult Form::OfferColor(const WindowMessage& message) {
+    Control* control = FindControl(reinterpret_cast<HWND>(message.lParam));
+    return control != nullptr ? control->OnColor(reinterpret_cast<HDC>(message.wParam))
+                              : MessageResult();
+}
+
+void Form::ChangeScale(unsigned dpi, const RECT* suggested) {
+    scale_ = DpiScale(dpi);
+    ApplyScale();
+    if (suggested != nullptr && !moving_)
+        SetWindowPos(window_, nullptr, suggested->left, suggested->top, WidthOf(*suggested),
+                     HeightOf(*suggested), SWP_NOZORDER | SWP_NOACTIVATE);
+    OnLayout();
+}
+
+void Form::ApplyScale() {
+    FontHandle before = std::exchange(font_, MessageFont(static_cast<unsigned>(scale_.Dpi())));
+    LoadIcons();
+    for (const auto& control : controls_)
+        control->ApplyScale();
+    OnScaleChanged();
+    InvalidateRect(window_, nullptr, TRUE);
+}
+
+void Form::LoadIcons() {
+    const auto load = [this](int designPixels, WPARAM kind, IconHandle& icon) {
+        IconHandle loaded = LoadProgramIcon(scale_.FromDesign(designPixels));
+        SendMessageW(window_, WM_SETICON, kind, reinterpret_cast<LPARAM>(loaded.Get()));
+        icon = std::move(loaded);
+    };
+    load(32, ICON_BIG, bigIcon_);
+    load(16, ICON_SMALL, smallIcon_);
+}
+
+void Form::LimitSize(MINMAXINFO& limits) const noexcept {
+    if (minimumSize_.cx > 0)
+        limits.ptMinTrackSize = {scale_.FromDesign(minimumSize_.cx),
+                                 scale_.FromDesign(minimumSize_.cy)};
+}
+
+void Form::RememberFocus() noexcept {
+    const HWND focus = GetFocus();
+    if (focus != nullptr && IsChild(window_, focus) != FALSE)
+        lastFocus_ = focus;
+}
+
+void Form::RestoreFocus() noexcept {
+    const bool usable = lastFocus_ != nullptr && IsChild(window_, lastFocus_) != FALSE &&
+                        IsWindowVisible(lastFocus_) != FALSE;
+    const HWND target = usable ? lastFocus_ : GetNextDlgTabItem(window_, nullptr, FALSE);
+    if (target != nullptr && target != window_)
+        SetFocus(target);
+}
+
+bool Form::TranslateKeys(MSG& message) {
+    if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST)
+        return false;
+    return TranslateShortcut(message) || IsDialogMessageW(window_, &message) != FALSE;
+}
+
+void Form::RequestLayout() noexcept {
+    if (!std::exchange(layoutRequested_, true))
+        PostMessageW(window_, kLayoutMessage, 0, 0);
+}
+
+void Form::Show() {
+    ShowWindow(window_, ShowCommand(hiddenState_));
+}
+
+void Form::Hide() {
+    ShowWindow(window_, SW_HIDE);
+}
+
+void Form::MoveOuter(const TwipsRect& bounds) {
+    moving_ = true;
+    MoveWindowTo(window_, bounds);
+    moving_ = false;
+}
+
+WindowState Form::StateOfWindow() const {
+    return IsWindowVisible(window_) != FALSE ? ShownState() : hiddenState_;
+}
+
+WindowState Form::ShownState() const {
+    if (IsIconic(window_) != FALSE)
+        return WindowState::Minimised;
+    return IsZoomed(window_) != FALSE ? WindowState::Maximised : WindowState::Normal;
+}
+
+// The platform cannot maximise a window without showing it: a hidden one takes the state when it is
+// shown.
+void Form::ChangeState(WindowState state) {
+    hiddenState_ = state;
+    if (IsWindowVisible(window_) != FALSE)
+        Show();
+}
+
+// The result is not checked.
+void Form::MakeTopmost(bool onTop) {
+    SetWindowPos(window_, onTop ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE);
+}
+
+RECT Form::ClientArea() const noexcept {
+    RECT area{};
+    GetClientRect(window_, &area);
+    return area;
+}

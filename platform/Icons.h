@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/controls/DesignComponent.h"
+#include "platform/Handles.h"
+
+#include <string>
+#include <vector>
+
+// The program's icons, in pixels; an icon that the executable does not hold is none (LoadImageW).
+[[nodiscard]] IconHandle LoadProgramIcon(int size);
+[[nodiscard]] IconHandle LoadNamedIcon(const std::string& name, int size); // resource "ICON_<name>"
+
+// A named image list of a form; the keys of its pictures are icon names.
+class IconList : public DesignComponent {
+public:
+    IconList(std::string name, std::vector<std::string> keys);
+
+    void Fit(int size); // pixels; a new handle when the size is new
+    [[nodiscard]] HIMAGELIST Handle() const noexcept { return images_.Get(); }
+    [[nodiscard]] int IndexOf(const std::string& key) const noexcept; // -1: there is none
+
+private:
+    std::vector<std::string> keys_;
+    ImageListHandle images_;
+    int size_ = 0;
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/Handles.h"
+
+#include <string>
+#include <vector>
+
+// One key that runs a command.
+struct ShortcutDesign {
+    int command;
+    bool ctrl;
+    bool shift;
+    WORD key;                  // virtual key
+    bool leavesTextEntryAlone; // not taken while text is typed
+};
+
+// What the keyboard calls the shortcut: "Ctrl+S" (GetKeyNameTextW).
+[[nodiscard]] std::string ShortcutName(const ShortcutDesign& design);
+
+// The keys that run commands; while text is typed, a label edit included, those that the text
+// itself needs are left alone.
+class Shortcuts {
+public:
+    explicit Shortcuts(const std::vector<ShortcutDesign>& designs);
+
+    // True: the key was taken and its WM_COMMAND has been sent to the form.
+    bool Translate(HWND form, MSG& message) const;
+
+private:
+    AcceleratorHandle always_;
+    AcceleratorHandle outsideText_;
+};

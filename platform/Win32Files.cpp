@@ -1,0 +1,96 @@
+#include "platform/Win32Files.h"
+
+#include "platform/KernelHandle.h"
+#include "platform/PlatformPath.h"
+#include "platform/Utf16.h"
+#include "platform/Win32OutputFile.h"
+
+#include <algorithm>
+
+namespace {
+
+struct FindHandleTraits {
+    using Handle = HANDLE;
+    static Handle None() noexcept { return INVALID_HANDLE_VALUE; }
+    static bool Close(Handle handle) noexcept { return FindClose(handle) != FALSE; }
+};
+using FindHandle = UniqueHandle<FindHandleTraits>;
+
+constexpr LONGLONG kLargestFile = 1LL << 30;    // a library of 100,000 colours has about 10 MB
+constexpr std::size_t kLargestRead = 1U << 24U; // one call counts in 32 bits
+
+bool IsNormalFile(const WIN32_FIND_DATAW& found) {
+    constexpr DWORD kSkipped =
+        FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    return (found.dwFileAttributes & kSkipped) == 0;
+}
+
+std::optional<std::size_t> ReadableSize(HANDLE file) {
+    LARGE_INTEGER size{};
+    if (!GetFileSizeEx(file, &size) || size.QuadPart > kLargestFile)
+        return std::nullopt;
+    return static_cast<std::size_t>(size.QuadPart);
+}
+
+std::optional<std::string> ReadBytes(HANDLE file, std::size_t size) {
+    std::string content(size, '\0');
+    std::size_t done = 0;
+    while (done < size) {
+        const auto part = static_cast<DWORD>(std::min(size - done, kLargestRead));
+        DWORD read = 0;
+        if (!ReadFile(file, content.data() + done, part, &read, nullptr))
+            return std::nullopt;
+        if (read == 0)
+            break;
+        done += read;
+    }
+    content.resize(done);
+    return content;
+}
+
+} // namespace
+
+std::string Win32Files::FindNormalFile(const std::string& path) {
+    if (path.empty() || path.back() == '\\' || path.back() == '/')
+        return {};
+    WIN32_FIND_DATAW found{};
+    const FindHandle search(FindFirstFileExW(ToPlatformPath(path).c_str(), FindExInfoBasic, &found,
+                                             FindExSearchNameMatch, nullptr, 0));
+    for (bool more = static_cast<bool>(search); more;
+         more = FindNextFileW(search.Get(), &found) != FALSE)
+        if (IsNormalFile(found))
+            return ToUtf8(found.cFileName);
+    return {};
+}
+
+bool Win32Files::Exists(const std::string& path) {
+    const DWORD attributes = GetFileAttributesW(ToPlatformPath(path).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+std::optional<std::string> Win32Files::ReadWhole(const std::string& path) {
+    const KernelHandle file(CreateFileW(ToPlatformPath(path).c_str(), GENERIC_READ,
+                                        FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                        FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!file)
+        return std::nullopt;
+    const std::optional<std::size_t> size = ReadableSize(file.Get());
+    return size ? ReadBytes(file.Get(), *size) : std::nullopt;
+}
+
+std::unique_ptr<OutputFile> Win32Files::Create(const std::string& path) {
+    KernelHandle file(CreateFileW(ToPlatformPath(path).c_str(), GENERIC_WRITE, 0, nullptr,
+                                  CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file)
+        return nullptr;
+    return std::make_unique<Win32OutputFile>(std::move(file));
+}
+
+bool Win32Files::Replace(const std::string& from, const std::string& to) {
+    return MoveFileExW(ToPlatformPath(from).c_str(), ToPlatformPath(to).c_str(),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+}
+
+bool Win32Files::Remove(const std::string& path) {
+    return DeleteFileW(ToPlatformPath(path).c_str()) != FALSE;
+}

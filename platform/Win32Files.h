@@ -1,0 +1,24 @@
+#pragma once
+
+#include "common/ports/Files.h"
+
+// The Files port over the platform's Unicode file functions; paths of more than 260 characters
+// work.
+class Win32Files : public Files {
+public:
+    // FindFirstFileExW.  A path that ends in a separator, and the path of a folder, find nothing.
+    [[nodiscard]] std::string FindNormalFile(const std::string& path) override;
+
+    [[nodiscard]] bool Exists(const std::string& path) override;
+
+    // A file that another program is writing, and one of more than 1 GiB, cannot be read.
+    [[nodiscard]] std::optional<std::string> ReadWhole(const std::string& path) override;
+
+    // Nobody else can open the file before it is closed.
+    [[nodiscard]] std::unique_ptr<OutputFile> Create(const std::string& path) override;
+
+    // MoveFileExW; returns when the change is on the medium.
+    [[nodiscard]] bool Replace(const std::string& from, const std::string& to) override;
+
+    bool Remove(const std::string& path) override;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "common/ports/Prompts.h"
+#include "platform/ColorDialog.h"
+#include "platform/OwnerWindow.h"
+
+// Message box, input box and the system's file and colour dialogs.  Each is owned by the owner's
+// active popup, so that it never opens behind another window of the program.
+class Win32Prompts : public Prompts {
+public:
+    explicit Win32Prompts(OwnerWindow owner) : owner_(std::move(owner)) {}
+
+    // MessageBoxW with exactly the style; a box that could not be shown counts as cancelled.
+    Answer ShowMessage(const std::string& prompt, int style, const std::string& title) override;
+
+    std::string AskText(const std::string& prompt, const std::string& title,
+                        const std::string& preset) override;
+    std::optional<std::string> AskOpenFile(const FileDialogRequest& request) override;
+    std::optional<std::string> AskSaveFile(const FileDialogRequest& request) override;
+    std::optional<ColorNumber> AskColor(const std::string& title, ColorNumber initial) override;
+
+private:
+    [[nodiscard]] HWND ActivePopup() const;
+
+    OwnerWindow owner_;
+    ColorDialog colorDialog_;
+};

@@ -1,0 +1,29 @@
+#include "platform/controls/CommandButton.h"
+
+#include "platform/Fonts.h"
+#include "platform/Form.h"
+#include "platform/Utf16.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr ControlKind kButton{"CommandButton", WC_BUTTONW, "Caption"};
+
+} // namespace
+
+CommandButton::CommandButton(Form& form, const ControlPlace& place, ButtonRole role)
+    : Control(form, kButton, place,
+              WS_VISIBLE | WS_TABSTOP |
+                  (role == ButtonRole::Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON)) {}
+
+SIZE CommandButton::IdealSize() const {
+    const SIZE text = MeasureText(Owner().Font(), ToUtf16(Text()));
+    return {std::max(text.cx + Scale().FromDesign(24), LONG{Scale().FromDesign(80)}),
+            text.cy + Scale().FromDesign(10)};
+}
+
+void CommandButton::OnCommand(WPARAM wParam) {
+    if (HIWORD(wParam) == BN_CLICKED)
+        Raise(onClick);
+}

@@ -1,0 +1,112 @@
+#include "platform/controls/Control.h"
+
+#include "platform/controls/NoSuchMember.h"
+#include "platform/Form.h"
+#include "platform/Guarded.h"
+#include "platform/Utf16.h"
+
+#include <stdexcept>
+
+Control::Control(Form& form, const ControlKind& kind, const ControlPlace& place, DWORD style,
+                 DWORD extendedStyle)
+    : form_(form), kind_(kind), name_(place.name),
+      window_(CreateWindowExW(extendedStyle, kind.windowClass, L"",
+                              style | WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0, place.parent,
+                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(place.id)),
+                              GetModuleHandleW(nullptr), nullptr)) {
+    if (window_ == nullptr)
+        throw std::runtime_error("The control " + name_ + " could not be created");
+    SetWindowSubclass(window_, SubclassProcedure, 1, reinterpret_cast<DWORD_PTR>(this));
+    SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form.Font()), FALSE);
+}
+
+LRESULT CALLBACK Control::SubclassProcedure(HWND window, UINT id, WPARAM wParam, LPARAM lParam,
+                                            UINT_PTR subclass, DWORD_PTR reference) noexcept {
+    auto* control = reinterpret_cast<Control*>(reference);
+    if (id == WM_NCDESTROY)
+        RemoveWindowSubclass(window, SubclassProcedure, subclass);
+    if (id == WM_NCDESTROY || control->form_.IsClosing())
+        return DefSubclassProc(window, id, wParam, lParam);
+    MessageResult result;
+    const bool succeeded = RunGuarded(control->form_.Errors(), [&] {
+        result = control->OnMessage({window, id, wParam, lParam});
+    });
+    if (result || !succeeded)
+        return result.value_or(0);
+    return DefSubclassProc(window, id, wParam, lParam);
+}
+
+bool Control::HasTextProperty(const std::string& property) const {
+    return *kind_.textProperty != '\0' && property == kind_.textProperty;
+}
+
+std::string Control::Property(const std::string& property) const {
+    if (HasTextProperty(property))
+        return Text();
+    if (property == "ToolTipText")
+        return toolTip_;
+    ThrowNoSuchMember(name_, property);
+}
+
+void Control::SetProperty(const std::string& property, const std::string& text) {
+    if (HasTextProperty(property)) {
+        SetText(text);
+        form_.RequestLayout(); // the text may need another width
+    } else if (property == "ToolTipText") {
+        toolTip_ = text;
+        form_.Tips().Set(form_.Handle(), window_, text);
+    } else {
+        ThrowNoSuchMember(name_, property);
+    }
+}
+
+std::string Control::Text() const {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window_)) + 1, L'\0');
+    const int length = GetWindowTextW(window_, text.data(), static_cast<int>(text.size()));
+    text.resize(static_cast<std::size_t>(length));
+    return ToUtf8(text);
+}
+
+void Control::SetText(const std::string& text) {
+    SetWindowTextW(window_, ToUtf16(text).c_str());
+}
+
+void Control::Place(const RECT& bounds) {
+    SetWindowPos(window_, nullptr, bounds.left, bounds.top, WidthOf(bounds), HeightOf(bounds),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Control::Show(bool shown) {
+    ShowWindow(window_, shown ? SW_SHOWNA : SW_HIDE);
+}
+
+bool Control::IsShown() const noexcept {
+    return (GetWindowLongPtrW(window_, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+RECT Control::Bounds() const noexcept {
+    RECT bounds{};
+    GetWindowRect(window_, &bounds);
+    MapWindowPoints(nullptr, GetParent(window_), reinterpret_cast<POINT*>(&bounds), 2);
+    return bounds;
+}
+
+void Control::ApplyScale() {
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(form_.Font()), TRUE);
+}
+
+const DpiScale& Control::Scale() const noexcept {
+    return form_.Scale();
+}
+
+LRESULT Control::Send(UINT message, WPARAM wParam, LPARAM lParam) const {
+    return SendMessageW(window_, message, wParam, lParam);
+}
+
+LRESULT Control::Send(UINT message, WPARAM wParam, const void* structure) const {
+    return SendMessageW(window_, message, wParam, reinterpret_cast<LPARAM>(structure));
+}
+
+LRESULT Control::Default(const WindowMessage& message) {
+    return DefSubclassProc(message.window, message.id, message.wParam, message.lParam);
+}

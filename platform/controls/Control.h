@@ -1,0 +1,91 @@
+#pragma once
+
+#include "common/ports/LocalizableForm.h"
+#include "platform/WindowMessage.h"
+
+#include <string>
+
+class DpiScale;
+class Form;
+
+// What a kind of control is called, which window class it is made of, and which property its window
+// text is; empty: it has no text of its own.
+struct ControlKind {
+    const char* typeName;
+    const wchar_t* windowClass;
+    const char* textProperty;
+};
+
+// A control that stands on a form: its name, its number in resources/controls.h, and the window
+// that it stands in.
+struct ControlPlace {
+    const char* name;
+    int id;
+    HWND parent;
+};
+
+// A child window.  The form owns this object; the window is destroyed by its parent.
+class Control : public FormControl {
+public:
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    ~Control() override = default;
+
+    [[nodiscard]] HWND Handle() const noexcept { return window_; }
+    [[nodiscard]] std::string Name() const override { return name_; }
+    [[nodiscard]] std::string TypeName() const override { return kind_.typeName; }
+    [[nodiscard]] std::string Property(const std::string& property) const override;
+    void SetProperty(const std::string& property, const std::string& text) override;
+    [[nodiscard]] bool IsEnabled() const override { return IsWindowEnabled(window_) != FALSE; }
+    void SetEnabled(bool enabled) override { EnableWindow(window_, enabled ? TRUE : FALSE); }
+
+    [[nodiscard]] std::string Text() const;
+    virtual void SetText(const std::string& text);
+
+    void Place(const RECT& bounds); // pixels of the parent
+    void Show(bool shown);
+    [[nodiscard]] bool IsShown() const noexcept; // also while its form is hidden
+    [[nodiscard]] RECT Bounds() const noexcept;  // pixels of the parent
+    void Focus() { SetFocus(window_); }
+
+    // Notifications that the parent got from this control.
+    virtual void OnCommand(WPARAM) {} // HIWORD: code
+    virtual MessageResult OnNotify(NMHDR&) { return {}; }
+    virtual MessageResult OnScroll(unsigned) { return {}; }
+    virtual MessageResult OnColor(HDC) { return {}; }
+
+    // The form's font and resolution are new.
+    virtual void ApplyScale();
+
+protected:
+    Control(Form& form, const ControlKind& kind, const ControlPlace& place, DWORD style,
+            DWORD extendedStyle = 0);
+
+    // Messages that the window itself gets, before its class handles them.
+    virtual MessageResult OnMessage(const WindowMessage&) { return {}; }
+
+    [[nodiscard]] Form& Owner() const noexcept { return form_; }
+    [[nodiscard]] const DpiScale& Scale() const noexcept;
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    LRESULT Send(UINT message, WPARAM wParam, const void* structure) const;
+    // What the window's class does with the message.
+    [[nodiscard]] static LRESULT Default(const WindowMessage& message);
+
+private:
+    static LRESULT CALLBACK SubclassProcedure(HWND window, UINT id, WPARAM wParam, LPARAM lParam,
+                                              UINT_PTR subclass, DWORD_PTR reference) noexcept;
+    [[nodiscard]] bool HasTextProperty(const std::string& property) const;
+
+    Form& form_;
+    ControlKind kind_;
+    std::string name_;
+    std::string toolTip_;
+    HWND window_;
+};
+
+// Calls an event handler that may not have been set.
+template <typename Handler, typename... Arguments>
+void Raise(const Handler& handler, Arguments&&... arguments) {
+    if (handler)
+        handler(std::forward<Arguments>(arguments)...);
+}

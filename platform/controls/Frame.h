@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/controls/Control.h"
+
+// A frame with a caption that other controls stand in; their notifications go on to the form.
+class Frame : public Control {
+public:
+    Frame(Form& form, const ControlPlace& place);
+
+protected:
+    MessageResult OnMessage(const WindowMessage& message) override;
+};

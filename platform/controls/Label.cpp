@@ -1,0 +1,78 @@
+#include "platform/controls/Label.h"
+
+#include "platform/BufferedPaint.h"
+#include "platform/Fonts.h"
+#include "platform/Form.h"
+#include "platform/Utf16.h"
+
+namespace {
+
+constexpr ControlKind kLabel{"Label", WC_STATICW, "Caption"};
+
+// SS_NOTIFY: a label without it is transparent to the mouse and would never show its tool tip.
+constexpr DWORD kLabelStyle = WS_VISIBLE | SS_LEFT | SS_NOTIFY;
+
+} // namespace
+
+Label::Label(Form& form, const ControlPlace& place, LabelText kind)
+    : Control(form, kLabel, place, kLabelStyle | (kind == LabelText::Plain ? SS_NOPREFIX : 0U)) {}
+
+void Label::SetFont(HFONT font) {
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+}
+
+HFONT Label::CurrentFont() const {
+    return reinterpret_cast<HFONT>(Send(WM_GETFONT));
+}
+
+SIZE Label::TextSize(int maximumWidth) const {
+    return MeasureText(CurrentFont(), ToUtf16(Text()), maximumWidth);
+}
+
+LinkLabel::LinkLabel(Form& form, const ControlPlace& place) : Label(form, place, LabelText::Plain) {
+    SetWindowLongPtrW(Handle(), GWL_STYLE,
+                      GetWindowLongPtrW(Handle(), GWL_STYLE) | static_cast<LONG_PTR>(WS_TABSTOP));
+}
+
+MessageResult LinkLabel::OnMessage(const WindowMessage& message) {
+    switch (message.id) {
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_PAINT:
+        Paint();
+        return 0;
+    case WM_SETCURSOR:
+        SetCursor(LoadCursorW(nullptr, IDC_HAND));
+        return 1;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+        InvalidateRect(message.window, nullptr, FALSE);
+        return {};
+    case WM_GETDLGCODE:
+        return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON; // Enter goes here, not to the default button
+    case BM_CLICK:
+    case WM_LBUTTONUP:
+        Raise(onClick);
+        return 0;
+    case WM_KEYDOWN:
+        if (message.wParam == VK_SPACE || message.wParam == VK_RETURN)
+            Raise(onClick);
+        return 0;
+    default:
+        return {};
+    }
+}
+
+void LinkLabel::Paint() const {
+    const BufferedPaint paint(Handle());
+    const FontHandle font = UnderlinedFont(Owner().Font());
+    RECT area = paint.Area();
+    FillRect(paint.Device(), &area, GetSysColorBrush(COLOR_3DFACE));
+    const HGDIOBJ before = SelectObject(paint.Device(), font.Get());
+    SetBkMode(paint.Device(), TRANSPARENT);
+    SetTextColor(paint.Device(), GetSysColor(COLOR_HOTLIGHT));
+    DrawTextW(paint.Device(), ToUtf16(Text()).c_str(), -1, &area, DT_NOPREFIX | DT_END_ELLIPSIS);
+    SelectObject(paint.Device(), before);
+    if (GetFocus() == Handle())
+        DrawFocusRect(paint.Device(), &area);
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/controls/Control.h"
+
+#include <functional>
+
+enum class LabelText { AccessKeys, Plain }; // an "&" marks an access key, or is shown as it is
+
+// A text that is only shown.
+class Label : public Control {
+public:
+    Label(Form& form, const ControlPlace& place, LabelText kind = LabelText::AccessKeys);
+
+    void SetFont(HFONT font);                                // kept by the caller
+    [[nodiscard]] SIZE TextSize(int maximumWidth = 0) const; // pixels
+
+private:
+    [[nodiscard]] HFONT CurrentFont() const;
+};
+
+// A text that is clicked like a link: by mouse, Space or Enter.
+class LinkLabel : public Label {
+public:
+    LinkLabel(Form& form, const ControlPlace& place);
+
+    std::function<void()> onClick;
+
+protected:
+    MessageResult OnMessage(const WindowMessage& message) override;
+
+private:
+    void Paint() const;
+};

@@ -1,0 +1,224 @@
+#include "platform/controls/ListView.h"
+
+#include "platform/Form.h"
+#include "platform/Utf16.h"
+
+#include <utility>
+#include <uxtheme.h>
+
+namespace {
+
+constexpr ControlKind kListView{"ListView", WC_LISTVIEWW, ""};
+
+constexpr DWORD kListStyle = WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
+                             LVS_EDITLABELS | LVS_SHOWSELALWAYS | LVS_AUTOARRANGE |
+                             LVS_SHAREIMAGELISTS;
+
+constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+
+constexpr int kLargeIcon = 32;
+constexpr int kSmallIcon = 16;
+
+constexpr UINT kSelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
+
+} // namespace
+
+ListView::ListView(Form& form, const ControlPlace& place, const Images& images)
+    : Control(form, kListView, place, kListStyle, WS_EX_CLIENTEDGE), images_(images),
+      dpi_(form.Scale().Dpi()) {
+    SetWindowTheme(Handle(), L"Explorer", nullptr);
+    Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kExtendedStyle, LPARAM{kExtendedStyle});
+    ListView::ApplyScale();
+}
+
+void ListView::ApplyScale() {
+    Control::ApplyScale();
+    images_.large.Fit(Scale().FromDesign(kLargeIcon));
+    images_.small.Fit(Scale().FromDesign(kSmallIcon));
+    Send(LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.large.Handle()));
+    Send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images_.small.Handle()));
+    const int before = std::exchange(dpi_, Scale().Dpi());
+    for (int column = 0; column < columns_ && before != dpi_; ++column) {
+        const auto width = static_cast<int>(Send(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column)));
+        Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), MulDiv(width, dpi_, before));
+    }
+}
+
+void ListView::AddColumn(const std::string& caption, int width) {
+    std::wstring wide = ToUtf16(caption);
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
+    column.pszText = wide.data();
+    column.cx = width;
+    column.iSubItem = columns_;
+    Send(LVM_INSERTCOLUMNW, static_cast<WPARAM>(columns_), &column);
+    ++columns_;
+}
+
+void ListView::SetRowCount(int count) {
+    Send(LVM_CANCELEDITLABEL);
+    ShowSelection(-1);
+    Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(count), LPARAM{0});
+    InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+void ListView::SelectRow(int row) {
+    ShowSelection(row);
+}
+
+void ListView::ShowSelection(int row) {
+    const bool before = std::exchange(silent_, true);
+    LVITEMW state{};
+    state.stateMask = kSelectedAndFocused;
+    Send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), &state);
+    if (row >= 0) {
+        state.state = kSelectedAndFocused;
+        Send(LVM_SETITEMSTATE, static_cast<WPARAM>(row), &state);
+    }
+    selected_ = row;
+    silent_ = before;
+}
+
+void ListView::EnsureVisible(int row) {
+    Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), LPARAM{FALSE});
+}
+
+void ListView::EditLabel(int row) {
+    Focus();
+    Send(LVM_EDITLABELW, static_cast<WPARAM>(row));
+}
+
+// The four modes are the control's styles 0 to 3, in another order.
+void ListView::SetMode(int mode) {
+    constexpr LONG_PTR kStyles[] = {LVS_ICON, LVS_SMALLICON, LVS_LIST, LVS_REPORT};
+    const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
+    SetWindowLongPtrW(Handle(), GWL_STYLE, (style & ~LONG_PTR{LVS_TYPEMASK}) | kStyles[mode]);
+    InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+MessageResult ListView::OnNotify(NMHDR& header) {
+    switch (header.code) {
+    case LVN_GETDISPINFOW:
+        FillItem(reinterpret_cast<NMLVDISPINFOW&>(header).item);
+        return 0;
+    case LVN_ODFINDITEMW: {
+        const auto& search = reinterpret_cast<const NMLVFINDITEMW&>(header);
+        const bool byText = (search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) != 0;
+        return byText && findRow ? findRow(ToUtf8(search.lvfi.psz), search.iStart) : -1;
+    }
+    case LVN_ITEMCHANGED:
+        SelectionChanged(reinterpret_cast<const NMLISTVIEW&>(header));
+        return 0;
+    case LVN_KEYDOWN:
+        if (reinterpret_cast<const NMLVKEYDOWN&>(header).wVKey == VK_F2)
+            Raise(onEditRequested);
+        return 0;
+    case LVN_BEGINLABELEDITW:
+        return mayEdit && !mayEdit() ? TRUE : FALSE; // TRUE: no edit
+    case LVN_ENDLABELEDITW:
+        EndLabelEdit(reinterpret_cast<const NMLVDISPINFOW&>(header));
+        return TRUE;
+    case LVN_COLUMNCLICK:
+        Raise(onColumnClick, reinterpret_cast<const NMLISTVIEW&>(header).iSubItem + 1);
+        return 0;
+    default:
+        return {};
+    }
+}
+
+void ListView::FillItem(LVITEMW& item) const {
+    if ((item.mask & LVIF_TEXT) != 0 && item.pszText != nullptr && item.cchTextMax > 0) {
+        const std::string text = cellText ? cellText(item.iItem, item.iSubItem + 1) : "";
+        lstrcpynW(item.pszText, ToUtf16(text).c_str(), item.cchTextMax);
+    }
+    if ((item.mask & LVIF_IMAGE) != 0)
+        item.iImage = item.iSubItem == 0 ? images_.small.IndexOf(images_.key) : -1;
+}
+
+void ListView::SelectionChanged(const NMLISTVIEW& change) {
+    const bool selected = (change.uNewState & LVIS_SELECTED) != 0;
+    const bool wasSelected = (change.uOldState & LVIS_SELECTED) != 0;
+    if (silent_ || !selected || wasSelected || change.iItem < 0)
+        return;
+    selected_ = change.iItem;
+    Raise(onClick, selected_);
+}
+
+void ListView::EndLabelEdit(const NMLVDISPINFOW& info) {
+    if (info.item.pszText == nullptr)
+        return;
+    const int row = info.item.iItem;
+    const std::string text = ToUtf8(info.item.pszText);
+    Raise(onLabelEdited, row, text);
+    Send(LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
+}
+
+MessageResult ListView::OnMessage(const WindowMessage& message) {
+    switch (message.id) {
+    case WM_LBUTTONDOWN:
+        return PressLeft(message);
+    case WM_RBUTTONDOWN:
+        PressRight(message);
+        return 0;
+    case WM_KEYDOWN:
+        return KeepSelection(message);
+    case WM_CONTEXTMENU:
+        if (message.lParam == -1) // the keyboard's menu key
+            OpenContextMenu(message);
+        return 0;
+    default:
+        return {};
+    }
+}
+
+// A click beside the rows and Ctrl would leave the list without a selected row; the program always
+// keeps the last one.
+LRESULT ListView::KeepSelection(const WindowMessage& message) {
+    const LRESULT result = Default(message);
+    const auto selected = Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LPARAM{LVNI_SELECTED});
+    if (selected < 0 && selected_ >= 0)
+        ShowSelection(selected_);
+    return result;
+}
+
+MessageResult ListView::PressLeft(const WindowMessage& message) {
+    const int row = RowAt(PointOf(message));
+    if (row < 0) {
+        Focus();
+        return 0;
+    }
+    // A click on the selected row changes nothing in the control, but it is a click.
+    const bool again = row == selected_;
+    const LRESULT result = KeepSelection(message);
+    if (again)
+        Raise(onClick, row);
+    return result;
+}
+
+void ListView::PressRight(const WindowMessage& message) {
+    Focus();
+    const int row = RowAt(PointOf(message));
+    if (row >= 0 && row != selected_) {
+        ShowSelection(row);
+        Raise(onClick, row);
+    }
+    OpenContextMenu(message);
+}
+
+int ListView::RowAt(POINT point) const {
+    LVHITTESTINFO hit{};
+    hit.pt = point;
+    return static_cast<int>(Send(LVM_HITTEST, 0, &hit));
+}
+
+void ListView::OpenContextMenu(const WindowMessage& message) {
+    POINT at = PointOf(message);
+    if (message.id == WM_CONTEXTMENU) {
+        RECT bounds{LVIR_LABEL, 0, 0, 0};
+        at = selected_ >= 0 && Send(LVM_GETITEMRECT, static_cast<WPARAM>(selected_), &bounds) != 0
+                 ? POINT{bounds.left, bounds.bottom}
+                 : POINT{};
+    }
+    ClientToScreen(message.window, &at);
+    Raise(onContextMenu, at);
+}

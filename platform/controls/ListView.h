@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/controls/Control.h"
+#include "platform/Icons.h"
+
+#include <functional>
+#include <string>
+
+// A list whose rows are kept elsewhere: it asks for what it shows (LVS_OWNERDATA).  Rows count from
+// 0, columns from 1.  What the program changes is not reported back, what the user does is.
+class ListView : public Control {
+public:
+    struct Images {
+        IconList& large; // both kept by the caller and fitted by this list
+        IconList& small;
+        const char* key; // the picture of every row
+    };
+
+    ListView(Form& form, const ControlPlace& place, const Images& images);
+
+    void AddColumn(const std::string& caption, int width); // pixels
+    void SetRowCount(int count);                           // all rows are new, none is selected
+    void SelectRow(int row);
+    void EnsureVisible(int row);
+    void EditLabel(int row);
+    void SetMode(int mode); // 0 large icons, 1 small icons, 2 list, 3 details
+    [[nodiscard]] int SelectedRow() const noexcept { return selected_; } // -1: none
+
+    void SetAccessibleName(const std::string& name) { SetText(name); }
+
+    std::function<std::string(int row, int column)> cellText;
+    std::function<int(const std::string& text, int start)> findRow;
+    std::function<void(int row)> onClick;  // a row was selected or clicked again
+    std::function<void()> onEditRequested; // F2
+    std::function<bool()> mayEdit;
+    std::function<void(int row, const std::string& text)> onLabelEdited;
+    std::function<void(int column)> onColumnClick;
+    std::function<void(POINT screen)> onContextMenu; // the row under it is selected
+
+    MessageResult OnNotify(NMHDR& header) override;
+    void ApplyScale() override;
+
+protected:
+    MessageResult OnMessage(const WindowMessage& message) override;
+
+private:
+    void FillItem(LVITEMW& item) const;
+    void SelectionChanged(const NMLISTVIEW& change);
+    void EndLabelEdit(const NMLVDISPINFOW& info);
+    [[nodiscard]] int RowAt(POINT point) const; // -1: none
+    void ShowSelection(int row);                // without a report
+    LRESULT KeepSelection(const WindowMessage& message);
+    MessageResult PressLeft(const WindowMessage& message);
+    void PressRight(const WindowMessage& message);
+    void OpenContextMenu(const WindowMessage& message);
+
+    Images images_;
+    int dpi_ = 0; // that the column widths are made for
+    int columns_ = 0;
+    int selected_ = -1;
+    bool silent_ = false; // the program itself changes the selection
+};

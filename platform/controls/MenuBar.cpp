@@ -1,0 +1,144 @@
+#include "platform/controls/MenuBar.h"
+
+#include "platform/controls/NoSuchMember.h"
+#include "platform/Utf16.h"
+
+namespace {
+
+constexpr const char* kCaption = "Caption";
+
+// The window whose menu bar shows the menu is redrawn by whoever owns it: find it by its menu.
+void RedrawBarOf(HMENU bar) {
+    const auto redraw = [](HWND window, LPARAM wanted) -> BOOL {
+        if (GetMenu(window) == reinterpret_cast<HMENU>(wanted))
+            DrawMenuBar(window);
+        return TRUE;
+    };
+    EnumThreadWindows(GetCurrentThreadId(), redraw, reinterpret_cast<LPARAM>(bar));
+}
+
+} // namespace
+
+MenuEntry::MenuEntry(HMENU menu, int command, std::string name, std::string shortcut)
+    : menu_(menu), command_(command), name_(std::move(name)), shortcut_(std::move(shortcut)) {}
+
+std::string MenuEntry::Property(const std::string& property) const {
+    if (property != kCaption)
+        ThrowNoSuchMember(name_, property);
+    return caption_;
+}
+
+void MenuEntry::SetProperty(const std::string& property, const std::string& text) {
+    if (property != kCaption)
+        ThrowNoSuchMember(name_, property);
+    if (text == caption_)
+        return;
+    caption_ = text;
+    if (separator_)
+        return;
+    std::wstring shown = ShownText();
+    MENUITEMINFOW item{};
+    item.cbSize = sizeof item;
+    item.fMask = MIIM_STRING;
+    item.dwTypeData = shown.data();
+    SetMenuItemInfoW(menu_, position_, TRUE, &item);
+    if (Submenu() != nullptr)
+        RedrawBarOf(menu_);
+}
+
+std::wstring MenuEntry::ShownText() const {
+    return ToUtf16(shortcut_.empty() ? caption_ : caption_ + "\t" + shortcut_);
+}
+
+void MenuEntry::Append(const std::string& caption, HMENU submenu) {
+    caption_ = caption;
+    position_ = static_cast<UINT>(GetMenuItemCount(menu_));
+    std::wstring shown = ShownText();
+    MENUITEMINFOW item{};
+    item.cbSize = sizeof item;
+    item.fMask = MIIM_ID | MIIM_STRING | (submenu != nullptr ? MIIM_SUBMENU : 0U);
+    item.wID = static_cast<UINT>(command_);
+    item.hSubMenu = submenu;
+    item.dwTypeData = shown.data();
+    InsertMenuItemW(menu_, position_, TRUE, &item);
+}
+
+void MenuEntry::AppendSeparator(const std::string& caption) {
+    caption_ = caption;
+    separator_ = true;
+    position_ = static_cast<UINT>(GetMenuItemCount(menu_));
+    MENUITEMINFOW item{};
+    item.cbSize = sizeof item;
+    item.fMask = MIIM_ID | MIIM_FTYPE;
+    item.fType = MFT_SEPARATOR;
+    item.wID = static_cast<UINT>(command_);
+    InsertMenuItemW(menu_, position_, TRUE, &item);
+}
+
+void MenuEntry::SetChecked(bool checked) {
+    CheckMenuItem(menu_, position_, MF_BYPOSITION | (checked ? MF_CHECKED : MF_UNCHECKED));
+}
+
+HMENU MenuEntry::Submenu() const {
+    return GetSubMenu(menu_, static_cast<int>(position_));
+}
+
+MenuBar::MenuBar() : owned_(CreateMenu()), bar_(owned_.Get()) {}
+
+MenuEntry& MenuBar::NewEntry(HMENU menu, int command, const char* name,
+                             const std::string& shortcut) {
+    entries_.push_back(std::make_unique<MenuEntry>(menu, command, name, shortcut));
+    byCommand_[command] = entries_.back().get();
+    return *entries_.back();
+}
+
+void MenuBar::AddTitle(int command, const char* name, const char* caption) {
+    open_ = CreatePopupMenu();
+    NewEntry(bar_, command, name, {}).Append(caption, open_);
+}
+
+void MenuBar::AddSubmenu(int command, const char* name, const char* caption) {
+    submenu_ = CreatePopupMenu();
+    NewEntry(open_, command, name, {}).Append(caption, submenu_);
+}
+
+void MenuBar::AddEntry(int command, const char* name, const char* caption,
+                       const std::string& shortcut) {
+    NewEntry(open_, command, name, shortcut).Append(caption, nullptr);
+}
+
+void MenuBar::AddSubmenuEntry(int command, const char* name, const char* caption) {
+    NewEntry(submenu_, command, name, {}).Append(caption, nullptr);
+}
+
+void MenuBar::AddSeparator(int command, const char* name, const char* caption) {
+    NewEntry(open_, command, name, {}).AppendSeparator(caption);
+}
+
+bool MenuBar::AttachTo(HWND form) {
+    if (SetMenu(form, bar_) == FALSE)
+        return false;
+    static_cast<void>(owned_.Release());
+    return true;
+}
+
+MenuEntry& MenuBar::Find(int command) const {
+    return *byCommand_.at(command);
+}
+
+void MenuBar::SetChecked(int command, bool checked) {
+    Find(command).SetChecked(checked);
+}
+
+std::vector<FormControl*> MenuBar::Entries() const {
+    std::vector<FormControl*> entries;
+    entries.reserve(entries_.size());
+    for (const auto& entry : entries_)
+        entries.push_back(entry.get());
+    return entries;
+}
+
+void MenuBar::OpenPopup(int titleCommand, HWND form, POINT at) const {
+    TrackPopupMenu(Find(titleCommand).Submenu(), TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON,
+                   at.x, at.y, 0, form, nullptr);
+}

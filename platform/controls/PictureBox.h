@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/controls/Control.h"
+#include "platform/Handles.h"
+
+#include <functional>
+
+// A picture that may be clicked.  It keeps its proportions and is centred in the box.
+class PictureBox : public Control {
+public:
+    PictureBox(Form& form, const ControlPlace& place);
+
+    void SetPicture(HBITMAP picture); // kept by the caller; null: nothing is drawn
+    [[nodiscard]] bool HasPicture() const noexcept { return picture_ != nullptr; }
+    [[nodiscard]] int WidthForHeight(int height) const noexcept; // in its proportions
+
+    std::function<void()> onClick;
+
+    void OnCommand(WPARAM wParam) override;
+
+protected:
+    MessageResult OnMessage(const WindowMessage& message) override;
+
+private:
+    [[nodiscard]] SIZE PictureSize() const noexcept;
+    void Paint() const;
+
+    HBITMAP picture_ = nullptr;
+};
+
+// The program's icon.
+class IconBox : public Control {
+public:
+    IconBox(Form& form, const ControlPlace& place, int designSize);
+
+    void ApplyScale() override;
+
+private:
+    int designSize_;
+    IconHandle icon_;
+};

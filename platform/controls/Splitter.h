@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/controls/Control.h"
+
+#include <functional>
+
+// The strip between two panes that takes the mouse.
+class Splitter : public Control {
+public:
+    Splitter(Form& form, const ControlPlace& place);
+
+    std::function<void()> onPress;
+    std::function<void(int x)> onDrag; // pixels from the own left edge
+    std::function<void()> onRelease;   // also when the mouse was taken away
+
+protected:
+    MessageResult OnMessage(const WindowMessage& message) override;
+
+private:
+    bool pressed_ = false;
+};

@@ -1,0 +1,25 @@
+#include "platform/controls/StatusBar.h"
+
+#include "platform/Utf16.h"
+
+#include <commctrl.h>
+
+namespace {
+
+constexpr ControlKind kStatusBar{"StatusBar", STATUSCLASSNAMEW, ""};
+
+} // namespace
+
+StatusBar::StatusBar(Form& form, const ControlPlace& place)
+    : Control(form, kStatusBar, place, WS_VISIBLE | SBARS_SIZEGRIP | CCS_BOTTOM) {
+    const int toTheEnd = -1;
+    Send(SB_SETPARTS, 1, &toTheEnd);
+}
+
+void StatusBar::SetPanelText(const std::string& text) {
+    Send(SB_SETTEXTW, 0, ToUtf16(text).c_str());
+}
+
+void StatusBar::FollowForm() {
+    Send(WM_SIZE);
+}

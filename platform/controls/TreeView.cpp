@@ -1,0 +1,207 @@
+#include "platform/controls/TreeView.h"
+
+#include "platform/Form.h"
+#include "platform/Utf16.h"
+
+#include <utility>
+#include <uxtheme.h>
+
+namespace {
+
+constexpr ControlKind kTreeView{"TreeView", WC_TREEVIEWW, ""};
+
+constexpr DWORD kTreeStyle =
+    WS_VISIBLE | WS_TABSTOP | TVS_HASBUTTONS | TVS_LINESATROOT | TVS_EDITLABELS | TVS_SHOWSELALWAYS;
+
+constexpr int kIconSize = 16;
+
+} // namespace
+
+TreeView::TreeView(Form& form, const ControlPlace& place, IconList& images)
+    : Control(form, kTreeView, place, kTreeStyle, WS_EX_CLIENTEDGE), images_(images) {
+    SetWindowTheme(Handle(), L"Explorer", nullptr);
+    Send(TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
+    ApplyColors();
+    TreeView::ApplyScale();
+}
+
+void TreeView::ApplyScale() {
+    Control::ApplyScale();
+    images_.Fit(Scale().FromDesign(kIconSize));
+    Send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.Handle()));
+    Send(TVM_SETITEMHEIGHT, static_cast<WPARAM>(-1));
+}
+
+// Not every theme fills the area beside the nodes as a list's is.
+void TreeView::ApplyColors() {
+    Send(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(GetSysColor(COLOR_WINDOW)));
+}
+
+void TreeView::AddNode(const std::string& key, const std::string& parentKey,
+                       const std::string& text, const std::string& image) {
+    const auto place = items_.emplace(key, nullptr).first;
+    std::wstring wide = ToUtf16(text);
+    TVINSERTSTRUCTW node{};
+    node.hParent = parentKey.empty() ? TVI_ROOT : Find(parentKey);
+    node.hInsertAfter = TVI_LAST;
+    node.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_PARAM;
+    node.item.pszText = wide.data();
+    node.item.iImage = images_.IndexOf(image);
+    node.item.iSelectedImage = node.item.iImage;
+    node.item.lParam = reinterpret_cast<LPARAM>(&place->first);
+    place->second = reinterpret_cast<HTREEITEM>(Send(TVM_INSERTITEMW, 0, &node));
+}
+
+void TreeView::RemoveNode(const std::string& key) {
+    const HTREEITEM item = Find(key);
+    if (item == nullptr)
+        return;
+    const bool before = std::exchange(silent_, true);
+    Forget(item);
+    Send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(item));
+    silent_ = before;
+}
+
+void TreeView::Forget(HTREEITEM item) {
+    for (auto child = reinterpret_cast<HTREEITEM>(
+             Send(TVM_GETNEXTITEM, TVGN_CHILD, reinterpret_cast<LPARAM>(item)));
+         child != nullptr; child = reinterpret_cast<HTREEITEM>(
+                               Send(TVM_GETNEXTITEM, TVGN_NEXT, reinterpret_cast<LPARAM>(child))))
+        Forget(child);
+    const std::string key = KeyOf(item);
+    TVITEMW detached{};
+    detached.mask = TVIF_HANDLE | TVIF_PARAM;
+    detached.hItem = item;
+    Send(TVM_SETITEMW, 0, &detached);
+    items_.erase(key);
+}
+
+void TreeView::SetNodeText(const std::string& key, const std::string& text) {
+    std::wstring wide = ToUtf16(text);
+    TVITEMW item{};
+    item.mask = TVIF_HANDLE | TVIF_TEXT;
+    item.hItem = Find(key);
+    item.pszText = wide.data();
+    Send(TVM_SETITEMW, 0, &item);
+}
+
+void TreeView::ExpandNode(const std::string& key) {
+    Send(TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(Find(key)));
+}
+
+void TreeView::SelectNode(const std::string& key) {
+    const bool before = std::exchange(silent_, true);
+    Send(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(Find(key)));
+    silent_ = before;
+}
+
+void TreeView::EditLabel(const std::string& key) {
+    Focus();
+    Send(TVM_EDITLABELW, 0, reinterpret_cast<LPARAM>(Find(key)));
+}
+
+std::string TreeView::SelectedKey() const {
+    return KeyOf(Selected());
+}
+
+HTREEITEM TreeView::Find(const std::string& key) const {
+    const auto found = items_.find(key);
+    return found != items_.end() ? found->second : nullptr;
+}
+
+std::string TreeView::KeyOf(HTREEITEM item) const {
+    TVITEMW info{};
+    info.mask = TVIF_HANDLE | TVIF_PARAM;
+    info.hItem = item;
+    if (item == nullptr || Send(TVM_GETITEMW, 0, &info) == FALSE || info.lParam == 0)
+        return {};
+    return *reinterpret_cast<const std::string*>(info.lParam);
+}
+
+HTREEITEM TreeView::Selected() const {
+    return reinterpret_cast<HTREEITEM>(Send(TVM_GETNEXTITEM, TVGN_CARET));
+}
+
+HTREEITEM TreeView::ItemAt(POINT point) const {
+    TVHITTESTINFO hit{};
+    hit.pt = point;
+    Send(TVM_HITTEST, 0, &hit);
+    return (hit.flags & TVHT_ONITEM) != 0 ? hit.hItem : nullptr;
+}
+
+MessageResult TreeView::OnNotify(NMHDR& header) {
+    switch (header.code) {
+    case TVN_SELCHANGEDW:
+        if (const std::string key = SelectedKey(); !silent_ && !key.empty())
+            Raise(onClick, key);
+        return 0;
+    case TVN_KEYDOWN:
+        if (reinterpret_cast<const NMTVKEYDOWN&>(header).wVKey == VK_F2)
+            Raise(onEditRequested);
+        return 0;
+    case TVN_BEGINLABELEDITW:
+        editing_ = true;
+        return FALSE; // go on
+    case TVN_ENDLABELEDITW:
+        EndLabelEdit(reinterpret_cast<const NMTVDISPINFOW&>(header));
+        return FALSE; // the text is shown when the program sets it
+    default:
+        return {};
+    }
+}
+
+// The platform may tell the end of one edit twice.
+void TreeView::EndLabelEdit(const NMTVDISPINFOW& info) {
+    if (!std::exchange(editing_, false) || info.item.pszText == nullptr)
+        return;
+    const std::string text = ToUtf8(info.item.pszText);
+    Raise(onLabelEdited, KeyOf(info.item.hItem), text);
+}
+
+MessageResult TreeView::OnMessage(const WindowMessage& message) {
+    switch (message.id) {
+    case WM_LBUTTONDOWN: {
+        // A click on the selected node changes nothing in the control, but it is a click.
+        const HTREEITEM hit = ItemAt(PointOf(message));
+        const bool again = hit != nullptr && hit == Selected();
+        const std::string key = KeyOf(hit);
+        const LRESULT result = Default(message);
+        if (again && !key.empty())
+            Raise(onClick, key);
+        return result;
+    }
+    case WM_ERASEBKGND: {
+        RECT area{};
+        GetClientRect(message.window, &area);
+        FillRect(reinterpret_cast<HDC>(message.wParam), &area, GetSysColorBrush(COLOR_WINDOW));
+        return 1;
+    }
+    case WM_SYSCOLORCHANGE:
+        ApplyColors();
+        return {};
+    case WM_RBUTTONDOWN:
+        Focus();
+        if (const HTREEITEM hit = ItemAt(PointOf(message)))
+            Send(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(hit));
+        OpenContextMenu(message);
+        return 0;
+    case WM_CONTEXTMENU:
+        if (message.lParam == -1) // the keyboard's menu key
+            OpenContextMenu(message);
+        return 0;
+    default:
+        return {};
+    }
+}
+
+void TreeView::OpenContextMenu(const WindowMessage& message) {
+    POINT at = PointOf(message);
+    if (message.id == WM_CONTEXTMENU) {
+        RECT bounds{};
+        *reinterpret_cast<HTREEITEM*>(&bounds) = Selected(); // as TVM_GETITEMRECT takes it
+        at = Send(TVM_GETITEMRECT, TRUE, &bounds) != FALSE ? POINT{bounds.left, bounds.bottom}
+                                                           : POINT{};
+    }
+    ClientToScreen(message.window, &at);
+    Raise(onContextMenu, at);
+}

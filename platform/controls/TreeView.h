@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/controls/Control.h"
+#include "platform/Icons.h"
+
+#include <functional>
+#include <string>
+#include <unordered_map>
+
+// A tree of named nodes.  It speaks the keys of its nodes; what the program changes is not reported
+// back, what the user does is.
+class TreeView : public Control {
+public:
+    // The image list is kept by the caller and fitted by this tree.
+    TreeView(Form& form, const ControlPlace& place, IconList& images);
+
+    void AddNode(const std::string& key, const std::string& parentKey, const std::string& text,
+                 const std::string& image);
+    void RemoveNode(const std::string& key);
+    void SetNodeText(const std::string& key, const std::string& text);
+    void ExpandNode(const std::string& key);
+    void SelectNode(const std::string& key); // empty: none
+    void EditLabel(const std::string& key);
+    [[nodiscard]] std::string SelectedKey() const;
+
+    void SetAccessibleName(const std::string& name) { SetText(name); }
+
+    std::function<void(const std::string& key)> onClick; // a node was selected or clicked again
+    std::function<void(const std::string& key, const std::string& text)> onLabelEdited;
+    std::function<void()> onEditRequested;           // F2
+    std::function<void(POINT screen)> onContextMenu; // the node under it is selected
+
+    MessageResult OnNotify(NMHDR& header) override;
+    void ApplyScale() override;
+
+protected:
+    MessageResult OnMessage(const WindowMessage& message) override;
+
+private:
+    [[nodiscard]] HTREEITEM Find(const std::string& key) const; // null: there is none
+    [[nodiscard]] std::string KeyOf(HTREEITEM item) const;      // empty: there is none
+    [[nodiscard]] HTREEITEM Selected() const;
+    [[nodiscard]] HTREEITEM ItemAt(POINT point) const;
+    void ApplyColors();
+    void Forget(HTREEITEM item);
+    void EndLabelEdit(const NMTVDISPINFOW& info);
+    void OpenContextMenu(const WindowMessage& message);
+
+    IconList& images_;
+    std::unordered_map<std::string, HTREEITEM> items_; // an item's lParam points at its key here
+    bool silent_ = false;                              // the program itself changes the selection
+    bool editing_ = false;
+};

@@ -1,0 +1,60 @@
+#include "standin/com/Canvas.h"
+
+#include "platform/Utf16.h"
+
+Canvas::Canvas(HDC device, HFONT font) : device_(device), fontBefore_(SelectObject(device, font)) {
+    SetBkMode(device_, TRANSPARENT);
+}
+
+Canvas::~Canvas() {
+    SelectObject(device_, fontBefore_);
+}
+
+void Canvas::Fill(const RECT& area, ColorNumber color) const {
+    const BrushHandle brush(CreateSolidBrush(color));
+    FillRect(device_, &area, brush.Get());
+}
+
+void Canvas::Frame(const RECT& area, ColorNumber color, int thickness) const {
+    Fill({area.left, area.top, area.right, area.top + thickness}, color);
+    Fill({area.left, area.bottom - thickness, area.right, area.bottom}, color);
+    Fill({area.left, area.top, area.left + thickness, area.bottom}, color);
+    Fill({area.right - thickness, area.top, area.right, area.bottom}, color);
+}
+
+void Canvas::FillPolygon(const POINT* points, int count, ColorNumber color) const {
+    const BrushHandle brush(CreateSolidBrush(color));
+    const HGDIOBJ brushBefore = SelectObject(device_, brush.Get());
+    const HGDIOBJ penBefore = SelectObject(device_, GetStockObject(NULL_PEN));
+    Polygon(device_, points, count);
+    SelectObject(device_, penBefore);
+    SelectObject(device_, brushBefore);
+}
+
+void Canvas::Text(const std::string& text, RECT area, ColorNumber color, UINT format) const {
+    SetTextColor(device_, color);
+    DrawTextW(device_, ToUtf16(text).c_str(), -1, &area, format | DT_NOPREFIX);
+}
+
+void Canvas::Pixels(int left, int top, int size, const std::uint32_t* pixels) const {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = size;
+    info.bmiHeader.biHeight = -size; // rows from the top
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    SetDIBitsToDevice(device_, left, top, static_cast<DWORD>(size), static_cast<DWORD>(size), 0, 0,
+                      0, static_cast<UINT>(size), pixels, &info, DIB_RGB_COLORS);
+}
+
+ColorNumber ReadableOn(ColorNumber background) noexcept {
+    const RedGreenBlue color = SplitColorNumber(background);
+    const int brightness = color.red * 299 + color.green * 587 + color.blue * 114;
+    return brightness > 140'000 ? 0x202020 : 0xFFFFFF;
+}
+
+ColorNumber Darker(ColorNumber color, int percent) noexcept {
+    const RedGreenBlue parts = SplitColorNumber(color);
+    return MakeColorNumber(parts.red * percent / 100, parts.green * percent / 100,
+                           parts.blue * percent / 100);
+}

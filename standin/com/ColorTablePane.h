@@ -1,0 +1,22 @@
+#pragma once
+
+#include "standin/com/PaintedPane.h"
+#include "standin/model/Document.h"
+
+// The named standard colours of the document.
+class ColorTablePane : public PaintedPane {
+public:
+    ColorTablePane(Form& form, const ControlPlace& place) : PaintedPane(form, place) {}
+
+    void SetDocument(const DocumentPtr& document);
+    void Refresh();
+
+protected:
+    void Paint(const Canvas& canvas, const RECT& area) override;
+
+private:
+    [[nodiscard]] RECT CellOf(const RECT& area, int index, int count) const;
+    void PaintEntry(const Canvas& canvas, const RECT& cell, const NamedColor& entry) const;
+
+    DocumentPtr document_;
+};

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/controls/Control.h"
+#include "platform/Handles.h"
+#include "standin/model/ObjectRows.h"
+
+#include <functional>
+
+// Everything of the active document that can be selected, with the colour it shows.  What is
+// selected in the list is selected in the document, and the other way round.
+class ObjectList : public Control {
+public:
+    ObjectList(Form& form, const ControlPlace& place);
+
+    // All rows are new.
+    void SetRows(std::vector<SelectedItem> rows);
+    [[nodiscard]] const std::vector<SelectedItem>& Rows() const noexcept { return rows_; }
+
+    // Shows this selection, without reporting it.
+    void ShowSelection(const Selection& selection);
+
+    // The user has changed which rows are selected; they are passed in the order of the list.
+    std::function<void(const std::vector<SelectedItem>&)> onSelect;
+
+    MessageResult OnNotify(NMHDR& header) override;
+    void ApplyScale() override;
+
+protected:
+    MessageResult OnMessage(const WindowMessage& message) override;
+
+private:
+    void AddColumn(int index, const wchar_t* caption);
+    void SizeColumns();
+    void SizeRows();
+    void FillItem(LVITEMW& item) const;
+    [[nodiscard]] std::string CellText(const SelectedItem& item, int column) const;
+    MessageResult Draw(const NMLVCUSTOMDRAW& draw) const;
+    void DrawChip(const NMLVCUSTOMDRAW& draw) const;
+    void RequestReport();
+    void Report();
+    void SetSelected(int row, bool selected) const;
+
+    std::vector<SelectedItem> rows_;
+    std::vector<SelectedItem> shown_; // the selection as the list shows it
+    ImageListHandle spacer_;
+    bool silent_ = false; // the program itself changes the selection
+    bool reportRequested_ = false;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "standin/com/ComObject.h"
+#include "standin/com/ServedObjects.h"
+
+#include <oaidl.h>
+
+// IDispatch for one object of the stand-in.  Names are found whatever their letter case; a call
+// with METHOD or PROPERTYGET reads, one with PROPERTYPUT assigns.  No exception leaves it: the
+// words of a RuntimeError go into EXCEPINFO, a rejected call returns RPC_E_CALL_REJECTED.
+class ServedObject final : public ComObject<IDispatch> {
+public:
+    ServedObject(std::shared_ptr<ServedObjects> objects, StandInObjectPtr object)
+        : objects_(std::move(objects)), object_(std::move(object)) {}
+
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count,
+                                            LCID locale, DISPID* ids) override;
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags,
+                                     DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
+                                     UINT* badArgument) override;
+
+private:
+    ~ServedObject() override { objects_->Forget(*object_); }
+
+    [[nodiscard]] DISPID Resolve(const OLECHAR* name);
+    void Call(const std::string& member, const DISPPARAMS& parameters, VARIANT* result);
+    void Assign(const std::string& member, const DISPPARAMS& parameters);
+
+    std::shared_ptr<ServedObjects> objects_;
+    StandInObjectPtr object_;
+};

@@ -1,0 +1,19 @@
+#include "standin/model/Application.h"
+
+#include "standin/model/Document.h"
+
+const MemberTable<SolidWorksApplication>& SolidWorksApplication::Members() const {
+    static const MemberTable<SolidWorksApplication> members{
+        {"ActiveDoc", 0,
+         [](SolidWorksApplication& application, const AutomationArray&) -> AutomationValue {
+             return AutomationObjectPtr(application.session_->activeDocument.lock());
+         }},
+        {"RevisionNumber", 0,
+         [](SolidWorksApplication& application, const AutomationArray&) -> AutomationValue {
+             return application.session_->revision;
+         }},
+        {"Visible", 0,
+         [](SolidWorksApplication&, const AutomationArray&) -> AutomationValue { return true; }},
+    };
+    return members;
+}

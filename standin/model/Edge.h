@@ -1,0 +1,13 @@
+#pragma once
+
+#include "standin/model/Entity.h"
+#include "standin/model/WithMembers.h"
+
+// An edge: can be selected, carries no colour.
+class Edge final : public WithMembers<Edge, Entity> {
+public:
+    Edge(SessionPtr session, std::string name, std::weak_ptr<Document> owner)
+        : WithMembers(std::move(session), EntityKind::Edge, std::move(name), std::move(owner)) {}
+
+    [[nodiscard]] const MemberTable<Edge>& Members() const;
+};

@@ -1,0 +1,76 @@
+#include "common/Numbers.h"
+
+#include "common/RuntimeError.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace {
+
+int ErrorNumberOf(const std::function<void()>& action) {
+    try {
+        action();
+        return 0;
+    } catch (const RuntimeError& error) {
+        return error.Number();
+    }
+}
+
+TEST(LeadingNumber, StopsAtTheFirstCharacterThatIsNotPartOfANumber) {
+    EXPECT_EQ(LeadingNumber("100x;"), 100);
+    EXPECT_EQ(LeadingNumber("  -12.5;T=3"), -12.5);
+    EXPECT_EQ(LeadingNumber("9.0.1"), 9.0);
+    EXPECT_EQ(LeadingNumber("+7"), 7);
+}
+
+TEST(LeadingNumber, IsZeroWithoutANumber) {
+    for (const char* text : {"", "   ", "x1", "-", "+", "inf", "nan", "+-3", "--3"})
+        EXPECT_EQ(LeadingNumber(text), 0) << text;
+}
+
+TEST(RoundHalfToEven, TakesAnExactHalfToTheEvenNeighbour) {
+    EXPECT_EQ(RoundHalfToEven(0.5), 0);
+    EXPECT_EQ(RoundHalfToEven(1.5), 2);
+    EXPECT_EQ(RoundHalfToEven(2.5), 2);
+    EXPECT_EQ(RoundHalfToEven(127.5), 128);
+    EXPECT_EQ(RoundHalfToEven(-0.5), 0);
+    EXPECT_EQ(RoundHalfToEven(-1.5), -2);
+    EXPECT_EQ(RoundHalfToEven(2.4999), 2);
+    EXPECT_EQ(RoundHalfToEven(2.5001), 3);
+}
+
+TEST(TextToInt16, ConvertsAndRoundsTheWholeText) {
+    EXPECT_EQ(TextToInt16("255"), 255);
+    EXPECT_EQ(TextToInt16(" -32768 "), -32768);
+    EXPECT_EQ(TextToInt16("1.5"), 2);
+    EXPECT_EQ(TextToInt16("7\r\n"), 7);
+}
+
+TEST(TextToInt16, RefusesWhatIsNoNumberOrDoesNotFit) {
+    for (const char* text : {"", ".", "abc", "1 2", "12x", "1,5"})
+        EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(TextToInt16(text)); }),
+                  ErrorNumber::TypeMismatch)
+            << text;
+    EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(TextToInt16("32768")); }),
+              ErrorNumber::Overflow);
+    EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(TextToInt32("1e99999")); }),
+              ErrorNumber::Overflow);
+}
+
+TEST(TextToBoolean, TakesTheWordsInAnyLetterCaseAndNumbers) {
+    EXPECT_TRUE(TextToBoolean("True"));
+    EXPECT_TRUE(TextToBoolean("TRUE"));
+    EXPECT_TRUE(TextToBoolean("-1"));
+    EXPECT_FALSE(TextToBoolean("false"));
+    EXPECT_FALSE(TextToBoolean("0"));
+    EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(TextToBoolean("yes")); }),
+              ErrorNumber::TypeMismatch);
+}
+
+TEST(SingleToText, IsTheShortestDecimalTextWithoutExponent) {
+    EXPECT_EQ(SingleToText(1200), "1200");
+    EXPECT_EQ(SingleToText(-7.5F), "-7.5");
+    EXPECT_EQ(SingleToText(100000000), "100000000");
+}
+
+} // namespace

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "common/ports/AnsiCodePage.h"
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+// A single-byte code page: ASCII, and a table for the upper half.
+class FakeCodePage : public AnsiCodePage {
+public:
+    // Western (Windows-1252): Latin-1 from 0xA0 on, and a few of the characters in between.
+    static FakeCodePage Western() {
+        FakeCodePage page;
+        for (std::uint32_t byte = 0xA0; byte <= 0xFF; ++byte)
+            page.Add(static_cast<unsigned char>(byte), byte);
+        page.Add(0x80, 0x20AC);
+        page.Add(0x96, 0x2013);
+        return page;
+    }
+
+    // Cyrillic (Windows-1251): the letters, and no division sign.
+    static FakeCodePage Cyrillic() {
+        FakeCodePage page;
+        for (std::uint32_t byte = 0xC0; byte <= 0xFF; ++byte)
+            page.Add(static_cast<unsigned char>(byte), byte - 0xC0 + 0x410);
+        return page;
+    }
+
+    std::string Decode(std::string_view bytes) const override {
+        std::string text;
+        for (const char character : bytes) {
+            const auto byte = static_cast<unsigned char>(character);
+            const auto found = characters_.find(byte);
+            text += byte < 0x80 ? std::string(1, character)
+                                : Utf8(found == characters_.end() ? 0xFFFD : found->second);
+        }
+        return text;
+    }
+
+    Encoded Encode(std::string_view utf8) const override {
+        Encoded encoded;
+        while (!utf8.empty()) {
+            const std::size_t length = LengthOf(utf8);
+            const std::string character(utf8.substr(0, length));
+            utf8.remove_prefix(length);
+            const auto found = bytes_.find(character);
+            if (length == 1)
+                encoded.bytes += character;
+            else if (found != bytes_.end())
+                encoded.bytes += static_cast<char>(found->second);
+            else
+                Refuse(encoded, character);
+        }
+        return encoded;
+    }
+
+private:
+    void Add(unsigned char byte, std::uint32_t codePoint) {
+        characters_[byte] = codePoint;
+        bytes_[Utf8(codePoint)] = byte;
+    }
+    static void Refuse(Encoded& encoded, const std::string& character) {
+        encoded.bytes += '?';
+        if (encoded.unstored.find(character) == std::string::npos)
+            encoded.unstored += character;
+    }
+    static std::size_t LengthOf(std::string_view utf8) {
+        std::size_t length = 1;
+        while (length < utf8.size() && (static_cast<unsigned char>(utf8[length]) & 0xC0) == 0x80)
+            ++length;
+        return length;
+    }
+    static std::string Utf8(std::uint32_t codePoint) {
+        const auto tail = [](std::uint32_t bits) {
+            return static_cast<char>(0x80 | (bits & 0x3F));
+        };
+        if (codePoint < 0x80)
+            return {static_cast<char>(codePoint)};
+        if (codePoint < 0x800)
+            return {static_cast<char>(0xC0 | (codePoint >> 6)), tail(codePoint)};
+        return {static_cast<char>(0xE0 | (codePoint >> 12)), tail(codePoint >> 6), tail(codePoint)};
+    }
+
+    std::map<unsigned char, std::uint32_t> characters_;
+    std::map<std::string, unsigned char> bytes_;
+};

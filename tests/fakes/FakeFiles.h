@@ -1,0 +1,85 @@
+#pragma once
+
+#include "common/ports/Files.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+// A file system in memory.  Each step can be made to fail, and every step is counted, so that a
+// test can let the n-th one fail or end the process there.
+class FakeFiles : public Files {
+public:
+    // Thrown by the step at which the process "is killed".
+    struct Killed {};
+
+    enum class FailureKind { Reported, Killed };
+
+    // The step with this number (from 1) fails; 0: none does.
+    void FailAtStep(int step, FailureKind kind) {
+        failingStep_ = step;
+        kind_ = kind;
+        steps_ = 0;
+    }
+    [[nodiscard]] int Steps() const { return steps_; }
+
+    std::string FindNormalFile(const std::string& path) override {
+        const auto found = contents.find(path);
+        return found == contents.end() ? std::string() : path.substr(path.rfind('\\') + 1);
+    }
+    bool Exists(const std::string& path) override { return contents.contains(path); }
+    std::optional<std::string> ReadWhole(const std::string& path) override {
+        const auto found = contents.find(path);
+        if (found == contents.end() || unreadable.contains(path))
+            return {};
+        return found->second;
+    }
+    std::unique_ptr<OutputFile> Create(const std::string& path) override {
+        if (Fails())
+            return nullptr;
+        contents[path].clear();
+        return std::make_unique<Output>(*this, path);
+    }
+    bool Replace(const std::string& from, const std::string& to) override {
+        if (Fails() || !contents.contains(from) || locked.contains(from) || locked.contains(to))
+            return false;
+        contents[to] = contents.at(from);
+        contents.erase(from);
+        return true;
+    }
+    bool Remove(const std::string& path) override { return contents.erase(path) > 0; }
+
+    std::map<std::string, std::string> contents; // by path
+    std::map<std::string, bool> unreadable;      // paths that cannot be read
+    std::map<std::string, bool> locked;          // paths that cannot be renamed or replaced
+
+private:
+    class Output : public OutputFile {
+    public:
+        Output(FakeFiles& files, std::string path) : files_(files), path_(std::move(path)) {}
+        bool Write(std::string_view bytes) override {
+            // A failing disk takes a part of the bytes.
+            const bool fails = files_.Fails();
+            files_.contents[path_] += bytes.substr(0, fails ? bytes.size() / 2 : bytes.size());
+            return !fails;
+        }
+        bool Flush() override { return !files_.Fails(); }
+        bool Close() override { return !files_.Fails(); }
+
+    private:
+        FakeFiles& files_;
+        std::string path_;
+    };
+
+    bool Fails() {
+        if (++steps_ != failingStep_)
+            return false;
+        if (kind_ == FailureKind::Killed)
+            throw Killed{};
+        return true;
+    }
+
+    int failingStep_ = 0;
+    FailureKind kind_ = FailureKind::Reported;
+    int steps_ = 0;
+};

@@ -1,0 +1,112 @@
+#pragma once
+
+#include "mainwindow/MainView.h"
+
+#include <array>
+#include <map>
+#include <string>
+#include <vector>
+
+// A main window in memory: keeps what it is told as a person would see it.
+class FakeMainView : public MainView {
+public:
+    // Tree
+    void NodeAdded(const LibraryNode& node) override { nodes[node.key] = node.text; }
+    void NodeRemoved(const std::string& key) override {
+        std::erase_if(nodes, [&](const auto& node) { return node.first.starts_with(key); });
+    }
+    void NodeTextChanged(const std::string& key, const std::string& text) override {
+        nodes[key] = text;
+    }
+    void NodeExpanded(const std::string& key) override { expanded[key] = true; }
+    void NodeSelected(const std::string& key) override { selectedNode = key; }
+    void EditNodeLabel(const std::string& key) override { editedNode = key; }
+
+    // List
+    float ListWidth() const override { return listWidth; }
+    void AddColumns(const std::vector<ListColumn>& added) override { columns = added; }
+    void RowsChanged(int count) override {
+        rowCount = count;
+        selectedRow = -1;
+    }
+    void SelectRow(int row) override { selectedRow = row; }
+    void EnsureRowVisible(int row) override { visibleRow = row; }
+    void EditRowLabel(int row) override { editedRow = row; }
+    void SetListViewMode(ListViewMode mode) override { listMode = mode; }
+
+    // Editor
+    void SetColorName(const std::string& name) override { colorName = name; }
+    void SetValueText(std::size_t index, const std::string& text) override {
+        valueTexts.at(index) = text;
+        selectedWhole.at(index) = false;
+    }
+    void SelectWholeValueText(std::size_t index) override { selectedWhole.at(index) = true; }
+    void SetSlider(std::size_t index, int position) override { sliders.at(index) = position; }
+    void SetLargeSwatch(ColorNumber background) override { largeSwatch = background; }
+    void SetSmallSwatch(ColorNumber background, ColorNumber text) override {
+        smallSwatch = background;
+        smallSwatchText = text;
+    }
+    void SetSmallSwatchCaption(const std::string& caption) override { smallCaption = caption; }
+
+    // Bars
+    void SetMenuChecked(int command, bool checked) override { checks[command] = checked; }
+    void SetButtonPressed(const std::string& key, bool pressed) override { presses[key] = pressed; }
+    void SetButtonVisible(const std::string& key, bool visible) override {
+        buttonsVisible[key] = visible;
+    }
+    void SetToolbarVisible(bool visible) override { toolbarVisible = visible; }
+    void SetStatusBarVisible(bool visible) override { statusBarVisible = visible; }
+    void SetInfoPanelText(const std::string& text) override { infoPanel = text; }
+
+    // Layout
+    LayoutMetrics Metrics() const override { return metrics; }
+    void ApplyLayout(const MainLayout& applied) override {
+        layout = applied;
+        ++layouts;
+    }
+    void ShowSplitterBar(const TwipsRect& bounds) override {
+        splitterBar = bounds;
+        splitterBarShown = true;
+    }
+    void HideSplitterBar() override { splitterBarShown = false; }
+
+    // Window
+    void ShowWindow() override { isShown = true; }
+    void SetBanner(int index) override { banner = index; }
+    void EndProgram() override { isEnded = true; }
+
+    std::map<std::string, std::string> nodes; // text by key
+    std::map<std::string, bool> expanded;
+    std::string selectedNode;
+    std::string editedNode;
+    float listWidth = 6000;
+    std::vector<ListColumn> columns;
+    int rowCount = 0;
+    int selectedRow = -1;
+    int visibleRow = -1;
+    int editedRow = -1;
+    ListViewMode listMode = ListViewMode::LargeIcons;
+    std::string colorName;
+    std::array<std::string, 9> valueTexts;
+    std::array<bool, 9> selectedWhole{};
+    std::array<int, 9> sliders{};
+    ColorNumber largeSwatch = 0;
+    ColorNumber smallSwatch = 0;
+    ColorNumber smallSwatchText = 0;
+    std::string smallCaption;
+    std::map<int, bool> checks;
+    std::map<std::string, bool> presses;
+    std::map<std::string, bool> buttonsVisible;
+    bool toolbarVisible = true;
+    bool statusBarVisible = true;
+    std::string infoPanel;
+    LayoutMetrics metrics{WindowState::Normal, 12000, 11760, 8000, 400, 300, 2400, 360};
+    MainLayout layout;
+    int layouts = 0;
+    TwipsRect splitterBar;
+    bool splitterBarShown = false;
+    bool isShown = false;
+    int banner = -1;
+    bool isEnded = false;
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "common/Numbers.h"
+#include "common/ports/PrivateProfile.h"
+
+#include <map>
+#include <string>
+#include <tuple>
+#include <vector>
+
+// Private-profile files in memory; the first value of a key wins, as on the platform.
+class FakeProfile : public PrivateProfile {
+public:
+    std::int32_t GetInt(const std::string& section, const std::string& key, std::int32_t fallback,
+                        const std::string& file) override {
+        const auto found = values.find({file, section, key});
+        return found == values.end() ? fallback
+                                     : static_cast<std::int32_t>(LeadingNumber(found->second));
+    }
+    std::string GetString(const std::string& section, const std::string& key,
+                          const std::string& fallback, const std::string& file,
+                          std::uint32_t bufferSize) override {
+        asked.push_back(section + "/" + key);
+        const auto found = values.find({file, section, key});
+        return (found == values.end() ? fallback : found->second).substr(0, bufferSize - 1);
+    }
+    bool WriteString(const std::string& section, const std::string& key, const std::string& value,
+                     const std::string& file) override {
+        if (isReadOnly)
+            return false;
+        written.push_back(section + "/" + key + "=" + value);
+        values[{file, section, key}] = value;
+        return true;
+    }
+
+    std::map<std::tuple<std::string, std::string, std::string>, std::string> values;
+    std::vector<std::string> asked;
+    std::vector<std::string> written;
+    bool isReadOnly = false;
+};

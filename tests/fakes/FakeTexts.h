@@ -1,0 +1,11 @@
+#pragma once
+
+#include "common/ports/InfoTexts.h"
+
+// Each text is its number in angle brackets: <99>.
+class FakeTexts : public InfoTexts {
+public:
+    std::string GetInfoText(std::int32_t number) override {
+        return "<" + std::to_string(number) + ">";
+    }
+};

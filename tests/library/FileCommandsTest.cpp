@@ -1,0 +1,215 @@
+#include "library/FileCommands.h"
+
+#include "tests/fakes/FakeCodePage.h"
+#include "tests/fakes/FakeFiles.h"
+#include "tests/fakes/FakeLibraryHost.h"
+#include "tests/fakes/FakeProgress.h"
+#include "tests/fakes/FakePrompts.h"
+#include "tests/fakes/FakeTexts.h"
+
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+namespace {
+
+using Message = FakePrompts::Message;
+
+constexpr const char* kA = "C:\\lib\\a.tnt";
+constexpr const char* kB = "C:\\lib\\b.tnt";
+constexpr const char* kContent = "\"D#Lib=0D:1\"\r\n\"G#g=0DG1\"\r\n";
+
+class FileCommandsTest : public testing::Test {
+protected:
+    FileCommandsTest() {
+        library.SetHost(libraryHost);
+        libraryFiles.SetHost(libraryHost);
+        commands.SetHost(host);
+        files.contents[kA] = kContent;
+        files.contents[kB] = kContent;
+    }
+
+    void Open(const std::string& path, Answer autoload = Answer::No) {
+        prompts.chosenFiles.emplace_back(path);
+        prompts.answers.push_back(autoload);
+        commands.mnuFileOpen_Click();
+    }
+
+    FakePrompts prompts;
+    FakeTexts texts;
+    FakeFiles files;
+    FakeProgress progress;
+    FakeLibraryHost libraryHost;
+    FakeFileCommandsHost host;
+    Settings settings;
+    FakeCodePage codePage = FakeCodePage::Western();
+    ColorLibrary library{prompts, texts};
+    LibraryFiles libraryFiles{library, settings, {files, codePage, prompts, texts, progress}};
+    FileCommands commands{{library, libraryFiles, settings, prompts, texts, "C:\\prog"}};
+};
+
+TEST_F(FileCommandsTest, OpenAsksWithTitleFilterAndFlags) {
+    Open(kA);
+    ASSERT_EQ(prompts.fileRequests.size(), 1U);
+    EXPECT_EQ(prompts.fileRequests[0].title, "<20>");
+    EXPECT_EQ(prompts.fileRequests[0].filter, "<21>|*.tnt|<22>|*.*");
+    EXPECT_EQ(prompts.fileRequests[0].flags, 0x1800U);
+}
+
+TEST_F(FileCommandsTest, OpenShowsTheFilesNameAndAsksWhetherToLoadItAtEveryStart) {
+    Open(kA, Answer::Yes);
+    EXPECT_EQ(host.status, std::vector<std::string>{"Okay a.tnt"});
+    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<24>\r\nC:\\lib\\a.tnt", 36, "<21>"}}));
+    EXPECT_EQ(settings.defaultColorFile, kA);
+}
+
+TEST_F(FileCommandsTest, NoLeavesTheDefaultFileAsItWas) {
+    settings.defaultColorFile = "before";
+    Open(kA, Answer::No);
+    EXPECT_EQ(settings.defaultColorFile, "before");
+}
+
+TEST_F(FileCommandsTest, CancelledOpenDoesNothing) {
+    prompts.chosenFiles.emplace_back();
+    commands.mnuFileOpen_Click();
+    EXPECT_TRUE(prompts.messages.empty());
+    EXPECT_TRUE(library.Tree().MainNodes().empty());
+}
+
+TEST_F(FileCommandsTest, InvalidFileGivesTwoMessages) {
+    files.contents[kA] = "rubbish";
+    Open(kA);
+    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<5> C:\\lib\\a.tnt", 48, "<98>"},
+                                                      {"<6>C:\\lib\\a.tnt", 16, "<98>"}}));
+    EXPECT_TRUE(host.status.empty());
+}
+
+TEST_F(FileCommandsTest, SaveWithoutALibraryDoesNothing) {
+    commands.mnuFileSave_Click();
+    commands.mnuFileSaveAs_Click();
+    EXPECT_TRUE(prompts.fileRequests.empty());
+    EXPECT_TRUE(prompts.messages.empty());
+}
+
+TEST_F(FileCommandsTest, SaveWritesToTheLibrarysFileAndKeepsABackup) {
+    Open(kA);
+    library.Tree().SetText("0DG1", "renamed");
+    commands.mnuFileSave_Click();
+    EXPECT_NE(files.contents.at(kA).find("renamed"), std::string::npos);
+    EXPECT_EQ(files.contents.at(std::string(kA) + ".bak"), kContent);
+    EXPECT_EQ(host.status.back(), "Okay a.tnt");
+}
+
+TEST_F(FileCommandsTest, SaveRetargetsTheLibraryToTheDialogsFile) {
+    Open(kA);
+    Open(kB);
+    library.Tree().Select("0D");
+    commands.mnuFileSave_Click();
+    EXPECT_EQ(library.Tree().At("0D").tag, kB) << "the dialog's file, not the one just written";
+    EXPECT_EQ(host.status.back(), "Okay b.tnt");
+    EXPECT_EQ(files.contents.at(kB), kContent) << "written was the library's own file";
+    EXPECT_TRUE(files.contents.contains(std::string(kA) + ".bak"));
+}
+
+TEST_F(FileCommandsTest, SaveOfANewLibraryIsSaveAsInTheProgramsFolder) {
+    prompts.typed = {"Lib", "Grp", "Col"};
+    commands.mnuFileNew_Click();
+    prompts.chosenFiles.emplace_back("C:\\lib\\new.tnt");
+    commands.mnuFileSave_Click();
+    ASSERT_EQ(prompts.fileRequests.size(), 1U);
+    EXPECT_EQ(prompts.fileRequests[0].fileName, "C:\\prog\\newtnt.tnt");
+    EXPECT_EQ(prompts.fileRequests[0].flags, 0x8806U);
+    EXPECT_EQ(library.Tree().At("0D").tag, "C:\\lib\\new.tnt");
+    EXPECT_EQ(library.Tree().At("0D").text, "Lib") << "saving does not rename a library";
+    EXPECT_EQ(host.status.back(), "Okay new.tnt");
+}
+
+TEST_F(FileCommandsTest, SaveAsPresetsTheLibrarysFile) {
+    Open(kA);
+    Open(kB);
+    library.Tree().Select("0DG1");
+    commands.mnuFileSaveAs_Click();
+    EXPECT_EQ(prompts.fileRequests.back().fileName, kA);
+}
+
+TEST_F(FileCommandsTest, CancelledSaveAsGivesTheDialogItsFileNameBack) {
+    Open(kA);
+    Open(kB);
+    library.Tree().Select("0D");
+    commands.mnuFileSaveAs_Click(); // cancelled
+    EXPECT_EQ(commands.DialogFileName(), kB);
+}
+
+TEST_F(FileCommandsTest, FailedSaveNamesTheDialogsFileAndKeepsTheTag) {
+    Open(kA);
+    files.locked[kA] = true;
+    prompts.messages.clear();
+    commands.mnuFileSave_Click();
+    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<4>C:\\lib\\a.tnt", 16, "<98>"}}));
+    EXPECT_EQ(library.Tree().At("0D").tag, kA);
+    EXPECT_EQ(files.contents.at(kA), kContent);
+}
+
+TEST_F(FileCommandsTest, LibraryWithoutGroupsCountsAsAFailedSave) {
+    library.NewMainNode("Lib");
+    library.Tree().SetTag("0D", "C:\\lib\\c.tnt");
+    commands.mnuFileSave_Click();
+    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<103>", 64, "<30>"}, {"<4>", 16, "<98>"}}));
+}
+
+TEST_F(FileCommandsTest, CloseDoesNotAskAndRestoresConfirmDel) {
+    bool during = true;
+    host.onDelete = [&] { during = settings.confirmDel; };
+    commands.mnuFileClose_Click();
+    EXPECT_EQ(host.deletions, 1);
+    EXPECT_FALSE(during);
+    EXPECT_TRUE(settings.confirmDel);
+}
+
+TEST_F(FileCommandsTest, CloseRestoresConfirmDelAlsoWhenSomethingFails) {
+    host.onDelete = [] { throw std::runtime_error("failed"); };
+    EXPECT_THROW(commands.mnuFileClose_Click(), std::runtime_error);
+    EXPECT_TRUE(settings.confirmDel);
+}
+
+TEST_F(FileCommandsTest, CancelAutoloadAsksAlsoWithoutADefaultFile) {
+    prompts.answers = {Answer::No};
+    commands.mnuFileCancelAutoload_Click();
+    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<25>", 36, "<21>"}}));
+}
+
+TEST_F(FileCommandsTest, CancelAutoloadClearsTheDefaultFileOnYesOnly) {
+    settings.defaultColorFile = kA;
+    prompts.answers = {Answer::No, Answer::Yes};
+    commands.mnuFileCancelAutoload_Click();
+    EXPECT_EQ(settings.defaultColorFile, kA);
+    EXPECT_EQ(prompts.messages.back().prompt, "<25>C:\\lib\\a.tnt");
+    commands.mnuFileCancelAutoload_Click();
+    EXPECT_EQ(settings.defaultColorFile, "");
+}
+
+TEST_F(FileCommandsTest, AutoloadIsSilentAndStartsTheDialogWithItsFile) {
+    settings.defaultColorFile = kA;
+    commands.Autoload();
+    EXPECT_TRUE(prompts.messages.empty());
+    commands.mnuFileSave_Click();
+    EXPECT_EQ(library.Tree().At("0D").tag, kA);
+}
+
+TEST_F(FileCommandsTest, AutoloadOfAMissingFileLeavesAnEmptyTreeAndNoMessage) {
+    settings.defaultColorFile = "C:\\gone.tnt";
+    commands.Autoload();
+    EXPECT_TRUE(library.Tree().MainNodes().empty());
+    EXPECT_TRUE(prompts.messages.empty());
+    EXPECT_EQ(commands.DialogFileName(), "");
+}
+
+TEST_F(FileCommandsTest, AutoloadOfAnInvalidFileShowsItsMessageAndKeepsWhatWasRead) {
+    files.contents[kA] = std::string(kContent) + "\"E#broken\"\r\n";
+    settings.defaultColorFile = kA;
+    commands.Autoload();
+    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<5> C:\\lib\\a.tnt", 48, "<98>"}}));
+    EXPECT_EQ(library.GetGroupInMainnode("0D").size(), 1U);
+    EXPECT_EQ(commands.DialogFileName(), kA);
+}
+
+} // namespace

@@ -1,0 +1,54 @@
+#include "platform/BusyMessageFilter.h"
+
+#include "platform/ComApartment.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr DWORD kGiveUp = static_cast<DWORD>(-1);
+
+Microsoft::WRL::ComPtr<IMessageFilter> RegisteredFilter() {
+    Microsoft::WRL::ComPtr<IMessageFilter> registered;
+    CoRegisterMessageFilter(nullptr, &registered);
+    CoRegisterMessageFilter(registered.Get(), nullptr);
+    return registered;
+}
+
+} // namespace
+
+TEST(BusyMessageFilter, RejectedCallIsRepeatedForThirtySecondsWhateverTheReason) {
+    const ComApartment apartment;
+    BusyMessageFilter filter;
+    for (const DWORD reason : {SERVERCALL_REJECTED, SERVERCALL_RETRYLATER}) {
+        const DWORD pause = filter.RetryRejectedCall(nullptr, 0, reason);
+        EXPECT_GE(pause, 100U);
+        EXPECT_LT(pause, 1000U);
+        EXPECT_LT(filter.RetryRejectedCall(nullptr, 29999, reason), 1000U);
+        EXPECT_EQ(filter.RetryRejectedCall(nullptr, 30000, reason), kGiveUp);
+    }
+}
+
+TEST(BusyMessageFilter, WindowsTakeNoInputDuringACall) {
+    const ComApartment apartment;
+    BusyMessageFilter filter;
+    EXPECT_EQ(filter.MessagePending(nullptr, 0, PENDINGTYPE_TOPLEVEL),
+              static_cast<DWORD>(PENDINGMSG_WAITDEFPROCESS));
+}
+
+TEST(BusyMessageFilter, CallsFromOutsideAreTaken) {
+    const ComApartment apartment;
+    BusyMessageFilter filter;
+    EXPECT_EQ(filter.HandleInComingCall(CALLTYPE_TOPLEVEL, nullptr, 0, nullptr),
+              static_cast<DWORD>(SERVERCALL_ISHANDLED));
+}
+
+TEST(BusyMessageFilter, IsTheThreadsFilterForAsLongAsItLives) {
+    const ComApartment apartment;
+    EXPECT_EQ(RegisteredFilter(), nullptr);
+    {
+        const BusyMessageFilter filter;
+        EXPECT_NE(RegisteredFilter(), nullptr);
+    }
+    EXPECT_EQ(RegisteredFilter(), nullptr);
+}

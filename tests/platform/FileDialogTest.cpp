@@ -1,0 +1,96 @@
+#include "platform/FileDialog.h"
+
+#include "platform/ComApartment.h"
+#include "platform/Utf16.h"
+#include "tests/platform/DialogDriver.h"
+#include "tests/platform/PollUntil.h"
+#include "tests/platform/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int kFileName = 1148;
+
+class FileDialogTest : public testing::Test {
+protected:
+    [[nodiscard]] FileDialogRequest Request(unsigned flags,
+                                            const std::string& fileName = {}) const {
+        return {"tnt dialog", "Libraries|*.tnt|All files|*.*", fileName, flags};
+    }
+
+    // The dialog fills its name in a moment after it is visible.
+    static void EnterName(HWND dialog, const std::string& path) {
+        const std::wstring wide = ToUtf16(path);
+        EXPECT_TRUE(PollUntil([&] {
+            SetDlgItemTextW(dialog, kFileName, wide.c_str());
+            Sleep(100);
+            return TextOfControl(dialog, kFileName) == wide;
+        }));
+        Press(dialog, IDOK);
+    }
+
+    std::optional<std::string> Open(const FileDialogRequest& request,
+                                    const std::function<void(HWND)>& work) {
+        const DialogDriver driver(L"tnt dialog", work);
+        return ShowOpenDialog(nullptr, request);
+    }
+    std::optional<std::string> Save(const FileDialogRequest& request,
+                                    const std::function<void(HWND)>& work) {
+        const DialogDriver driver(L"tnt dialog", work);
+        return ShowSaveDialog(nullptr, request);
+    }
+
+    ComApartment apartment;
+    ScratchFolder folder;
+};
+
+} // namespace
+
+TEST_F(FileDialogTest, OpenGivesTheFullPathThatWasChosen) {
+    const std::string path = folder.File("Gr\xC3\xBCn.tnt");
+    folder.Write("Gr\xC3\xBCn.tnt", "");
+    EXPECT_EQ(Open(Request(FileDialogFlags::Open), [&](HWND dialog) { EnterName(dialog, path); }),
+              path);
+}
+
+TEST_F(FileDialogTest, CancelGivesNothing) {
+    const auto cancel = [](HWND dialog) { Press(dialog, IDCANCEL); };
+    EXPECT_FALSE(Open(Request(FileDialogFlags::Open), cancel));
+    EXPECT_FALSE(Save(Request(FileDialogFlags::SaveAs), cancel));
+}
+
+TEST_F(FileDialogTest, PresetNameStandsInTheDialogAndItsFolderIsShown) {
+    std::wstring shown;
+    const std::string preset = folder.File("newtnt.tnt");
+    const auto path = Save(Request(FileDialogFlags::SaveAs, preset), [&](HWND dialog) {
+        PollUntil([&] { return !(shown = TextOfControl(dialog, kFileName)).empty(); }) ? void()
+                                                                                       : void();
+        Press(dialog, IDOK);
+    });
+    EXPECT_EQ(shown.substr(shown.find_last_of(L'\\') + 1), L"newtnt.tnt");
+    EXPECT_EQ(path, preset);
+}
+
+TEST_F(FileDialogTest, NameTypedWithoutAnEndingIsSavedWithTheFirstPatternsEnding) {
+    EXPECT_EQ(Save(Request(FileDialogFlags::SaveAs),
+                   [&](HWND dialog) { EnterName(dialog, folder.File("mine")); }),
+              folder.File("mine.tnt"));
+}
+
+TEST_F(FileDialogTest, ImpossiblePresetDoesNotHideTheDialog) {
+    bool shown = false;
+    static_cast<void>(Open(Request(FileDialogFlags::Open, "<|>:*?"), [&](HWND dialog) {
+        shown = true;
+        Press(dialog, IDCANCEL);
+    }));
+    EXPECT_TRUE(shown);
+}
+
+TEST_F(FileDialogTest, CurrentDirectoryStaysWhatItWas) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    folder.Write("x.tnt", "");
+    EXPECT_TRUE(Open(Request(FileDialogFlags::Open),
+                     [&](HWND dialog) { EnterName(dialog, folder.File("x.tnt")); }));
+    EXPECT_EQ(std::filesystem::current_path(), before);
+}

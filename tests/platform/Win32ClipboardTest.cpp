@@ -1,0 +1,109 @@
+#include "platform/Win32Clipboard.h"
+
+#include "tests/platform/MessageWindow.h"
+
+#include <cstring>
+#include <gtest/gtest.h>
+#include <thread>
+
+namespace {
+
+// Puts memory of any content on the clipboard, as other programs may.
+void PutOnClipboard(HWND owner, UINT format, const void* bytes, std::size_t size) {
+    ASSERT_TRUE(OpenClipboard(owner));
+    EmptyClipboard();
+    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
+    std::memcpy(GlobalLock(memory), bytes, size);
+    GlobalUnlock(memory);
+    SetClipboardData(format, memory);
+    CloseClipboard();
+}
+
+class Win32ClipboardTest : public testing::Test {
+protected:
+    MessageWindow window;
+    Win32Clipboard clipboard{[this] { return window.Handle(); }};
+};
+
+} // namespace
+
+TEST_F(Win32ClipboardTest, TextIsReadBackAsItWasSet) {
+    const std::string text = "E#Gr\xC3\xBCn \xF0\x9F\x8E\xA8=0DG1:x,1,2";
+    ASSERT_TRUE(clipboard.SetText(text));
+    EXPECT_EQ(clipboard.Text(), text);
+}
+
+TEST_F(Win32ClipboardTest, EmptyTextIsAText) {
+    ASSERT_TRUE(clipboard.SetText(""));
+    EXPECT_EQ(clipboard.Text(), "");
+}
+
+TEST_F(Win32ClipboardTest, SettingReplacesWhatWasThereInEveryFormat) {
+    PutOnClipboard(window.Handle(), CF_TEXT, "old", 4);
+    ASSERT_TRUE(clipboard.SetText("new"));
+    EXPECT_EQ(clipboard.Text(), "new");
+}
+
+TEST_F(Win32ClipboardTest, TextOfAnAnsiProgramIsRead) {
+    PutOnClipboard(window.Handle(), CF_TEXT, "E#x", 4);
+    EXPECT_EQ(clipboard.Text(), "E#x");
+}
+
+TEST_F(Win32ClipboardTest, TextEndsAtItsFirstNul) {
+    PutOnClipboard(window.Handle(), CF_UNICODETEXT, L"ab\0cd", 12);
+    EXPECT_EQ(clipboard.Text(), "ab");
+}
+
+TEST_F(Win32ClipboardTest, TextWithoutANulEndsWithItsMemory) {
+    const std::wstring text(4096, L'x');
+    PutOnClipboard(window.Handle(), CF_UNICODETEXT, text.data(), text.size() * sizeof(wchar_t));
+    const std::string read = clipboard.Text().value();
+    // The platform may put a NUL over the last character, or round the memory's size up.
+    EXPECT_TRUE(read.starts_with(std::string(4095, 'x')));
+    EXPECT_LT(read.size(), 4200U);
+}
+
+TEST_F(Win32ClipboardTest, OtherFormatsAreNoText) {
+    PutOnClipboard(window.Handle(), RegisterClipboardFormatW(L"tnt test"), "x", 2);
+    EXPECT_FALSE(clipboard.Text());
+}
+
+TEST_F(Win32ClipboardTest, AbsurdlyLongTextIsNoText) {
+    const std::string text((1U << 24U) + 2, 'x');
+    PutOnClipboard(window.Handle(), CF_UNICODETEXT, text.data(), text.size());
+    EXPECT_FALSE(clipboard.Text());
+}
+
+TEST_F(Win32ClipboardTest, WaitsForAProgramThatHoldsTheClipboardForAMoment) {
+    ASSERT_TRUE(clipboard.SetText("x"));
+    MessageWindow other;
+    std::atomic<bool> isHeld = false;
+    std::thread holder([&] {
+        isHeld = OpenClipboard(nullptr) != FALSE;
+        isHeld.notify_one();
+        Sleep(80);
+        CloseClipboard();
+    });
+    isHeld.wait(false);
+    EXPECT_EQ(clipboard.Text(), "x");
+    holder.join();
+}
+
+TEST_F(Win32ClipboardTest, GivesUpOnAProgramThatKeepsTheClipboard) {
+    ASSERT_TRUE(clipboard.SetText("x"));
+    std::atomic<bool> isHeld = false;
+    std::atomic<bool> isDone = false;
+    std::thread holder([&] {
+        isHeld = OpenClipboard(nullptr) != FALSE;
+        isHeld.notify_one();
+        isDone.wait(false);
+        CloseClipboard();
+    });
+    isHeld.wait(false);
+    EXPECT_FALSE(clipboard.Text());
+    EXPECT_FALSE(clipboard.SetText("y"));
+    isDone = true;
+    isDone.notify_one();
+    holder.join();
+    EXPECT_EQ(clipboard.Text(), "x");
+}

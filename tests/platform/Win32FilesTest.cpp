@@ -1,0 +1,164 @@
+#include "platform/Win32Files.h"
+
+#include "platform/Utf16.h"
+#include "tests/platform/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+namespace {
+
+class Win32FilesTest : public testing::Test {
+protected:
+    void WriteThroughPort(const std::string& path, std::string_view bytes) {
+        const std::unique_ptr<OutputFile> file = files.Create(path);
+        ASSERT_NE(file, nullptr) << path;
+        EXPECT_TRUE(file->Write(bytes));
+        EXPECT_TRUE(file->Flush());
+        EXPECT_TRUE(file->Close());
+    }
+
+    ScratchFolder folder;
+    Win32Files files;
+};
+
+} // namespace
+
+TEST_F(Win32FilesTest, WhatIsWrittenIsReadBackByteForByte) {
+    const std::string bytes("a\r\n\x1A\0\xF7z", 7);
+    WriteThroughPort(folder.File("x.tnt"), bytes);
+    EXPECT_EQ(folder.Read("x.tnt"), bytes);
+    EXPECT_EQ(files.ReadWhole(folder.File("x.tnt")), bytes);
+}
+
+TEST_F(Win32FilesTest, LargeFileIsReadWhole) {
+    std::string bytes(40U << 20U, 'x');
+    bytes.back() = 'z';
+    WriteThroughPort(folder.File("x.tnt"), bytes);
+    EXPECT_EQ(files.ReadWhole(folder.File("x.tnt")), bytes);
+}
+
+TEST_F(Win32FilesTest, EmptyFileIsReadAsEmptyText) {
+    folder.Write("x.tnt", "");
+    EXPECT_EQ(files.ReadWhole(folder.File("x.tnt")), "");
+}
+
+TEST_F(Win32FilesTest, MissingFileFolderAndEmptyNameCannotBeRead) {
+    EXPECT_FALSE(files.ReadWhole(folder.File("none.tnt")));
+    EXPECT_FALSE(files.ReadWhole(folder.Path()));
+    EXPECT_FALSE(files.ReadWhole(""));
+}
+
+TEST_F(Win32FilesTest, NamesOutsideTheCodePageWork) {
+    const std::string name = "\xE8\x89\xB2\xC3\xBC\xD1\x86.tnt";
+    WriteThroughPort(folder.File(name), "x");
+    EXPECT_EQ(files.FindNormalFile(folder.File("*.tnt")), name);
+    EXPECT_TRUE(files.Exists(folder.File(name)));
+    EXPECT_EQ(files.ReadWhole(folder.File(name)), "x");
+    EXPECT_TRUE(files.Remove(folder.File(name)));
+}
+
+TEST_F(Win32FilesTest, EveryOperationWorksOnPathsOfMoreThan260Characters) {
+    std::string deep = folder.Path();
+    for (int level = 0; level < 4; ++level) {
+        deep += "\\" + std::string(100, static_cast<char>('a' + level));
+        CreateDirectoryW((LR"(\\?\)" + ToUtf16(deep)).c_str(), nullptr);
+    }
+    const std::string path = deep + "\\x.tnt";
+    WriteThroughPort(path, "deep");
+    EXPECT_TRUE(files.Exists(path));
+    EXPECT_EQ(files.FindNormalFile(path), "x.tnt");
+    EXPECT_TRUE(files.Replace(path, path + ".bak"));
+    EXPECT_EQ(files.ReadWhole(path + ".bak"), "deep");
+    EXPECT_TRUE(files.Remove(path + ".bak"));
+    EXPECT_FALSE(files.Exists(path + ".bak"));
+}
+
+TEST_F(Win32FilesTest, CreateEmptiesAnExistingFile) {
+    folder.Write("x.tnt", "old content");
+    WriteThroughPort(folder.File("x.tnt"), "new");
+    EXPECT_EQ(folder.Read("x.tnt"), "new");
+}
+
+TEST_F(Win32FilesTest, FileThatIsBeingWrittenIsNobodyElses) {
+    const std::unique_ptr<OutputFile> file = files.Create(folder.File("x.tnt"));
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(files.Create(folder.File("x.tnt")), nullptr);
+    EXPECT_FALSE(files.ReadWhole(folder.File("x.tnt")));
+}
+
+TEST_F(Win32FilesTest, FileCannotBeMadeInAMissingFolder) {
+    EXPECT_EQ(files.Create(folder.File("none\\x.tnt")), nullptr);
+}
+
+TEST_F(Win32FilesTest, DestroyedFileIsClosed) {
+    { const std::unique_ptr<OutputFile> file = files.Create(folder.File("x.tnt")); }
+    EXPECT_TRUE(files.ReadWhole(folder.File("x.tnt")));
+}
+
+TEST_F(Win32FilesTest, ClosedFileTakesNothingMore) {
+    const std::unique_ptr<OutputFile> file = files.Create(folder.File("x.tnt"));
+    ASSERT_TRUE(file->Close());
+    EXPECT_FALSE(file->Write("x"));
+    EXPECT_FALSE(file->Write(""));
+    EXPECT_FALSE(file->Flush());
+    EXPECT_FALSE(file->Close());
+}
+
+TEST_F(Win32FilesTest, ReplaceTakesThePlaceOfAnExistingFile) {
+    folder.Write("new", "new content");
+    folder.Write("old", "old content");
+    EXPECT_TRUE(files.Replace(folder.File("new"), folder.File("old")));
+    EXPECT_EQ(folder.Read("old"), "new content");
+    EXPECT_FALSE(files.Exists(folder.File("new")));
+}
+
+TEST_F(Win32FilesTest, ReplaceOntoAFileInUseFailsAndChangesNothing) {
+    folder.Write("new", "new content");
+    const std::unique_ptr<OutputFile> inUse = files.Create(folder.File("old"));
+    EXPECT_FALSE(files.Replace(folder.File("new"), folder.File("old")));
+    EXPECT_EQ(folder.Read("new"), "new content");
+}
+
+TEST_F(Win32FilesTest, RemoveReportsWhetherTheFileIsGone) {
+    folder.Write("x", "");
+    EXPECT_TRUE(files.Remove(folder.File("x")));
+    EXPECT_FALSE(files.Remove(folder.File("x")));
+}
+
+TEST_F(Win32FilesTest, FindGivesTheNameWithoutItsFolder) {
+    folder.Write("colors.tnt", "");
+    EXPECT_EQ(files.FindNormalFile(folder.File("COLORS.*")), "colors.tnt");
+    EXPECT_EQ(files.FindNormalFile(folder.File("colors.tnt")), "colors.tnt");
+}
+
+TEST_F(Win32FilesTest, FindSkipsFoldersHiddenAndSystemFiles) {
+    std::filesystem::create_directory(ToUtf16(folder.File("a.tnt")));
+    folder.Write("b.tnt", "");
+    folder.Write("c.tnt", "");
+    folder.SetAttributes("b.tnt", FILE_ATTRIBUTE_HIDDEN);
+    folder.SetAttributes("c.tnt", FILE_ATTRIBUTE_SYSTEM);
+    EXPECT_EQ(files.FindNormalFile(folder.File("*.tnt")), "");
+    folder.Write("d.tnt", "");
+    folder.SetAttributes("d.tnt", FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(files.FindNormalFile(folder.File("*.tnt")), "d.tnt");
+    folder.SetAttributes("d.tnt", FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_F(Win32FilesTest, FindGivesNothingForFoldersAndImpossiblePaths) {
+    folder.Write("x.tnt", "");
+    EXPECT_EQ(files.FindNormalFile(folder.Path()), "");
+    EXPECT_EQ(files.FindNormalFile(folder.Path() + "\\"), "");
+    EXPECT_EQ(files.FindNormalFile(folder.Path() + "/"), "");
+    EXPECT_EQ(files.FindNormalFile(folder.File("none\\*.tnt")), "");
+    EXPECT_EQ(files.FindNormalFile(""), "");
+    EXPECT_EQ(files.FindNormalFile("<|>:"), "");
+}
+
+TEST_F(Win32FilesTest, ExistsSeesHiddenFilesButNoFoldersAndNoWildcards) {
+    folder.Write("x.tnt", "");
+    folder.SetAttributes("x.tnt", FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+    EXPECT_TRUE(files.Exists(folder.File("x.tnt")));
+    EXPECT_FALSE(files.Exists(folder.File("*.tnt")));
+    EXPECT_FALSE(files.Exists(folder.Path()));
+}

@@ -1,0 +1,66 @@
+#include "platform/Win32Prompts.h"
+
+#include "tests/platform/DialogDriver.h"
+#include "tests/platform/MessageWindow.h"
+#include "tests/platform/PollUntil.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int kMessageText = 0xFFFF;
+
+int FocusedControl(HWND dialog) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &info);
+    return GetDlgCtrlID(info.hwndFocus);
+}
+
+class Win32PromptsTest : public testing::Test {
+protected:
+    Answer ShowMessage(int style, int button) {
+        const DialogDriver driver(L"Achtung \u00FC", [=, this](HWND dialog) {
+            text = TextOfControl(dialog, kMessageText);
+            owner = GetWindow(dialog, GW_OWNER);
+            EXPECT_TRUE(PollUntil([&] { return (focused = FocusedControl(dialog)) != 0; }));
+            Press(dialog, button);
+        });
+        return prompts.ShowMessage("Wirklich l\xC3\xB6schen?\r\n1", style, "Achtung \xC3\xBC");
+    }
+
+    MessageWindow window;
+    Win32Prompts prompts{[this] { return window.Handle(); }};
+    std::wstring text;
+    HWND owner = nullptr;
+    int focused = 0;
+};
+
+} // namespace
+
+TEST_F(Win32PromptsTest, MessageShowsItsTextAndBelongsToTheOwner) {
+    EXPECT_EQ(ShowMessage(MessageStyle::Exclamation, IDOK), Answer::Ok);
+    EXPECT_EQ(text, L"Wirklich l\u00F6schen?\r\n1");
+    EXPECT_EQ(owner, window.Handle());
+}
+
+TEST_F(Win32PromptsTest, EachButtonIsItsAnswer) {
+    EXPECT_EQ(ShowMessage(MessageStyle::YesNoQuestion, IDYES), Answer::Yes);
+    EXPECT_EQ(ShowMessage(MessageStyle::YesNoQuestion, IDNO), Answer::No);
+    EXPECT_EQ(ShowMessage(MessageStyle::ConfirmDelete, IDOK), Answer::Ok);
+    EXPECT_EQ(ShowMessage(MessageStyle::ConfirmDelete, IDCANCEL), Answer::Cancel);
+}
+
+TEST_F(Win32PromptsTest, CancelIsTheDefaultWhenDeletingIsConfirmed) {
+    ShowMessage(MessageStyle::ConfirmDelete, IDCANCEL);
+    EXPECT_EQ(focused, IDCANCEL);
+}
+
+TEST_F(Win32PromptsTest, MessageBelongsToAPopupThatIsOpenAlready) {
+    HWND popup = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50,
+                                 window.Handle(), nullptr, nullptr, nullptr);
+    SetActiveWindow(popup);
+    ShowMessage(MessageStyle::Information, IDOK);
+    EXPECT_EQ(owner, popup);
+    DestroyWindow(popup);
+}

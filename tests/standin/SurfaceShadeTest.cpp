@@ -1,0 +1,42 @@
+#include "standin/model/SurfaceShade.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int kSize = 40;
+constexpr std::uint32_t kBackground = 0x102030;
+
+std::uint32_t PixelOf(const MaterialValues& values, int column, int row) {
+    return ShadedBall(values, kSize, kBackground)[static_cast<std::size_t>(row * kSize + column)];
+}
+
+TEST(SurfaceShade, ThePlainColourIsTheValueTimesTwoHundredFiftyFive) {
+    EXPECT_EQ(PlainColor({128 / 255.0, 0, 1}), (RedGreenBlue{128, 0, 255}));
+    EXPECT_EQ(PlainColor({-1, 2, 0.5}), (RedGreenBlue{0, 255, 128}));
+}
+
+TEST(SurfaceShade, TheCornersShowTheBackground) {
+    EXPECT_EQ(ShadedBall({}, kSize, kBackground).size(), std::size_t{kSize * kSize});
+    EXPECT_EQ(PixelOf({1, 1, 1}, 0, 0), kBackground);
+}
+
+TEST(SurfaceShade, WithoutLightTheBallIsBlackAndEmissionLightsIt) {
+    EXPECT_EQ(PixelOf({1, 0, 0}, kSize / 2, kSize / 2), 0U);
+    EXPECT_EQ(PixelOf({1, 0, 0, 0, 0, 0, 0, 0, 1}, kSize / 2, kSize / 2), 0xFF0000U);
+}
+
+TEST(SurfaceShade, DiffuseLightComesFromTheUpperLeft) {
+    const MaterialValues white{1, 1, 1, 0, 1};
+    EXPECT_GT(PixelOf(white, 12, 10), PixelOf(white, 28, 30));
+}
+
+TEST(SurfaceShade, SpecularLightIsWhite) {
+    EXPECT_NE(PixelOf({0, 0, 0, 0, 0, 1, 0.2}, 15, 14), 0U);
+}
+
+TEST(SurfaceShade, AFullyTransparentBallShowsTheGround) {
+    EXPECT_EQ(PixelOf({0, 0, 0, 0, 0, 0, 0, 1}, kSize / 2, kSize / 2), 0xEDEDEDU);
+}
+
+} // namespace

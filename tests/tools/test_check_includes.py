@@ -1,0 +1,104 @@
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+import tool
+
+check = tool.load("check-includes")
+
+
+def faults(path, *lines):
+    return list(check.faults_of_file(path, "\n".join(lines)))
+
+
+class WindowsHeaders(unittest.TestCase):
+    def test_are_refused_in_the_portable_half(self):
+        for path in ("common/Text.cpp", "mainwindow/Layout.cpp", "standin/model/Part.cpp",
+                     "tests/common/TextTest.cpp", "app/Start.cpp", "support/AboutRules.cpp"):
+            with self.subTest(path):
+                self.assertEqual(len(faults(path, "#include <windows.h>")), 1)
+
+    def test_are_welcome_in_the_windows_half(self):
+        for path in ("platform/Window.cpp", "mainwindow/frmMain.cpp", "support/frmAbout.h",
+                     "app/main.cpp", "standin/com/Server.cpp", "tests/ui/FormTest.cpp",
+                     "resources/tnt4swx.rc"):
+            with self.subTest(path):
+                self.assertEqual(faults(path, "#include <windows.h>"), [])
+
+    def test_are_found_with_blanks_around_the_hash(self):
+        self.assertEqual(len(faults("common/Text.cpp", "  #  include<commctrl.h>")), 1)
+
+    def test_are_refused_through_a_header_of_the_windows_half(self):
+        self.assertEqual(len(faults("support/Options.cpp", '#include "platform/Window.h"')), 1)
+        self.assertEqual(len(faults("mainwindow/Views.cpp", '#include "mainwindow/frmMain.h"')), 1)
+
+    def test_the_fault_names_file_line_and_header(self):
+        found = faults("common/Text.cpp", "#include <string>", "#include <windows.h>")
+        self.assertTrue(found[0].startswith("common/Text.cpp:2: windows.h: "), found)
+
+
+class StandardHeaders(unittest.TestCase):
+    def test_are_welcome_everywhere(self):
+        self.assertEqual(faults("common/Text.cpp", "#include <string_view>", "#include <span>"), [])
+
+    def test_those_of_the_test_framework_only_in_tests(self):
+        self.assertEqual(faults("tests/common/TextTest.cpp", "#include <gtest/gtest.h>"), [])
+        self.assertEqual(len(faults("common/Text.cpp", "#include <gtest/gtest.h>")), 1)
+
+
+class OwnHeaders(unittest.TestCase):
+    def test_may_not_be_included_up_the_house(self):
+        for path, header in (("common/Text.cpp", "library/Library.h"),
+                             ("library/Library.cpp", "support/Language.h"),
+                             ("support/Options.cpp", "mainwindow/MainView.h"),
+                             ("mainwindow/Views.cpp", "app/Application.h")):
+            with self.subTest(path):
+                self.assertEqual(len(faults(path, f'#include "{header}"')), 1)
+
+    def test_may_not_be_included_across_one_floor(self):
+        for path, header in (("library/Library.cpp", "solidworks/Bridge.h"),
+                             ("platform/Window.cpp", "library/Library.h"),
+                             ("solidworks/Bridge.cpp", "library/Library.h")):
+            with self.subTest(path):
+                self.assertEqual(len(faults(path, f'#include "{header}"')), 1)
+
+    def test_may_be_included_down_the_house(self):
+        self.assertEqual(faults("app/main.cpp", '#include "mainwindow/frmMain.h"',
+                                '#include "platform/Window.h"', '#include "common/Text.h"'), [])
+
+    def test_of_stand_in_and_tests_belong_to_them_alone(self):
+        self.assertEqual(len(faults("solidworks/Bridge.cpp", '#include "standin/model/Part.h"')), 1)
+        self.assertEqual(len(faults("common/Text.cpp", '#include "tests/fakes/Files.h"')), 1)
+        self.assertEqual(len(faults("standin/model/Part.cpp", '#include "library/Library.h"')), 1)
+        self.assertEqual(faults("standin/com/Server.cpp", '#include "standin/model/Part.h"'), [])
+
+    def test_are_named_from_the_root(self):
+        self.assertEqual(len(faults("common/Text.cpp", '#include "Numbers.h"')), 1)
+
+    def test_the_control_numbers_are_shared_by_all(self):
+        self.assertEqual(faults("mainwindow/CommandTable.h", '#include "resources/controls.h"'), [])
+
+
+class Program(unittest.TestCase):
+    def run_on(self, content):
+        with tempfile.TemporaryDirectory() as folder:
+            file = pathlib.Path(folder) / "library" / "Library.cpp"
+            file.parent.mkdir()
+            file.write_text(content, encoding="utf-8")
+            return subprocess.run([sys.executable, tool.ROOT / "tools/check-includes.py", folder],
+                                  stdout=subprocess.PIPE, text=True, check=False)
+
+    def test_fails_on_a_planted_violation_and_names_it(self):
+        result = self.run_on('#include "mainwindow/MainView.h"\n')
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("library/Library.cpp:1: mainwindow/MainView.h", result.stdout)
+
+    def test_is_silent_on_a_clean_tree(self):
+        result = self.run_on('#include "common/Text.h"\n#include <vector>\n')
+        self.assertEqual((result.returncode, result.stdout), (0, ""))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,57 @@
+import unittest
+
+import tool
+
+check = tool.load("check-language")
+
+TABLE = """
+    MenuRow{IDM_mnuFile, "mnuFile", "Datei", MenuKind::Title},
+    MenuRow{IDM_mnuFileNew,
+            "mnuFileNew", "Neu", MenuKind::Entry, {true, false, 'N'}},
+    MenuRow{IDM_mnuFileHR, "mnuFileHR", "-", MenuKind::Separator},
+    MenuRow{IDM_mnuQuit, "mnuQuit", "Beenden", MenuKind::Entry},
+    ToolbarRow{"sepST1", ToolbarButtonStyle::Separator, ToolbarGroup::Standard, "", 0, ""},
+    ToolbarRow{"View List", ToolbarButtonStyle::ButtonGroup, ToolbarGroup::ListView, "", 1, "V"},
+    ButtonMenuRow{"New", "NewGroup", "Neue Gruppe", IDM_mnuColorNewGroup},
+"""
+NUMBERS = "inline constexpr std::int32_t Save = 30;"
+GOOD = (b"; comment\r\n[frmMain]\r\nmnuFile.Caption=&File\r\nmnuFileNew.Caption=&New\r\n"
+        b"mnuQuit.Caption=&Quit\r\ntlbarMain.View List.ToolTipText=List\r\n"
+        b"tlbarMain.New.NewGroup.Text=New group\r\n[Info]\r\nText.30=Save\r\n")
+
+
+def faults(old=b"", new=b""):
+    return check.faults_of(GOOD.replace(old, new) if old else GOOD, TABLE, NUMBERS)
+
+
+class LanguageFile(unittest.TestCase):
+    def test_that_says_everything_has_no_fault(self):
+        self.assertEqual(faults(), [])
+
+    def test_without_a_key_that_the_program_asks_for_is_faulty(self):
+        for key in (b"mnuQuit.Caption=&Quit\r\n", b"tlbarMain.View List.ToolTipText=List\r\n",
+                    b"tlbarMain.New.NewGroup.Text=New group\r\n", b"Text.30=Save\r\n"):
+            with self.subTest(key):
+                self.assertIn(key.decode().partition("=")[0] + ": missing", faults(key)[0])
+
+    def test_with_an_access_key_twice_in_one_menu_is_faulty(self):
+        self.assertEqual(faults(b"&Quit", b"Qui&n"),
+                         ["mnuFile: mnuQuit and mnuFileNew share the access key n"])
+
+    def test_with_a_caption_without_access_key_is_faulty(self):
+        self.assertEqual(faults(b"&Quit", b"Quit"), ["mnuFile: mnuQuit has no access key"])
+
+    def test_with_a_key_twice_is_faulty(self):
+        self.assertEqual(faults(b"[Info]", b"mnuQuit.Caption=&Q\r\n[Info]"),
+                         ["frmMain mnuQuit.Caption: stands there twice"])
+
+    def test_with_other_line_ends_is_faulty(self):
+        self.assertTrue(any("not CR LF" in fault for fault in faults(b"Save\r\n", b"Save\n\n")))
+
+    def test_with_a_value_of_256_bytes_is_faulty(self):
+        self.assertEqual(faults(b"=Save", b"=" + b"x" * 255), [])
+        self.assertEqual(len(faults(b"=Save", b"=" + b"x" * 256)), 1)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Configures a CMake preset when that is needed, and builds what changed.
+#
+#   tools/build.sh native|windows
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+readonly preset=$1
+readonly ninja_file=build/$preset/build.ninja
+if [[ ! -f $ninja_file || CMakePresets.json -nt $ninja_file ]]; then
+    cmake --preset "$preset" --log-level=NOTICE >/dev/null
+fi
+exec cmake --build --preset "$preset"

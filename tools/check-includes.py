@@ -1,0 +1,117 @@
+#!/usr/bin/env python3
+"""Checks the two rules of the house for every source file.
+
+Windows headers stand only in the Windows half: the toolkit, the forms, the entry point, the
+server around the stand-in and the tests that need a window.  Everything else includes the
+project's own headers and those of the C++ standard library.
+
+Includes run down the house only; see ROOMS_BELOW.
+
+  tools/check-includes.py [FOLDER]     names each include that breaks a rule, and fails
+"""
+
+import pathlib
+import re
+import sys
+
+SOURCE_ENDINGS = (".cpp", ".h", ".rc")
+INCLUDE = re.compile(r'^\s*#\s*include\s*(?:<([^>]+)>|"([^"]+)")')
+
+ROOMS = ("app", "mainwindow", "support", "platform", "library", "solidworks", "common",
+         "standin/model", "standin/com", "resources", "tests")
+
+# The rooms that a room may include, itself and resources/controls.h aside.
+ROOMS_BELOW = {
+    "common": (),
+    "platform": ("common",),
+    "library": ("common",),
+    "solidworks": ("common",),
+    "support": ("common", "platform", "library", "solidworks"),
+    "mainwindow": ("common", "platform", "library", "solidworks", "support"),
+    "app": ("common", "platform", "library", "solidworks", "support", "mainwindow"),
+    "standin/model": ("common",),
+    "standin/com": ("common", "platform", "standin/model"),
+    "resources": (),
+    "tests": tuple(room for room in ROOMS if room != "tests"),
+}
+SHARED_HEADERS = ("resources/controls.h",)
+
+WINDOWS_HALF = re.compile(
+    r"platform/|mainwindow/frm|support/frm(About|TxtView|Progress)|app/main\.cpp$|standin/com/|"
+    r"tests/(platform|ui|e2e)/|resources/")
+
+STANDARD_HEADERS = frozenset("""
+algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono
+cinttypes climits clocale cmath codecvt compare complex concepts condition_variable coroutine
+csetjmp csignal cstdarg cstddef cstdint cstdio cstdlib cstring ctime cuchar cwchar cwctype deque
+exception execution filesystem forward_list fstream functional future initializer_list iomanip ios
+iosfwd iostream istream iterator latch limits list locale map memory memory_resource mutex new
+numbers numeric optional ostream queue random ranges ratio regex scoped_allocator semaphore set
+shared_mutex source_location span sstream stack stdexcept stop_token streambuf string string_view
+syncstream system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set
+utility valarray variant vector version
+""".split())
+TEST_HEADERS = re.compile(r"(gtest|gmock|benchmark)/")
+
+
+def room_of(path):
+    for room in ROOMS:
+        if path.startswith(room + "/"):
+            return room
+    return None
+
+
+def fault_of_system_header(path, header):
+    if WINDOWS_HALF.match(path) or header in STANDARD_HEADERS:
+        return None
+    if path.startswith("tests/") and TEST_HEADERS.match(header):
+        return None
+    return "not a header of the C++ standard library, in the portable half"
+
+
+def fault_of_own_header(path, header):
+    if header in SHARED_HEADERS:
+        return None
+    own_room, other_room = room_of(path), room_of(header)
+    if other_room is None:
+        return "not written as a path from the project's root"
+    if other_room != own_room and other_room not in ROOMS_BELOW[own_room]:
+        return f"{own_room} must not know {other_room}"
+    if WINDOWS_HALF.match(header) and not WINDOWS_HALF.match(path):
+        return "a header of the Windows half, in the portable half"
+    return None
+
+
+def faults_of_file(path, text):
+    """Faults of one file; path is relative to the root, with forward slashes."""
+    for number, line in enumerate(text.splitlines(), 1):
+        found = INCLUDE.match(line)
+        if not found:
+            continue
+        system_header, own_header = found.groups()
+        fault = (fault_of_system_header(path, system_header) if system_header
+                 else fault_of_own_header(path, own_header))
+        if fault:
+            yield f"{path}:{number}: {system_header or own_header}: {fault}"
+
+
+def source_files(root):
+    folders = {room.split("/")[0] for room in ROOMS}
+    for folder in sorted(folders):
+        for file in sorted((root / folder).rglob("*")):
+            if file.suffix in SOURCE_ENDINGS and room_of(file.relative_to(root).as_posix()):
+                yield file
+
+
+def main():
+    root = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else __file__).resolve()
+    root = root if root.is_dir() else root.parent.parent
+    faults = [fault for file in source_files(root)
+              for fault in faults_of_file(file.relative_to(root).as_posix(),
+                                          file.read_text(encoding="utf-8"))]
+    print("\n".join(faults), end="\n" if faults else "")
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

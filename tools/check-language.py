@@ -1,0 +1,107 @@
+#!/usr/bin/env python3
+"""Checks the language files: that both say everything the program asks for, in the same places.
+
+  - Windows-1252, CR LF line ends, values of at most 255 bytes, no key twice or without a value
+  - the same sections and keys in both languages
+  - a caption for every menu entry, a tool tip for every toolbar button, a text for every entry of
+    a button's menu, and every numbered message text, as the program's own tables name them
+  - access keys that differ within each menu
+
+  tools/check-language.py        names each fault, and fails
+"""
+
+import pathlib
+import re
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+FILES = tuple(ROOT / "resources" / "language" / f"tntlng_{code}.ini" for code in ("de", "us"))
+LONGEST_VALUE = 255
+
+MENU_ROW = re.compile(r'MenuRow\{\s*\w+,\s*"(\w+)",\s*"[^"]*",\s*MenuKind::(\w+)')
+TOOLBAR_ROW = re.compile(r'ToolbarRow\{\s*"([^"]+)",\s*ToolbarButtonStyle::(\w+)')
+BUTTON_MENU_ROW = re.compile(r'ButtonMenuRow\{\s*"([^"]+)",\s*"([^"]+)"')
+INFO_NUMBER = re.compile(r"std::int32_t \w+ = (\d+);")
+ACCESS_KEY = re.compile(r"&([^&])")
+
+
+def parse(content):
+    """Entries {(section, key): value} and the faults of the file's form."""
+    entries, faults, section = {}, [], None
+    for number, line in enumerate(content.split(b"\r\n"), 1):
+        if b"\r" in line or b"\n" in line:
+            faults.append(f"line {number}: a line end that is not CR LF")
+        text = line.decode("cp1252", errors="replace")
+        if not text or text.startswith(";"):
+            continue
+        if text.startswith("["):
+            section = text.strip("[]")
+            continue
+        key, _, value = text.partition("=")
+        if not value or len(line) - len(key) - 1 > LONGEST_VALUE:
+            faults.append(f"{section} {key}: no value, or one over {LONGEST_VALUE} bytes")
+        if (section, key) in entries:
+            faults.append(f"{section} {key}: stands there twice")
+        entries[section, key] = value
+    return entries, faults
+
+
+def menus(table):
+    """Names of the entries that are seen together, title bar first."""
+    levels, current = {"the menu bar": []}, None
+    for name, kind in MENU_ROW.findall(table):
+        if kind == "Title":
+            current = name
+            levels["the menu bar"].append(name)
+            levels[name] = []
+        elif kind == "SubmenuEntry":
+            levels.setdefault(current + " submenu", []).append(name)
+        elif kind != "Separator":
+            levels[current].append(name)
+    return levels
+
+
+def required_keys(table, info_numbers):
+    keys = {("frmMain", f"{name}.Caption") for name, kind in MENU_ROW.findall(table)
+            if kind != "Separator"}
+    keys |= {("frmMain", f"tlbarMain.{key}.ToolTipText")
+             for key, style in TOOLBAR_ROW.findall(table) if style != "Separator"}
+    keys |= {("frmMain", f"tlbarMain.{button}.{key}.Text")
+             for button, key in BUTTON_MENU_ROW.findall(table)}
+    return keys | {("Info", f"Text.{number}") for number in INFO_NUMBER.findall(info_numbers)}
+
+
+def access_key_faults(entries, table):
+    for menu, names in menus(table).items():
+        taken = {}
+        for name in names:
+            caption = entries.get(("frmMain", f"{name}.Caption"), "")
+            found = ACCESS_KEY.search(caption)
+            if not found:
+                yield f"{menu}: {name} has no access key"
+                continue
+            other = taken.setdefault(found.group(1).lower(), name)
+            if other != name:
+                yield f"{menu}: {name} and {other} share the access key {found.group(1)}"
+
+
+def faults_of(content, table, info_numbers):
+    entries, faults = parse(content)
+    missing = sorted(required_keys(table, info_numbers) - entries.keys())
+    faults += [f"{section} {key}: missing" for section, key in missing]
+    return faults + list(access_key_faults(entries, table))
+
+
+def main():
+    table = (ROOT / "mainwindow" / "CommandTable.h").read_text(encoding="utf-8")
+    info_numbers = (ROOT / "common" / "InfoTextNumber.h").read_text(encoding="utf-8")
+    faults = [f"{file.name}: {fault}" for file in FILES
+              for fault in faults_of(file.read_bytes(), table, info_numbers)]
+    german, english = (set(parse(file.read_bytes())[0]) for file in FILES)
+    faults += [f"{section} {key}: only in one language" for section, key in german ^ english]
+    print("\n".join(faults), end="\n" if faults else "")
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,131 @@
+#!/usr/bin/env python3
+"""Runs clang-tidy over the sources of a configured build, two at a time.
+
+  tools/check-tidy.py native     the portable half
+  tools/check-tidy.py windows    the Windows half: what the native build does not compile
+
+A file that was clean is not looked at again until it, a project header that it includes, the
+options or the checks change; what is known lies below build/tidy.  Tests are left out: the test
+framework's macros raise checks that say nothing about the program.
+"""
+
+import argparse
+import concurrent.futures
+import hashlib
+import json
+import pathlib
+import re
+import shlex
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+BUILD = ROOT / "build"
+KNOWN = BUILD / "tidy"
+ROOMS = ("app", "common", "library", "mainwindow", "platform", "solidworks", "standin", "support")
+OWN_INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
+MINGW = "x86_64-w64-mingw32"
+
+
+def mingw_options():
+    """What clang must be told to compile for Windows with the headers of the cross compiler."""
+    compiler = f"{MINGW}-g++-posix"
+    library = subprocess.run([compiler, "-print-libgcc-file-name"], check=True,
+                             stdout=subprocess.PIPE, text=True).stdout.strip()
+    headers = pathlib.Path(library).parent / "include" / "c++"
+    folders = (headers, headers / MINGW, headers / "backward")
+    return [f"--target={MINGW}", "-nostdinc++"] + [f"-isystem{folder}" for folder in folders]
+
+
+def kept_options(command):
+    """Defines, include folders and language of a compile command; the warnings are the compiler's."""
+    arguments = shlex.split(command)[1:]
+    kept = [argument for argument in arguments if argument.startswith(("-D", "-I", "-std="))]
+    for option, value in zip(arguments, arguments[1:]):
+        if option == "-isystem":
+            kept += [option, value]
+    return kept
+
+
+def read_commands(preset):
+    """Options by source file, for the project's own files."""
+    entries = json.loads((BUILD / preset / "compile_commands.json").read_text(encoding="utf-8"))
+    commands = {}
+    for entry in entries:
+        file = (pathlib.Path(entry["directory"]) / entry["file"]).resolve()
+        if file.is_relative_to(ROOT) and file.relative_to(ROOT).parts[0] in ROOMS:
+            commands[file] = kept_options(entry["command"])
+    return commands
+
+
+def portable_commands():
+    return read_commands("native")
+
+
+def windows_commands():
+    portable, extra = read_commands("native"), mingw_options()
+    return {file: extra + options for file, options in read_commands("windows").items()
+            if file not in portable}
+
+
+def with_own_headers(file, seen):
+    """Adds the file and every project header that it reaches to the set."""
+    if file in seen or not file.is_file():
+        return
+    seen.add(file)
+    for name in OWN_INCLUDE.findall(file.read_text(encoding="utf-8")):
+        with_own_headers(ROOT / name, seen)
+
+
+def fingerprint(file, options, tool):
+    reached = set()
+    with_own_headers(file, reached)
+    digest = hashlib.sha256("\0".join([tool, str(file), *options]).encode())
+    for path in sorted(reached):
+        digest.update(path.as_posix().encode() + b"\0" + path.read_bytes())
+    return digest.hexdigest()
+
+
+def tool_fingerprint():
+    version = subprocess.run(["clang-tidy", "--version"], check=True, stdout=subprocess.PIPE,
+                             text=True).stdout
+    return version + (ROOT / ".clang-tidy").read_text(encoding="utf-8")
+
+
+def findings(file, options):
+    """What clang-tidy says about one file; empty when it is clean."""
+    command = ["clang-tidy", "--quiet", str(file), "--", *options]
+    result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+    if result.returncode == 0:
+        return ""
+    return result.stdout.replace(f"{ROOT}/", "") or result.stderr
+
+
+def check(file, options, tool):
+    marker = KNOWN / fingerprint(file, options, tool)
+    if marker.exists():
+        return None
+    found = findings(file, options)
+    if not found:
+        marker.touch()
+    return found
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("half", choices=("native", "windows"))
+    half = parser.parse_args().half
+    KNOWN.mkdir(parents=True, exist_ok=True)
+    commands = portable_commands() if half == "native" else windows_commands()
+    tool = tool_fingerprint()
+    with concurrent.futures.ThreadPoolExecutor(max_workers=2) as pool:
+        results = list(pool.map(lambda item: check(*item, tool), commands.items()))
+    # A finding in a header shows up in every file that includes it: tell it once.
+    print("\n".join(dict.fromkeys(result for result in results if result)))
+    looked_at = [result for result in results if result is not None]
+    print(f"{len(commands)} files, {len(looked_at)} looked at, {sum(map(bool, looked_at))} not clean")
+    return 1 if any(results) or not commands else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
