@@ -4,6 +4,11 @@ function(tnt_target_options target)
         target_compile_options(${target} PRIVATE /W4 /WX /permissive- /utf-8 /EHsc)
     else()
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow -Werror)
+        if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+            # False alarms of this compiler about its own std::string and std::optional when it
+            # optimises (its bugs 105651 and 80635).
+            target_compile_options(${target} PRIVATE -Wno-restrict -Wno-maybe-uninitialized)
+        endif()
     endif()
     if(TNT_SANITIZE)
         target_compile_options(${target} PUBLIC -fsanitize=address,undefined

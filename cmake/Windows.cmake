@@ -19,7 +19,8 @@ target_link_libraries(swx_standin PRIVATE standin_model tnt_platform)
 tnt_target_options(swx_standin)
 
 foreach(program tnt4swx swx_standin)
-    target_compile_definitions(${program} PRIVATE TNT_VERSION_MAJOR=${PROJECT_VERSION_MAJOR}
+    target_compile_definitions(${program} PRIVATE TNT_VERSION="${PROJECT_VERSION}"
+        TNT_VERSION_MAJOR=${PROJECT_VERSION_MAJOR}
         TNT_VERSION_MINOR=${PROJECT_VERSION_MINOR} TNT_VERSION_PATCH=${PROJECT_VERSION_PATCH})
     if(MSVC)
         target_link_options(${program} PRIVATE /MANIFEST:NO) # the resource script holds it

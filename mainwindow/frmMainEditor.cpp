@@ -35,9 +35,9 @@ constexpr int kBoxWidth = 42;
 constexpr int kSmallestSlider = 80;
 constexpr int kWidestCell = 340;
 constexpr int kFirstLine = 22; // below the frame's caption
-constexpr int kBoxPadding = 8; // of a text box, above and below its line together
+constexpr int kBoxPadding = 4; // of a text box, above and below its line together
 
-constexpr int kMostColumns = 3;
+constexpr int kMostColumns = 2; // more would leave the large swatch no height
 constexpr int kValueCount = static_cast<int>(kColorValueCount);
 
 } // namespace
@@ -95,6 +95,10 @@ int MainEditor::Design(int designPixels) const {
     return form_.Scale().FromDesign(designPixels);
 }
 
+int MainEditor::BoxHeight() const {
+    return LineHeight(form_.Font()) + 2 * GetSystemMetrics(SM_CYEDGE) + Design(kBoxPadding);
+}
+
 int MainEditor::LabelWidth() const {
     LONG width = 0;
     for (const Row& row : rows_)
@@ -106,7 +110,7 @@ MainEditor::Grid MainEditor::GridFor(int width) const {
     Grid grid{};
     grid.labelWidth = LabelWidth() + Design(kGap);
     grid.boxWidth = Design(kBoxWidth);
-    grid.cellHeight = LineHeight(form_.Font()) + Design(kBoxPadding) + Design(kGap);
+    grid.cellHeight = BoxHeight() + Design(kGap);
     grid.left = Design(kMargin + kSwatchWidth + kColumnGap);
     grid.top = Design(kFirstLine);
     const int available = width - grid.left - Design(kMargin);
@@ -155,7 +159,7 @@ void MainEditor::PlaceSwatch(const RECT& area) {
 
 void MainEditor::PlaceRow(const Row& row, const Grid& grid, int left, int top) const {
     const int lineHeight = LineHeight(form_.Font());
-    const int boxHeight = lineHeight + Design(kBoxPadding);
+    const int boxHeight = BoxHeight();
     const int labelTop = top + (boxHeight - lineHeight) / 2;
     row.label->Place({left, labelTop, left + grid.labelWidth, labelTop + lineHeight});
     const int boxLeft = left + grid.labelWidth;

@@ -51,6 +51,7 @@ private:
 
     void AddRow(std::size_t index);
     [[nodiscard]] Grid GridFor(int width) const;
+    [[nodiscard]] int BoxHeight() const;
     [[nodiscard]] int LabelWidth() const;
     [[nodiscard]] int Design(int designPixels) const;
     void PlaceSwatch(const RECT& area);

@@ -42,8 +42,8 @@ public:
 
     std::wstring Ask(const std::wstring& prompt, const std::wstring& preset) {
         prompt_.SetText(ToUtf8(prompt));
-        input_.SetText(ToUtf8(preset));
         OnLayout();
+        input_.SetText(ToUtf8(preset)); // a box without width would scroll its text away
         CentreOnOwner(Handle());
         ModalDisplay display(Handle());
         input_.SelectAll();

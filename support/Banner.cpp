@@ -3,6 +3,8 @@
 #include "common/Numbers.h"
 #include "common/RuntimeError.h"
 
+#include <sstream>
+
 namespace {
 
 int NumberOrFirst(const std::string& text) {
@@ -14,6 +16,18 @@ int NumberOrFirst(const std::string& text) {
 }
 
 } // namespace
+
+std::vector<std::string> ParseBannerAddresses(const std::string& text) {
+    std::vector<std::string> addresses;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        while (!line.empty() && (line.back() == '\r' || line.back() == ' '))
+            line.pop_back();
+        if (!line.empty())
+            addresses.push_back(line);
+    }
+    return addresses;
+}
 
 void Banner::Start(const std::string& storedIndex) {
     const int stored = NumberOrFirst(storedIndex);

@@ -7,6 +7,9 @@
 #include <utility>
 #include <vector>
 
+// The addresses of the banner's data file: one in each line that is not empty.
+[[nodiscard]] std::vector<std::string> ParseBannerAddresses(const std::string& text);
+
 // One picture at a time out of a list, each with the web address that a click on it opens.
 class Banner {
 public:

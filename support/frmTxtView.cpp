@@ -86,8 +86,8 @@ void frmTxtView::OnLayout() {
     cmbTxtView_.Place({margin, margin, margin + Scale().FromDesign(kComboWidth),
                        margin + Scale().FromDesign(kComboHeight)});
     cmdOkay_.Place({columnLeft, textTop, columnRight, textTop + button});
-    const int bannerTop = textTop + button + margin;
-    picSponsor_.Place({columnLeft, bannerTop, columnRight, bannerTop + columnRight - columnLeft});
+    const int bannerLeft = 2 * margin + Scale().FromDesign(kComboWidth);
+    picSponsor_.Place({bannerLeft, margin / 2, columnRight, textTop - margin / 2});
     PlaceText();
 }
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Runs clang-tidy over the sources of a configured build, two at a time.
+"""Runs clang-tidy over the sources of a configured build, as many at a time as there are cores.
 
   tools/check-tidy.py native     the portable half
   tools/check-tidy.py windows    the Windows half: what the native build does not compile
@@ -13,6 +13,7 @@ import argparse
 import concurrent.futures
 import hashlib
 import json
+import os
 import pathlib
 import re
 import shlex
@@ -118,7 +119,7 @@ def main():
     KNOWN.mkdir(parents=True, exist_ok=True)
     commands = portable_commands() if half == "native" else windows_commands()
     tool = tool_fingerprint()
-    with concurrent.futures.ThreadPoolExecutor(max_workers=2) as pool:
+    with concurrent.futures.ThreadPoolExecutor(max_workers=os.cpu_count()) as pool:
         results = list(pool.map(lambda item: check(*item, tool), commands.items()))
     # A finding in a header shows up in every file that includes it: tell it once.
     print("\n".join(dict.fromkeys(result for result in results if result)))

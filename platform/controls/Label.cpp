@@ -5,12 +5,26 @@
 #include "platform/Form.h"
 #include "platform/Utf16.h"
 
+#include <cstdlib>
+
 namespace {
 
 constexpr ControlKind kLabel{"Label", WC_STATICW, "Caption"};
 
 // SS_NOTIFY: a label without it is transparent to the mouse and would never show its tool tip.
 constexpr DWORD kLabelStyle = WS_VISIBLE | SS_LEFT | SS_NOTIFY;
+
+int Brightness(COLORREF color) {
+    return (GetRValue(color) * 3 + GetGValue(color) * 6 + GetBValue(color)) / 10;
+}
+
+// The system's link colour; some themes leave it as light as the form.
+COLORREF LinkColor() {
+    constexpr int kSmallestContrast = 80;
+    const COLORREF link = GetSysColor(COLOR_HOTLIGHT);
+    const int contrast = Brightness(GetSysColor(COLOR_3DFACE)) - Brightness(link);
+    return std::abs(contrast) >= kSmallestContrast ? link : GetSysColor(COLOR_BTNTEXT);
+}
 
 } // namespace
 
@@ -70,7 +84,7 @@ void LinkLabel::Paint() const {
     FillRect(paint.Device(), &area, GetSysColorBrush(COLOR_3DFACE));
     const HGDIOBJ before = SelectObject(paint.Device(), font.Get());
     SetBkMode(paint.Device(), TRANSPARENT);
-    SetTextColor(paint.Device(), GetSysColor(COLOR_HOTLIGHT));
+    SetTextColor(paint.Device(), LinkColor());
     DrawTextW(paint.Device(), ToUtf16(Text()).c_str(), -1, &area, DT_NOPREFIX | DT_END_ELLIPSIS);
     SelectObject(paint.Device(), before);
     if (GetFocus() == Handle())

@@ -3,8 +3,8 @@
 #include "platform/Form.h"
 #include "platform/Utf16.h"
 
+#include <cstring>
 #include <utility>
-#include <uxtheme.h>
 
 namespace {
 
@@ -19,7 +19,6 @@ constexpr int kIconSize = 16;
 
 TreeView::TreeView(Form& form, const ControlPlace& place, IconList& images)
     : Control(form, kTreeView, place, kTreeStyle, WS_EX_CLIENTEDGE), images_(images) {
-    SetWindowTheme(Handle(), L"Explorer", nullptr);
     Send(TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
     ApplyColors();
     TreeView::ApplyScale();
@@ -170,12 +169,6 @@ MessageResult TreeView::OnMessage(const WindowMessage& message) {
             Raise(onClick, key);
         return result;
     }
-    case WM_ERASEBKGND: {
-        RECT area{};
-        GetClientRect(message.window, &area);
-        FillRect(reinterpret_cast<HDC>(message.wParam), &area, GetSysColorBrush(COLOR_WINDOW));
-        return 1;
-    }
     case WM_SYSCOLORCHANGE:
         ApplyColors();
         return {};
@@ -198,7 +191,8 @@ void TreeView::OpenContextMenu(const WindowMessage& message) {
     POINT at = PointOf(message);
     if (message.id == WM_CONTEXTMENU) {
         RECT bounds{};
-        *reinterpret_cast<HTREEITEM*>(&bounds) = Selected(); // as TVM_GETITEMRECT takes it
+        const HTREEITEM item = Selected();
+        std::memcpy(&bounds, &item, sizeof item); // as TVM_GETITEMRECT takes it
         at = Send(TVM_GETITEMRECT, TRUE, &bounds) != FALSE ? POINT{bounds.left, bounds.bottom}
                                                            : POINT{};
     }

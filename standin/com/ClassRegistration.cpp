@@ -11,6 +11,12 @@ namespace {
 constexpr CLSID kStandInClass{
     0xe852dc55, 0x87b3, 0x400a, {0x92, 0x22, 0x72, 0x1d, 0xbc, 0xc0, 0x9b, 0x6d}};
 
+// The user's own classes need no rights; not every system looks there.
+const std::array<ClassRegistration::Root, 2> kRoots{{
+    {HKEY_CURRENT_USER, L"Software\\Classes\\"},
+    {HKEY_CLASSES_ROOT, L""},
+}};
+
 constexpr const wchar_t* kDescription = L"SolidWorks stand-in";
 
 std::wstring TextOf(const CLSID& classId) {
@@ -25,42 +31,59 @@ bool WriteText(HKEY root, const std::wstring& key, const std::wstring& text) {
            ERROR_SUCCESS;
 }
 
+std::wstring ReadText(HKEY root, const std::wstring& key) {
+    std::array<wchar_t, 64> text{};
+    DWORD bytes = sizeof text;
+    const LSTATUS result =
+        RegGetValueW(root, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text.data(), &bytes);
+    return result == ERROR_SUCCESS ? text.data() : L"";
+}
+
 } // namespace
 
 ClassRegistration::ClassRegistration(std::wstring className)
     : className_(std::move(className)), classId_(kStandInClass) {
     CLSID existing{};
     const bool registered = SUCCEEDED(CLSIDFromProgID(className_.c_str(), &existing));
-    // What a stand-in that was killed left behind is written anew and taken away at the end.
-    if (registered && existing != kStandInClass)
+    isOwn_ = !registered || existing == kStandInClass;
+    if (!isOwn_)
         classId_ = existing;
     else
         Register();
 }
 
 ClassRegistration::~ClassRegistration() {
-    for (const Place& place : written_)
-        RegDeleteTreeW(place.root, place.path.c_str());
+    if (isOwn_)
+        Remove();
 }
 
-// The user's own classes need no rights; not every system looks there.
+// Only what points to the stand-in.
+void ClassRegistration::Remove() const {
+    for (const Root& root : kRoots) {
+        const std::wstring nameKey = root.path + className_;
+        if (ReadText(root.key, nameKey + L"\\CLSID") == TextOf(classId_))
+            RegDeleteTreeW(root.key, nameKey.c_str());
+        RegDeleteTreeW(root.key, (root.path + L"CLSID\\" + TextOf(classId_)).c_str());
+    }
+}
+
 void ClassRegistration::Register() {
-    if (WriteBelow(HKEY_CURRENT_USER, L"Software\\Classes\\") && Resolves())
-        return;
-    if (!WriteBelow(HKEY_CLASSES_ROOT, L"") || !Resolves())
-        throw RuntimeError(ErrorNumber::Automation, "The class could not be registered");
+    Remove(); // what a stand-in that was killed left behind
+    for (const Root& root : kRoots)
+        if (WriteBelow(root) && Resolves())
+            return;
+    Remove();
+    throw RuntimeError(ErrorNumber::Automation, "The class could not be registered");
 }
 
-bool ClassRegistration::WriteBelow(HKEY root, const std::wstring& path) {
+bool ClassRegistration::WriteBelow(const Root& root) const {
     const std::wstring classId = TextOf(classId_);
-    const std::wstring classKey = path + L"CLSID\\" + classId;
-    const std::wstring nameKey = path + className_;
-    written_.push_back({root, nameKey});
-    written_.push_back({root, classKey});
-    return WriteText(root, nameKey, kDescription) &&
-           WriteText(root, nameKey + L"\\CLSID", classId) &&
-           WriteText(root, classKey, kDescription) &&
-           WriteText(root, classKey + L"\\ProgID", className_);
+    const std::wstring classKey = root.path + L"CLSID\\" + classId;
+    const std::wstring nameKey = root.path + className_;
+    return WriteText(root.key, nameKey, kDescription) &&
+           WriteText(root.key, nameKey + L"\\CLSID", classId) &&
+           WriteText(root.key, classKey, kDescription) &&
+           WriteText(root.key, classKey + L"\\ProgID", className_);
 }
 
 bool ClassRegistration::Resolves() const {

@@ -1,13 +1,18 @@
 #pragma once
 
 #include <string>
-#include <vector>
 #include <windows.h>
 
 // The class name in the registry, while this object lives.  A class name that is registered for
 // something else (a real installation) is left as it is, and its class id is used.
 class ClassRegistration {
 public:
+    // Where classes are registered: below a path of a key.
+    struct Root {
+        HKEY key;
+        std::wstring path;
+    };
+
     // className: the ProgID.  Throws RuntimeError when nothing can be registered.
     explicit ClassRegistration(std::wstring className);
     ClassRegistration(const ClassRegistration&) = delete;
@@ -18,15 +23,11 @@ public:
 
 private:
     void Register();
-    [[nodiscard]] bool WriteBelow(HKEY root, const std::wstring& path);
+    void Remove() const;
+    [[nodiscard]] bool WriteBelow(const Root& root) const;
     [[nodiscard]] bool Resolves() const;
-
-    struct Place {
-        HKEY root;
-        std::wstring path;
-    };
 
     std::wstring className_;
     CLSID classId_;
-    std::vector<Place> written_;
+    bool isOwn_ = false;
 };

@@ -132,8 +132,9 @@ void PicturePane::PaintPlate(const Canvas& canvas, const PictureTile& tile) cons
     canvas.FillPolygon(front.data(), 4, Darker(color, 72));
     canvas.FillPolygon(side.data(), 4, Darker(color, 55));
     canvas.FillPolygon(top.data(), 4, color);
-    canvas.Text(tile.item.entity->Name(), {area.left + slant, area.top, right - slant, edge},
-                ReadableOn(color), kOneLine | DT_CENTER);
+    canvas.Text(tile.item.entity->Name(),
+                {area.left + slant / 2, area.top, right - slant / 2, edge}, ReadableOn(color),
+                kOneLine | DT_CENTER);
     PaintMark(canvas, area, tile.item);
 }
 

@@ -74,6 +74,7 @@ frmStandIn::frmStandIn(StandInModel& model, const ServedObjects& objects, ErrorS
     for (const DocumentEntry& entry : kDocuments)
         documentChoice_.Add(entry.caption);
     ShowDocument();
+    OnLayout(); // also while the window is hidden: tests click into the picture
     model_.Events().Add(*this);
 }
 
@@ -102,7 +103,6 @@ void frmStandIn::LoadStandInIcons() {
 
 void frmStandIn::Open() {
     CentreOnOwner(Handle());
-    OnLayout();
     Show();
     list_.Focus();
 }

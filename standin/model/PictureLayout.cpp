@@ -4,9 +4,9 @@
 
 namespace {
 
-// A card shows no more faces than this: two rows of six.
-constexpr std::size_t kLargestTileCount = 12;
-constexpr std::size_t kTilesPerRow = 6;
+// A card shows no more faces than this: two rows of seven.
+constexpr std::size_t kLargestTileCount = 14;
+constexpr std::size_t kTilesPerRow = 7;
 // No window has room for more cards; a document may have many thousands.
 constexpr std::size_t kLargestCardCount = 400;
 
@@ -90,7 +90,7 @@ void ShortenTiles(PictureCard& card) {
 // Few faces stand in one row, more in two.
 int ColumnsOf(const PictureCard& card) {
     const std::size_t count = std::max<std::size_t>(card.tiles.size(), 1);
-    const std::size_t columns = count <= 3 ? count : (count + 1) / 2;
+    const std::size_t columns = count <= 4 ? count : (count + 1) / 2;
     return static_cast<int>(std::min(columns, kTilesPerRow));
 }
 
@@ -168,7 +168,7 @@ PictureLayout LayOutPicture(const DocumentPtr& document, const PictureMetrics& m
 PictureLayout FitPicture(const DocumentPtr& document, const PictureMetrics& metrics, int width,
                          int height) {
     PictureLayout layout;
-    for (const int percent : {100, 85, 72, 60}) {
+    for (const int percent : {100, 90, 80, 70, 60}) {
         const PictureMetrics smaller{
             metrics.tileWidth * percent / 100, metrics.tileHeight * percent / 100,
             metrics.gap * percent / 100,

@@ -1,9 +1,11 @@
 #include "platform/Win32Clipboard.h"
 
 #include "tests/platform/MessageWindow.h"
+#include "tests/platform/PollUntil.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
+#include <semaphore>
 #include <thread>
 
 namespace {
@@ -18,6 +20,27 @@ void PutOnClipboard(HWND owner, UINT format, const void* bytes, std::size_t size
     SetClipboardData(format, memory);
     CloseClipboard();
 }
+
+// Another thread that holds the clipboard open for some time, as other programs do.
+class ClipboardHolder {
+public:
+    explicit ClipboardHolder(std::chrono::milliseconds time)
+        : thread_([this, time] {
+              EXPECT_TRUE(PollUntil([] { return OpenClipboard(nullptr) != FALSE; }));
+              isOpen_.release();
+              std::this_thread::sleep_for(time);
+              CloseClipboard();
+          }) {
+        isOpen_.acquire();
+    }
+    ClipboardHolder(const ClipboardHolder&) = delete;
+    ClipboardHolder& operator=(const ClipboardHolder&) = delete;
+    ~ClipboardHolder() { thread_.join(); }
+
+private:
+    std::binary_semaphore isOpen_{0};
+    std::thread thread_;
+};
 
 class Win32ClipboardTest : public testing::Test {
 protected:
@@ -76,34 +99,16 @@ TEST_F(Win32ClipboardTest, AbsurdlyLongTextIsNoText) {
 
 TEST_F(Win32ClipboardTest, WaitsForAProgramThatHoldsTheClipboardForAMoment) {
     ASSERT_TRUE(clipboard.SetText("x"));
-    MessageWindow other;
-    std::atomic<bool> isHeld = false;
-    std::thread holder([&] {
-        isHeld = OpenClipboard(nullptr) != FALSE;
-        isHeld.notify_one();
-        Sleep(80);
-        CloseClipboard();
-    });
-    isHeld.wait(false);
+    const ClipboardHolder holder(std::chrono::milliseconds(80));
     EXPECT_EQ(clipboard.Text(), "x");
-    holder.join();
 }
 
 TEST_F(Win32ClipboardTest, GivesUpOnAProgramThatKeepsTheClipboard) {
     ASSERT_TRUE(clipboard.SetText("x"));
-    std::atomic<bool> isHeld = false;
-    std::atomic<bool> isDone = false;
-    std::thread holder([&] {
-        isHeld = OpenClipboard(nullptr) != FALSE;
-        isHeld.notify_one();
-        isDone.wait(false);
-        CloseClipboard();
-    });
-    isHeld.wait(false);
-    EXPECT_FALSE(clipboard.Text());
-    EXPECT_FALSE(clipboard.SetText("y"));
-    isDone = true;
-    isDone.notify_one();
-    holder.join();
+    {
+        const ClipboardHolder holder(std::chrono::milliseconds(1500));
+        EXPECT_FALSE(clipboard.Text());
+        EXPECT_FALSE(clipboard.SetText("y"));
+    }
     EXPECT_EQ(clipboard.Text(), "x");
 }

@@ -29,7 +29,7 @@ TEST_F(Win32ShellTest, ProgramIsStartedWithItsArguments) {
 }
 
 TEST_F(Win32ShellTest, PathWithBlanksIsOneProgram) {
-    std::filesystem::copy_file(R"(C:\windows\system32\cmd.exe)", folder.File("a b.exe"));
+    std::filesystem::copy_file(R"(C:\windows\system32\hostname.exe)", folder.File("a b.exe"));
     EXPECT_TRUE(shell.StartProgram(folder.File("a b.exe")));
 }
 

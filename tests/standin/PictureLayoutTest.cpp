@@ -91,8 +91,8 @@ TEST(FitPicture, TilesAreMadeSmallerOnlyWhenCardsHaveNoRoom) {
 
 TEST(PictureLayout, WhatHasNoRoomIsCounted) {
     const PictureLayout faces = LayOut(StandInModel("faces=10000"));
-    EXPECT_EQ(faces.cards[0].tiles.size(), 12U);
-    EXPECT_EQ(faces.cards[0].note, "1655 more");
+    EXPECT_EQ(faces.cards[0].tiles.size(), 14U);
+    EXPECT_EQ(faces.cards[0].note, "1653 more");
     const PictureLayout components = LayOut(StandInModel("components=10000"));
     EXPECT_EQ(components.cards.size() + components.hiddenCards, 10000U);
 }

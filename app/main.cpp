@@ -1,0 +1,94 @@
+#include "app/Application.h"
+#include "common/BusyRetry.h"
+#include "mainwindow/frmMain.h"
+#include "platform/BannerPictures.h"
+#include "platform/BusyMessageFilter.h"
+#include "platform/ComApartment.h"
+#include "platform/MessageLoop.h"
+#include "platform/ProgramFolder.h"
+#include "platform/RunningObjects.h"
+#include "platform/Win32AnsiCodePage.h"
+#include "platform/Win32Clipboard.h"
+#include "platform/Win32Files.h"
+#include "platform/Win32PrivateProfile.h"
+#include "platform/Win32Prompts.h"
+#include "platform/Win32Registry.h"
+#include "platform/Win32Shell.h"
+#include "platform/Win32TextCollation.h"
+#include "platform/Win32WaitingClock.h"
+#include "support/ErrorReporter.h"
+#include "support/frmAbout.h"
+#include "support/frmProgress.h"
+#include "support/frmTxtView.h"
+
+#include <algorithm>
+#include <windows.h>
+
+namespace {
+
+constexpr const char* kVersion = TNT_VERSION;
+
+// An address for each picture; pictures beyond the addresses, and addresses beyond the pictures, are
+// not shown.
+std::vector<std::string> BannerAddresses(Files& files, const std::string& folder,
+                                         const BannerPictures& pictures) {
+    std::vector<std::string> addresses =
+        ParseBannerAddresses(files.ReadWhole(folder + "\\banners.txt").value_or(""));
+    addresses.resize(std::min(addresses.size(), static_cast<std::size_t>(pictures.Count())));
+    return addresses;
+}
+
+// Joins the ports, the forms and the program, and runs it.
+int RunProgram() {
+    const ComApartment apartment;
+    const BusyMessageFilter messageFilter;
+    Win32WaitingClock clock;
+    BusyRetry retry(clock);
+    RunningObjects automation(retry);
+    const Win32AnsiCodePage codePage;
+    const Win32TextCollation collation;
+    Win32Files files;
+    Win32PrivateProfile profile;
+    Win32Registry registry(codePage);
+    Win32Shell shell(codePage);
+    Win32EventPump events;
+
+    HWND mainWindow = nullptr;
+    const OwnerWindow owner = [&mainWindow] { return mainWindow; };
+    Win32Prompts prompts(owner);
+    Win32Clipboard clipboard(owner);
+    clsMultiLanguage language(profile, files, codePage);
+    ErrorReporter errors(prompts, language);
+
+    const std::string programFolder = ProgramFolder();
+    const std::string bannerFolder = programFolder + "\\banners";
+    const BannerPictures banners(bannerFolder);
+    frmMain main(errors, banners);
+    mainWindow = main.Handle();
+    frmAbout about(mainWindow, errors, banners);
+    frmTxtView textViewer(mainWindow, errors, banners);
+    frmProgress progress(mainWindow, errors);
+
+    Application application(
+        {files, codePage, registry, prompts, clipboard, collation, shell, events, automation,
+         language, errors},
+        {main, main, main, about, textViewer, progress, progress, progress},
+        {programFolder, kVersion, BannerAddresses(files, bannerFolder, banners)});
+    main.Attach(application.MainEvents());
+    about.Attach(application.AboutWindowEvents());
+    textViewer.Attach(application.TextViewerWindowEvents());
+    progress.Attach(application.ProgressWindowEvents());
+    application.Start();
+    return RunMessageLoop();
+}
+
+} // namespace
+
+int WINAPI wWinMain(_In_ HINSTANCE, _In_opt_ HINSTANCE, _In_ LPWSTR, _In_ int) {
+    try {
+        return RunProgram();
+    } catch (const std::exception& error) {
+        MessageBoxA(nullptr, error.what(), "TNT4SWX", MB_OK | MB_ICONERROR);
+        return 1;
+    }
+}

@@ -1,0 +1,119 @@
+#pragma once
+
+#include "app/Application.h"
+#include "standin/model/StandInService.h"
+#include "support/ErrorReporter.h"
+#include "tests/fakes/FakeClipboard.h"
+#include "tests/fakes/FakeCodePage.h"
+#include "tests/fakes/FakeCollation.h"
+#include "tests/fakes/FakeFiles.h"
+#include "tests/fakes/FakeForm.h"
+#include "tests/fakes/FakeFormWindow.h"
+#include "tests/fakes/FakeMainView.h"
+#include "tests/fakes/FakeProfile.h"
+#include "tests/fakes/FakeProgress.h"
+#include "tests/fakes/FakePrompts.h"
+#include "tests/fakes/FakeRegistry.h"
+#include "tests/fakes/FakeShell.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class FakeAbout : public AboutView {
+public:
+    TwipsRect Bounds() const override { return bounds; }
+    void Move(const TwipsRect& newBounds) override { bounds = newBounds; }
+    WindowState State() const override { return WindowState::Normal; }
+    void SetState(WindowState) override {}
+    TwipsSize ScreenSize() const override { return {15360, 11520}; }
+    void SetTopmost(bool onTop) override { topmost.push_back(onTop); }
+    std::vector<FormControl*> Controls() override { return {}; }
+    void SetWindowCaption(const std::string& text) override { caption = text; }
+    void SetTitle(const std::string& text) override { title = text; }
+    void SetVersion(const std::string& text) override { version = text; }
+    void SetBanner(int index) override { banner = index; }
+    void ShowModal() override { ++shown; }
+
+    TwipsRect bounds{0, 0, 6000, 4000};
+    std::vector<bool> topmost;
+    std::string caption;
+    std::string title;
+    std::string version;
+    int banner = -1;
+    int shown = 0;
+};
+
+class FakeTextViewer : public TextViewerView {
+public:
+    void SetEntries(const std::vector<std::string>& newEntries) override { entries = newEntries; }
+    void SelectEntry(int index) override {
+        selected = index;
+        if (events)
+            events->EntryChosen(index);
+    }
+    void SetText(const std::string& newText) override { text = newText; }
+    void SetBanner(int index) override { banner = index; }
+    void SetTopmost(bool onTop) override { topmost.push_back(onTop); }
+    void ShowModeless() override { ++shown; }
+
+    TextViewerEvents* events = nullptr;
+    std::vector<std::string> entries;
+    int selected = -1;
+    std::string text;
+    int banner = -1;
+    std::vector<bool> topmost;
+    int shown = 0;
+};
+
+// The whole program on fakes, with the stand-in's model as the running SolidWorks.  The language
+// file of both languages is there: its message texts are their numbers in angle brackets.
+class FakeProgram {
+public:
+    explicit FakeProgram(const std::string& scenario = "default") : solidWorks(scenario) {
+        files.contents["C:\\prog\\tntlng_de.ini"] = "";
+        files.contents["C:\\prog\\tntlng_us.ini"] = "";
+        for (int number = 0; number <= 110; ++number)
+            for (const char* code : {"de", "us"})
+                profile.values[{std::string("C:\\prog\\tntlng_") + code + ".ini", "Info",
+                                "Text." + std::to_string(number)}] =
+                    "<" + std::to_string(number) + ">";
+        textViewer.events = &application.TextViewerWindowEvents();
+    }
+
+    MainViewEvents& Main() { return application.MainEvents(); }
+
+    // The settings' key of the registry.
+    static std::string Setting(const std::string& name) {
+        return "SOFTWARE\\Chromixs\\TNT4SWX|" + name;
+    }
+
+    FakePrompts prompts;
+    FakeFiles files;
+    FakeProfile profile;
+    FakeRegistry registry;
+    FakeClipboard clipboard;
+    FakeCollation collation;
+    FakeShell shell;
+    FakeEventPump events;
+    FakeProgress progress;
+    FakeCodePage codePage = FakeCodePage::Western();
+    StandInModel solidWorks;
+    StandInService service{solidWorks};
+    FakeMainView view;
+    FakeFormWindow mainWindow;
+    FakeForm mainForm{"frmMain"};
+    FakeAbout about;
+    FakeTextViewer textViewer;
+    FakeFormWindow progressWindow{"frmProgress"};
+    FakeForm progressForm{"frmProgress"};
+    clsMultiLanguage language{profile, files, codePage};
+    ErrorReporter errors{prompts, language};
+    Application application{
+        {files, codePage, registry, prompts, clipboard, collation, shell, events, service, language,
+         errors},
+        {view, mainWindow, mainForm, about, textViewer, progress, progressWindow, progressForm},
+        {"C:\\prog",
+         "1.2.7",
+         {"https://www.example.org/1", "https://www.example.org/2", "https://www.example.org/3"}}};
+};

@@ -1,0 +1,202 @@
+#include "resources/controls.h"
+#include "tests/fakes/FakeProgram.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Message = FakePrompts::Message;
+
+// A library with the groups "g" (colours a, b) and "h" (none).
+class EditingCommandsTest : public testing::Test {
+protected:
+    EditingCommandsTest() {
+        program.files.contents["C:\\a.tnt"] = "\"D#Lib=0D:4\"\r\n\"G#g=0DG1\"\r\n\"G#h=0DG2\"\r\n" +
+                                              Color("a", "1") + Color("b", "2");
+        program.registry.SetText(FakeProgram::Setting("DefaultColorFile"), "C:\\a.tnt");
+        program.application.Start();
+        program.Main().NodeClicked("0DG1");
+        program.prompts.messages.clear();
+    }
+
+    static std::string Color(const std::string& name, const std::string& red) {
+        return "\"E#" + name + "=0DG1:" + name + "2\xF7" + red +
+               "\xF7"
+               "2\xF7"
+               "3\xF7"
+               "4\xF7"
+               "5\xF7"
+               "6\xF7"
+               "7\xF7"
+               "8\xF7"
+               "9\"\r\n";
+    }
+    void Run(int command) { program.Main().RunCommand(command); }
+
+    FakeProgram program;
+};
+
+constexpr const char* kLineOfA = "E#a=0DG1:a2,1,2,3,4,5,6,7,8,9";
+
+TEST_F(EditingCommandsTest, CopyPutsOneLineOnTheClipboard) {
+    Run(IDM_mnuColorCopy);
+    EXPECT_EQ(program.clipboard.text, kLineOfA);
+}
+
+TEST_F(EditingCommandsTest, CopyWithNothingSelectedLeavesTheClipboard) {
+    program.clipboard.text = "before";
+    program.Main().NodeClicked("0DG2");
+    Run(IDM_mnuColorCopy);
+    EXPECT_EQ(program.clipboard.text, "before");
+}
+
+TEST_F(EditingCommandsTest, CutThenPasteMovesAColorAndASecondPasteMakesAnother) {
+    Run(IDM_mnuColorCut);
+    EXPECT_TRUE(program.prompts.messages.empty()) << "cut never asks";
+    EXPECT_EQ(program.view.rowCount, 1);
+    program.Main().NodeClicked("0DG2");
+    Run(IDM_mnuColorPaste);
+    EXPECT_EQ(program.view.rowCount, 1);
+    EXPECT_EQ(program.Main().CellText(0, 1), "a");
+    EXPECT_EQ(program.Main().CellText(0, 2), "1");
+    EXPECT_EQ(program.Main().CellText(0, 10), "9");
+    EXPECT_EQ(program.view.valueTexts[0], "1") << "the editor shows what was pasted";
+    Run(IDM_mnuColorPaste);
+    EXPECT_EQ(program.view.rowCount, 2);
+}
+
+TEST_F(EditingCommandsTest, CutDeletesOnlyWhenTheColorIsOnTheClipboard) {
+    program.clipboard.isBusy = true;
+    EXPECT_THROW(Run(IDM_mnuColorCut), RuntimeError);
+    EXPECT_EQ(program.view.rowCount, 2);
+}
+
+TEST_F(EditingCommandsTest, PasteSelectsTheNewColorInAnEmptyGroup) {
+    program.clipboard.text = kLineOfA;
+    program.Main().NodeClicked("0DG2");
+    Run(IDM_mnuColorPaste);
+    EXPECT_EQ(program.view.selectedRow, 0);
+}
+
+TEST_F(EditingCommandsTest, PasteIgnoresForeignTextSilently) {
+    for (const char* text : {"", "hello", "e#a=0DG1:a,1"}) {
+        program.clipboard.text = text;
+        Run(IDM_mnuColorPaste);
+    }
+    program.clipboard.text.reset();
+    Run(IDM_mnuColorPaste);
+    EXPECT_TRUE(program.prompts.messages.empty());
+    EXPECT_EQ(program.view.rowCount, 2);
+}
+
+TEST_F(EditingCommandsTest, PasteOfABrokenColorShowsItsMessageAndChangesNothing) {
+    for (const char* text :
+         {"E#", "E#a", "E#a=0DG1", "E#a=0DG1:a,1,2", "E#a=0DG1:a,1,2,3,4,5,6,7,8,9,10"}) {
+        program.prompts.messages.clear();
+        program.clipboard.text = text;
+        Run(IDM_mnuColorPaste);
+        EXPECT_EQ(program.prompts.messages, (std::vector<Message>{{"<5> CLIPBOARD", 48, "<98>"}}))
+            << text;
+    }
+    EXPECT_EQ(program.view.rowCount, 2);
+}
+
+TEST_F(EditingCommandsTest, CommaInTheNameParses) {
+    program.clipboard.text = "E#a, b=0DG1:x,1,2,3,4,5,6,7,8,9";
+    Run(IDM_mnuColorPaste);
+    EXPECT_EQ(program.Main().CellText(2, 1), "a, b");
+}
+
+TEST_F(EditingCommandsTest, PastedValueThatIsNoNumberIsAnErrorAndChangesNothing) {
+    program.clipboard.text = "E#a=0DG1:x,1,2,3,4,5,6,7,8,nine";
+    EXPECT_THROW(Run(IDM_mnuColorPaste), RuntimeError);
+    EXPECT_EQ(program.view.rowCount, 2);
+}
+
+TEST_F(EditingCommandsTest, DeletingAColorAsksWithItsSecondName) {
+    Run(IDM_mnuColorDelColor);
+    EXPECT_EQ(program.prompts.messages,
+              (std::vector<Message>{{"<99>\r\n<102>\r\na2", 289, "<98>"}}));
+    EXPECT_EQ(program.view.rowCount, 1);
+    EXPECT_EQ(program.Main().CellText(0, 1), "b");
+    EXPECT_EQ(program.view.colorName, "b") << "the editor shows the row that is selected now";
+}
+
+TEST_F(EditingCommandsTest, CancelledDeletionsChangeNothing) {
+    for (const int command :
+         {IDM_mnuColorDelColor, IDM_mnuColorDelGroup, IDM_mnuColorDelMainNode}) {
+        program.prompts.answers = {Answer::Cancel};
+        Run(command);
+        program.Main().NodeClicked("0DG1");
+        EXPECT_EQ(program.view.rowCount, 2);
+    }
+}
+
+TEST_F(EditingCommandsTest, DeletingAGroupAsksOnceAndListsItsColors) {
+    Run(IDM_mnuColorDelGroup);
+    EXPECT_EQ(program.prompts.messages,
+              (std::vector<Message>{
+                  {"<99>\r\n<101>\r\ng\r\na2 (0DG1E1)\r\nb2 (0DG1E2)\r\n", 289, "<98>"}}));
+    EXPECT_FALSE(program.view.nodes.contains("0DG1"));
+    EXPECT_EQ(program.view.selectedNode, "0DG2");
+    EXPECT_EQ(program.view.rowCount, 0);
+}
+
+TEST_F(EditingCommandsTest, DeletingALibraryAsksExactlyOnce) {
+    Run(IDM_mnuColorDelMainNode);
+    EXPECT_EQ(program.prompts.messages,
+              (std::vector<Message>{{"<99>\r\n<100>\r\nLib\r\n", 289, "<98>"}}));
+    EXPECT_TRUE(program.view.nodes.empty());
+    EXPECT_EQ(program.view.rowCount, 0);
+    EXPECT_TRUE(program.prompts.questions.empty()) << "the empty tree asks for nothing";
+}
+
+TEST_F(EditingCommandsTest, NothingAsksWithConfirmDelOff) {
+    Run(IDM_mnuOptionsConfirmDel);
+    Run(IDM_mnuColorDelColor);
+    Run(IDM_mnuColorDelGroup);
+    Run(IDM_mnuColorDelMainNode);
+    EXPECT_TRUE(program.prompts.messages.empty());
+    EXPECT_TRUE(program.view.nodes.empty());
+}
+
+TEST_F(EditingCommandsTest, DeletingWithNothingSuitableSelectedDoesNothing) {
+    program.Main().NodeClicked("0D");
+    Run(IDM_mnuColorDelGroup);
+    program.Main().NodeClicked("0DG2");
+    Run(IDM_mnuColorDelColor);
+    EXPECT_TRUE(program.prompts.messages.empty());
+    Run(IDM_mnuColorDelMainNode);
+    program.prompts.messages.clear();
+    Run(IDM_mnuColorDelMainNode);
+    Run(IDM_mnuColorDelGroup);
+    EXPECT_TRUE(program.prompts.messages.empty());
+}
+
+TEST_F(EditingCommandsTest, CloseRemovesTheSelectedGroupAloneWithoutAsking) {
+    Run(IDM_mnuFileClose);
+    EXPECT_TRUE(program.prompts.messages.empty());
+    EXPECT_FALSE(program.view.nodes.contains("0DG1"));
+    EXPECT_TRUE(program.view.nodes.contains("0DG2"));
+}
+
+TEST_F(EditingCommandsTest, CloseOfTheLastLibraryLeavesAnEmptyTreeAndSaveDoesNothing) {
+    program.Main().NodeClicked("0D");
+    Run(IDM_mnuFileClose);
+    EXPECT_TRUE(program.view.nodes.empty());
+    Run(IDM_mnuFileSave);
+    EXPECT_TRUE(program.prompts.messages.empty());
+}
+
+TEST_F(EditingCommandsTest, RenameStartsTheEditOfTheSelectedNode) {
+    Run(IDM_mnuColorRenameNode);
+    EXPECT_EQ(program.view.editedNode, "0DG1");
+}
+
+TEST_F(EditingCommandsTest, RenameInTheListStartsTheEditOfTheSelectedRow) {
+    program.Main().RowClicked(1);
+    program.Main().RowEditRequested();
+    EXPECT_EQ(program.view.editedRow, 1);
+}
+
+} // namespace

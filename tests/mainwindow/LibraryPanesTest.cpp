@@ -1,0 +1,226 @@
+#include "mainwindow/LibraryPanes.h"
+
+#include "tests/fakes/FakeCollation.h"
+#include "tests/fakes/FakeMainView.h"
+#include "tests/fakes/FakePrompts.h"
+#include "tests/fakes/FakeTexts.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+// A library with the groups "one" (colours b, A, c) and "two" (none).
+class LibraryPanesTest : public testing::Test {
+protected:
+    LibraryPanesTest() {
+        library.SetHost(panes);
+        library.Tree().Observe(&view);
+        editor.ShowInitialColor();
+        library.NewMainNode("Lib");
+        library.NewGroupNode("0D", "one");
+        library.NewGroupNode("0D", "two");
+        AddColor("b", 20);
+        AddColor("A", 100);
+        AddColor("c", 3);
+    }
+    ~LibraryPanesTest() override { library.Tree().Observe(nullptr); }
+
+    void AddColor(const std::string& name, std::int16_t red) {
+        const std::string key = "0DG1E" + std::to_string(library.Colors().UpperBound() + 1);
+        library.Colors().Append({name, key, "0DG1", false, {red, 1, 2, 3, 4, 5, 6, 7, 8}, name});
+    }
+    [[nodiscard]] Names ShownNames() const {
+        Names names;
+        for (int row = 0; row < list.RowCount(); ++row)
+            names.push_back(list.CellText(row, 1));
+        return names;
+    }
+
+    FakeMainView view;
+    FakePrompts prompts;
+    FakeTexts texts;
+    FakeCollation collation;
+    ColorLibrary library{prompts, texts};
+    ColorEditor editor{view, prompts, texts};
+    ColorList list{library, view, collation};
+    LibraryPanes panes{library, list, editor};
+};
+
+TEST_F(LibraryPanesTest, ClickedLibraryShowsTheColorsOfItsFirstGroup) {
+    panes.NodeClicked("0D");
+    EXPECT_EQ(ShownNames(), (Names{"b", "A", "c"}));
+    EXPECT_EQ(library.Tree().Selected(), "0D") << "the clicked node stays selected";
+    EXPECT_EQ(view.rowCount, 3);
+}
+
+TEST_F(LibraryPanesTest, FirstColorIsSelectedMadeVisibleAndShownInTheEditor) {
+    panes.NodeClicked("0DG1");
+    EXPECT_EQ(view.selectedRow, 0);
+    EXPECT_EQ(view.visibleRow, 0);
+    EXPECT_EQ(view.colorName, "b");
+    EXPECT_EQ(view.valueTexts[0], "20");
+}
+
+TEST_F(LibraryPanesTest, RowsShowNameAndNineValues) {
+    panes.NodeClicked("0DG1");
+    Names cells;
+    for (int column = 1; column <= 11; ++column)
+        cells.push_back(list.CellText(1, column));
+    EXPECT_EQ(cells, (Names{"A", "100", "1", "2", "3", "4", "5", "6", "7", "8", ""}));
+}
+
+TEST_F(LibraryPanesTest, ClickedColorIsRememberedAndSelectedWhenTheGroupIsShownAgain) {
+    panes.NodeClicked("0DG1");
+    panes.RowClicked(2);
+    EXPECT_EQ(view.colorName, "c");
+    EXPECT_EQ(library.Tree().At("0DG1").tag, "0DG1E3");
+    panes.NodeClicked("0DG2");
+    panes.NodeClicked("0DG1");
+    EXPECT_EQ(view.selectedRow, 2);
+    EXPECT_EQ(view.colorName, "c");
+}
+
+TEST_F(LibraryPanesTest, RememberedColorThatIsGoneLeavesTheFirstSelected) {
+    library.Tree().SetTag("0DG1", "0DG1E99");
+    panes.NodeClicked("0DG1");
+    EXPECT_EQ(view.selectedRow, 0);
+}
+
+TEST_F(LibraryPanesTest, SelectKeyIsStoredInTheGroupAndSelected) {
+    panes.ShowColorNodes("0DG1", "0DG1E2");
+    EXPECT_EQ(library.Tree().At("0DG1").tag, "0DG1E2");
+    EXPECT_EQ(view.selectedRow, 1);
+}
+
+TEST_F(LibraryPanesTest, EmptyGroupEmptiesTheListAndTheEditorKeepsItsColor) {
+    panes.NodeClicked("0DG1");
+    panes.NodeClicked("0DG2");
+    EXPECT_EQ(view.rowCount, 0);
+    EXPECT_EQ(view.colorName, "b");
+    EXPECT_EQ(panes.SelectedColorKey(), "");
+}
+
+TEST_F(LibraryPanesTest, LibraryWithoutGroupsShowsAnEmptyList) {
+    panes.NodeClicked("0DG1");
+    library.NewMainNode("Empty");
+    panes.NodeClicked("1D");
+    EXPECT_EQ(view.rowCount, 0);
+}
+
+TEST_F(LibraryPanesTest, WithoutASelectedNodeANewLibraryIsAskedForAndTheListIsEmpty) {
+    library.Tree().Remove("0D");
+    panes.ShowColorNodes({}, {});
+    ASSERT_EQ(prompts.questions.size(), 1U);
+    EXPECT_EQ(prompts.questions[0].prompt, "<50>");
+    EXPECT_EQ(view.rowCount, 0);
+}
+
+TEST_F(LibraryPanesTest, RefreshAfterADeletionNeverAsks) {
+    library.Tree().Remove("0D");
+    panes.ShowSelectedGroup();
+    EXPECT_TRUE(prompts.questions.empty());
+    EXPECT_EQ(view.rowCount, 0);
+}
+
+TEST_F(LibraryPanesTest, RenamedColorTakesTheTextAsTypedInBothNames) {
+    panes.NodeClicked("0DG1");
+    panes.RowLabelEdited(0, "");
+    EXPECT_EQ(library.Colors().At(1).name, "");
+    EXPECT_EQ(library.Colors().At(1).altName, "");
+    EXPECT_EQ(view.colorName, "") << "the editor's name label follows";
+}
+
+TEST_F(LibraryPanesTest, RenamedNodeIsWhatIsSaved) {
+    panes.NodeLabelEdited("0DG1", "renamed");
+    EXPECT_EQ(library.Tree().At("0DG1").text, "renamed");
+    EXPECT_EQ(view.nodes.at("0DG1"), "renamed");
+}
+
+TEST_F(LibraryPanesTest, UpdateWritesNameAndValuesOfTheEditorIntoTheSelectedColor) {
+    panes.NodeClicked("0DG1");
+    panes.RowClicked(1);
+    editor.SetName("other");
+    editor.SetText(0, "77");
+    EXPECT_EQ(library.Colors().At(2).values[0], 100) << "not before the command";
+    panes.UpdateFromColorPreview();
+    EXPECT_EQ(library.Colors().At(2).name, "other");
+    EXPECT_EQ(library.Colors().At(2).altName, "A") << "the second name stays";
+    EXPECT_EQ(library.Colors().At(2).values[0], 77);
+    EXPECT_EQ(view.selectedRow, 1);
+    EXPECT_EQ(list.CellText(1, 2), "77");
+}
+
+TEST_F(LibraryPanesTest, UpdateWithoutASelectedColorDoesNothing) {
+    panes.NodeClicked("0DG2");
+    panes.UpdateFromColorPreview();
+    EXPECT_TRUE(prompts.messages.empty());
+    EXPECT_EQ(library.Colors().At(1).values[0], 20);
+}
+
+TEST_F(LibraryPanesTest, EditsThatAreNotWrittenBackAreLost) {
+    panes.NodeClicked("0DG1");
+    editor.SetText(0, "77");
+    panes.RowClicked(1);
+    panes.RowClicked(0);
+    EXPECT_EQ(view.valueTexts[0], "20");
+}
+
+TEST_F(LibraryPanesTest, OtherColumnSortsAscendingThenDescendingThenAscendingAgain) {
+    panes.NodeClicked("0DG1");
+    list.ColumnClicked(2); // red: 20, 100, 3 as text
+    EXPECT_EQ(ShownNames(), (Names{"A", "b", "c"})) << "\"100\" comes before \"20\"";
+    list.ColumnClicked(2);
+    EXPECT_EQ(ShownNames(), (Names{"c", "b", "A"}));
+    list.ColumnClicked(2);
+    EXPECT_EQ(ShownNames(), (Names{"A", "b", "c"}));
+}
+
+TEST_F(LibraryPanesTest, NameIsTheSortKeyFromTheStartSoItsFirstClickFlipsTheOrder) {
+    panes.NodeClicked("0DG1");
+    list.ColumnClicked(1);
+    EXPECT_EQ(ShownNames(), (Names{"c", "b", "A"}));
+}
+
+TEST_F(LibraryPanesTest, SelectionStaysOnItsColorWhenTheListIsSorted) {
+    panes.NodeClicked("0DG1");
+    panes.RowClicked(0); // b
+    list.ColumnClicked(2);
+    EXPECT_EQ(view.selectedRow, 1);
+    EXPECT_EQ(list.SelectedKey(), "0DG1E1");
+}
+
+TEST_F(LibraryPanesTest, SortingStaysSwitchedOnForTheNextGroup) {
+    panes.NodeClicked("0DG1");
+    list.ColumnClicked(2);
+    panes.NodeClicked("0DG2");
+    panes.NodeClicked("0DG1");
+    EXPECT_EQ(ShownNames(), (Names{"A", "b", "c"}));
+}
+
+TEST_F(LibraryPanesTest, ColumnsAreSharesOfTheListsWidth) {
+    view.listWidth = 6000;
+    list.AddColumns();
+    ASSERT_EQ(view.columns.size(), 10U);
+    EXPECT_EQ(view.columns[0].caption, "Name");
+    EXPECT_EQ(view.columns[0].key, "Name");
+    EXPECT_EQ(view.columns[0].width, 1440);
+    const Names captions{"R", "G", "B", "Amb", "Dif", "Spe", "Shi", "Tra", "Emi"};
+    const Names keys{"red",      "green",     "blue",         "Ambient", "Diffuse",
+                     "Specular", "Shininess", "Transparency", "Emission"};
+    for (std::size_t column = 0; column < 9; ++column) {
+        EXPECT_EQ(view.columns[column + 1].caption, captions[column]);
+        EXPECT_EQ(view.columns[column + 1].key, keys[column]);
+        EXPECT_EQ(view.columns[column + 1].width, 500);
+    }
+}
+
+TEST_F(LibraryPanesTest, TypedLettersFindTheNextNameFromTheStartRowOnwards) {
+    panes.NodeClicked("0DG1");
+    EXPECT_EQ(list.FindRow("a", 0), 1);
+    EXPECT_EQ(list.FindRow("B", 1), 0) << "wraps at the end";
+    EXPECT_EQ(list.FindRow("x", 0), -1);
+}
+
+} // namespace

@@ -1,0 +1,254 @@
+#include "resources/controls.h"
+#include "tests/fakes/FakeProgram.h"
+#include "tests/standin/StandInClient.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Message = FakePrompts::Message;
+
+constexpr const char* kTitle = "Chromix - TNT";
+
+class SolidWorksCommandsTest : public testing::Test {
+protected:
+    SolidWorksCommandsTest() { Start("default"); }
+
+    void Start(const std::string& scenario) {
+        program = std::make_unique<FakeProgram>(scenario);
+        program->files.contents["C:\\a.tnt"] = "\"D#Lib=0D:1\"\r\n\"G#g=0DG1\"\r\n";
+        program->registry.SetText(FakeProgram::Setting("DefaultColorFile"), "C:\\a.tnt");
+        program->application.Start();
+    }
+    void Run(int command) { program->Main().RunCommand(command); }
+    void Select(const AutomationObjectPtr& object, bool append = false) const {
+        object->Invoke("Select", {append});
+    }
+    void TypeValue(std::size_t index, const std::string& text) {
+        program->Main().ValueTextChanged(index, text);
+    }
+    [[nodiscard]] StandInClient Client() const { return StandInClient(program->solidWorks); }
+    [[nodiscard]] std::vector<double> ColorOf(const AutomationObjectPtr& object) const {
+        return std::get<std::vector<double>>(object->Get("MaterialPropertyValues").data);
+    }
+
+    std::unique_ptr<FakeProgram> program;
+};
+
+const std::vector<int> kAllCommands = {IDM_mnuSWXGetColor,
+                                       IDM_mnuSWXSetColor,
+                                       IDM_mnuSWXSetColorComponent,
+                                       IDM_mnuSWXClearColorFromSelection,
+                                       IDM_mnuSWXClearComponentColorFromSelection,
+                                       IDM_mnuSWXClearColorPart,
+                                       IDM_mnuSWXClearColorAssembly,
+                                       IDM_mnuSWXGetStandardColor,
+                                       IDM_mnuSWXSetStandardColor};
+
+TEST_F(SolidWorksCommandsTest, EveryCommandShowsTextZeroWithoutSolidWorksAndChangesNothing) {
+    program->service.SetRunning(false);
+    const auto nodes = program->view.nodes;
+    for (const int command : kAllCommands) {
+        program->prompts.messages.clear();
+        Run(command);
+        EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<0>", 64, kTitle}}))
+            << command;
+    }
+    EXPECT_EQ(program->view.nodes, nodes);
+    EXPECT_EQ(program->view.colorName, "New Color");
+}
+
+TEST_F(SolidWorksCommandsTest, EveryCommandShowsTextOneWithoutADocument) {
+    Start("no-document");
+    for (const int command : kAllCommands) {
+        program->prompts.messages.clear();
+        Run(command);
+        EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<1>", 64, kTitle}}))
+            << command;
+    }
+}
+
+TEST_F(SolidWorksCommandsTest, SelectionCommandsShowTextTwoWithADrawing) {
+    Start("drawing");
+    for (const int command :
+         {IDM_mnuSWXGetColor, IDM_mnuSWXSetColor, IDM_mnuSWXClearColorFromSelection}) {
+        program->prompts.messages.clear();
+        Run(command);
+        EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<2>", 64, kTitle}}));
+    }
+}
+
+TEST_F(SolidWorksCommandsTest, ComponentAndAssemblyCommandsShowTextTenWithAPart) {
+    for (const int command :
+         {IDM_mnuSWXSetColorComponent, IDM_mnuSWXClearComponentColorFromSelection,
+          IDM_mnuSWXClearColorAssembly}) {
+        program->prompts.messages.clear();
+        Run(command);
+        EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<10>", 64, kTitle}}));
+    }
+}
+
+TEST_F(SolidWorksCommandsTest, PartCommandShowsTextNineWithAnAssembly) {
+    Start("assembly");
+    Run(IDM_mnuSWXClearColorPart);
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<9>", 64, kTitle}}));
+}
+
+TEST_F(SolidWorksCommandsTest, OldRevisionIsLookedAtBeforeTheDocument) {
+    Start("old-revision,no-document");
+    Run(IDM_mnuSWXClearColorAssembly);
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<8>", 64, kTitle}}));
+}
+
+TEST_F(SolidWorksCommandsTest, SetColorSendsTheEditorsValuesToEverySelectedFace) {
+    Select(Client().Face(0));
+    Select(Client().Face(1), true);
+    const std::vector<std::string> texts{"128", "64", "255", "50", "25", "75", "10", "5", "1"};
+    for (std::size_t index = 0; index < texts.size(); ++index)
+        TypeValue(index, texts[index]);
+    Run(IDM_mnuSWXSetColor);
+    const std::vector<double> expected{128 / 255.0, 64 / 255.0, 1.0,  0.5, 0.25,
+                                       0.75,        0.1,        0.05, 0.01};
+    EXPECT_EQ(ColorOf(Client().Face(0)), expected);
+    EXPECT_EQ(ColorOf(Client().Face(1)), expected);
+    EXPECT_EQ(program->view.infoPanel, "Okay setzen in SolidWorks");
+    EXPECT_TRUE(program->prompts.messages.empty());
+}
+
+TEST_F(SolidWorksCommandsTest, SetColorWithNothingSelectedColorsTheDocument) {
+    Run(IDM_mnuSWXSetColor);
+    EXPECT_EQ(ColorOf(Client().Document()), (std::vector<double>{1, 1, 1, 1, 1, 1, 0.3, 0, 0}));
+}
+
+TEST_F(SolidWorksCommandsTest, GetColorLoadsTheEditorAndNotTheLibrary) {
+    Client().Face(0)->Put("MaterialPropertyValues",
+                          std::vector<double>{0.5, 0, 1, 0.1, 0.2, 0.3, 0.4, 0.005, 0.6});
+    Select(Client().Face(0));
+    Run(IDM_mnuSWXGetColor);
+    EXPECT_EQ(program->view.colorName, "Neuer Farbwert");
+    EXPECT_EQ(program->view.valueTexts,
+              (std::array<std::string, 9>{"128", "0", "255", "10", "20", "30", "40", "0", "60"}))
+        << "an exact half goes to the even neighbour";
+    EXPECT_EQ(program->view.smallSwatchText, program->view.smallSwatch ^ 0xFFFFFU);
+    EXPECT_EQ(program->view.rowCount, 0);
+    EXPECT_TRUE(program->prompts.messages.empty());
+}
+
+TEST_F(SolidWorksCommandsTest, GetColorOfAnEdgeShowsZerosAndAnEmptyNameWithoutAMessage) {
+    program->solidWorks.Part().Edges().front()->Select(false);
+    Run(IDM_mnuSWXGetColor);
+    EXPECT_EQ(program->view.colorName, "");
+    EXPECT_EQ(program->view.valueTexts[0], "0");
+    EXPECT_TRUE(program->prompts.messages.empty());
+}
+
+TEST_F(SolidWorksCommandsTest, NewColorFromSolidWorksEndsWithTheReadValuesInTheLibrary) {
+    Client().Face(0)->Put("MaterialPropertyValues",
+                          std::vector<double>{0.2, 0.4, 0.6, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6});
+    Select(Client().Face(0));
+    program->Main().NodeClicked("0DG1");
+    program->prompts.typed = {"picked"};
+    Run(IDM_mnuSWXNewColorUpdate);
+    ASSERT_EQ(program->view.rowCount, 1);
+    EXPECT_EQ(program->Main().CellText(0, 1), "Neuer Farbwert");
+    EXPECT_EQ(program->Main().CellText(0, 2), "51");
+    EXPECT_EQ(program->Main().CellText(0, 10), "60");
+}
+
+TEST_F(SolidWorksCommandsTest, CancelledNameStillReadsAndWritesTheColorThatWasActive) {
+    program->Main().NodeClicked("0DG1");
+    program->prompts.typed = {"first"};
+    Run(IDM_mnuColorNewColor);
+    Select(Client().Face(0));
+    Run(IDM_mnuSWXNewColorUpdate); // cancelled
+    EXPECT_EQ(program->view.rowCount, 1);
+    EXPECT_EQ(program->Main().CellText(0, 1), "Neuer Farbwert");
+}
+
+TEST_F(SolidWorksCommandsTest, StandardColorsBecomeAGroupWithRisingEmission) {
+    Run(IDM_mnuSWXGetStandardColor);
+    EXPECT_EQ(program->view.nodes.at("0DG2"), "<70>");
+    EXPECT_EQ(program->view.selectedNode, "0DG2");
+    ASSERT_EQ(program->view.rowCount, 12);
+    EXPECT_EQ(program->Main().CellText(0, 10), "10");
+    EXPECT_EQ(program->Main().CellText(11, 10), "21");
+}
+
+TEST_F(SolidWorksCommandsTest, StandardColorsSetWithoutEditsAreWrittenBackUnchanged) {
+    const AutomationObjectPtr table = Client().Document()->Get("GetColorTable").AsObject();
+    std::vector<std::int32_t> before;
+    for (std::int32_t index = 0; index < 12; ++index)
+        before.push_back(table->Invoke("GetColorRefAtIndex", {index}).AsInt32());
+    Run(IDM_mnuSWXGetStandardColor);
+    Run(IDM_mnuSWXSetStandardColor);
+    EXPECT_TRUE(program->prompts.messages.empty());
+    for (std::int32_t index = 0; index < 12; ++index)
+        EXPECT_EQ(table->Invoke("GetColorRefAtIndex", {index}).AsInt32(),
+                  before[static_cast<std::size_t>(index)]);
+}
+
+TEST_F(SolidWorksCommandsTest, FailingCallNamesItsMemberAndEverythingStays) {
+    const auto texts = program->view.valueTexts;
+    program->solidWorks.Gate().ClearFaults();
+    program->solidWorks.Gate().AddFault(ParseFault("3:error:Out of paint"));
+    try {
+        Run(IDM_mnuSWXSetColor);
+        FAIL() << "the form reports what a command throws";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Description(), "Out of paint");
+        EXPECT_EQ(error.Member(), "SelectionManager");
+    }
+    EXPECT_EQ(program->view.valueTexts, texts);
+    program->solidWorks.Gate().ClearFaults();
+    Run(IDM_mnuSWXSetColor);
+    EXPECT_EQ(program->view.infoPanel, "Okay setzen in SolidWorks");
+}
+
+TEST_F(SolidWorksCommandsTest, ProgressWindowIsTakenDownWhenAWalkFails) {
+    program->solidWorks.Gate().ClearFaults();
+    program->solidWorks.Gate().AddFault(ParseFault("12:error"));
+    EXPECT_THROW(Run(IDM_mnuSWXClearColorPart), RuntimeError);
+    EXPECT_EQ(program->progress.calls.front().substr(0, 9), "show <62>");
+    EXPECT_FALSE(program->progress.isShown);
+}
+
+TEST_F(SolidWorksCommandsTest, StopEndsAWalkBeforeTheNextItemWithAMessageAndWithoutARebuild) {
+    program->events.onEvents = [&] {
+        if (program->events.count == 2)
+            program->application.ProgressWindowEvents().StopClicked();
+    };
+    program->solidWorks.Log().Clear();
+    Run(IDM_mnuSWXClearColorPart);
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"ProgressStopped", 64, kTitle}}));
+    int cleared = 0;
+    for (const CallRecord& call : program->solidWorks.Log().Records()) {
+        cleared += call.member == "SelectedFeatureProperties" ? 1 : 0;
+        EXPECT_NE(call.member, "EditRebuild");
+        EXPECT_NE(call.member, "SelectedFaceProperties");
+    }
+    EXPECT_EQ(cleared, 1);
+    EXPECT_FALSE(program->progress.isShown);
+}
+
+TEST_F(SolidWorksCommandsTest, CommandsDuringAWalkAreRefusedSilently) {
+    program->events.onEvents = [&] { Run(IDM_mnuColorDelMainNode); };
+    Run(IDM_mnuSWXClearColorPart);
+    EXPECT_TRUE(program->prompts.messages.empty());
+    EXPECT_TRUE(program->view.nodes.contains("0D"));
+    Run(IDM_mnuColorDelMainNode);
+    EXPECT_FALSE(program->view.nodes.contains("0D")) << "and work again afterwards";
+}
+
+TEST_F(SolidWorksCommandsTest, QuitDuringAWalkStopsItFirst) {
+    bool endedDuringWalk = false;
+    program->events.onEvents = [&] {
+        Run(IDM_mnuQuit);
+        endedDuringWalk = program->view.isEnded;
+    };
+    Run(IDM_mnuSWXClearColorPart);
+    EXPECT_FALSE(endedDuringWalk);
+    EXPECT_EQ(program->events.count, 1);
+    EXPECT_TRUE(program->view.isEnded);
+}
+
+} // namespace

@@ -1,0 +1,78 @@
+#include "platform/Utf16.h"
+#include "tests/platform/StandInProcess.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Clients that know nothing of this program: the platform's script hosts.
+class StandInScriptTest : public testing::Test {
+protected:
+    [[nodiscard]] std::string RunScript(const char* name, const char* text) const {
+        folder.Write(name, text);
+        return RunProgram(L"cscript.exe //nologo \"" + ToUtf16(folder.File(name)) + L"\"").output;
+    }
+
+    ScratchFolder folder;
+};
+
+TEST_F(StandInScriptTest, VbScriptReachesTheRunningObjectAndSetsAColour) {
+    const StandInProcess standIn;
+    ASSERT_TRUE(standIn.IsReady());
+    const std::string output = RunScript("client.vbs", R"vbs(
+Set application = CreateObject("SldWorks.Application")
+WScript.Echo application.RevisionNumber
+Set face = application.ActiveDoc.Body.GetFirstFace
+WScript.Echo TypeName(face.MaterialPropertyValues)
+face.MaterialPropertyValues = Array(1, 0.5, 0, 0.25, 0, 0, 0, 0, 0)
+WScript.Echo TypeName(face.MaterialPropertyValues)
+)vbs");
+    EXPECT_EQ(output, "12.5.0\nEmpty\nVariant()\n");
+    EXPECT_EQ(standIn.LoggedCalls().at(5),
+              "put face \"Face 1\" MaterialPropertyValues = Array(1, 0.5, 0, 0.25, 0, 0, 0, 0, 0)");
+}
+
+TEST_F(StandInScriptTest, VbScriptCopiesAColourFromOneFaceToAnother) {
+    const StandInProcess standIn;
+    ASSERT_TRUE(standIn.IsReady());
+    const std::string output = RunScript("client.vbs", R"vbs(
+Set face = CreateObject("SldWorks.Application").ActiveDoc.Body.GetFirstFace
+Set coloured = face.GetNextFace.GetNextFace
+face.MaterialPropertyValues = coloured.MaterialPropertyValues
+WScript.Echo "copied"
+)vbs");
+    EXPECT_EQ(output, "copied\n");
+    EXPECT_EQ(standIn.LoggedCalls().back(),
+              "put face \"Face 1\" MaterialPropertyValues = [0.80784313725490198, "
+              "0.22745098039215686, 0.20392156862745098, 0.59999999999999998, 1, 0.5, "
+              "0.40000000000000002, 0, 0]");
+}
+
+TEST_F(StandInScriptTest, JScriptReadsAndSetsTheColourTable) {
+    const StandInProcess standIn;
+    ASSERT_TRUE(standIn.IsReady());
+    const std::string output = RunScript("client.js", R"js(
+var table = new ActiveXObject("SldWorks.Application").ActiveDoc.GetColorTable();
+WScript.Echo(table.GetNameAtIndex(5) + " " + table.GetColorRefAtIndex(5));
+table.SetColorRefAtIndex(5, 255, 0);
+WScript.Echo(table.GetColorRefAtIndex(5));
+)js");
+    EXPECT_EQ(output, "Sky blue 16744512\n255\n");
+}
+
+TEST_F(StandInScriptTest, AScriptIsToldWhatWentWrong) {
+    const StandInProcess standIn;
+    ASSERT_TRUE(standIn.IsReady());
+    const std::string output = RunScript("client.vbs", R"vbs(
+Set face = CreateObject("SldWorks.Application").ActiveDoc.Body.GetFirstFace
+On Error Resume Next
+face.MaterialPropertyValues = Array(1, 2)
+WScript.Echo Err.Description
+Err.Clear
+face.Weight
+WScript.Echo Err.Number
+)vbs");
+    EXPECT_EQ(output, "A colour is an array of 9 numbers, not of 2\n438\n");
+}
+
+} // namespace

@@ -1,0 +1,245 @@
+#include "common/RuntimeError.h"
+#include "platform/InputBox.h"
+#include "platform/MessageLoop.h"
+#include "support/frmAbout.h"
+#include "support/frmProgress.h"
+#include "support/frmTxtView.h"
+#include "tests/ui/MainFormTest.h"
+
+#include <algorithm>
+
+namespace {
+
+class RecordingEvents : public AboutEvents, public TextViewerEvents, public ProgressEvents {
+public:
+    void AboutUnloading() override { lines.emplace_back("unloading"); }
+    void SystemInfoClicked() override { lines.emplace_back("system"); }
+    void HomepageClicked() override { lines.emplace_back("home"); }
+    void MailClicked() override { lines.emplace_back("mail"); }
+    void BannerClicked() override { lines.emplace_back("banner"); }
+    void EntryChosen(int index) override { lines.push_back("entry " + std::to_string(index)); }
+    [[nodiscard]] TwipsSize TextSize(const TwipsSize& area) const override {
+        return {std::max(area.width - 1900, 5.0F), std::max(area.height - 625, 5.0F)};
+    }
+    void ProgressLoading() override { lines.emplace_back("loading"); }
+    void StopClicked() override { lines.emplace_back("stop"); }
+
+    std::vector<std::string> lines;
+};
+
+class AuxiliaryForms : public MainFormTest {
+protected:
+    AuxiliaryForms() { form.ShowWindow(); }
+
+    // Runs once the loop that follows is waiting for messages.
+    static void Later(std::function<void()> action) {
+        static std::function<void()> pending;
+        pending = std::move(action);
+        SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
+            KillTimer(nullptr, timer);
+            pending();
+        });
+    }
+    static FormControl& ControlOf(LocalizableForm& owner, const std::string& name) {
+        for (FormControl* control : owner.Controls())
+            if (control->Name() == name)
+                return *control;
+        throw std::out_of_range(name);
+    }
+
+    RecordingEvents recorded;
+};
+
+TEST_F(AuxiliaryForms, ProgressTakesItsTextsEachTimeItIsShown) {
+    frmProgress progress(form.Handle(), errors);
+    progress.Attach(recorded);
+    EXPECT_EQ(TextOf(progress.Handle()), L"TNT4SWX");
+    EXPECT_EQ(TextOf(FindChild(progress.Handle(), IDC_cmdCancel)), L"Stop");
+    for (int time = 0; time < 2; ++time) {
+        progress.ShowProgress("Farben werden entfernt ...", 10, 30);
+        EXPECT_NE(IsWindowVisible(progress.Handle()), FALSE);
+        progress.HideProgress();
+        EXPECT_EQ(IsWindowVisible(progress.Handle()), FALSE);
+    }
+    EXPECT_EQ(recorded.lines, (std::vector<std::string>{"loading", "loading"}));
+    EXPECT_EQ(TextOf(FindChild(progress.Handle(), IDC_lblInfo)), L"Farben werden entfernt ...");
+}
+
+TEST_F(AuxiliaryForms, ProgressBeyondTheMaximumStaysAtTheEnd) {
+    frmProgress progress(form.Handle(), errors);
+    const HWND bar = FindChild(progress.Handle(), IDC_prbMain);
+    progress.ShowProgress("x", 10, 30);
+    EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 10);
+    progress.SetProgress(20);
+    EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 20);
+    progress.SetProgress(99);
+    progress.RefreshProgress();
+    EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 30);
+}
+
+TEST_F(AuxiliaryForms, ButtonEscapeAndCloseBoxStopAndLeaveTheWindowOpen) {
+    frmProgress progress(form.Handle(), errors);
+    progress.Attach(recorded);
+    progress.ShowProgress("x", 0, 1);
+    recorded.lines.clear();
+    SendMessageW(FindChild(progress.Handle(), IDC_cmdCancel), BM_CLICK, 0, 0);
+    SendMessageW(progress.Handle(), WM_CLOSE, 0, 0);
+    MSG escape{progress.Handle(), WM_KEYDOWN, VK_ESCAPE, 0, 0, {}};
+    EXPECT_TRUE(progress.TranslateKeys(escape));
+    EXPECT_EQ(recorded.lines, (std::vector<std::string>{"stop", "stop", "stop"}));
+    EXPECT_NE(IsWindowVisible(progress.Handle()), FALSE);
+}
+
+TEST_F(AuxiliaryForms, AboutIsModalAndComesAgain) {
+    frmAbout about(form.Handle(), errors, banners);
+    about.Attach(recorded);
+    about.SetWindowCaption("TNT4SWX - Info ");
+    about.SetTitle("TNT4SWX");
+    about.SetVersion("Version 1.2.7");
+    EXPECT_EQ(TextOf(about.Handle()), L"TNT4SWX - Info ");
+    EXPECT_EQ(TextOf(FindChild(about.Handle(), IDC_lblVersion)), L"Version 1.2.7");
+    for (int time = 0; time < 2; ++time) {
+        bool ownerWasDisabled = false;
+        Later([&] {
+            ownerWasDisabled = IsWindowEnabled(form.Handle()) == FALSE;
+            SendMessageW(FindChild(about.Handle(), IDC_cmdOK), BM_CLICK, 0, 0);
+        });
+        about.ShowModal();
+        EXPECT_TRUE(ownerWasDisabled);
+        EXPECT_NE(IsWindowEnabled(form.Handle()), FALSE);
+        EXPECT_EQ(IsWindowVisible(about.Handle()), FALSE);
+    }
+    EXPECT_EQ(recorded.lines, (std::vector<std::string>{"unloading", "unloading"}));
+}
+
+TEST_F(AuxiliaryForms, AboutReportsItsLinksAndButtons) {
+    frmAbout about(form.Handle(), errors, banners);
+    about.Attach(recorded);
+    SendMessageW(FindChild(about.Handle(), IDC_cmdSysInfo), BM_CLICK, 0, 0);
+    Click(FindChild(about.Handle(), IDC_lblLinkHomepage), {2, 2});
+    SendMessageW(FindChild(about.Handle(), IDC_lblMail), WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_EQ(recorded.lines, (std::vector<std::string>{"system", "home", "mail"}));
+}
+
+TEST_F(AuxiliaryForms, AboutIsLocalisable) {
+    frmAbout about(form.Handle(), errors, banners);
+    EXPECT_EQ(about.Name(), "frmAbout");
+    ControlOf(about, "cmdSysInfo").SetProperty("Caption", "&System info ...");
+    EXPECT_EQ(TextOf(FindChild(about.Handle(), IDC_cmdSysInfo)), L"&System info ...");
+    EXPECT_EQ(ControlOf(about, "lblMail").TypeName(), "Label");
+    EXPECT_EQ(ControlOf(about, "picIcon").TypeName(), "PictureBox");
+}
+
+TEST_F(AuxiliaryForms, EndOfTheProgramEndsTheModalWindowToo) {
+    frmAbout about(form.Handle(), errors, banners);
+    Later([] { PostQuitMessage(5); });
+    about.ShowModal();
+    EXPECT_EQ(RunMessageLoop(), 5);
+}
+
+TEST_F(AuxiliaryForms, ViewerShowsItsEntriesAndReportsTheChoice) {
+    frmTxtView viewer(form.Handle(), errors, banners);
+    viewer.Attach(recorded);
+    const HWND combo = FindChild(viewer.Handle(), IDC_cmbTxtView);
+    viewer.SetEntries({"readme", "lizenz", "changes"});
+    EXPECT_EQ(SendMessageW(combo, CB_GETCURSEL, 0, 0), CB_ERR);
+    viewer.SelectEntry(1);
+    viewer.ShowModeless();
+    SendMessageW(combo, WM_KEYDOWN, VK_DOWN, 0);
+    EXPECT_EQ(recorded.lines, (std::vector<std::string>{"entry 1", "entry 2"}));
+    EXPECT_THROW(viewer.SelectEntry(3), RuntimeError);
+}
+
+TEST_F(AuxiliaryForms, ViewerTakesTextThatLooksLikeMarkupAsItIs) {
+    frmTxtView viewer(form.Handle(), errors, banners);
+    viewer.SetText("{\\rtf1 Prüfung}");
+    EXPECT_EQ(TextOf(FindChild(viewer.Handle(), IDC_rtbShowtext)), L"{\\rtf1 Prüfung}");
+}
+
+TEST_F(AuxiliaryForms, ViewerHoldsALongText) {
+    frmTxtView viewer(form.Handle(), errors, banners);
+    viewer.SetText(std::string(200000, 'a'));
+    EXPECT_EQ(GetWindowTextLengthW(FindChild(viewer.Handle(), IDC_rtbShowtext)), 200000);
+}
+
+TEST_F(AuxiliaryForms, ViewerTextTakesTheSizeItIsGivenOnlyInTheNormalState) {
+    frmTxtView viewer(form.Handle(), errors, banners);
+    viewer.Attach(recorded);
+    viewer.ShowModeless();
+    const HWND text = FindChild(viewer.Handle(), IDC_rtbShowtext);
+    const auto place = [&] {
+        RECT bounds{};
+        GetWindowRect(text, &bounds);
+        MapWindowPoints(nullptr, viewer.Handle(), reinterpret_cast<POINT*>(&bounds), 2);
+        return bounds;
+    };
+    const RECT before = place();
+    RECT area{};
+    GetClientRect(viewer.Handle(), &area);
+    EXPECT_EQ(WidthOf(before), viewer.Scale().ToPixels(viewer.Scale().ToTwips(area.right) - 1900));
+    EXPECT_EQ(HeightOf(before), viewer.Scale().ToPixels(viewer.Scale().ToTwips(area.bottom) - 625));
+    ShowWindow(viewer.Handle(), SW_MAXIMIZE);
+    EXPECT_EQ(WidthOf(place()), WidthOf(before));
+    EXPECT_EQ(place().left, before.left);
+}
+
+TEST_F(AuxiliaryForms, ViewerClosesByItsButtonAndComesAgain) {
+    frmTxtView viewer(form.Handle(), errors, banners);
+    viewer.Attach(recorded);
+    for (int time = 0; time < 2; ++time) {
+        viewer.ShowModeless();
+        EXPECT_NE(IsWindowVisible(viewer.Handle()), FALSE);
+        SendMessageW(FindChild(viewer.Handle(), IDC_cmdOkay), BM_CLICK, 0, 0);
+        EXPECT_EQ(IsWindowVisible(viewer.Handle()), FALSE);
+    }
+}
+
+class InputBoxes : public AuxiliaryForms {
+protected:
+    // Answers the box as the user does; gives the box to the action first.
+    std::wstring Ask(const std::function<void(HWND)>& action) {
+        Later([action] {
+            const HWND box = FindWindowW(L"InputBox", L"Titel");
+            ASSERT_NE(box, nullptr);
+            action(box);
+        });
+        return ShowInputBox(form.Handle(), L"Name der neuen Farbe:", L"Titel", L"Neue Farbe");
+    }
+};
+
+TEST_F(InputBoxes, PresetIsSelectedAndThePromptIsShown) {
+    Ask([](HWND box) {
+        DWORD start = 9;
+        DWORD end = 0;
+        SendMessageW(FindChild(box, IDC_txtInput), EM_GETSEL, reinterpret_cast<WPARAM>(&start),
+                     reinterpret_cast<LPARAM>(&end));
+        EXPECT_EQ(start, 0U);
+        EXPECT_EQ(end, 10U);
+        EXPECT_EQ(GetFocus(), FindChild(box, IDC_txtInput));
+        EXPECT_EQ(TextOf(FindChild(box, IDC_lblPrompt)), L"Name der neuen Farbe:");
+        PostMessageW(box, WM_CLOSE, 0, 0);
+    });
+}
+
+TEST_F(InputBoxes, EnterGivesTheText) {
+    EXPECT_EQ(Ask([](HWND box) {
+                  SetWindowTextW(FindChild(box, IDC_txtInput), L"Grün");
+                  PostMessageW(FindChild(box, IDC_txtInput), WM_KEYDOWN, VK_RETURN, 0);
+              }),
+              L"Grün");
+}
+
+TEST_F(InputBoxes, EscapeCancelAndCloseBoxGiveNothing) {
+    EXPECT_EQ(
+        Ask([](HWND box) { PostMessageW(FindChild(box, IDC_txtInput), WM_KEYDOWN, VK_ESCAPE, 0); }),
+        L"");
+    EXPECT_EQ(Ask([](HWND box) { SendMessageW(FindChild(box, IDCANCEL), BM_CLICK, 0, 0); }), L"");
+    EXPECT_EQ(Ask([](HWND box) { PostMessageW(box, WM_CLOSE, 0, 0); }), L"");
+}
+
+TEST_F(InputBoxes, OkButtonGivesTheText) {
+    EXPECT_EQ(Ask([](HWND box) { SendMessageW(FindChild(box, IDOK), BM_CLICK, 0, 0); }),
+              L"Neue Farbe");
+}
+
+} // namespace

@@ -1,0 +1,147 @@
+#include "common/ColorRecord.h"
+#include "tests/ui/MainFormTest.h"
+
+namespace {
+
+class MainEditorPane : public MainFormTest {
+protected:
+    [[nodiscard]] HWND Box(int index) const { return Child(IDC_txtActiveColor + index); }
+    [[nodiscard]] HWND Slide(int index) const { return Child(IDC_sldActiveColor + index); }
+    void Type(int index, const wchar_t* text) const {
+        for (; *text != L'\0'; ++text)
+            SendMessageW(Box(index), WM_CHAR, static_cast<WPARAM>(*text), 0);
+    }
+    [[nodiscard]] std::pair<DWORD, DWORD> Selection(int index) const {
+        DWORD start = 0;
+        DWORD end = 0;
+        SendMessageW(Box(index), EM_GETSEL, reinterpret_cast<WPARAM>(&start),
+                     reinterpret_cast<LPARAM>(&end));
+        return {start, end};
+    }
+};
+
+TEST_F(MainEditorPane, BoxesAreDesignedWithZero) {
+    for (int index = 0; index < 9; ++index)
+        EXPECT_EQ(TextOf(Box(index)), L"0");
+}
+
+TEST_F(MainEditorPane, TextSetByTheProgramIsNotReported) {
+    form.SetValueText(3, "77");
+    EXPECT_EQ(TextOf(Box(3)), L"77");
+    EXPECT_TRUE(events.lines.empty());
+}
+
+TEST_F(MainEditorPane, EachTypedCharacterIsReportedWithTheWholeText) {
+    form.SelectWholeValueText(1);
+    Type(1, L"12");
+    EXPECT_EQ(events.lines, (std::vector<std::string>{"text 1=1", "text 1=12"}));
+}
+
+TEST_F(MainEditorPane, OnlyValueCharactersAreLetThrough) {
+    form.SelectWholeValueText(0);
+    Type(0, L"a-1ü,2 ");
+    EXPECT_EQ(TextOf(Box(0)), L"12");
+}
+
+TEST_F(MainEditorPane, BackspaceIsLetThrough) {
+    form.SetValueText(0, "25");
+    SendMessageW(Box(0), EM_SETSEL, 2, 2);
+    Type(0, L"\b");
+    EXPECT_EQ(TextOf(Box(0)), L"2");
+}
+
+TEST_F(MainEditorPane, TextWrittenBackWhileTypingKeepsTheCaretAtItsPlace) {
+    events.onTextChanged = [this](std::size_t index, const std::string& text) {
+        form.SetValueText(index, text == "2." ? "2" : text);
+    };
+    form.SelectWholeValueText(0);
+    Type(0, L"2.5");
+    EXPECT_EQ(TextOf(Box(0)), L"25");
+    EXPECT_EQ(events.lines, (std::vector<std::string>{"text 0=2", "text 0=2.", "text 0=25"}));
+}
+
+TEST_F(MainEditorPane, FocusIsReportedAndTheWholeTextCanBeSelected) {
+    form.ShowWindow();
+    events.layout.SetHugeFrame(true);
+    form.SetValueText(2, "224");
+    SetFocus(Box(2));
+    EXPECT_EQ(events.lines, std::vector<std::string>{"focus 2"});
+    form.SelectWholeValueText(2);
+    EXPECT_EQ(Selection(2), (std::pair<DWORD, DWORD>{0, 3}));
+}
+
+TEST_F(MainEditorPane, ClickThatBringsTheFocusKeepsTheSelection) {
+    form.ShowWindow();
+    events.layout.SetHugeFrame(true);
+    form.SetValueText(2, "224");
+    SetFocus(Child(IDC_tvColor));
+    SendMessageW(Box(2), EM_SETSEL, 0, -1);
+    Click(Box(2), {2, 2});
+    EXPECT_EQ(GetFocus(), Box(2));
+    EXPECT_EQ(Selection(2), (std::pair<DWORD, DWORD>{0, 3}));
+}
+
+TEST_F(MainEditorPane, SlidersHaveTheRangesAndStepsOfTheirValues) {
+    for (int index = 0; index < 9; ++index) {
+        EXPECT_EQ(SendMessageW(Slide(index), TBM_GETRANGEMIN, 0, 0), 0);
+        EXPECT_EQ(SendMessageW(Slide(index), TBM_GETRANGEMAX, 0, 0),
+                  MaximumOfColorValue(static_cast<std::size_t>(index)));
+        EXPECT_EQ(SendMessageW(Slide(index), TBM_GETLINESIZE, 0, 0), 1);
+        EXPECT_EQ(SendMessageW(Slide(index), TBM_GETPAGESIZE, 0, 0), 10);
+    }
+}
+
+TEST_F(MainEditorPane, SliderKeysReportEachPositionOnce) {
+    form.SetSlider(7, 40);
+    EXPECT_TRUE(events.lines.empty());
+    SendMessageW(Slide(7), WM_KEYDOWN, VK_RIGHT, 0);
+    SendMessageW(Slide(7), WM_KEYUP, VK_RIGHT, 0);
+    SendMessageW(Slide(7), WM_KEYDOWN, VK_NEXT, 0);
+    SendMessageW(Slide(7), WM_KEYUP, VK_NEXT, 0);
+    EXPECT_EQ(events.lines, (std::vector<std::string>{"slider 7=41", "slider 7=51"}));
+}
+
+TEST_F(MainEditorPane, BothSwatchesReportTheDoubleClick) {
+    for (const int id : {IDC_lblActiveColor, IDC_lblActiveColorSmall})
+        SendMessageW(Child(id), WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(2, 2));
+    EXPECT_EQ(events.lines, (std::vector<std::string>{"swatch", "swatch"}));
+}
+
+TEST_F(MainEditorPane, SwatchShowsItsColor) {
+    form.ShowWindow();
+    form.SetSmallSwatch(0x2040C0, 0xDFBF3F);
+    form.SetSmallSwatchCaption("Blau & Weiß (R:1 G:2 B:3)");
+    EXPECT_EQ(TextOf(Child(IDC_lblActiveColorSmall)), L"Blau & Weiß (R:1 G:2 B:3)");
+    const HWND swatch = Child(IDC_lblActiveColorSmall);
+    RedrawWindow(swatch, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    const HDC device = GetDC(swatch);
+    RECT area{};
+    GetClientRect(swatch, &area);
+    const COLORREF seen = GetPixel(device, area.right - 5, area.bottom / 2);
+    ReleaseDC(swatch, device);
+    EXPECT_EQ(seen, 0x2040C0U);
+}
+
+TEST_F(MainEditorPane, NameLabelShowsAmpersandsAsTheyAre) {
+    form.SetColorName("Blau & Weiß");
+    EXPECT_EQ(TextOf(Child(IDC_lblActiveColorName)), L"Blau & Weiß");
+    EXPECT_NE(GetWindowLongPtrW(Child(IDC_lblActiveColorName), GWL_STYLE) & SS_NOPREFIX, 0);
+}
+
+TEST_F(MainEditorPane, NoControlOfTheFrameIsCutOffInAWindowAsDesigned) {
+    events.layout.SetHugeFrame(true);
+    events.layout.Resize();
+    RECT frame{};
+    GetWindowRect(Child(IDC_fraShowColor), &frame);
+    for (HWND child = GetWindow(Child(IDC_fraShowColor), GW_CHILD); child != nullptr;
+         child = GetWindow(child, GW_HWNDNEXT)) {
+        RECT place{};
+        RECT common{};
+        GetWindowRect(child, &place);
+        EXPECT_GT(WidthOf(place), 20) << GetDlgCtrlID(child);
+        IntersectRect(&common, &place, &frame);
+        EXPECT_TRUE(EqualRect(&common, &place)) << GetDlgCtrlID(child);
+    }
+}
+
+} // namespace

@@ -1,0 +1,169 @@
+#include "platform/Utf16.h"
+#include "tests/ui/MainFormTest.h"
+
+#include <array>
+#include <chrono>
+
+namespace {
+
+class MainList : public MainFormTest {
+protected:
+    MainList() {
+        const float width = form.ListWidth();
+        form.AddColumns({{"Name", "Name", width * 0.24F}, {"R", "red", 600}, {"G", "green", 600}});
+        form.SetListViewMode(ListViewMode::Details);
+        form.RowsChanged(10);
+    }
+
+    [[nodiscard]] HWND List() const { return Child(IDC_lvColor); }
+    [[nodiscard]] int Selected() const {
+        return static_cast<int>(
+            SendMessageW(List(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+    }
+    [[nodiscard]] std::string Cell(int row, int subItem) const {
+        std::array<wchar_t, 64> text{};
+        LVITEMW item{};
+        item.iSubItem = subItem;
+        item.pszText = text.data();
+        item.cchTextMax = static_cast<int>(text.size());
+        SendMessageW(List(), LVM_GETITEMTEXTW, static_cast<WPARAM>(row),
+                     reinterpret_cast<LPARAM>(&item));
+        return ToUtf8(text.data());
+    }
+    [[nodiscard]] POINT PlaceOf(int row) const {
+        RECT place{LVIR_LABEL, 0, 0, 0};
+        SendMessageW(List(), LVM_GETITEMRECT, static_cast<WPARAM>(row),
+                     reinterpret_cast<LPARAM>(&place));
+        return {place.left + 4, (place.top + place.bottom) / 2};
+    }
+};
+
+TEST_F(MainList, AsksForItsTextsByRowAndColumn) {
+    EXPECT_EQ(SendMessageW(List(), LVM_GETITEMCOUNT, 0, 0), 10);
+    EXPECT_EQ(Cell(0, 0), "cell 0,1");
+    EXPECT_EQ(Cell(7, 2), "cell 7,3");
+}
+
+TEST_F(MainList, ColumnsHaveTheWidthAndCaptionTheyWereMadeWith) {
+    std::array<wchar_t, 16> text{};
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT | LVCF_WIDTH;
+    column.pszText = text.data();
+    column.cchTextMax = static_cast<int>(text.size());
+    SendMessageW(List(), LVM_GETCOLUMNW, 1, reinterpret_cast<LPARAM>(&column));
+    EXPECT_STREQ(text.data(), L"R");
+    EXPECT_EQ(column.cx, form.Scale().ToPixels(600));
+}
+
+TEST_F(MainList, WidthIsKnownBeforeTheWindowIsShown) {
+    EXPECT_GT(form.ListWidth(), 5000);
+}
+
+TEST_F(MainList, SelectionByTheProgramIsNotReported) {
+    form.SelectRow(4);
+    EXPECT_EQ(Selected(), 4);
+    form.RowsChanged(5);
+    EXPECT_EQ(Selected(), -1);
+    EXPECT_TRUE(events.lines.empty());
+}
+
+TEST_F(MainList, SelectionByKeyboardIsReported) {
+    form.SelectRow(4);
+    SendMessageW(List(), WM_KEYDOWN, VK_DOWN, 0);
+    EXPECT_EQ(events.lines, std::vector<std::string>{"row 5"});
+    EXPECT_EQ(Selected(), 5);
+}
+
+TEST_F(MainList, ClickIsReportedOnceAlsoOnTheSelectedRow) {
+    form.ShowWindow();
+    Click(List(), PlaceOf(2));
+    EXPECT_EQ(events.lines, std::vector<std::string>{"row 2"});
+    Click(List(), PlaceOf(2));
+    EXPECT_EQ(events.lines, (std::vector<std::string>{"row 2", "row 2"}));
+}
+
+TEST_F(MainList, ClickBesideTheRowsKeepsTheSelection) {
+    form.ShowWindow();
+    form.SelectRow(2);
+    RECT area{};
+    GetClientRect(List(), &area);
+    Click(List(), {area.right - 4, area.bottom - 4});
+    EXPECT_EQ(Selected(), 2);
+    EXPECT_TRUE(events.lines.empty());
+}
+
+TEST_F(MainList, RightButtonSelectsTheRowAndOpensTheColorMenu) {
+    form.ShowWindow();
+    form.SelectRow(0);
+    const POINT place = PlaceOf(3);
+    PostMessageW(form.Handle(), WM_KEYDOWN, VK_UP, 0);
+    PostMessageW(form.Handle(), WM_KEYDOWN, VK_RETURN, 0);
+    SendMessageW(List(), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(place.x, place.y));
+    PumpMessages();
+    EXPECT_EQ(events.lines, std::vector<std::string>{"row 3"});
+    EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuColorUpdateColor});
+}
+
+TEST_F(MainList, F2AsksForTheEdit) {
+    SendMessageW(List(), WM_KEYDOWN, VK_F2, 0);
+    EXPECT_EQ(events.lines, std::vector<std::string>{"row edit"});
+}
+
+TEST_F(MainList, EditedLabelIsReportedAlsoWhenItIsEmpty) {
+    form.ShowWindow();
+    for (const wchar_t* text : {L"Grün", L""}) {
+        form.EditRowLabel(2);
+        const auto edit = reinterpret_cast<HWND>(SendMessageW(List(), LVM_GETEDITCONTROL, 0, 0));
+        ASSERT_NE(edit, nullptr);
+        SetWindowTextW(edit, text);
+        SendMessageW(edit, WM_KEYDOWN, VK_RETURN, 0);
+        PumpMessages();
+    }
+    EXPECT_EQ(events.lines, (std::vector<std::string>{"row label 2=Grün", "row label 2="}));
+}
+
+TEST_F(MainList, RefusedEditDoesNotStart) {
+    form.ShowWindow();
+    events.mayEdit = false;
+    form.EditRowLabel(2);
+    EXPECT_EQ(reinterpret_cast<HWND>(SendMessageW(List(), LVM_GETEDITCONTROL, 0, 0)), nullptr);
+}
+
+TEST_F(MainList, ColumnClickCountsFromOne) {
+    NMLISTVIEW click{};
+    click.hdr = {List(), IDC_lvColor, static_cast<UINT>(LVN_COLUMNCLICK)};
+    click.iItem = -1;
+    click.iSubItem = 1;
+    SendMessageW(form.Handle(), WM_NOTIFY, IDC_lvColor, reinterpret_cast<LPARAM>(&click));
+    EXPECT_EQ(events.lines, std::vector<std::string>{"column 2"});
+}
+
+TEST_F(MainList, TypedLettersFindARow) {
+    form.SelectRow(0);
+    SendMessageW(List(), WM_CHAR, 'x', 0);
+    EXPECT_EQ(Selected(), 3);
+    EXPECT_EQ(events.lines, std::vector<std::string>{"row 3"});
+}
+
+TEST_F(MainList, FourModesChangeOnlyThePresentation) {
+    form.SelectRow(4);
+    constexpr LONG_PTR kStyles[] = {LVS_ICON, LVS_SMALLICON, LVS_LIST, LVS_REPORT};
+    for (int mode = 0; mode < 4; ++mode) {
+        form.SetListViewMode(static_cast<ListViewMode>(mode));
+        EXPECT_EQ(GetWindowLongPtrW(List(), GWL_STYLE) & LVS_TYPEMASK, kStyles[mode]);
+        EXPECT_EQ(Selected(), 4);
+        EXPECT_EQ(SendMessageW(List(), LVM_GETITEMCOUNT, 0, 0), 10);
+    }
+}
+
+TEST_F(MainList, HundredThousandRowsAreSetAtOnce) {
+    const auto start = std::chrono::steady_clock::now();
+    form.RowsChanged(100000);
+    form.SelectRow(99999);
+    form.EnsureRowVisible(99999);
+    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+    EXPECT_EQ(Cell(99999, 1), "cell 99999,2");
+    EXPECT_LT(took.count(), 1.0);
+}
+
+} // namespace

@@ -1,0 +1,167 @@
+#include "mainwindow/CommandTable.h"
+#include "platform/Utf16.h"
+#include "tests/ui/MainFormTest.h"
+
+#include <array>
+
+#include <map>
+
+namespace {
+
+struct Expected {
+    const char* name;
+    int id;
+    const wchar_t* windowClass;
+    const char* typeName;
+};
+
+constexpr Expected kControls[] = {
+    {"tlbarMain", IDC_tlbarMain, TOOLBARCLASSNAMEW, "Toolbar"},
+    {"tvColor", IDC_tvColor, WC_TREEVIEWW, "TreeView"},
+    {"lvColor", IDC_lvColor, WC_LISTVIEWW, "ListView"},
+    {"imgSplitter", IDC_imgSplitter, WC_STATICW, "Image"},
+    {"picSplitter", IDC_picSplitter, WC_STATICW, "PictureBox"},
+    {"fraShowColor", IDC_fraShowColor, WC_BUTTONW, "Frame"},
+    {"lblActiveColor", IDC_lblActiveColor, WC_STATICW, "Label"},
+    {"lblActiveColorName", IDC_lblActiveColorName, WC_STATICW, "Label"},
+    {"lblActiveColorSmall", IDC_lblActiveColorSmall, WC_STATICW, "Label"},
+    {"stbarMain", IDC_stbarMain, STATUSCLASSNAMEW, "StatusBar"},
+    {"picSponsor", IDC_picSponsor, WC_STATICW, "PictureBox"},
+    {"lblDrag", IDC_lblDrag, WC_STATICW, "Label"},
+    {"lblRed", IDC_lblRed, WC_STATICW, "Label"},
+    {"lblEmission", IDC_lblEmission, WC_STATICW, "Label"},
+};
+
+using MainControls = MainFormTest;
+
+TEST_F(MainControls, WindowClassAndTitleAreTheProgramsOwn) {
+    EXPECT_EQ(ClassOf(form.Handle()), L"frmMain");
+    EXPECT_EQ(TextOf(form.Handle()), L"TNT4SWX");
+    EXPECT_EQ(form.Name(), "frmMain");
+}
+
+TEST_F(MainControls, EachChildWindowCarriesItsNumber) {
+    for (const Expected& expected : kControls) {
+        ASSERT_NE(Child(expected.id), nullptr) << expected.name;
+        EXPECT_STRCASEEQ(ToUtf8(ClassOf(Child(expected.id))).c_str(),
+                         ToUtf8(expected.windowClass).c_str());
+        ASSERT_NE(Control(expected.name), nullptr) << expected.name;
+        EXPECT_EQ(Control(expected.name)->TypeName(), expected.typeName);
+    }
+    for (int index = 0; index < static_cast<int>(kColorValueCount); ++index) {
+        EXPECT_STRCASEEQ(ToUtf8(ClassOf(Child(IDC_txtActiveColor + index))).c_str(), "Edit");
+        EXPECT_EQ(ClassOf(Child(IDC_sldActiveColor + index)), TRACKBAR_CLASSW);
+    }
+}
+
+TEST_F(MainControls, EveryMenuEntryAndControlArrayElementIsInTheCollection) {
+    std::map<std::string, int> count;
+    for (FormControl* control : form.Controls())
+        ++count[control->Name()];
+    for (const MenuRow& row : kMenuRows) {
+        EXPECT_EQ(count[row.name], 1) << row.name;
+        EXPECT_EQ(Control(row.name)->Property("Caption"), row.caption);
+        EXPECT_EQ(Control(row.name)->TypeName(), "Menu");
+    }
+    EXPECT_EQ(count["txtActiveColor"], 9);
+    EXPECT_EQ(count["sldActiveColor"], 9);
+    for (const char* name : {"imlView", "imlViewSmall", "imlToolbarIcons", "timSponsor"})
+        EXPECT_EQ(count[name], 1) << name;
+}
+
+TEST_F(MainControls, CaptionAndToolTipCanBeSetOnLabels) {
+    Control("lblGreen")->SetProperty("Caption", "Green");
+    Control("lblGreen")->SetProperty("ToolTipText", "Share of green");
+    EXPECT_EQ(TextOf(Child(IDC_lblGreen)), L"Green");
+    EXPECT_EQ(Control("lblGreen")->Property("ToolTipText"), "Share of green");
+    EXPECT_THROW(Control("lblGreen")->SetProperty("Text", "x"), RuntimeError);
+}
+
+TEST_F(MainControls, ListsAndBarsHaveOnlyAToolTip) {
+    for (const char* name : {"tvColor", "lvColor", "stbarMain"}) {
+        Control(name)->SetProperty("ToolTipText", "tip");
+        EXPECT_EQ(Control(name)->Property("ToolTipText"), "tip");
+        EXPECT_THROW(static_cast<void>(Control(name)->Property("Caption")), RuntimeError);
+    }
+}
+
+TEST_F(MainControls, LongerLabelMovesItsBox) {
+    RECT before{};
+    RECT after{};
+    GetWindowRect(Child(IDC_txtActiveColor), &before);
+    Control("lblRed")->SetProperty("Caption", "Ein sehr langer Name für Rot");
+    PumpMessages();
+    GetWindowRect(Child(IDC_txtActiveColor), &after);
+    EXPECT_GT(after.left, before.left + 20);
+}
+
+TEST_F(MainControls, TabKeyGoesThroughTreeListAndEachBoxFollowedByItsSlider) {
+    form.ShowWindow();
+    events.layout.SetHugeFrame(true);
+    std::vector<int> expected = {IDC_tvColor, IDC_lvColor};
+    for (int index = 0; index < 9; ++index) {
+        expected.push_back(IDC_txtActiveColor + index);
+        expected.push_back(IDC_sldActiveColor + index);
+    }
+    std::vector<int> found;
+    HWND control = nullptr;
+    for (std::size_t step = 0; step < expected.size(); ++step) {
+        control = GetNextDlgTabItem(form.Handle(), control, FALSE);
+        found.push_back(GetDlgCtrlID(control));
+    }
+    EXPECT_EQ(found, expected);
+}
+
+TEST_F(MainControls, LabelStandsDirectlyBeforeItsBoxAndNamesTheSlider) {
+    for (int index = 0; index < 9; ++index) {
+        const HWND before = GetWindow(Child(IDC_txtActiveColor + index), GW_HWNDPREV);
+        EXPECT_EQ(GetDlgCtrlID(before), IDC_lblRed + index);
+        EXPECT_EQ(TextOf(Child(IDC_sldActiveColor + index)), TextOf(before));
+    }
+}
+
+TEST_F(MainControls, SplitterDragMovesThePanes) {
+    const HWND splitter = Child(IDC_imgSplitter);
+    RECT before{};
+    RECT after{};
+    GetWindowRect(Child(IDC_tvColor), &before);
+    SendMessageW(splitter, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, 10));
+    SendMessageW(splitter, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(61, 10));
+    EXPECT_NE(GetWindowLongPtrW(Child(IDC_picSplitter), GWL_STYLE) & WS_VISIBLE, 0);
+    SendMessageW(splitter, WM_LBUTTONUP, 0, MAKELPARAM(61, 10));
+    GetWindowRect(Child(IDC_tvColor), &after);
+    EXPECT_EQ(WidthOf(after), WidthOf(before) + 61);
+    EXPECT_EQ(GetWindowLongPtrW(Child(IDC_picSplitter), GWL_STYLE) & WS_VISIBLE, 0);
+    EXPECT_EQ(events.lines, (std::vector<std::string>{"splitter down", "splitter up"}));
+}
+
+TEST_F(MainControls, StatusPanelShowsItsText) {
+    form.SetInfoPanelText("Okay setzen in SolidWorks");
+    std::array<wchar_t, 64> text{};
+    SendMessageW(Child(IDC_stbarMain), SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(text.data()));
+    EXPECT_STREQ(text.data(), L"Okay setzen in SolidWorks");
+}
+
+TEST_F(MainControls, HiddenStatusBarTakesNoHeight) {
+    EXPECT_GT(form.Metrics().statusBarHeight, 100);
+    form.SetStatusBarVisible(false);
+    EXPECT_EQ(form.Metrics().statusBarHeight, 0);
+}
+
+TEST_F(MainControls, FrameAndSmallSwatchTakeTurns) {
+    const auto shown = [this](int id) {
+        return (GetWindowLongPtrW(Child(id), GWL_STYLE) & WS_VISIBLE) != 0;
+    };
+    EXPECT_FALSE(shown(IDC_fraShowColor));
+    EXPECT_TRUE(shown(IDC_lblActiveColorSmall));
+    events.layout.SetHugeFrame(true);
+    EXPECT_TRUE(shown(IDC_fraShowColor));
+    EXPECT_FALSE(shown(IDC_lblActiveColorSmall));
+}
+
+TEST_F(MainControls, WithoutAPictureTheBannerIsHidden) {
+    form.SetBanner(1);
+    EXPECT_EQ(GetWindowLongPtrW(Child(IDC_picSponsor), GWL_STYLE) & WS_VISIBLE, 0);
+}
+
+} // namespace

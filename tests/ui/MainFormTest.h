@@ -1,0 +1,35 @@
+#pragma once
+
+#include "mainwindow/frmMain.h"
+#include "resources/controls.h"
+#include "tests/ui/RecordingErrorSink.h"
+#include "tests/ui/RecordingMainEvents.h"
+
+#include <gtest/gtest.h>
+
+// The child window with a number, wherever it stands in the form; null: there is none.
+[[nodiscard]] HWND FindChild(HWND form, int id);
+
+[[nodiscard]] std::wstring ClassOf(HWND window);
+[[nodiscard]] std::wstring TextOf(HWND window);
+
+// Handles the messages that are waiting, as the program's loop does.
+void PumpMessages();
+
+// A mouse click of the left button at a point of a window.
+void Click(HWND window, POINT at);
+
+// A real frmMain with recorded events and errors, laid out as the program lays it out.
+class MainFormTest : public testing::Test {
+protected:
+    MainFormTest() { form.Attach(events); }
+    ~MainFormTest() override { EXPECT_EQ(errors.reports, std::vector<std::string>{}); }
+
+    [[nodiscard]] HWND Child(int id) const { return FindChild(form.Handle(), id); }
+    [[nodiscard]] FormControl* Control(const std::string& name);
+
+    RecordingErrorSink errors;
+    BannerPictures banners;
+    frmMain form{errors, banners};
+    RecordingMainEvents events{form};
+};

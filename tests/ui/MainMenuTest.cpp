@@ -1,0 +1,125 @@
+#include "mainwindow/CommandTable.h"
+#include "platform/Utf16.h"
+#include "tests/ui/MainFormTest.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+std::string MenuText(HMENU menu, int command) {
+    std::array<wchar_t, 128> text{};
+    GetMenuStringW(menu, static_cast<UINT>(command), text.data(), static_cast<int>(text.size()),
+                   MF_BYCOMMAND);
+    return ToUtf8(text.data());
+}
+
+// Presses or releases Ctrl for this thread.
+void SetCtrl(bool down) {
+    std::array<BYTE, 256> keys{};
+    GetKeyboardState(keys.data());
+    keys[VK_CONTROL] = down ? 0x80 : 0;
+    SetKeyboardState(keys.data());
+}
+
+using MainMenu = MainFormTest;
+
+TEST_F(MainMenu, HoldsEveryEntryOfTheTableInItsOrder) {
+    const HMENU bar = GetMenu(form.Handle());
+    std::vector<int> found;
+    const std::function<void(HMENU)> walk = [&](HMENU menu) {
+        for (int place = 0; place < GetMenuItemCount(menu); ++place) {
+            MENUITEMINFOW item{};
+            item.cbSize = sizeof item;
+            item.fMask = MIIM_ID | MIIM_SUBMENU;
+            GetMenuItemInfoW(menu, static_cast<UINT>(place), TRUE, &item);
+            found.push_back(static_cast<int>(item.wID));
+            if (item.hSubMenu != nullptr)
+                walk(item.hSubMenu);
+        }
+    };
+    walk(bar);
+    std::vector<int> expected;
+    for (const MenuRow& row : kMenuRows)
+        expected.push_back(row.command);
+    EXPECT_EQ(found, expected);
+}
+
+TEST_F(MainMenu, EveryCommandReachesRunCommand) {
+    std::vector<int> expected;
+    for (const MenuRow& row : kMenuRows) {
+        SendMessageW(form.Handle(), WM_COMMAND, static_cast<WPARAM>(row.command), 0);
+        expected.push_back(row.command);
+    }
+    EXPECT_EQ(events.commands, expected);
+}
+
+TEST_F(MainMenu, UnknownNumberRunsNothing) {
+    SendMessageW(form.Handle(), WM_COMMAND, IDOK, 0);
+    SendMessageW(form.Handle(), WM_COMMAND, IDCANCEL, 0);
+    SendMessageW(form.Handle(), WM_COMMAND, 4711, 0);
+    EXPECT_TRUE(events.commands.empty());
+    EXPECT_TRUE(events.lines.empty());
+}
+
+TEST_F(MainMenu, CaptionIsShownAtOnceAndKeepsTheShortcut) {
+    const HMENU bar = GetMenu(form.Handle());
+    Control("mnuFileSave")->SetProperty("Caption", "&Save");
+    EXPECT_TRUE(MenuText(bar, IDM_mnuFileSave).starts_with("&Save\t"));
+    EXPECT_EQ(Control("mnuFileSave")->Property("Caption"), "&Save");
+    Control("mnuHlpAbout")->SetProperty("Caption", "&About ...");
+    EXPECT_EQ(MenuText(bar, IDM_mnuHlpAbout), "&About ...");
+}
+
+TEST_F(MainMenu, TitleKeepsItsMenuWhenItsCaptionChanges) {
+    Control("mnuFile")->SetProperty("Caption", "&File");
+    const HMENU bar = GetMenu(form.Handle());
+    std::array<wchar_t, 32> text{};
+    GetMenuStringW(bar, 0, text.data(), 32, MF_BYPOSITION);
+    EXPECT_STREQ(text.data(), L"&File");
+    EXPECT_EQ(GetMenuItemCount(GetSubMenu(bar, 0)), 8);
+}
+
+TEST_F(MainMenu, SeparatorStaysOneWhenItsCaptionIsSet) {
+    Control("mnuFileHR")->SetProperty("Caption", "x");
+    const UINT state = GetMenuState(GetMenu(form.Handle()), IDM_mnuFileHR, MF_BYCOMMAND);
+    EXPECT_NE(state & MF_SEPARATOR, 0U);
+}
+
+TEST_F(MainMenu, CheckMarkFollows) {
+    const HMENU bar = GetMenu(form.Handle());
+    form.SetMenuChecked(IDM_mnuViewToolbar, true);
+    EXPECT_NE(GetMenuState(bar, IDM_mnuViewToolbar, MF_BYCOMMAND) & MF_CHECKED, 0U);
+    form.SetMenuChecked(IDM_mnuViewToolbar, false);
+    EXPECT_EQ(GetMenuState(bar, IDM_mnuViewToolbar, MF_BYCOMMAND) & MF_CHECKED, 0U);
+}
+
+TEST_F(MainMenu, MenuEntryHasNoToolTip) {
+    EXPECT_THROW(Control("mnuFile")->SetProperty("ToolTipText", "x"), RuntimeError);
+}
+
+TEST_F(MainMenu, ShortcutRunsItsCommand) {
+    SetCtrl(true);
+    MSG message{Child(IDC_lvColor), WM_KEYDOWN, 'C', 0, 0, {}};
+    EXPECT_TRUE(form.TranslateKeys(message));
+    SetCtrl(false);
+    EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuColorCopy});
+}
+
+TEST_F(MainMenu, KeysOfTextEntryAreLeftToTheTextBox) {
+    SetCtrl(true);
+    MSG copy{Child(IDC_txtActiveColor), WM_KEYDOWN, 'C', 0, 0, {}};
+    static_cast<void>(form.TranslateKeys(copy));
+    MSG save{Child(IDC_txtActiveColor), WM_KEYDOWN, 'S', 0, 0, {}};
+    EXPECT_TRUE(form.TranslateKeys(save));
+    SetCtrl(false);
+    EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuFileSave});
+}
+
+TEST_F(MainMenu, CloseBoxOnlyReports) {
+    SendMessageW(form.Handle(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(events.lines, std::vector<std::string>{"closing"});
+    EXPECT_NE(IsWindow(form.Handle()), FALSE);
+}
+
+} // namespace

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "mainwindow/LayoutController.h"
+#include "mainwindow/MainView.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+// Keeps what the main window reports, one line each, and lays it out as the program does.
+class RecordingMainEvents : public MainViewEvents {
+public:
+    explicit RecordingMainEvents(LayoutPane& pane) : layout(pane) {}
+
+    void RunCommand(int command) override {
+        commands.push_back(command);
+        if (onCommand)
+            onCommand(command);
+    }
+
+    void NodeClicked(const std::string& key) override { Note("node " + key); }
+    void NodeLabelEdited(const std::string& key, const std::string& text) override {
+        Note("node label " + key + "=" + text);
+    }
+    void NodeEditRequested() override { Note("node edit"); }
+
+    [[nodiscard]] std::string CellText(int row, int column) const override {
+        return "cell " + std::to_string(row) + "," + std::to_string(column);
+    }
+    [[nodiscard]] int FindRow(const std::string& text, int) const override {
+        return text == "x" ? 3 : -1;
+    }
+    void RowClicked(int row) override { Note("row " + std::to_string(row)); }
+    void RowEditRequested() override { Note("row edit"); }
+    [[nodiscard]] bool MayEditRow() const override { return mayEdit; }
+    void RowLabelEdited(int row, const std::string& text) override {
+        Note("row label " + std::to_string(row) + "=" + text);
+    }
+    void ColumnClicked(int column) override { Note("column " + std::to_string(column)); }
+
+    void ValueTextChanged(std::size_t index, const std::string& text) override {
+        Note("text " + std::to_string(index) + "=" + text);
+        if (onTextChanged)
+            onTextChanged(index, text);
+    }
+    [[nodiscard]] bool IsValueCharacter(char32_t character) const override {
+        return (character >= U'0' && character <= U'9') || character == 8 || character == U'.';
+    }
+    void ValueFocused(std::size_t index) override { Note("focus " + std::to_string(index)); }
+    void SliderMoved(std::size_t index, int position) override {
+        Note("slider " + std::to_string(index) + "=" + std::to_string(position));
+    }
+    void SwatchDoubleClicked() override { Note("swatch"); }
+
+    void Resized() override {
+        ++resized;
+        layout.Resize();
+    }
+    void Repainted() override { ++repainted; }
+    void SplitterPressed() override {
+        Note("splitter down");
+        layout.SplitterPressed();
+    }
+    void SplitterDragged(float x) override { layout.SplitterDragged(x); }
+    void SplitterReleased() override {
+        Note("splitter up");
+        layout.SplitterReleased();
+    }
+
+    void BannerTicked() override { Note("tick"); }
+    void BannerClicked() override { Note("banner"); }
+    void WindowClosing() override { Note("closing"); }
+
+    LayoutController layout;
+    std::vector<int> commands;
+    std::vector<std::string> lines;
+    int resized = 0;
+    int repainted = 0;
+    bool mayEdit = true;
+    std::function<void(int)> onCommand;
+    std::function<void(std::size_t, const std::string&)> onTextChanged;
+
+private:
+    void Note(const std::string& line) { lines.push_back(line); }
+};

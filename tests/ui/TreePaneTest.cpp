@@ -1,0 +1,142 @@
+#include "platform/Utf16.h"
+#include "tests/ui/MainFormTest.h"
+
+#include <array>
+#include <cstring>
+
+namespace {
+
+class MainTree : public MainFormTest {
+protected:
+    MainTree() {
+        form.NodeAdded({"1D", "Materialien", "Colfile", "unsaved", "", {}});
+        form.NodeAdded({"1DG1", "Metalle", "Palette", "", "1D", {}});
+        form.NodeAdded({"1DG2", "Kunststoffe", "Palette", "", "1D", {}});
+        form.NodeExpanded("1D");
+    }
+
+    [[nodiscard]] HWND Tree() const { return Child(IDC_tvColor); }
+    [[nodiscard]] HTREEITEM Next(UINT relation, HTREEITEM item = nullptr) const {
+        return reinterpret_cast<HTREEITEM>(
+            SendMessageW(Tree(), TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
+    }
+    [[nodiscard]] std::string Text(HTREEITEM item) const {
+        std::array<wchar_t, 64> text{};
+        TVITEMW info{};
+        info.mask = TVIF_HANDLE | TVIF_TEXT;
+        info.hItem = item;
+        info.pszText = text.data();
+        info.cchTextMax = static_cast<int>(text.size());
+        SendMessageW(Tree(), TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&info));
+        return ToUtf8(text.data());
+    }
+    [[nodiscard]] POINT PlaceOf(HTREEITEM item) const {
+        RECT place{};
+        std::memcpy(&place, &item, sizeof item); // as TVM_GETITEMRECT takes it
+        SendMessageW(Tree(), TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place));
+        return {place.left + 3, (place.top + place.bottom) / 2};
+    }
+    void TypeLabel(const wchar_t* text, WPARAM endKey) const {
+        const auto edit = reinterpret_cast<HWND>(SendMessageW(Tree(), TVM_GETEDITCONTROL, 0, 0));
+        ASSERT_NE(edit, nullptr);
+        SetWindowTextW(edit, text);
+        SendMessageW(edit, WM_KEYDOWN, endKey, 0);
+        SendMessageW(edit, WM_CHAR, endKey, 0);
+    }
+};
+
+TEST_F(MainTree, MirrorsTheNodesItIsTold) {
+    const HTREEITEM root = Next(TVGN_ROOT);
+    const HTREEITEM first = Next(TVGN_CHILD, root);
+    EXPECT_EQ(Text(root), "Materialien");
+    EXPECT_EQ(Text(first), "Metalle");
+    EXPECT_EQ(Text(Next(TVGN_NEXT, first)), "Kunststoffe");
+    EXPECT_NE(
+        SendMessageW(Tree(), TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(root), TVIS_EXPANDED) &
+            TVIS_EXPANDED,
+        0);
+    EXPECT_TRUE(events.lines.empty());
+}
+
+TEST_F(MainTree, RemovedNodeTakesItsGroupsWithIt) {
+    form.NodeSelected("1DG1");
+    form.NodeRemoved("1D");
+    EXPECT_EQ(Next(TVGN_ROOT), nullptr);
+    form.NodeAdded({"1D", "Neu", "Colfile", "unsaved", "", {}});
+    form.NodeAdded({"1DG1", "Gruppe", "Palette", "", "1D", {}});
+    EXPECT_EQ(Text(Next(TVGN_CHILD, Next(TVGN_ROOT))), "Gruppe");
+    EXPECT_TRUE(events.lines.empty());
+}
+
+TEST_F(MainTree, SelectionByTheProgramIsNotReported) {
+    form.NodeSelected("1DG2");
+    EXPECT_EQ(Text(Next(TVGN_CARET)), "Kunststoffe");
+    form.NodeSelected("");
+    EXPECT_EQ(Next(TVGN_CARET), nullptr);
+    EXPECT_TRUE(events.lines.empty());
+}
+
+TEST_F(MainTree, SelectionByKeyboardIsReported) {
+    form.NodeSelected("1D");
+    SendMessageW(Tree(), WM_KEYDOWN, VK_DOWN, 0);
+    EXPECT_EQ(events.lines, std::vector<std::string>{"node 1DG1"});
+}
+
+TEST_F(MainTree, ClickIsReportedOnceAlsoOnTheSelectedNode) {
+    form.ShowWindow();
+    form.NodeSelected("1D");
+    Click(Tree(), PlaceOf(Next(TVGN_CHILD, Next(TVGN_ROOT))));
+    EXPECT_EQ(events.lines, std::vector<std::string>{"node 1DG1"});
+    Click(Tree(), PlaceOf(Next(TVGN_CHILD, Next(TVGN_ROOT))));
+    EXPECT_EQ(events.lines, (std::vector<std::string>{"node 1DG1", "node 1DG1"}));
+}
+
+TEST_F(MainTree, RightButtonSelectsTheNodeAndOpensTheColorMenu) {
+    form.ShowWindow();
+    form.NodeSelected("1D");
+    const POINT place = PlaceOf(Next(TVGN_CHILD, Next(TVGN_ROOT)));
+    PostMessageW(form.Handle(), WM_KEYDOWN, VK_DOWN, 0);
+    PostMessageW(form.Handle(), WM_KEYDOWN, VK_RETURN, 0);
+    SendMessageW(Tree(), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(place.x, place.y));
+    PumpMessages();
+    EXPECT_EQ(events.lines, std::vector<std::string>{"node 1DG1"});
+    EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuColorNewMainNode});
+}
+
+TEST_F(MainTree, F2AsksForTheEdit) {
+    SendMessageW(Tree(), WM_KEYDOWN, VK_F2, 0);
+    EXPECT_EQ(events.lines, std::vector<std::string>{"node edit"});
+}
+
+TEST_F(MainTree, EditedLabelIsReportedOnce) {
+    form.ShowWindow();
+    form.EditNodeLabel("1DG1");
+    TypeLabel(L"Stähle", VK_RETURN);
+    PumpMessages();
+    EXPECT_EQ(events.lines, std::vector<std::string>{"node label 1DG1=Stähle"});
+    EXPECT_EQ(Text(Next(TVGN_CHILD, Next(TVGN_ROOT))), "Metalle");
+    form.NodeTextChanged("1DG1", "Stähle");
+    EXPECT_EQ(Text(Next(TVGN_CHILD, Next(TVGN_ROOT))), "Stähle");
+}
+
+TEST_F(MainTree, EscapeGivesUpTheEdit) {
+    form.ShowWindow();
+    form.EditNodeLabel("1DG1");
+    TypeLabel(L"x", VK_ESCAPE);
+    EXPECT_TRUE(events.lines.empty());
+}
+
+TEST_F(MainTree, EndOfTheEditByMessageIsReportedOnce) {
+    form.ShowWindow();
+    form.EditNodeLabel("1DG1");
+    SetWindowTextW(reinterpret_cast<HWND>(SendMessageW(Tree(), TVM_GETEDITCONTROL, 0, 0)), L"y");
+    SendMessageW(Tree(), TVM_ENDEDITLABELNOW, FALSE, 0);
+    PumpMessages();
+    EXPECT_EQ(events.lines, std::vector<std::string>{"node label 1DG1=y"});
+}
+
+TEST_F(MainTree, ShowsItsSelectionAlsoWithoutTheFocus) {
+    EXPECT_NE(GetWindowLongPtrW(Tree(), GWL_STYLE) & TVS_SHOWSELALWAYS, 0);
+}
+
+} // namespace
