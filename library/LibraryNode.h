@@ -22,6 +22,7 @@ struct LibraryNode {
     std::string tag;    // main node: path of its file or "unsaved"; group: key of its last colour
     std::string parent; // key of the parent; empty for a main node
     std::vector<std::string> children; // keys, in order
+    bool expanded = false;             // shows its first child as soon as it has one
 };
 
 // The only test of a node's kind: a key that contains "G" belongs to a group.

@@ -6,15 +6,28 @@
 #include <utility>
 
 void LibraryTree::AddMainNode(const std::string& key, const std::string& text) {
-    Insert({key, text, NodeImage::MainNode, {}, {}, {}}, mainNodes_);
+    LibraryNode node;
+    node.key = key;
+    node.text = text;
+    node.image = NodeImage::MainNode;
+    Insert(node, mainNodes_);
 }
 
 void LibraryTree::AddGroup(const std::string& mainKey, const std::string& key,
                            const std::string& text) {
-    Insert({key, text, NodeImage::Group, {}, mainKey, {}}, Existing(mainKey).children);
+    LibraryNode node;
+    node.key = key;
+    node.text = text;
+    node.image = NodeImage::Group;
+    node.parent = mainKey;
+    LibraryNode& mainNode = Existing(mainKey);
+    Insert(node, mainNode.children);
+    // A tree control cannot expand a node before it has a child.
+    if (mainNode.expanded && mainNode.children.size() == 1)
+        Expand(mainKey);
 }
 
-void LibraryTree::Insert(LibraryNode node, std::vector<std::string>& siblings) {
+void LibraryTree::Insert(const LibraryNode& node, std::vector<std::string>& siblings) {
     const auto [place, added] = nodes_.try_emplace(node.key, node);
     if (!added)
         throw RuntimeError(ErrorNumber::DuplicateKey,
@@ -72,8 +85,9 @@ void LibraryTree::SetTag(const std::string& key, const std::string& tag) {
 }
 
 void LibraryTree::Expand(const std::string& key) {
+    Existing(key).expanded = true;
     if (observer_)
-        observer_->NodeExpanded(At(key).key);
+        observer_->NodeExpanded(key);
 }
 
 void LibraryTree::Select(const std::string& key) {

@@ -42,7 +42,7 @@ public:
 
 private:
     LibraryNode& Existing(const std::string& key);
-    void Insert(LibraryNode node, std::vector<std::string>& siblings);
+    void Insert(const LibraryNode& node, std::vector<std::string>& siblings);
     [[nodiscard]] std::string SelectionWithout(const LibraryNode& node) const;
     [[nodiscard]] const std::vector<std::string>& SiblingsOf(const LibraryNode& node) const;
     [[nodiscard]] bool HoldsSelection(const LibraryNode& node) const;

@@ -7,7 +7,7 @@
 // The calling thread's message filter for as long as this object lives (CoRegisterMessageFilter):
 // calls that a busy program rejects are repeated by the rules of common/BusyRetry.h, and during a
 // call windows are repainted but take no input.
-class BusyMessageFilter : private IMessageFilter {
+class BusyMessageFilter final : private IMessageFilter {
 public:
     BusyMessageFilter();
     BusyMessageFilter(const BusyMessageFilter&) = delete;

@@ -275,12 +275,6 @@ void Form::ChangeState(WindowState state) {
         Show();
 }
 
-// The result is not checked.
-void Form::MakeTopmost(bool onTop) {
-    SetWindowPos(window_, onTop ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE);
-}
-
 RECT Form::ClientArea() const noexcept {
     RECT area{};
     GetClientRect(window_, &area);

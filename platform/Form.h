@@ -7,6 +7,7 @@
 #include "platform/DpiScale.h"
 #include "platform/Handles.h"
 #include "platform/ToolTips.h"
+#include "platform/Topmost.h"
 #include "platform/WindowGeometry.h"
 #include "platform/WindowMessage.h"
 
@@ -84,7 +85,7 @@ protected:
     void MoveOuter(const TwipsRect& bounds);
     [[nodiscard]] WindowState StateOfWindow() const;
     void ChangeState(WindowState state);
-    void MakeTopmost(bool onTop);
+    void MakeTopmost(bool onTop) { MakeWindowTopmost(window_, onTop); }
     [[nodiscard]] const std::vector<FormControl*>& DesignedControls() const { return designed_; }
 
     [[nodiscard]] RECT ClientArea() const noexcept;

@@ -66,19 +66,19 @@ trap 'exit 143' TERM
 # shellcheck disable=SC2030,SC2031 # the subshell's environment is meant to end with it
 make_template() {
     local template=$1 unfinished=$1.$$
+    rm -rf "$folder"/template-*/ # of another Wine, or never finished
     mkdir -p "$unfinished/home"
     (
         export HOME=$unfinished/home WINEPREFIX=$unfinished/prefix
         unset DISPLAY WAYLAND_DISPLAY
-        wineboot -i
-        wine winecfg -v win10
-        wine reg import "$defaults"
+        made=0
+        wineboot -i && wine winecfg -v win10 && wine reg import "$defaults" || made=$?
         wineserver -k
         wineserver -w
         # Documents, Desktop and so on are folders of the prefix, not of the person at the machine.
         find "$WINEPREFIX/drive_c/users" -type l -exec sh -c 'rm "$1"; mkdir "$1"' sh {} \;
-    ) </dev/null >"$folder/template.log" 2>&1
-    mv "$unfinished" "$template"
+        exit "$made"
+    ) </dev/null >"$folder/template.log" 2>&1 && mv "$unfinished" "$template"
 }
 
 template_of_this_wine() {

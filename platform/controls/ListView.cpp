@@ -137,20 +137,26 @@ void ListView::FillItem(LVITEMW& item) const {
 
 void ListView::SelectionChanged(const NMLISTVIEW& change) {
     const bool selected = (change.uNewState & LVIS_SELECTED) != 0;
-    const bool wasSelected = (change.uOldState & LVIS_SELECTED) != 0;
-    if (silent_ || !selected || wasSelected || change.iItem < 0)
+    // A label edit takes the row's selection away and gives it back.
+    if (silent_ || !selected || change.iItem < 0 || change.iItem == selected_)
         return;
     selected_ = change.iItem;
     Raise(onClick, selected_);
 }
 
 void ListView::EndLabelEdit(const NMLVDISPINFOW& info) {
-    if (info.item.pszText == nullptr)
+    if (info.item.pszText == nullptr && !IsEmptiedLabel())
         return;
     const int row = info.item.iItem;
-    const std::string text = ToUtf8(info.item.pszText);
+    const std::string text = info.item.pszText != nullptr ? ToUtf8(info.item.pszText) : "";
     Raise(onLabelEdited, row, text);
     Send(LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
+}
+
+// Not every platform tells an edit that ended with an empty text from one that was given up.
+bool ListView::IsEmptiedLabel() const {
+    const auto edit = reinterpret_cast<HWND>(Send(LVM_GETEDITCONTROL));
+    return edit != nullptr && GetWindowTextLengthW(edit) == 0 && GetKeyState(VK_ESCAPE) >= 0;
 }
 
 MessageResult ListView::OnMessage(const WindowMessage& message) {

@@ -46,6 +46,7 @@ protected:
 private:
     void FillItem(LVITEMW& item) const;
     void SelectionChanged(const NMLISTVIEW& change);
+    [[nodiscard]] bool IsEmptiedLabel() const;
     void EndLabelEdit(const NMLVDISPINFOW& info);
     [[nodiscard]] int RowAt(POINT point) const; // -1: none
     void ShowSelection(int row);                // without a report

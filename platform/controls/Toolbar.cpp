@@ -203,6 +203,7 @@ void Toolbar::ApplyScale() {
     Send(TB_SETBITMAPSIZE, 0, MAKELPARAM(side, side));
     Send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images_.Handle()));
     Send(TB_SETPADDING, 0, MAKELPARAM(padding, padding));
+    Send(TB_SETBUTTONSIZE, 0, MAKELPARAM(side + padding, side + padding));
     FollowForm();
 }
 

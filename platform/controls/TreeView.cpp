@@ -169,6 +169,8 @@ MessageResult TreeView::OnMessage(const WindowMessage& message) {
             Raise(onClick, key);
         return result;
     }
+    case WM_SETFOCUS:
+        return TakeFocus(message);
     case WM_SYSCOLORCHANGE:
         ApplyColors();
         return {};
@@ -185,6 +187,17 @@ MessageResult TreeView::OnMessage(const WindowMessage& message) {
     default:
         return {};
     }
+}
+
+// The control would select its first node of its own accord when none is selected.
+LRESULT TreeView::TakeFocus(const WindowMessage& message) {
+    const bool before = std::exchange(silent_, true);
+    const bool selected = Selected() != nullptr;
+    const LRESULT result = Default(message);
+    if (!selected)
+        SelectNode({});
+    silent_ = before;
+    return result;
 }
 
 void TreeView::OpenContextMenu(const WindowMessage& message) {

@@ -44,6 +44,7 @@ private:
     void ApplyColors();
     void Forget(HTREEITEM item);
     void EndLabelEdit(const NMTVDISPINFOW& info);
+    LRESULT TakeFocus(const WindowMessage& message);
     void OpenContextMenu(const WindowMessage& message);
 
     IconList& images_;

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 #include <unknwn.h>
+#include <wrl/client.h>
 
 // Reference counting and the one interface of a small COM object.  Objects live in a
 // single-threaded apartment and are made with new by a static function of their class.
@@ -38,3 +39,10 @@ protected:
 private:
     ULONG references_ = 1;
 };
+
+// Puts a new object into an empty pointer, which takes over its one reference.  Not ComPtr::Attach:
+// MinGW-w64's adds a reference of its own.
+template <class Interface, class Object>
+void AdoptNew(Microsoft::WRL::ComPtr<Interface>& pointer, Object* object) {
+    *pointer.GetAddressOf() = object;
+}

@@ -33,7 +33,7 @@ HRESULT RegisterWhenReady(IUnknown* object, const CLSID& classId, DWORD& registr
 RunningRegistration::RunningRegistration(const CLSID& classId, DispatchPtr application)
     : application_(std::move(application)) {
     Microsoft::WRL::ComPtr<IClassFactory> factory;
-    factory.Attach(new ClassFactory(application_));
+    AdoptNew(factory, new ClassFactory(application_));
     HRESULT result = RegisterWhenReady(application_.Get(), classId, activeObject_);
     if (SUCCEEDED(result))
         result = CoRegisterClassObject(classId, factory.Get(), CLSCTX_LOCAL_SERVER,

@@ -7,7 +7,7 @@ DispatchPtr ServedObjects::DispatchOf(const StandInObjectPtr& object) {
     if (known != nullptr)
         return known;
     DispatchPtr made;
-    made.Attach(new ServedObject(shared_from_this(), object));
+    AdoptNew(made, new ServedObject(shared_from_this(), object));
     known = made.Get();
     return made;
 }

@@ -1,6 +1,7 @@
 #include "library/LibraryTree.h"
 
 #include "common/RuntimeError.h"
+#include "tests/fakes/FakeMainView.h"
 
 #include <gtest/gtest.h>
 
@@ -47,6 +48,20 @@ TEST(LibraryTree, RemovingALibraryTakesTheSelectionOfItsGroupAlong) {
     tree.Select("0DG2");
     tree.Remove("0D");
     EXPECT_EQ(tree.Selected(), "1D");
+}
+
+TEST(LibraryTree, ExpandedNodeIsExpandedAgainWhenItGetsItsFirstChild) {
+    FakeMainView view;
+    LibraryTree tree;
+    tree.Observe(&view);
+    tree.AddMainNode("0D", "first");
+    tree.Expand("0D");
+    view.expanded.clear();
+    tree.AddGroup("0D", "0DG1", "one");
+    EXPECT_TRUE(view.expanded.contains("0D"));
+    view.expanded.clear();
+    tree.AddGroup("0D", "0DG2", "two");
+    EXPECT_FALSE(view.expanded.contains("0D")) << "the user may have collapsed it";
 }
 
 TEST(LibraryTree, SelectionElsewhereStays) {

@@ -101,7 +101,7 @@ TEST(SizeControls, ClampsToSevenHundredFiftyFromBothEdges) {
     x = 11900;
     Layout::SizeControls(x, 12000, layout);
     EXPECT_EQ(x, 12000 - 750);
-    EXPECT_EQ(layout.list.width, 0) << "never below nothing";
+    EXPECT_EQ(layout.list.width, 12000 - (12000 - 750 + 140));
 }
 
 TEST(SizeControls, UpperBoundWinsInANarrowForm) {

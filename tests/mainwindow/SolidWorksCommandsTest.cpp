@@ -207,6 +207,7 @@ TEST_F(SolidWorksCommandsTest, FailingCallNamesItsMemberAndEverythingStays) {
 TEST_F(SolidWorksCommandsTest, ProgressWindowIsTakenDownWhenAWalkFails) {
     program->solidWorks.Gate().ClearFaults();
     program->solidWorks.Gate().AddFault(ParseFault("12:error"));
+    program->progress.calls.clear();
     EXPECT_THROW(Run(IDM_mnuSWXClearColorPart), RuntimeError);
     EXPECT_EQ(program->progress.calls.front().substr(0, 9), "show <62>");
     EXPECT_FALSE(program->progress.isShown);

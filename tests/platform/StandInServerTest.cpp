@@ -148,8 +148,7 @@ TEST_F(StandInServerTest, ReleasedObjectsAreNotKept) {
         const AutomationObjectPtr face = FirstFace();
         EXPECT_GE(standIn.Ask(Question::LiveObjects), 2);
     }
-    EXPECT_TRUE(PollUntil([&] { return standIn.Ask(Question::LiveObjects) == 1; }))
-        << standIn.Ask(Question::LiveObjects);
+    EXPECT_TRUE(PollUntil([&] { return standIn.Ask(Question::LiveObjects) == 1; }));
 }
 
 TEST_F(StandInServerTest, EveryNameLookupIsCounted) {

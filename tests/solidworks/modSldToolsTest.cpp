@@ -194,8 +194,8 @@ TEST_F(modSldToolsTest, ClearColorOfAFaceSelectsItAndUsesThePartsProperties) {
     const Lines calls = CallsOf([&] { result = tools->SWXClearColor(); });
     EXPECT_EQ(result, "okay");
     ASSERT_EQ(calls.size(), 9U);
-    EXPECT_NE(calls[5].find("Select(true)"), std::string::npos) << calls[5];
-    EXPECT_NE(calls[7].find("SelectedFaceProperties(0, 0, 0, 0, 0, 0, 0, true, \"\")"),
+    EXPECT_NE(calls[5].find("Select(True)"), std::string::npos) << calls[5];
+    EXPECT_NE(calls[7].find("SelectedFaceProperties(0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, True, \"\")"),
               std::string::npos)
         << calls[7];
 }
@@ -205,7 +205,7 @@ TEST_F(modSldToolsTest, ClearColorOfAFeatureKeepsItsSuppressionState) {
     const Lines calls = CallsOf([&] { result = tools->SWXClearColor(); });
     ASSERT_EQ(calls.size(), 10U);
     EXPECT_NE(calls[7].find("IsSuppressed()"), std::string::npos) << calls[7];
-    EXPECT_NE(calls[8].find("SelectedFeatureProperties(0, 0, 0, 0, 0, 0, 0, true, false, \"\")"),
+    EXPECT_NE(calls[8].find("SelectedFeatureProperties(0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, True, False, \"\")"),
               std::string::npos)
         << calls[8];
 }

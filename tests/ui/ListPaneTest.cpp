@@ -111,6 +111,7 @@ TEST_F(MainList, F2AsksForTheEdit) {
 
 TEST_F(MainList, EditedLabelIsReportedAlsoWhenItIsEmpty) {
     form.ShowWindow();
+    form.SelectRow(2);
     for (const wchar_t* text : {L"Grün", L""}) {
         form.EditRowLabel(2);
         const auto edit = reinterpret_cast<HWND>(SendMessageW(List(), LVM_GETEDITCONTROL, 0, 0));
@@ -140,7 +141,7 @@ TEST_F(MainList, ColumnClickCountsFromOne) {
 
 TEST_F(MainList, TypedLettersFindARow) {
     form.SelectRow(0);
-    SendMessageW(List(), WM_CHAR, 'x', 0);
+    SendMessageW(List(), WM_CHAR, 'x', 1);
     EXPECT_EQ(Selected(), 3);
     EXPECT_EQ(events.lines, std::vector<std::string>{"row 3"});
 }

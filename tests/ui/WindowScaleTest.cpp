@@ -23,6 +23,8 @@ TEST(DpiScaleRoundTrip, TwipsRoundedToWholeNumbersNameTheSamePixels) {
 
 class MainScale : public MainFormTest {
 protected:
+    MainScale() { form.Move({600, 600, 9000, 6000}); } // twice as large still fits the screen
+
     void ChangeResolution(int dpi) {
         RECT bounds{};
         GetWindowRect(form.Handle(), &bounds);
@@ -51,12 +53,8 @@ TEST_F(MainScale, NewResolutionScalesFontsIconsColumnsAndControls) {
     form.AddColumns({{"Name", "Name", 1500}});
     const SIZE box = SizeOf(IDC_txtActiveColor);
     const int icon = ToolbarIconSize();
-    const SIZE window = {WidthOf([&] {
-                             RECT r{};
-                             GetWindowRect(form.Handle(), &r);
-                             return r;
-                         }()),
-                         0};
+    RECT before{};
+    GetWindowRect(form.Handle(), &before);
     ChangeResolution(2 * dpi);
     EXPECT_EQ(form.Scale().Dpi(), 2 * dpi);
     EXPECT_EQ(ToolbarIconSize(), 2 * icon);
@@ -66,7 +64,7 @@ TEST_F(MainScale, NewResolutionScalesFontsIconsColumnsAndControls) {
               form.Scale().ToPixels(1500));
     RECT after{};
     GetWindowRect(form.Handle(), &after);
-    EXPECT_EQ(WidthOf(after), 2 * window.cx);
+    EXPECT_EQ(WidthOf(after), 2 * WidthOf(before));
     EXPECT_EQ(reinterpret_cast<HFONT>(SendMessageW(Child(IDC_txtActiveColor), WM_GETFONT, 0, 0)),
               form.Font());
 }
@@ -114,6 +112,7 @@ TEST_F(MainScale, MaximisedWindowKeepsThePanesOfItsNormalSize) {
 }
 
 TEST_F(MainScale, TopmostComesAndGoes) {
+    form.ShowWindow();
     form.SetTopmost(true);
     EXPECT_NE(GetWindowLongPtrW(form.Handle(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
     form.SetTopmost(false);

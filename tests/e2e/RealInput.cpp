@@ -1,0 +1,81 @@
+#include "tests/e2e/RealInput.h"
+
+#include <vector>
+
+namespace {
+
+constexpr int kDragSteps = 8;
+
+void Send(std::vector<INPUT> inputs) {
+    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+INPUT Key(WORD virtualKey, DWORD flags = 0) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = virtualKey;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = flags;
+    return input;
+}
+
+INPUT Character(wchar_t character, DWORD flags = 0) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wScan = character;
+    input.ki.dwFlags = KEYEVENTF_UNICODE | flags;
+    return input;
+}
+
+INPUT MouseButton(DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    return input;
+}
+
+// Absolute positions count from 0 to 65535 over the screen.
+LONG Normalised(LONG pixel, int extent) {
+    return (pixel * 65535 + (extent - 1) / 2) / (extent - 1);
+}
+
+INPUT MouseMove(POINT to) {
+    INPUT input = MouseButton(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
+    input.mi.dx = Normalised(to.x, GetSystemMetrics(SM_CXSCREEN));
+    input.mi.dy = Normalised(to.y, GetSystemMetrics(SM_CYSCREEN));
+    return input;
+}
+
+} // namespace
+
+void RealInput::Click(POINT at) {
+    Send({MouseMove(at), MouseButton(MOUSEEVENTF_LEFTDOWN), MouseButton(MOUSEEVENTF_LEFTUP)});
+}
+
+void RealInput::ClickWithCtrl(POINT at) {
+    Send({Key(VK_CONTROL), MouseMove(at), MouseButton(MOUSEEVENTF_LEFTDOWN),
+          MouseButton(MOUSEEVENTF_LEFTUP), Key(VK_CONTROL, KEYEVENTF_KEYUP)});
+}
+
+void RealInput::Drag(POINT from, POINT to) {
+    std::vector<INPUT> inputs = {MouseMove(from), MouseButton(MOUSEEVENTF_LEFTDOWN)};
+    for (int step = 1; step <= kDragSteps; ++step)
+        inputs.push_back(MouseMove({from.x + (to.x - from.x) * step / kDragSteps,
+                                    from.y + (to.y - from.y) * step / kDragSteps}));
+    inputs.push_back(MouseButton(MOUSEEVENTF_LEFTUP));
+    Send(inputs);
+}
+
+void RealInput::PressKey(WORD virtualKey) {
+    Send({Key(virtualKey), Key(virtualKey, KEYEVENTF_KEYUP)});
+}
+
+void RealInput::PressWithAlt(WORD virtualKey) {
+    Send({Key(VK_MENU), Key(virtualKey), Key(virtualKey, KEYEVENTF_KEYUP),
+          Key(VK_MENU, KEYEVENTF_KEYUP)});
+}
+
+void RealInput::TypeText(std::wstring_view text) {
+    for (const wchar_t character : text)
+        Send({Character(character), Character(character, KEYEVENTF_KEYUP)});
+}

@@ -1,0 +1,83 @@
+#include "tests/e2e/RemoteDialogs.h"
+
+#include "platform/Utf16.h"
+#include "resources/controls.h"
+#include "tests/e2e/RealInput.h"
+#include "tests/platform/PollUntil.h"
+
+#include <stdexcept>
+
+namespace {
+
+constexpr int kMessageText = 0xFFFF;
+constexpr int kFileName = 1148;
+
+bool HasChild(const RemoteWindow& window, int id) {
+    return GetDlgItem(window.Handle(), id) != nullptr;
+}
+
+// The visible popup of the class that holds the control.
+RemoteWindow WaitForPopup(const RemoteWindow& owner, const wchar_t* className, int control) {
+    RemoteWindow popup;
+    const bool came = PollUntil([&] {
+        popup = owner.ActivePopup();
+        return popup.Handle() != owner.Handle() && popup.IsVisible() &&
+               popup.ClassName() == className && HasChild(popup, control);
+    });
+    if (!came)
+        throw std::runtime_error("No dialog of class " + ToUtf8(className));
+    return popup;
+}
+
+void WaitUntilGone(const RemoteWindow& dialog) {
+    if (!PollUntil([&] { return !dialog.Exists() || !dialog.IsVisible(); }))
+        throw std::runtime_error("The dialog stays open");
+}
+
+void Press(const RemoteWindow& dialog, int button) {
+    PostMessageW(dialog.Handle(), WM_COMMAND, static_cast<WPARAM>(button), 0);
+}
+
+} // namespace
+
+RemoteDialogs::Message RemoteDialogs::AnswerMessageBox(const RemoteWindow& owner, int button) {
+    const RemoteWindow dialog = WaitForPopup(owner, L"#32770", kMessageText);
+    Message message{dialog.Title(), dialog.Child(kMessageText).Text()};
+    dialog.Child(button).Click();
+    WaitUntilGone(dialog);
+    return message;
+}
+
+// The dialog fills its own name in for a moment after it is there: so the name is entered until it
+// stays.
+void RemoteDialogs::EnterFileName(const RemoteWindow& owner, const std::string& path) {
+    const RemoteWindow dialog = WaitForPopup(owner, L"#32770", kFileName);
+    const std::wstring name = ToUtf16(path);
+    int unchanged = 0;
+    const bool entered = PollUntil([&] {
+        unchanged = dialog.Child(kFileName).Text() == path ? unchanged + 1 : 0;
+        if (unchanged == 0)
+            SendDlgItemMessageW(dialog.Handle(), kFileName, WM_SETTEXT, 0,
+                                reinterpret_cast<LPARAM>(name.c_str()));
+        return unchanged > 20;
+    });
+    if (!entered)
+        throw std::runtime_error("The dialog does not take the name");
+    Press(dialog, IDOK);
+    WaitUntilGone(dialog);
+}
+
+RemoteDialogs::Question RemoteDialogs::AnswerInputBox(const RemoteWindow& owner,
+                                                      const std::string& answer) {
+    const RemoteWindow dialog = WaitForPopup(owner, L"InputBox", IDC_txtInput);
+    const RemoteWindow input = dialog.Child(IDC_txtInput);
+    Question question{dialog.Child(IDC_lblPrompt).Text(), input.Text()};
+    if (!PollUntil([&] { return dialog.FocusedChild() == input.Handle(); }))
+        throw std::runtime_error("The input box has no focus");
+    RealInput::TypeText(ToUtf16(answer));
+    if (!PollUntil([&] { return input.Text() == answer; }))
+        throw std::runtime_error("The input box holds " + input.Text());
+    RealInput::PressKey(VK_RETURN);
+    WaitUntilGone(dialog);
+    return question;
+}

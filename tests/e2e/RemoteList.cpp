@@ -1,0 +1,67 @@
+#include "tests/e2e/RemoteList.h"
+
+#include "platform/Utf16.h"
+#include "tests/e2e/RealInput.h"
+#include "tests/e2e/RemoteMemory.h"
+
+#include <commctrl.h>
+#include <stdexcept>
+
+int RemoteList::RowCount() const {
+    return static_cast<int>(SendMessageW(window_.Handle(), LVM_GETITEMCOUNT, 0, 0));
+}
+
+int RemoteList::ColumnCount() const {
+    const auto header = reinterpret_cast<HWND>(SendMessageW(window_.Handle(), LVM_GETHEADER, 0, 0));
+    return static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
+}
+
+std::string RemoteList::Cell(int row, int column) const {
+    const RemoteMemory memory(window_.Handle());
+    LVITEMW request{};
+    request.iSubItem = column;
+    request.pszText = memory.TextAddress();
+    request.cchTextMax = static_cast<int>(RemoteMemory::kTextCharacters);
+    const LRESULT length = memory.Send(LVM_GETITEMTEXTW, static_cast<WPARAM>(row), request);
+    return ToUtf8(memory.Text().substr(0, static_cast<std::size_t>(length)));
+}
+
+RemoteList::Row RemoteList::ReadRow(int row) const {
+    Row cells;
+    for (int column = 0; column < ColumnCount(); ++column)
+        cells.push_back(Cell(row, column));
+    return cells;
+}
+
+std::vector<RemoteList::Row> RemoteList::ReadRows() const {
+    std::vector<Row> rows;
+    for (int row = 0; row < RowCount(); ++row)
+        rows.push_back(ReadRow(row));
+    return rows;
+}
+
+std::vector<std::string> RemoteList::SelectedNames() const {
+    std::vector<std::string> names;
+    for (int row = 0; row < RowCount(); ++row)
+        if (SendMessageW(window_.Handle(), LVM_GETITEMSTATE, static_cast<WPARAM>(row),
+                         LVIS_SELECTED) != 0)
+            names.push_back(Cell(row, 0));
+    return names;
+}
+
+int RemoteList::FindRow(const std::string& name) const {
+    for (int row = 0; row < RowCount(); ++row)
+        if (Cell(row, 0) == name)
+            return row;
+    throw std::runtime_error("No row " + name);
+}
+
+void RemoteList::ClickRow(const std::string& name) const {
+    const auto row = static_cast<WPARAM>(FindRow(name));
+    SendMessageW(window_.Handle(), LVM_ENSUREVISIBLE, row, FALSE);
+    const RemoteMemory memory(window_.Handle());
+    RECT bounds{};
+    bounds.left = LVIR_LABEL; // which part: the message takes it there
+    memory.Send(LVM_GETITEMRECT, row, bounds);
+    RealInput::Click(window_.ToScreen({bounds.left + 8, (bounds.top + bounds.bottom) / 2}));
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "tests/e2e/RemoteWindow.h"
+
+#include <vector>
+
+// A list control of another process in its detail view.  Rows and columns count from 0.
+class RemoteList {
+public:
+    using Row = std::vector<std::string>;
+
+    explicit RemoteList(RemoteWindow window) : window_(window) {}
+
+    [[nodiscard]] int RowCount() const;
+    [[nodiscard]] int ColumnCount() const;
+    [[nodiscard]] Row ReadRow(int row) const;
+    [[nodiscard]] std::vector<Row> ReadRows() const;
+    [[nodiscard]] std::vector<std::string> SelectedNames() const; // column 0
+
+    // The row with the text in column 0; throws std::runtime_error when there is none.
+    [[nodiscard]] int FindRow(const std::string& name) const;
+    void ClickRow(const std::string& name) const; // with the mouse, on the text of column 0
+
+private:
+    [[nodiscard]] std::string Cell(int row, int column) const;
+
+    RemoteWindow window_;
+};

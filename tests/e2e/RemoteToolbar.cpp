@@ -1,0 +1,16 @@
+#include "tests/e2e/RemoteToolbar.h"
+
+#include "tests/e2e/RealInput.h"
+#include "tests/e2e/RemoteMemory.h"
+
+#include <commctrl.h>
+#include <stdexcept>
+
+void RemoteToolbar::Click(int command) const {
+    const RemoteMemory memory(window_.Handle());
+    RECT bounds{};
+    if (memory.Send(TB_GETRECT, static_cast<WPARAM>(command), bounds) == 0 ||
+        bounds.right == bounds.left)
+        throw std::runtime_error("No toolbar button " + std::to_string(command));
+    RealInput::Click(window_.ToScreen({bounds.left + 8, (bounds.top + bounds.bottom) / 2}));
+}

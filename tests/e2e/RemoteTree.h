@@ -1,0 +1,30 @@
+#pragma once
+
+#include "tests/e2e/RemoteWindow.h"
+
+#include <vector>
+#include <commctrl.h>
+
+// A tree control of another process.
+class RemoteTree {
+public:
+    explicit RemoteTree(RemoteWindow window) : window_(window) {}
+
+    // Texts of the top nodes, and of the nodes right below one of them (from 0).
+    [[nodiscard]] std::vector<std::string> Roots() const;
+    [[nodiscard]] std::vector<std::string> Children(std::size_t root) const;
+    [[nodiscard]] std::string Selected() const; // empty when nothing is selected
+
+    // With the mouse; throws std::runtime_error when there is no such node.
+    void ClickChild(std::size_t root, const std::string& text) const;
+
+private:
+    [[nodiscard]] HTREEITEM Next(WPARAM relation, HTREEITEM item) const;
+    [[nodiscard]] std::vector<HTREEITEM> Siblings(HTREEITEM first) const;
+    [[nodiscard]] std::vector<HTREEITEM> ChildItems(std::size_t root) const;
+    [[nodiscard]] std::vector<std::string> TextsOf(const std::vector<HTREEITEM>& items) const;
+    [[nodiscard]] std::string TextOf(HTREEITEM item) const;
+    void Click(HTREEITEM item) const;
+
+    RemoteWindow window_;
+};
