@@ -1,6 +1,7 @@
 #include "support/SystemInformation.h"
 
 #include "common/ProgramNames.h"
+#include "support/RegistryNumber.h"
 
 #include <cstdint>
 
@@ -8,7 +9,6 @@ namespace {
 
 constexpr const char* kProgramKey = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
 constexpr const char* kFolderKey = "SOFTWARE\\Microsoft\\Shared Tools Location";
-constexpr std::size_t kNumberSize = 4;
 
 std::string Hexadecimal(std::uint32_t number) {
     std::string digits;
@@ -17,13 +17,6 @@ std::string Hexadecimal(std::uint32_t number) {
         number /= 16U;
     } while (number > 0);
     return digits;
-}
-
-std::uint32_t LittleEndian(const std::string& bytes) {
-    std::uint32_t number = 0;
-    for (std::size_t index = kNumberSize; index-- > 0;)
-        number = number * 256U + static_cast<unsigned char>(bytes[index]);
-    return number;
 }
 
 } // namespace
@@ -51,7 +44,8 @@ std::optional<std::string> SystemInformation::ReadValue(const std::string& keyPa
         return {};
     if (value->type == RegistryType::String)
         return ports_.codePage.Decode(value->bytes.substr(0, value->bytes.find('\0')));
-    if (value->type == RegistryType::DWord && value->bytes.size() == kNumberSize)
-        return "&h" + Hexadecimal(LittleEndian(value->bytes));
+    const auto number = RegistryNumberFromBytes(value->bytes);
+    if (value->type == RegistryType::DWord && number)
+        return "&h" + Hexadecimal(*number);
     return {};
 }

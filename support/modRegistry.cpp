@@ -1,28 +1,8 @@
 #include "support/modRegistry.h"
 
+#include "support/RegistryNumber.h"
+
 #include <optional>
-
-namespace {
-
-constexpr std::size_t kNumberSize = 4;
-
-// Little-endian, as the registry keeps a REG_DWORD.
-std::int32_t NumberOf(const std::string& bytes) {
-    std::uint32_t number = 0;
-    for (std::size_t index = kNumberSize; index-- > 0;)
-        number = number * 256U + static_cast<unsigned char>(bytes[index]);
-    return static_cast<std::int32_t>(number);
-}
-
-std::string BytesOf(std::int32_t number) {
-    std::string bytes;
-    auto rest = static_cast<std::uint32_t>(number);
-    for (std::size_t index = 0; index < kNumberSize; ++index, rest /= 256U)
-        bytes += static_cast<char>(static_cast<unsigned char>(rest % 256U));
-    return bytes;
-}
-
-} // namespace
 
 RegistryVariant modRegistry::RegistryGetKeyValue(std::uint32_t root, const std::string& keyPath,
                                                  const std::string& valueName) const {
@@ -33,8 +13,9 @@ RegistryVariant modRegistry::RegistryGetKeyValue(std::uint32_t root, const std::
         return TextOf(*value);
     if (value->type == RegistryType::Binary)
         return std::vector<std::uint8_t>(value->bytes.begin(), value->bytes.end());
-    if (value->type == RegistryType::DWord && value->bytes.size() == kNumberSize)
-        return NumberOf(value->bytes);
+    const auto number = RegistryNumberFromBytes(value->bytes);
+    if (value->type == RegistryType::DWord && number)
+        return static_cast<std::int32_t>(*number);
     return {};
 }
 
@@ -49,7 +30,7 @@ void modRegistry::RegistrySetKeyValue(std::uint32_t root, const std::string& key
         stored = RegistryValue{type, std::string(bytes->begin(), bytes->end())};
     if (const auto* number = std::get_if<std::int32_t>(&value);
         number && type == RegistryType::DWord)
-        stored = RegistryValue{type, BytesOf(*number)};
+        stored = RegistryValue{type, RegistryNumberToBytes(static_cast<std::uint32_t>(*number))};
     if (stored)
         registry_.Set(root, keyPath, valueName, *stored, RegistryRights::ReadWrite);
 }

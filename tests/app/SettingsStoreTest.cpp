@@ -1,0 +1,101 @@
+#include "app/SettingsStore.h"
+
+#include "tests/fakes/FakeCodePage.h"
+#include "tests/fakes/FakeRegistry.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const std::string kKey = "SOFTWARE\\Chromixs\\TNT4SWX|";
+
+const std::vector<std::string> kNames = {
+    "Language",          "AlwaysOnTop",      "ConfirmDel",          "CreateBackups",
+    "ViewToolbar",       "ViewBarStandards", "ViewBarColor",        "ViewBarListview",
+    "ViewBarSolidWorks", "ViewStatusBar",    "ViewHugeColorDialog", "DefaultColorFile"};
+
+class SettingsStoreTest : public testing::Test {
+protected:
+    FakeRegistry registry;
+    FakeCodePage codePage = FakeCodePage::Western();
+    modRegistry access{registry, codePage};
+    SettingsStore store{access};
+    Settings settings;
+};
+
+TEST_F(SettingsStoreTest, EmptyRegistryKeepsTheDefaults) {
+    EXPECT_TRUE(store.Load(settings).empty());
+    EXPECT_EQ(settings, Settings{});
+    EXPECT_EQ(settings.language, 1);
+    EXPECT_TRUE(settings.alwaysOnTop && settings.confirmDel && settings.createBackups);
+    EXPECT_TRUE(settings.viewToolbar && settings.viewBarColor && settings.viewBarSolidWorks);
+    EXPECT_FALSE(settings.viewBarStandards || settings.viewBarListview || settings.viewStatusBar ||
+                 settings.viewHugeColorDialog);
+    EXPECT_EQ(settings.defaultColorFile, "");
+}
+
+TEST_F(SettingsStoreTest, SettingsAreReadAndWrittenInTheOrderOfTheTable) {
+    store.Load(settings);
+    store.Save(settings);
+    std::vector<std::string> expected;
+    for (const std::string& name : kNames)
+        expected.push_back(kKey + name);
+    EXPECT_EQ(registry.queries, expected);
+    EXPECT_EQ(registry.written, expected);
+}
+
+TEST_F(SettingsStoreTest, ValuesAreStoredAsStrings) {
+    settings.language = 0;
+    settings.confirmDel = false;
+    settings.defaultColorFile = "C:\\Größe.tnt";
+    store.Save(settings);
+    EXPECT_EQ(registry.Text(kKey + "Language"), "0");
+    EXPECT_EQ(registry.Text(kKey + "AlwaysOnTop"), "True");
+    EXPECT_EQ(registry.Text(kKey + "ConfirmDel"), "False");
+    EXPECT_EQ(registry.Text(kKey + "DefaultColorFile"), "C:\\Gr\xF6\xDF"
+                                                        "e.tnt");
+    for (const auto& [path, value] : registry.values)
+        EXPECT_EQ(value.type, RegistryType::String) << path;
+}
+
+TEST_F(SettingsStoreTest, WhatIsSavedIsLoaded) {
+    Settings other;
+    other.language = 0;
+    other.alwaysOnTop = other.confirmDel = other.createBackups = other.viewToolbar = false;
+    other.viewBarColor = other.viewBarSolidWorks = false;
+    other.viewBarStandards = other.viewBarListview = other.viewStatusBar = true;
+    other.viewHugeColorDialog = true;
+    other.defaultColorFile = "C:\\a.tnt";
+    store.Save(other);
+    store.Load(settings);
+    EXPECT_EQ(settings, other);
+}
+
+TEST_F(SettingsStoreTest, BooleansConvertFromWordsInAnyCaseAndFromNumbers) {
+    for (const auto& [text, expected] :
+         {std::pair{"false", false}, std::pair{"FALSE", false}, std::pair{"0", false},
+          std::pair{"-1", true}, std::pair{"tRuE", true}}) {
+        registry.SetText(kKey + "ConfirmDel", text);
+        EXPECT_TRUE(store.Load(settings).empty());
+        EXPECT_EQ(settings.confirmDel, expected) << text;
+    }
+}
+
+TEST_F(SettingsStoreTest, ValuesThatDoNotConvertKeepTheirDefaultsAndAreNamed) {
+    registry.SetText(kKey + "Language", "99999");
+    registry.SetText(kKey + "ViewToolbar", "perhaps");
+    registry.SetText(kKey + "ConfirmDel", "False");
+    EXPECT_EQ(store.Load(settings), (std::vector<std::string>{"Language", "ViewToolbar"}));
+    EXPECT_EQ(settings.language, 1);
+    EXPECT_TRUE(settings.viewToolbar);
+    EXPECT_FALSE(settings.confirmDel);
+}
+
+TEST_F(SettingsStoreTest, LastSponsorShownDefaultsToOneAndIsKeptApart) {
+    EXPECT_EQ(store.LoadLastSponsorShown(), "1");
+    store.SaveLastSponsorShown(3);
+    EXPECT_EQ(registry.written, std::vector<std::string>{kKey + "LastSponsorShown"});
+    EXPECT_EQ(store.LoadLastSponsorShown(), "3");
+}
+
+} // namespace

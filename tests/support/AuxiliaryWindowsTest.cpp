@@ -1,0 +1,213 @@
+#include "resources/controls.h"
+#include "support/MakerAddresses.h"
+#include "tests/fakes/FakeProgram.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Message = FakePrompts::Message;
+
+TEST(modinternet, MailLinkTakesItsSchemeOnce) {
+    FakeShell shell;
+    const modinternet links(shell);
+    links.SendMail("a@b.c", "", "");
+    links.SendMail("MailTo:a@b.c", "", "");
+    EXPECT_EQ(shell.requests[0].file, "mailto:a@b.c");
+    EXPECT_EQ(shell.requests[1].file, "MailTo:a@b.c");
+}
+
+TEST(modinternet, SubjectAndBodyAreJoinedWithoutEscaping) {
+    FakeShell shell;
+    const modinternet links(shell);
+    links.SendMail("a@b.c", "s & t", "");
+    links.SendMail("a@b.c", "", "body text");
+    links.SendMail("a@b.c", "s", "ü");
+    EXPECT_EQ(shell.requests[0].file, "mailto:a@b.c?subject=s & t");
+    EXPECT_EQ(shell.requests[1].file, "mailto:a@b.c?body=body text");
+    EXPECT_EQ(shell.requests[2].file, "mailto:a@b.c?subject=s&body=ü");
+}
+
+TEST(modinternet, MailHasNoOwnerNoParametersAndNoDirectory) {
+    FakeShell shell;
+    const modinternet links(shell);
+    links.SendMail("a@b.c", "", "");
+    EXPECT_EQ(shell.requests[0],
+              (ShellRequest{ShellOwner::None, "open", "mailto:a@b.c", {}, {}, 5}));
+}
+
+TEST(modinternet, MailResultIsInverted) {
+    FakeShell shell;
+    const modinternet links(shell);
+    EXPECT_FALSE(links.SendMail("a@b.c", "", "")) << "33 is success";
+    shell.result = 0;
+    EXPECT_TRUE(links.SendMail("a@b.c", "", ""));
+}
+
+TEST(modinternet, UrlIsOpenedByTheActiveWindowInTheDirectoryZero) {
+    FakeShell shell;
+    const modinternet links(shell);
+    links.OpenURL("https://www.example.org");
+    EXPECT_EQ(shell.requests[0], (ShellRequest{ShellOwner::ActiveWindow, "Open",
+                                               "https://www.example.org", "", "0", 1}));
+}
+
+class AuxiliaryWindowsTest : public testing::Test {
+protected:
+    AuxiliaryWindowsTest() { program.application.Start(); }
+    FakeProgram program;
+};
+
+TEST_F(AuxiliaryWindowsTest, AboutIsCaptionedCentredOnTopAndModal) {
+    program.Main().RunCommand(IDM_mnuHlpAbout);
+    EXPECT_EQ(program.about.caption, "TNT4SWX - Info ");
+    EXPECT_EQ(program.about.title, "TNT4SWX");
+    EXPECT_EQ(program.about.version, "Version 1.2.7");
+    EXPECT_EQ(program.about.bounds, (TwipsRect{4680, 3760, 6000, 4000}));
+    EXPECT_EQ(program.about.topmost, std::vector<bool>{true});
+    EXPECT_EQ(program.about.shown, 1);
+}
+
+TEST_F(AuxiliaryWindowsTest, AboutIsNeverRestoredAlthoughItIsStored) {
+    program.application.AboutWindowEvents().AboutUnloading();
+    EXPECT_EQ(program.registry.Text("SOFTWARE\\Chromixs\\TNT4SWX\\Form Positions|frmAbout"),
+              "L=0;T=0;W=6000;H=4000;S=0;");
+    program.Main().RunCommand(IDM_mnuHlpAbout);
+    EXPECT_EQ(program.about.bounds.left, 4680);
+}
+
+TEST_F(AuxiliaryWindowsTest, AboutsLinksHaveTheirFixedTexts) {
+    program.application.AboutWindowEvents().HomepageClicked();
+    program.application.AboutWindowEvents().MailClicked();
+    EXPECT_EQ(program.shell.requests[0].file, MakerAddresses::HomePage);
+    EXPECT_EQ(program.shell.requests[1].file,
+              std::string("mailto:") + MakerAddresses::SupportMail +
+                  "?subject=TNT4SWX Mail&body=Ich möchte gerne einen Kommentar zu TNT4SWX "
+                  "abgegeben ...");
+}
+
+TEST_F(AuxiliaryWindowsTest, SystemInformationRunsTheRegisteredProgram) {
+    program.registry.SetText("HKLM:SOFTWARE\\Microsoft\\Shared Tools\\MSINFO|PATH",
+                             "C:\\m\\msinfo32.exe");
+    program.application.AboutWindowEvents().SystemInfoClicked();
+    EXPECT_EQ(program.shell.programs, std::vector<std::string>{"C:\\m\\msinfo32.exe"});
+}
+
+TEST_F(AuxiliaryWindowsTest, SystemInformationIsLookedForInItsFolder) {
+    program.registry.SetText("HKLM:SOFTWARE\\Microsoft\\Shared Tools Location|MSINFO", "C:\\m");
+    program.files.contents["C:\\m\\MSINFO32.EXE"] = "";
+    program.application.AboutWindowEvents().SystemInfoClicked();
+    EXPECT_EQ(program.shell.programs, std::vector<std::string>{"C:\\m\\MSINFO32.EXE"});
+}
+
+TEST_F(AuxiliaryWindowsTest, WithoutSystemInformationTheFixedGermanTextIsShown) {
+    program.application.AboutWindowEvents().SystemInfoClicked();
+    EXPECT_TRUE(program.shell.programs.empty());
+    EXPECT_EQ(program.prompts.messages,
+              (std::vector<Message>{
+                  {"Systeminformationen sind momentan nicht verfügbar", 0, "TNT4SWX"}}));
+}
+
+TEST_F(AuxiliaryWindowsTest, NumberInTheRegistryIsTakenAsHexadecimalText) {
+    program.registry.values["HKLM:SOFTWARE\\Microsoft\\Shared Tools\\MSINFO|PATH"] = {
+        RegistryType::DWord, std::string("\xFF\x01\0\0", 4)};
+    program.application.AboutWindowEvents().SystemInfoClicked();
+    EXPECT_EQ(program.shell.programs, std::vector<std::string>{"&h1FF"});
+}
+
+TEST_F(AuxiliaryWindowsTest, ViewerHasItsFiveEntriesAndShowsTheOneAskedFor) {
+    program.files.contents["C:\\prog\\readme_us.txt"] = "Read \xFC"
+                                                        "ber";
+    program.Main().RunCommand(IDM_mnuHlpShowReadme);
+    EXPECT_EQ(program.textViewer.entries,
+              (std::vector<std::string>{"readme", "lizenz", "changes", "todo", "limitations"}));
+    EXPECT_EQ(program.textViewer.selected, 0);
+    EXPECT_EQ(program.textViewer.text, "Read über");
+    EXPECT_EQ(program.textViewer.shown, 1);
+    program.Main().RunCommand(IDM_mnuHlpShowLizenz);
+    EXPECT_EQ(program.textViewer.selected, 1);
+}
+
+TEST_F(AuxiliaryWindowsTest, ChosenEntryLoadsTheFileOfTheCurrentLanguage) {
+    program.files.contents["C:\\prog\\changes_us.txt"] = "changes";
+    program.files.contents["C:\\prog\\changes_de.txt"] = "Änderungen";
+    program.application.TextViewerWindowEvents().EntryChosen(2);
+    EXPECT_EQ(program.textViewer.text, "changes");
+    program.files.contents["C:\\prog\\changes_de.txt"] = "neu";
+    program.Main().RunCommand(IDM_mnuOptionsLngGerman);
+    program.application.TextViewerWindowEvents().EntryChosen(2);
+    EXPECT_EQ(program.textViewer.text, "neu");
+}
+
+TEST_F(AuxiliaryWindowsTest, MissingTextShowsItsFullPath) {
+    program.Main().RunCommand(IDM_mnuOptionsLngGerman);
+    program.application.TextViewerWindowEvents().EntryChosen(3);
+    EXPECT_EQ(program.textViewer.text, "C:\\prog\\todo_de.txt: missing file");
+}
+
+TEST_F(AuxiliaryWindowsTest, ViewersTextLeavesItsMarginsAndIsNeverBelowFive) {
+    const TextViewerEvents& viewer = program.application.TextViewerWindowEvents();
+    EXPECT_EQ(viewer.TextSize({9000, 6000}), (TwipsSize{7100, 5375}));
+    EXPECT_EQ(viewer.TextSize({100, 100}), (TwipsSize{5, 5}));
+}
+
+TEST_F(AuxiliaryWindowsTest, StopButtonOnlySetsTheFlagAndTheWindowTakesTheCurrentOnTopState) {
+    program.Main().RunCommand(IDM_mnuOptionsAlwaysOnTop);
+    program.application.ProgressWindowEvents().ProgressLoading();
+    EXPECT_EQ(program.progressWindow.topmost, std::vector<bool>{false});
+    program.application.ProgressWindowEvents().StopClicked();
+    EXPECT_TRUE(program.progress.calls.empty());
+}
+
+TEST_F(AuxiliaryWindowsTest, BannerTicksThroughAllPicturesAndItsClickOpensTheirAddress) {
+    program.Main().BannerTicked();
+    program.Main().BannerTicked();
+    EXPECT_EQ(program.view.banner, 3);
+    program.Main().BannerTicked();
+    EXPECT_EQ(program.view.banner, 1) << "after the last one the first";
+    EXPECT_EQ(program.textViewer.banner, 1);
+    program.Main().BannerClicked();
+    EXPECT_EQ(program.shell.requests[0].file, "https://www.example.org/1");
+}
+
+TEST(Banner, WithoutPicturesNothingIsShownAndAClickDoesNothing) {
+    FakeShell shell;
+    const modinternet links(shell);
+    int shown = -1;
+    Banner banner(links, {}, [&](int index) { shown = index; });
+    banner.Start("2");
+    banner.Tick();
+    banner.Click();
+    EXPECT_EQ(shown, 0);
+    EXPECT_TRUE(shell.requests.empty());
+}
+
+TEST(Banner, AddressesAreTheLinesThatAreNotEmpty) {
+    EXPECT_EQ(ParseBannerAddresses("a\r\n\r\nb \nc"), (std::vector<std::string>{"a", "b", "c"}));
+    EXPECT_TRUE(ParseBannerAddresses("").empty());
+}
+
+TEST_F(AuxiliaryWindowsTest, LanguageIsAppliedToTheFormsAtOnceAndMarksExcludeEachOther) {
+    program.mainForm.Add("mnuFile", "Menu");
+    program.profile.values[{"C:\\prog\\tntlng_de.ini", "frmMain", "mnuFile.Caption"}] = "&Datei";
+    program.Main().RunCommand(IDM_mnuOptionsLngGerman);
+    EXPECT_EQ(program.mainForm.Controls()[0]->Property("Caption"), "&Datei");
+    EXPECT_TRUE(program.view.checks.at(IDM_mnuOptionsLngGerman));
+    EXPECT_FALSE(program.view.checks.at(IDM_mnuOptionsLngEnglish));
+}
+
+TEST_F(AuxiliaryWindowsTest, LanguageWithoutItsFileLeavesEveryTextAndMessagesSaySo) {
+    program.mainForm.Add("mnuFile", "Menu");
+    program.files.contents.erase("C:\\prog\\tntlng_de.ini");
+    program.Main().RunCommand(IDM_mnuOptionsLngGerman);
+    EXPECT_EQ(program.mainForm.Controls()[0]->Property("Caption"), "built-in Caption");
+    EXPECT_EQ(program.language.GetInfoText(1), "INI file doesn't exists ");
+}
+
+TEST_F(AuxiliaryWindowsTest, OnTopToggledTwiceIsAsBefore) {
+    program.Main().RunCommand(IDM_mnuOptionsAlwaysOnTop);
+    program.Main().RunCommand(IDM_mnuOptionsAlwaysOnTop);
+    EXPECT_EQ(program.mainWindow.topmost, (std::vector<bool>{true, false, true}));
+}
+
+} // namespace
