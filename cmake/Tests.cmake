@@ -12,6 +12,10 @@ function(tnt_test_program name)
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
     target_compile_definitions(${name} PRIVATE TNT_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
     tnt_target_options(${name})
+    if("gtest" IN_LIST arg_LIBRARIES)
+        target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <array> <functional> <map>
+            <memory> <string> <vector>)
+    endif()
     if(WIN32 AND NOT MSVC)
         target_link_options(${name} PRIVATE -static)
     endif()
@@ -28,5 +32,7 @@ if(WIN32)
         LIBRARIES standin_model tnt_forms gmock gtest gtest_main)
     # The forms' icons, and the manifest that gives the program its common controls.
     target_sources(windows_tests PRIVATE resources/tnt4swx.rc)
+    # Started as a process of its own by the tests of its server.
+    add_dependencies(windows_tests swx_standin)
     tnt_test_program(main_job FOLDERS tests/e2e LIBRARIES tnt_platform gdiplus)
 endif()

@@ -35,5 +35,5 @@ endforeach()
 # What the program reads at run time stands beside it.
 add_custom_target(program_data ALL
     COMMAND ${CMAKE_COMMAND} -DSOURCE=${CMAKE_SOURCE_DIR}/resources
-        -DTARGET=${CMAKE_BINARY_DIR}/bin -P ${CMAKE_SOURCE_DIR}/cmake/CopyProgramData.cmake)
+        -DTARGET=$<TARGET_FILE_DIR:tnt4swx> -P ${CMAKE_SOURCE_DIR}/cmake/CopyProgramData.cmake)
 add_dependencies(tnt4swx program_data)

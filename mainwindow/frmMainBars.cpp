@@ -62,6 +62,7 @@ std::vector<ShortcutDesign> ShortcutKeys() {
 
 std::vector<ToolbarButtonDesign> ToolbarButtonDesigns() {
     std::vector<ToolbarButtonDesign> buttons;
+    buttons.reserve(kToolbarRows.size());
     int separator = kFirstSeparator;
     for (const ToolbarRow& row : kToolbarRows)
         buttons.push_back({row.key, row.style, row.toolTip,

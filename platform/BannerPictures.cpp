@@ -30,9 +30,9 @@ std::vector<std::wstring> BitmapFiles(const std::wstring& folder) {
 BannerPictures::BannerPictures(const std::string& folder) {
     const std::wstring path = ToUtf16(folder);
     for (const std::wstring& name : BitmapFiles(path)) {
-        BitmapHandle picture(
-            static_cast<HBITMAP>(LoadImageW(nullptr, (path + L"\\" + name).c_str(), IMAGE_BITMAP, 0,
-                                            0, LR_LOADFROMFILE | LR_CREATEDIBSECTION)));
+        const std::wstring file = std::wstring(path).append(L"\\").append(name);
+        BitmapHandle picture(static_cast<HBITMAP>(LoadImageW(
+            nullptr, file.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION)));
         if (picture)
             pictures_.push_back(std::move(picture));
     }

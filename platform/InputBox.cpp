@@ -45,10 +45,10 @@ public:
         OnLayout();
         input_.SetText(ToUtf8(preset)); // a box without width would scroll its text away
         CentreOnOwner(Handle());
-        ModalDisplay display(Handle());
+        const ModalDisplay display(Handle());
         input_.SelectAll();
         input_.Focus();
-        display.Run([this] { return done_; });
+        ModalDisplay::Run([this] { return done_; });
         return answer_;
     }
 

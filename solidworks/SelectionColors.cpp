@@ -90,6 +90,18 @@ void SetColorOfSelected(const SolidWorksSelection& selection, std::int32_t index
         report += kLineBreak + (ResultKey::NoValidSelection + std::to_string(type));
 }
 
+// Colours the document when nothing is selected, else what is at each index; then rebuilds once.
+void ColorSelection(AutomationObject& document, const std::vector<double>& array,
+                    const std::function<void(const SolidWorksSelection&, std::int32_t)>& colorAt) {
+    const SolidWorksSelection selection(document);
+    const std::int32_t count = selection.Count();
+    if (count == 0)
+        document.Put(kValues, array);
+    for (std::int32_t index = 1; index <= count; ++index)
+        colorAt(selection, index);
+    document.Invoke("EditRebuild", {});
+}
+
 } // namespace
 
 std::string modSldTools::SWXGetColor(ColorRecord& color) {
@@ -121,14 +133,10 @@ std::string modSldTools::SWXSetColor(const ColorRecord& color) {
         return refusal;
     AutomationObject& document = session.Document();
     const std::vector<double> array = ColorArray::FromValues(color.values);
-    const SolidWorksSelection selection(document);
-    const std::int32_t count = selection.Count();
     std::string report;
-    if (count == 0)
-        document.Put(kValues, array);
-    for (std::int32_t index = 1; index <= count; ++index)
+    ColorSelection(document, array, [&](const SolidWorksSelection& selection, std::int32_t index) {
         SetColorOfSelected(selection, index, array, document, report);
-    document.Invoke("EditRebuild", {});
+    });
     return report.empty() ? ResultKey::Okay : report;
 }
 
@@ -139,14 +147,9 @@ std::string modSldTools::SWXSetColorComponent(const ColorRecord& color) {
         return refusal;
     AutomationObject& document = session.Document();
     const std::vector<double> array = ColorArray::FromValues(color.values);
-    const SolidWorksSelection selection(document);
-    const std::int32_t count = selection.Count();
-    if (count == 0)
-        document.Put(kValues, array);
-    for (std::int32_t index = 1; index <= count; ++index) {
+    ColorSelection(document, array, [&](const SolidWorksSelection& selection, std::int32_t index) {
         const AutomationObjectPtr component = selection.ComponentAt(index);
         (component ? *component : document).Put(kValues, array);
-    }
-    document.Invoke("EditRebuild", {});
+    });
     return ResultKey::Okay;
 }

@@ -156,7 +156,8 @@ void clsMultiLanguage::LoadList(const std::string& section, FormControl& control
     ListEntries& entries = *control.List();
     const std::string prefix = control.Name() + ".";
     entries.Clear();
-    const std::int32_t count = TextToInt32(INIGetSettingString(
+    // A list counts its entries in 16 bits.
+    const std::int16_t count = TextToInt16(INIGetSettingString(
         section, prefix + "ListCount", iniFile_, std::to_string(entries.Count())));
     for (std::int32_t index = 0; index < count; ++index)
         entries.Add(INIGetSettingString(section, prefix + "AddItem" + std::to_string(index),

@@ -41,8 +41,8 @@ frmAbout::frmAbout(HWND owner, ErrorSink& errors, const BannerPictures& banners)
     cmdOK_.SetText("OK");
     cmdOK_.onClick = [this] { done_ = true; };
     SetDefaultButton(IDC_cmdOK);
-    OnScaleChanged();
-    OnLayout();
+    frmAbout::OnScaleChanged();
+    frmAbout::OnLayout();
 }
 
 void frmAbout::Attach(AboutEvents& events) {
@@ -74,7 +74,7 @@ void frmAbout::SetBanner(int index) {
 void frmAbout::ShowModal() {
     OnLayout();
     done_ = false;
-    ModalDisplay display(Handle());
+    const ModalDisplay display(Handle());
     cmdOK_.Focus();
     ModalDisplay::Run([this] { return done_; });
     if (events_ != nullptr)

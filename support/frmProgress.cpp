@@ -23,7 +23,7 @@ frmProgress::frmProgress(HWND owner, ErrorSink& errors)
       cmdCancel_(Add<CommandButton>(At("cmdCancel", IDC_cmdCancel))) {
     cmdCancel_.SetText("Stop");
     cmdCancel_.onClick = [this] { OnCloseBox(); };
-    OnLayout();
+    frmProgress::OnLayout();
 }
 
 void frmProgress::ShowProgress(const std::string& label, std::int32_t minimum,

@@ -32,7 +32,7 @@ frmTxtView::frmTxtView(HWND owner, ErrorSink& errors, const BannerPictures& bann
     cmdOkay_.onClick = [this] { OnCloseBox(); };
     SetDefaultButton(IDC_cmdOkay);
     CentreOnOwner(Handle());
-    OnLayout();
+    frmTxtView::OnLayout();
 }
 
 void frmTxtView::Attach(TextViewerEvents& events) {

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Configures a CMake preset when that is needed, and builds what changed.
 #
-#   tools/build.sh native|windows
+#   tools/build.sh native|windows|fuzz
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

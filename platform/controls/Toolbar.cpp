@@ -86,7 +86,8 @@ void Toolbar::SetVisible(const std::string& key, bool visible) {
 }
 
 void Toolbar::FollowForm() {
-    Send(TB_AUTOSIZE);
+    Send(TB_AUTOSIZE); // takes the new width
+    Send(TB_AUTOSIZE); // wraps the buttons for it, and takes the height that they need
 }
 
 int Toolbar::Height() const noexcept {

@@ -205,7 +205,7 @@ void TreeView::OpenContextMenu(const WindowMessage& message) {
     if (message.id == WM_CONTEXTMENU) {
         RECT bounds{};
         const HTREEITEM item = Selected();
-        std::memcpy(&bounds, &item, sizeof item); // as TVM_GETITEMRECT takes it
+        std::memcpy(&bounds, &item, sizeof(void*)); // as TVM_GETITEMRECT takes it
         at = Send(TVM_GETITEMRECT, TRUE, &bounds) != FALSE ? POINT{bounds.left, bounds.bottom}
                                                            : POINT{};
     }

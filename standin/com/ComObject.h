@@ -11,6 +11,7 @@ class ComObject : public Interface {
 public:
     ComObject(const ComObject&) = delete;
     ComObject& operator=(const ComObject&) = delete;
+    virtual ~ComObject() = default; // by Release only
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** result) override {
         if (result == nullptr)
@@ -34,7 +35,6 @@ public:
 
 protected:
     ComObject() = default;
-    virtual ~ComObject() = default;
 
 private:
     ULONG references_ = 1;

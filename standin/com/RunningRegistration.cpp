@@ -49,7 +49,7 @@ RunningRegistration::~RunningRegistration() {
     CoDisconnectObject(application_.Get(), 0);
 }
 
-void RunningRegistration::Revoke() noexcept {
+void RunningRegistration::Revoke() const noexcept {
     if (classObject_ != 0)
         CoRevokeClassObject(classObject_);
     if (activeObject_ != 0)

@@ -13,7 +13,7 @@ public:
     ~RunningRegistration();
 
 private:
-    void Revoke() noexcept;
+    void Revoke() const noexcept;
 
     DispatchPtr application_;
     DWORD activeObject_ = 0;

@@ -12,6 +12,9 @@ class ServedObject final : public ComObject<IDispatch> {
 public:
     ServedObject(std::shared_ptr<ServedObjects> objects, StandInObjectPtr object)
         : objects_(std::move(objects)), object_(std::move(object)) {}
+    ServedObject(const ServedObject&) = delete;
+    ServedObject& operator=(const ServedObject&) = delete;
+    ~ServedObject() override { objects_->Forget(*object_); }
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
@@ -22,8 +25,6 @@ public:
                                      UINT* badArgument) override;
 
 private:
-    ~ServedObject() override { objects_->Forget(*object_); }
-
     [[nodiscard]] DISPID Resolve(const OLECHAR* name);
     void Call(const std::string& member, const DISPPARAMS& parameters, VARIANT* result);
     void Assign(const std::string& member, const DISPPARAMS& parameters);

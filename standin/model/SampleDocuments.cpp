@@ -24,7 +24,7 @@ void AddEdges(PartDocument& part, std::size_t count) {
 }
 
 Part MakeHousing(const SessionPtr& session) {
-    const Part part = PartDocument::Create(session, "Housing.SLDPRT");
+    Part part = PartDocument::Create(session, "Housing.SLDPRT");
     part->SetColor(Plastic(150, 166, 188));
     part->AddFeature("Base");
     part->AddFeature("Pocket");
@@ -42,7 +42,7 @@ Part MakeHousing(const SessionPtr& session) {
 
 Part MakeSmallPart(const SessionPtr& session, const std::string& name, std::size_t faces,
                    const MaterialOverride& color) {
-    const Part part = PartDocument::Create(session, name + ".SLDPRT");
+    Part part = PartDocument::Create(session, name + ".SLDPRT");
     part->SetColor(color);
     part->AddFeature(name + " body");
     AddFaces(*part, std::vector<std::size_t>(faces, 0));
@@ -50,7 +50,7 @@ Part MakeSmallPart(const SessionPtr& session, const std::string& name, std::size
 }
 
 Assembly MakeSubAssembly(const SessionPtr& session) {
-    const Assembly latch = AssemblyDocument::Create(session, "Latch.SLDASM");
+    Assembly latch = AssemblyDocument::Create(session, "Latch.SLDASM");
     latch->SetColor(Plastic(120, 124, 132));
     return latch;
 }
@@ -82,7 +82,7 @@ void AddGeneratedComponents(const SessionPtr& session, std::size_t count,
 }
 
 Part MakeGeneratedPart(const SessionPtr& session, std::size_t features, std::size_t faces) {
-    const Part part = PartDocument::Create(session, "Generated.SLDPRT");
+    Part part = PartDocument::Create(session, "Generated.SLDPRT");
     part->SetColor(Plastic(150, 166, 188));
     for (std::size_t i = 1; i <= features; ++i)
         part->AddFeature("Feature " + std::to_string(i));
@@ -95,10 +95,10 @@ Part MakeGeneratedPart(const SessionPtr& session, std::size_t features, std::siz
 Part MakePart(const SessionPtr& session, const Scenario& scenario) {
     constexpr std::size_t usualFeatures = 6;
     constexpr std::size_t usualFaces = 14;
-    const Part part = scenario.faces || scenario.features
-                          ? MakeGeneratedPart(session, scenario.features.value_or(usualFeatures),
-                                              scenario.faces.value_or(usualFaces))
-                          : MakeHousing(session);
+    Part part = scenario.faces || scenario.features
+                    ? MakeGeneratedPart(session, scenario.features.value_or(usualFeatures),
+                                        scenario.faces.value_or(usualFaces))
+                    : MakeHousing(session);
     if (!scenario.bodyInPart)
         part->RemoveBody();
     return part;

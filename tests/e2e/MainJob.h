@@ -40,13 +40,13 @@ private:
     void ReopenLibrary();
     void EndPrograms();
 
+    static void ArrangeWindows(const RemoteWindow& main, const RemoteWindow& standIn);
     void OpenFromMenu();
     void CheckGroup(std::size_t root, const LibraryGroup& group);
     void CheckValuesSent(const std::vector<std::string>& puts);
     void SavePicture(int step, const std::string& name);
     [[nodiscard]] std::string ReadLibraryFile() const;
     [[nodiscard]] std::vector<double> ValuesAsSent() const;
-    void Require(bool started) const; // the programs
 
     std::string programFolder_;
     std::string pictureFolder_;

@@ -11,6 +11,8 @@ namespace {
 
 constexpr int kMessageText = 0xFFFF;
 constexpr int kFileName = 1148;
+constexpr int kClickAttempts = 3;
+constexpr std::chrono::milliseconds kClickPatience{2000};
 
 bool HasChild(const RemoteWindow& window, int id) {
     return GetDlgItem(window.Handle(), id) != nullptr;
@@ -29,9 +31,15 @@ RemoteWindow WaitForPopup(const RemoteWindow& owner, const wchar_t* className, i
     return popup;
 }
 
-void WaitUntilGone(const RemoteWindow& dialog) {
-    if (!PollUntil([&] { return !dialog.Exists() || !dialog.IsVisible(); }))
-        throw std::runtime_error("The dialog stays open");
+// The next window may get the number of the one that has just gone: so its control is looked for
+// too.
+bool IsGone(const RemoteWindow& dialog, int control) {
+    return !dialog.IsVisible() || !HasChild(dialog, control);
+}
+
+void WaitUntilGone(const RemoteWindow& dialog, int control) {
+    if (!PollUntil([&] { return IsGone(dialog, control); }))
+        throw std::runtime_error("The dialog stays open: " + dialog.Title());
 }
 
 void Press(const RemoteWindow& dialog, int button) {
@@ -40,11 +48,15 @@ void Press(const RemoteWindow& dialog, int button) {
 
 } // namespace
 
+// A click can come before the window manager has put the box where it stays: then it is made again.
 RemoteDialogs::Message RemoteDialogs::AnswerMessageBox(const RemoteWindow& owner, int button) {
     const RemoteWindow dialog = WaitForPopup(owner, L"#32770", kMessageText);
     Message message{dialog.Title(), dialog.Child(kMessageText).Text()};
-    dialog.Child(button).Click();
-    WaitUntilGone(dialog);
+    for (int attempt = 0; attempt < kClickAttempts && !IsGone(dialog, kMessageText); ++attempt) {
+        dialog.Child(button).Click();
+        static_cast<void>(PollUntil([&] { return IsGone(dialog, kMessageText); }, kClickPatience));
+    }
+    WaitUntilGone(dialog, kMessageText);
     return message;
 }
 
@@ -64,7 +76,7 @@ void RemoteDialogs::EnterFileName(const RemoteWindow& owner, const std::string& 
     if (!entered)
         throw std::runtime_error("The dialog does not take the name");
     Press(dialog, IDOK);
-    WaitUntilGone(dialog);
+    WaitUntilGone(dialog, kFileName);
 }
 
 RemoteDialogs::Question RemoteDialogs::AnswerInputBox(const RemoteWindow& owner,
@@ -78,6 +90,6 @@ RemoteDialogs::Question RemoteDialogs::AnswerInputBox(const RemoteWindow& owner,
     if (!PollUntil([&] { return input.Text() == answer; }))
         throw std::runtime_error("The input box holds " + input.Text());
     RealInput::PressKey(VK_RETURN);
-    WaitUntilGone(dialog);
+    WaitUntilGone(dialog, IDC_txtInput);
     return question;
 }

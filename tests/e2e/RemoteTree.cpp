@@ -4,6 +4,7 @@
 #include "tests/e2e/RealInput.h"
 #include "tests/e2e/RemoteMemory.h"
 
+#include <algorithm>
 #include <cstring>
 #include <stdexcept>
 
@@ -32,9 +33,18 @@ std::vector<std::string> RemoteTree::Children(std::size_t root) const {
     return TextsOf(ChildItems(root));
 }
 
-std::string RemoteTree::Selected() const {
-    HTREEITEM item = Next(TVGN_CARET, nullptr);
-    return item != nullptr ? TextOf(item) : std::string();
+std::string RemoteTree::SelectedPath() const {
+    std::string path;
+    HTREEITEM top = nullptr;
+    for (HTREEITEM item = Next(TVGN_CARET, nullptr); item != nullptr;
+         item = Next(TVGN_PARENT, item)) {
+        path.insert(0, "/" + TextOf(item));
+        top = item;
+    }
+    if (top == nullptr)
+        return path;
+    const std::vector<HTREEITEM> roots = Siblings(Next(TVGN_ROOT, nullptr));
+    return std::to_string(std::find(roots.begin(), roots.end(), top) - roots.begin()) + path;
 }
 
 std::vector<std::string> RemoteTree::TextsOf(const std::vector<HTREEITEM>& items) const {

@@ -13,7 +13,9 @@ public:
     // Texts of the top nodes, and of the nodes right below one of them (from 0).
     [[nodiscard]] std::vector<std::string> Roots() const;
     [[nodiscard]] std::vector<std::string> Children(std::size_t root) const;
-    [[nodiscard]] std::string Selected() const; // empty when nothing is selected
+    // Texts from the top node down to the selected one, joined by "/", with the number of the top
+    // node (from 0) in front: "0/Materials/Metals".  Empty when nothing is selected.
+    [[nodiscard]] std::string SelectedPath() const;
 
     // With the mouse; throws std::runtime_error when there is no such node.
     void ClickChild(std::size_t root, const std::string& text) const;

@@ -118,6 +118,10 @@ HWND RemoteWindow::FocusedChild() const {
     return ThreadInfo().hwndFocus;
 }
 
+bool RemoteWindow::HoldsMouse() const {
+    return ThreadInfo().hwndCapture != nullptr;
+}
+
 POINT CentreOf(const RECT& rectangle) {
     return {(rectangle.left + rectangle.right) / 2, (rectangle.top + rectangle.bottom) / 2};
 }

@@ -33,6 +33,7 @@ public:
     [[nodiscard]] RemoteWindow ActivePopup() const;
     [[nodiscard]] bool HasMenuOpen() const;
     [[nodiscard]] HWND FocusedChild() const;
+    [[nodiscard]] bool HoldsMouse() const; // a button is down in one of the thread's windows
 
 private:
     [[nodiscard]] GUITHREADINFO ThreadInfo() const;

@@ -61,6 +61,7 @@ TEST(DisplayColorOf, AColouredSubAssemblyHidesTheColoursOfItsComponents) {
     StandInModel model("assembly");
     model.Assembly().Root()->Children()[5]->SetColor(kUnsetMaterial);
     EXPECT_EQ(DisplayColorOf(RowNamed(model, "Lever-1")).values, kUnsetMaterial);
+    EXPECT_EQ(DisplayColorOf(RowNamed(model, "Face 1 of Lever-1")).values, kUnsetMaterial);
 }
 
 TEST(DisplayColorOf, AnEdgeShowsNoColour) {

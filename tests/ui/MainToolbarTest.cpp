@@ -142,6 +142,19 @@ TEST_F(MainToolbar, HiddenToolbarTakesNoHeight) {
     EXPECT_EQ(form.Metrics().toolbarHeight, 0);
 }
 
+TEST_F(MainToolbar, NarrowWindowWrapsTheButtonsAndAWideOneUnwrapsThem) {
+    const float oneRow = form.Metrics().toolbarHeight;
+    const TwipsRect bounds = form.Bounds();
+    form.Move({bounds.left, bounds.top, 5400, bounds.height});
+    EXPECT_GT(form.Metrics().toolbarHeight, oneRow * 1.5F);
+    RECT bar{};
+    GetClientRect(Bar(), &bar);
+    for (int index = 0; index < Buttons().ButtonCount(); ++index)
+        EXPECT_LE(PlaceOf(index).right, bar.right + 8) << Buttons().ButtonKey(index + 1);
+    form.Move(bounds);
+    EXPECT_EQ(form.Metrics().toolbarHeight, oneRow);
+}
+
 TEST_F(MainToolbar, EmptyToolbarStillTakesItsHeight) {
     for (const ToolbarRow& row : kToolbarRows)
         form.SetButtonVisible(row.key, false);

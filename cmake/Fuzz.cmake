@@ -1,0 +1,10 @@
+# One fuzz target for each file of tests/fuzz; the instrumentation reaches the code under test.
+file(GLOB fuzz_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/*Fuzz.cpp)
+target_compile_options(tnt_portable PUBLIC -fsanitize=fuzzer-no-link)
+foreach(source IN LISTS fuzz_sources)
+    get_filename_component(name ${source} NAME_WE)
+    add_executable(${name} ${source})
+    target_link_libraries(${name} PRIVATE tnt_portable)
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+    tnt_target_options(${name})
+endforeach()
