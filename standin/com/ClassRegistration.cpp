@@ -7,22 +7,23 @@
 
 namespace {
 
-// The class of the stand-in itself.
-constexpr CLSID kStandInClass{
-    0xe852dc55, 0x87b3, 0x400a, {0x92, 0x22, 0x72, 0x1d, 0xbc, 0xc0, 0x9b, 0x6d}};
-
 // The user's own classes need no rights; not every system looks there.
 const std::array<ClassRegistration::Root, 2> kRoots{{
     {HKEY_CURRENT_USER, L"Software\\Classes\\"},
     {HKEY_CLASSES_ROOT, L""},
 }};
 
+// Tells a stand-in's class ids from all others.
 constexpr const wchar_t* kDescription = L"SolidWorks stand-in";
 
 std::wstring TextOf(const CLSID& classId) {
     std::array<wchar_t, 40> text{};
     StringFromGUID2(classId, text.data(), static_cast<int>(text.size()));
     return text.data();
+}
+
+std::wstring ClassKey(const CLSID& classId) {
+    return L"CLSID\\" + TextOf(classId);
 }
 
 bool WriteText(HKEY root, const std::wstring& key, const std::wstring& text) {
@@ -39,49 +40,54 @@ std::wstring ReadText(HKEY root, const std::wstring& key) {
     return result == ERROR_SUCCESS ? text.data() : L"";
 }
 
+bool IsOfStandIn(const CLSID& classId) {
+    return ReadText(HKEY_CLASSES_ROOT, ClassKey(classId)) == kDescription;
+}
+
 } // namespace
 
-ClassRegistration::ClassRegistration(std::wstring className)
-    : className_(std::move(className)), classId_(kStandInClass) {
+ClassRegistration::ClassRegistration(std::wstring className) : className_(std::move(className)) {
     CLSID existing{};
-    const bool registered = SUCCEEDED(CLSIDFromProgID(className_.c_str(), &existing));
-    isOwn_ = !registered || existing == kStandInClass;
-    if (!isOwn_)
+    const bool isRegistered = SUCCEEDED(CLSIDFromProgID(className_.c_str(), &existing));
+    isOwn_ = !isRegistered || IsOfStandIn(existing);
+    if (!isOwn_) {
         classId_ = existing;
-    else
-        Register();
+        return;
+    }
+    if (isRegistered)
+        Remove(existing); // a stand-in that was killed left it behind
+    Register();
 }
 
 ClassRegistration::~ClassRegistration() {
     if (isOwn_)
-        Remove();
-}
-
-// Only what points to the stand-in.
-void ClassRegistration::Remove() const {
-    for (const Root& root : kRoots) {
-        const std::wstring nameKey = root.path + className_;
-        if (ReadText(root.key, nameKey + L"\\CLSID") == TextOf(classId_))
-            RegDeleteTreeW(root.key, nameKey.c_str());
-        RegDeleteTreeW(root.key, (root.path + L"CLSID\\" + TextOf(classId_)).c_str());
-    }
+        Remove(classId_);
 }
 
 void ClassRegistration::Register() {
-    Remove(); // what a stand-in that was killed left behind
-    for (const Root& root : kRoots)
-        if (WriteBelow(root) && Resolves())
-            return;
-    Remove();
+    if (SUCCEEDED(CoCreateGuid(&classId_)))
+        for (const Root& root : kRoots)
+            if (WriteBelow(root) && Resolves())
+                return;
+    Remove(classId_);
     throw RuntimeError(ErrorNumber::Automation, "The class could not be registered");
 }
 
+// The class name only where it still stands for this class id.
+void ClassRegistration::Remove(const CLSID& classId) const {
+    for (const Root& root : kRoots) {
+        const std::wstring nameKey = root.path + className_;
+        if (ReadText(root.key, nameKey + L"\\CLSID") == TextOf(classId))
+            RegDeleteTreeW(root.key, nameKey.c_str());
+        RegDeleteTreeW(root.key, (root.path + ClassKey(classId)).c_str());
+    }
+}
+
 bool ClassRegistration::WriteBelow(const Root& root) const {
-    const std::wstring classId = TextOf(classId_);
-    const std::wstring classKey = root.path + L"CLSID\\" + classId;
+    const std::wstring classKey = root.path + ClassKey(classId_);
     const std::wstring nameKey = root.path + className_;
     return WriteText(root.key, nameKey, kDescription) &&
-           WriteText(root.key, nameKey + L"\\CLSID", classId) &&
+           WriteText(root.key, nameKey + L"\\CLSID", TextOf(classId_)) &&
            WriteText(root.key, classKey, kDescription) &&
            WriteText(root.key, classKey + L"\\ProgID", className_);
 }

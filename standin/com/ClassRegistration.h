@@ -4,7 +4,9 @@
 #include <windows.h>
 
 // The class name in the registry, while this object lives.  A class name that is registered for
-// something else (a real installation) is left as it is, and its class id is used.
+// something else (a real installation) is left as it is, and its class id is used.  Otherwise every
+// stand-in has a class id of its own: the object service may go on naming the class object of one
+// that was killed.
 class ClassRegistration {
 public:
     // Where classes are registered: below a path of a key.
@@ -23,11 +25,11 @@ public:
 
 private:
     void Register();
-    void Remove() const;
+    void Remove(const CLSID& classId) const;
     [[nodiscard]] bool WriteBelow(const Root& root) const;
     [[nodiscard]] bool Resolves() const;
 
     std::wstring className_;
-    CLSID classId_;
+    CLSID classId_{};
     bool isOwn_ = false;
 };

@@ -48,6 +48,19 @@ WScript.Echo "copied"
               "0.40000000000000002, 0, 0]");
 }
 
+TEST_F(StandInScriptTest, ANewStandInIsReachedAfterOneWasKilled) {
+    StandInProcess killed(L"--fault 1:die");
+    ASSERT_TRUE(killed.IsReady());
+    const char* script = R"vbs(
+WScript.Echo CreateObject("SldWorks.Application").RevisionNumber
+)vbs";
+    EXPECT_EQ(RunScript("first.vbs", script), "");
+    EXPECT_EQ(killed.WaitForEnd(), 3U);
+    const StandInProcess next;
+    ASSERT_TRUE(next.IsReady());
+    EXPECT_EQ(RunScript("second.vbs", script), "12.5.0\n");
+}
+
 TEST_F(StandInScriptTest, JScriptReadsAndSetsTheColourTable) {
     const StandInProcess standIn;
     ASSERT_TRUE(standIn.IsReady());
