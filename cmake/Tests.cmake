@@ -16,6 +16,10 @@ function(tnt_test_program name)
         target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <array> <functional> <map>
             <memory> <string> <vector>)
     endif()
+    if(NOT MSVC)
+        # The tests' own code is built once and run once; the code under test is as it is shipped.
+        target_compile_options(${name} PRIVATE -O0)
+    endif()
     if(WIN32 AND NOT MSVC)
         target_link_options(${name} PRIVATE -static)
     endif()

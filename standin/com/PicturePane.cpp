@@ -98,8 +98,11 @@ void PicturePane::PaintCard(const Canvas& canvas, const PictureCard& card) const
         canvas.Frame(chip, kNoteColor, 1);
         text.left = chip.right + Px(7);
     }
-    canvas.Text(card.note, text, kNoteColor, kOneLine | DT_RIGHT);
-    text.right -= card.note.empty() ? 0 : Px(74);
+    if (card.hiddenTiles > 0) {
+        canvas.Text(std::to_string(card.hiddenTiles) + " more", text, kNoteColor,
+                    kOneLine | DT_RIGHT);
+        text.right -= Px(74);
+    }
     canvas.SetFont(boldFont_.Get());
     canvas.Text(card.title, text, kTextColor, kOneLine);
     canvas.SetFont(Owner().Font());

@@ -23,7 +23,8 @@ constexpr FormDesign kDesign{Contract::WindowClass,
                              {900, 640}};
 
 constexpr UINT_PTR kRefreshTimer = 1;
-constexpr UINT kRefreshDelay = 15; // milliseconds; many changes are shown at once
+constexpr UINT kShortestDelay = 15;  // milliseconds; many changes are shown at once
+constexpr UINT kShareOfPainting = 4; // one part painting, three parts for the clients
 
 // All lengths in design pixels.
 constexpr int kMargin = 12;
@@ -165,7 +166,7 @@ void frmStandIn::OnCancelKey() {
 
 void frmStandIn::ModelChanged() noexcept {
     if (!std::exchange(refreshRequested_, true))
-        SetTimer(Handle(), kRefreshTimer, kRefreshDelay, nullptr);
+        SetTimer(Handle(), kRefreshTimer, std::max(refreshDelay_, kShortestDelay), nullptr);
 }
 
 void frmStandIn::ShowDocument() {
@@ -186,6 +187,7 @@ void frmStandIn::ShowDocument() {
 void frmStandIn::Refresh() {
     KillTimer(Handle(), kRefreshTimer);
     refreshRequested_ = false;
+    const ULONGLONG start = GetTickCount64();
     if (model_.ActiveDocument() != shownDocument_)
         ShowDocument();
     if (shownDocument_)
@@ -194,6 +196,8 @@ void frmStandIn::Refresh() {
     details_.Refresh();
     colorTable_.Refresh();
     calls_.Refresh();
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    refreshDelay_ = static_cast<UINT>(GetTickCount64() - start) * (kShareOfPainting - 1);
 }
 
 LRESULT frmStandIn::AnswerQuestion(WPARAM question, LPARAM row) {

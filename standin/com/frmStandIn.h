@@ -52,6 +52,7 @@ private:
     UINT askMessage_;
     DocumentPtr shownDocument_;
     bool refreshRequested_ = false;
+    UINT refreshDelay_ = 0; // milliseconds
     IconHandle standInBigIcon_;
     IconHandle standInSmallIcon_;
 

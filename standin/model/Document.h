@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/RuntimeError.h"
-#include "standin/model/ColorTable.h"
+#include "standin/model/StandardColorTable.h"
 #include "standin/model/Feature.h"
 #include "standin/model/Selection.h"
 #include "standin/model/SelectionManager.h"

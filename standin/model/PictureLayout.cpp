@@ -39,7 +39,7 @@ private:
             ++layout_.hiddenCards;
             return nullptr;
         }
-        layout_.cards.push_back({header, title, {}, {}, {}, {}});
+        layout_.cards.push_back({header, title, {}, {}, {}, 0});
         return &layout_.cards.back();
     }
 
@@ -63,8 +63,12 @@ private:
     }
 
     static void AddFace(PictureCard* card, const SelectedItem& item) {
-        if (card)
+        if (!card)
+            return;
+        if (card->tiles.size() < kLargestTileCount)
             card->tiles.push_back({item, {}});
+        else
+            ++card->hiddenTiles;
     }
 
     PictureLayout layout_;
@@ -78,13 +82,6 @@ PictureLayout CardsOf(const DocumentPtr& document) {
         if (const auto& root = static_cast<const AssemblyDocument&>(*document).Root())
             cards.AddChildren(*root, {});
     return cards.Take();
-}
-
-void ShortenTiles(PictureCard& card) {
-    if (card.tiles.size() <= kLargestTileCount)
-        return;
-    card.note = std::to_string(card.tiles.size() - kLargestTileCount) + " more";
-    card.tiles.resize(kLargestTileCount);
 }
 
 // Few faces stand in one row, more in two.
@@ -144,14 +141,10 @@ private:
     int rowHeight_ = 0;
 };
 
-} // namespace
-
-PictureLayout LayOutPicture(const DocumentPtr& document, const PictureMetrics& metrics, int width,
-                            int height) {
-    PictureLayout layout = CardsOf(document);
+PictureLayout PlaceCards(PictureLayout layout, const PictureMetrics& metrics, int width,
+                         int height) {
     Flow flow(metrics, width);
     for (PictureCard& card : layout.cards) {
-        ShortenTiles(card);
         SizeCard(card, metrics);
         flow.Place(card);
         PlaceTiles(card, metrics);
@@ -165,15 +158,26 @@ PictureLayout LayOutPicture(const DocumentPtr& document, const PictureMetrics& m
     return layout;
 }
 
+PictureMetrics Scaled(const PictureMetrics& metrics, int percent) {
+    return {metrics.tileWidth * percent / 100, metrics.tileHeight * percent / 100,
+            metrics.gap * percent / 100,
+            // The title keeps its size.
+            std::max(metrics.headerHeight * percent / 100, metrics.headerHeight * 3 / 4)};
+}
+
+} // namespace
+
+PictureLayout LayOutPicture(const DocumentPtr& document, const PictureMetrics& metrics, int width,
+                            int height) {
+    return PlaceCards(CardsOf(document), metrics, width, height);
+}
+
 PictureLayout FitPicture(const DocumentPtr& document, const PictureMetrics& metrics, int width,
                          int height) {
+    const PictureLayout cards = CardsOf(document);
     PictureLayout layout;
     for (const int percent : {100, 90, 80, 70, 60}) {
-        const PictureMetrics smaller{
-            metrics.tileWidth * percent / 100, metrics.tileHeight * percent / 100,
-            metrics.gap * percent / 100,
-            std::max(metrics.headerHeight * percent / 100, metrics.headerHeight * 3 / 4)};
-        layout = LayOutPicture(document, smaller, width, height);
+        layout = PlaceCards(cards, Scaled(metrics, percent), width, height);
         if (layout.hiddenCards == 0)
             break;
     }

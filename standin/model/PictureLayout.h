@@ -29,10 +29,10 @@ struct PictureTile {
 struct PictureCard {
     SelectedItem header;
     std::string title;
-    std::string note; // how many faces are not shown; empty when all are
     PictureRect bounds;
     PictureRect headerBounds;
     std::vector<PictureTile> tiles;
+    std::size_t hiddenTiles = 0; // faces for which there was no room
 };
 
 struct PictureLayout {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "standin/model/Application.h"
+#include "standin/model/SolidWorksApplication.h"
 #include "standin/model/CallGate.h"
 #include "standin/model/SampleDocuments.h"
 

@@ -56,10 +56,9 @@ int MainJob::Run() {
 
 void MainJob::StartPrograms() {
     fs::create_directories(PathOf(pictureFolder_) / "files");
-    fs::copy_file(PathOf(programFolder_) / "samples" / "materials.tnt", PathOf(libraryPath_),
-                  fs::copy_options::overwrite_existing);
-    fs::remove(PathOf(libraryPath_ + ".bak"));
-    fs::remove(PathOf(logPath_));
+    for (const std::string& old : {libraryPath_, libraryPath_ + ".bak", logPath_})
+        fs::remove(PathOf(old));
+    fs::copy_file(PathOf(programFolder_) / "samples" / "materials.tnt", PathOf(libraryPath_));
     library_ = ParseLibrary(ReadLibraryFile());
 
     standInProgram_ = std::make_unique<RunningProgram>(

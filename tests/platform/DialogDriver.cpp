@@ -30,13 +30,6 @@ DialogDriver::~DialogDriver() {
     thread_.join();
 }
 
-std::wstring TextOf(HWND window) {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(
-        SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
-    return text;
-}
-
 std::wstring TextOfControl(HWND dialog, int id) {
     std::wstring text(1024, L'\0');
     text.resize(static_cast<std::size_t>(SendDlgItemMessageW(

@@ -18,6 +18,5 @@ private:
     std::thread thread_;
 };
 
-[[nodiscard]] std::wstring TextOf(HWND window);
 [[nodiscard]] std::wstring TextOfControl(HWND dialog, int id);
 void Press(HWND dialog, int button); // posted: the dialog ends in its own time

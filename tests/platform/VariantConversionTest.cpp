@@ -3,6 +3,7 @@
 #include "common/RuntimeError.h"
 #include "tests/platform/FakeDispatch.h"
 
+#include <cstring>
 #include <gtest/gtest.h>
 
 namespace {
@@ -33,7 +34,7 @@ template <typename T>
 AutomationValue FromScalar(VARTYPE type, T number) {
     _variant_t variant = Typed(type);
     variant.llVal = 0;
-    *reinterpret_cast<T*>(&variant.llVal) = number;
+    std::memcpy(&variant.llVal, &number, sizeof number);
     return FromVariant(variant, Wrap);
 }
 

@@ -8,7 +8,8 @@ constexpr int kSize = 40;
 constexpr std::uint32_t kBackground = 0x102030;
 
 std::uint32_t PixelOf(const MaterialValues& values, int column, int row) {
-    return ShadedBall(values, kSize, kBackground)[static_cast<std::size_t>(row * kSize + column)];
+    return ShadedBall(values, kSize, kBackground)
+        .at(static_cast<std::size_t>(row) * kSize + static_cast<std::size_t>(column));
 }
 
 TEST(SurfaceShade, ThePlainColourIsTheValueTimesTwoHundredFiftyFive) {
@@ -17,7 +18,7 @@ TEST(SurfaceShade, ThePlainColourIsTheValueTimesTwoHundredFiftyFive) {
 }
 
 TEST(SurfaceShade, TheCornersShowTheBackground) {
-    EXPECT_EQ(ShadedBall({}, kSize, kBackground).size(), std::size_t{kSize * kSize});
+    EXPECT_EQ(ShadedBall({}, kSize, kBackground).size(), std::size_t{kSize} * kSize);
     EXPECT_EQ(PixelOf({1, 1, 1}, 0, 0), kBackground);
 }
 

@@ -1,4 +1,4 @@
-#include "standin/model/Application.h"
+#include "standin/model/SolidWorksApplication.h"
 
 #include "standin/model/Document.h"
 

@@ -1,4 +1,4 @@
-#include "standin/model/ColorTable.h"
+#include "standin/model/StandardColorTable.h"
 
 #include "common/RuntimeError.h"
 
