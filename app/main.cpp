@@ -28,8 +28,8 @@ namespace {
 
 constexpr const char* kVersion = TNT_VERSION;
 
-// An address for each picture; pictures beyond the addresses, and addresses beyond the pictures, are
-// not shown.
+// An address for each picture; pictures beyond the addresses, and addresses beyond the pictures,
+// are not shown.
 std::vector<std::string> BannerAddresses(Files& files, const std::string& folder,
                                          const BannerPictures& pictures) {
     std::vector<std::string> addresses =

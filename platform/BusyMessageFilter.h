@@ -7,12 +7,12 @@
 // The calling thread's message filter for as long as this object lives (CoRegisterMessageFilter):
 // calls that a busy program rejects are repeated by the rules of common/BusyRetry.h, and during a
 // call windows are repainted but take no input.
-class BusyMessageFilter final : private IMessageFilter {
+class BusyMessageFilter : private IMessageFilter {
 public:
     BusyMessageFilter();
     BusyMessageFilter(const BusyMessageFilter&) = delete;
     BusyMessageFilter& operator=(const BusyMessageFilter&) = delete;
-    ~BusyMessageFilter();
+    virtual ~BusyMessageFilter(); // behind the interface in the table of virtual functions
 
     // IMessageFilter
     STDMETHODIMP_(DWORD)

@@ -51,7 +51,7 @@ shared_mutex source_location span sstream stack stdexcept stop_token streambuf s
 syncstream system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set
 utility valarray variant vector version
 """.split())
-TEST_HEADERS = re.compile(r"(gtest|gmock|benchmark)/")
+TEST_HEADERS = re.compile(r"(gtest|gmock|benchmark|fuzzer)/")
 
 
 def room_of(path):

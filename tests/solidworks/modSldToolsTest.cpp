@@ -205,7 +205,8 @@ TEST_F(modSldToolsTest, ClearColorOfAFeatureKeepsItsSuppressionState) {
     const Lines calls = CallsOf([&] { result = tools->SWXClearColor(); });
     ASSERT_EQ(calls.size(), 10U);
     EXPECT_NE(calls[7].find("IsSuppressed()"), std::string::npos) << calls[7];
-    EXPECT_NE(calls[8].find("SelectedFeatureProperties(0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, True, False, \"\")"),
+    EXPECT_NE(calls[8].find(
+                  "SelectedFeatureProperties(0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, True, False, \"\")"),
               std::string::npos)
         << calls[8];
 }
