@@ -26,6 +26,9 @@ public:
 private:
     using Row = RemoteList::Row;
 
+    static constexpr const char* kGroup = "Metals"; // what the job works on in the sample library
+    static constexpr const char* kColor = "Gold";
+
     void StartPrograms();
     void OpenLibrary();
     void ChooseGroupAndColor();

@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr const char* kGroup = "Metals";
-constexpr const char* kColor = "Gold";
 constexpr std::size_t kBlue = 2;
 constexpr std::size_t kAmbient = 3;
 constexpr std::size_t kTransparency = 7;

@@ -8,13 +8,6 @@
 
 #include <stdexcept>
 
-namespace {
-
-constexpr const char* kGroup = "Metals";
-constexpr const char* kColor = "Gold";
-
-} // namespace
-
 std::string MainJob::ReadLibraryFile() const {
     const std::optional<std::string> bytes = Win32Files().ReadWhole(libraryPath_);
     if (!bytes)

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr const char* kGroup = "Metals";
 constexpr const char* kNameFromSolidWorks = "Neuer Farbwert";
 constexpr const char* kStatusOkay = "Okay setzen in SolidWorks";
 constexpr std::size_t kColorParts = 3; // red, green and blue count to 255, the others to 100
@@ -76,9 +75,9 @@ void MainJob::CheckValuesSent(const std::vector<std::string>& puts) {
 }
 
 void MainJob::SetColorOnTwoFaces() {
-    main_->List().ClickRow("Gold");
+    main_->List().ClickRow(kColor);
     report_.CheckBecomes(
-        "name in the editor", [this] { return main_->ColorName(); }, std::string("Gold"));
+        "name in the editor", [this] { return main_->ColorName(); }, std::string(kColor));
     standIn_->ClickObject("Face 1");
     standIn_->CtrlClickObject("Face 2");
     report_.CheckBecomes(
