@@ -2,7 +2,7 @@
 tnt_sources(platform_sources platform platform/controls)
 add_library(tnt_platform STATIC ${platform_sources})
 target_link_libraries(tnt_platform PUBLIC tnt_portable comctl32 comdlg32 gdi32 user32 shell32 ole32
-    oleaut32 uuid advapi32 uxtheme dwmapi)
+    oleaut32 uuid advapi32 uxtheme)
 tnt_target_options(tnt_platform)
 
 add_library(tnt_forms STATIC ${form_sources})

@@ -2,8 +2,6 @@
 
 #include "platform/DpiScale.h"
 
-#include <dwmapi.h>
-
 TwipsRect BoundsOfWindow(HWND window) {
     RECT bounds{};
     GetWindowRect(window, &bounds);
@@ -23,12 +21,9 @@ TwipsSize SizeOfScreen() {
 }
 
 int VisibleWidth(HWND window) {
-    RECT bounds{};
-    const HRESULT result =
-        DwmGetWindowAttribute(window, DWMWA_EXTENDED_FRAME_BOUNDS, &bounds, sizeof bounds);
-    if (FAILED(result) || WidthOf(bounds) <= 0)
-        GetWindowRect(window, &bounds);
-    return WidthOf(bounds);
+    RECT inner{};
+    GetClientRect(window, &inner);
+    return WidthOf(inner) + 2 * GetSystemMetrics(SM_CXBORDER);
 }
 
 void ResizeClientArea(HWND window, SIZE client) {

@@ -1,5 +1,7 @@
 #include "standin/model/SurfaceShade.h"
 
+#include "common/Numbers.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -13,7 +15,7 @@ double Value(const MaterialValues& values, ColorValue which) noexcept {
 }
 
 int ToByte(double value) noexcept {
-    return static_cast<int>(std::lround(std::clamp(value, 0.0, 1.0) * 255));
+    return static_cast<int>(RoundHalfToEven(std::clamp(value, 0.0, 1.0) * 255));
 }
 
 std::uint32_t Pack(const Color& color) noexcept {

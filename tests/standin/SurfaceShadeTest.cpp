@@ -40,4 +40,9 @@ TEST(SurfaceShade, AFullyTransparentBallShowsTheGround) {
     EXPECT_EQ(PixelOf({0, 0, 0, 0, 0, 0, 0, 1}, kSize / 2, kSize / 2), 0xEDEDEDU);
 }
 
+TEST(PlainColor, AnExactHalfGoesToTheEvenNeighbour) {
+    MaterialValues values{0.5, 0.3, 0.1};
+    EXPECT_EQ(PlainColor(values), (RedGreenBlue{128, 76, 26}));
+}
+
 } // namespace

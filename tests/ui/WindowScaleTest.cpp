@@ -128,7 +128,7 @@ TEST_F(MainScale, ListReachesTheRightBorderAndNoFurther) {
     GetWindowRect(Child(IDC_lvColor), &list);
     const float outer = form.Metrics().formWidth;
     EXPECT_EQ(WidthOf(list), form.Scale().ToPixels(outer - 3000 - 140));
-    EXPECT_LE(list.right, inner.right + form.Scale().FromDesign(4));
+    EXPECT_LE(list.right, inner.right);
 }
 
 TEST_F(MainScale, LowWindowKeepsPanesOfThreeHundredTwips) {
