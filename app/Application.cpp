@@ -61,6 +61,7 @@ void Application::SetFormDefaults() {
 }
 
 void Application::Quit() {
+    windows_.mainView.StopBannerTimer();
     settingsStore_.SaveLastSponsorShown(banner_.Index());
     windows_.mainView.EndProgram();
 }

@@ -71,8 +71,8 @@ bool Converts(const SettingRow& row, const std::string& text, Settings& settings
 std::vector<std::string> SettingsStore::Load(Settings& settings) const {
     std::vector<std::string> unreadable;
     for (const SettingRow& row : kSettings) {
-        const std::string text = Read(row.name);
-        if (!text.empty() && !Converts(row, text, settings))
+        const std::optional<std::string> text = Read(row.name);
+        if (!text || (!text->empty() && !Converts(row, *text, settings)))
             unreadable.emplace_back(row.name);
     }
     return unreadable;
@@ -85,7 +85,7 @@ void SettingsStore::Save(const Settings& settings) const {
 }
 
 std::string SettingsStore::LoadLastSponsorShown() const {
-    const std::string text = Read(kLastSponsorShown);
+    const std::string text = Read(kLastSponsorShown).value_or("");
     return text.empty() ? "1" : text;
 }
 
@@ -93,14 +93,15 @@ void SettingsStore::SaveLastSponsorShown(int index) const {
     Write(kLastSponsorShown, std::to_string(index));
 }
 
-std::string SettingsStore::Read(const std::string& name) const {
+std::optional<std::string> SettingsStore::Read(const std::string& name) const {
     const RegistryVariant value =
         registry_.RegistryGetKeyValue(RegistryRoot::CurrentUser, ProgramNames::RegistryPath, name);
     if (const auto* text = std::get_if<std::string>(&value))
         return *text;
     if (const auto* number = std::get_if<std::int32_t>(&value))
         return std::to_string(*number);
-    return {};
+    const bool isMissing = std::holds_alternative<std::monostate>(value);
+    return isMissing ? std::optional(std::string()) : std::nullopt;
 }
 
 void SettingsStore::Write(const std::string& name, const std::string& text) const {

@@ -3,6 +3,7 @@
 #include "common/Settings.h"
 #include "support/modRegistry.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,8 @@ public:
     void SaveLastSponsorShown(int index) const;
 
 private:
-    [[nodiscard]] std::string Read(const std::string& name) const;
+    // Empty when nothing is stored; nothing at all for bytes, which are no text.
+    [[nodiscard]] std::optional<std::string> Read(const std::string& name) const;
     void Write(const std::string& name, const std::string& text) const;
 
     const modRegistry& registry_;

@@ -85,6 +85,8 @@ int RunProgram() {
 } // namespace
 
 int WINAPI wWinMain(_In_ HINSTANCE, _In_opt_ HINSTANCE, _In_ LPWSTR, _In_ int) {
+    // A library on a drive without a disk is a file that is not there, not a question.
+    SetErrorMode(SEM_FAILCRITICALERRORS);
     try {
         return RunProgram();
     } catch (const std::exception& error) {

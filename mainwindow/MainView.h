@@ -105,6 +105,7 @@ class MainView : public TreePane,
 public:
     virtual void ShowWindow() = 0;
     virtual void SetBanner(int index) = 0; // from 1; 0: none
+    virtual void StopBannerTimer() = 0;
     virtual void EndProgram() = 0;         // leaves the message loop
 };
 

@@ -328,7 +328,10 @@ void frmMain::PlaceBanner() {
     picSponsor_.Show(fits);
 }
 
-void frmMain::EndProgram() {
+void frmMain::StopBannerTimer() {
     KillTimer(Handle(), kBannerTimer);
+}
+
+void frmMain::EndProgram() {
     PostQuitMessage(0);
 }

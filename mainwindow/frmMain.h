@@ -66,6 +66,7 @@ public:
     // MainView
     void ShowWindow() override;
     void SetBanner(int index) override;
+    void StopBannerTimer() override;
     void EndProgram() override;
 
 protected:

@@ -12,6 +12,8 @@ class CFormPos {
 public:
     explicit CFormPos(const modRegistry& registry);
 
+    // Null until it is set.
+    [[nodiscard]] FormWindow* Form() const noexcept { return form_; }
     void SetForm(FormWindow& form) noexcept { form_ = &form; }
     [[nodiscard]] std::uint32_t RootKey() const noexcept { return rootKey_; }
     void SetRootKey(std::uint32_t rootKey) noexcept { rootKey_ = rootKey; }

@@ -62,8 +62,10 @@ void frmTxtView::SetBanner(int index) {
     picSponsor_.Show(picSponsor_.HasPicture());
 }
 
+// A window that is on the screen keeps its size, maximised or not; only a minimised one comes back.
 void frmTxtView::ShowModeless() {
-    Show();
+    if (IsWindowVisible(Handle()) == FALSE || ShownState() == WindowState::Minimised)
+        Show();
     SetForegroundWindow(Handle());
     cmbTxtView_.Focus();
 }

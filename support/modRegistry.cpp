@@ -2,8 +2,6 @@
 
 #include "support/RegistryNumber.h"
 
-#include <optional>
-
 RegistryVariant modRegistry::RegistryGetKeyValue(std::uint32_t root, const std::string& keyPath,
                                                  const std::string& valueName) const {
     const auto value = registry_.Query(root, keyPath, valueName, RegistryRights::Read);
@@ -22,17 +20,24 @@ RegistryVariant modRegistry::RegistryGetKeyValue(std::uint32_t root, const std::
 void modRegistry::RegistrySetKeyValue(std::uint32_t root, const std::string& keyPath,
                                       const std::string& valueName, const RegistryVariant& value,
                                       std::uint32_t type) const {
-    std::optional<RegistryValue> stored;
-    if (const auto* text = std::get_if<std::string>(&value); text && type == RegistryType::String)
-        stored = StringValue(*text);
-    if (const auto* bytes = std::get_if<std::vector<std::uint8_t>>(&value);
-        bytes && type == RegistryType::Binary)
-        stored = RegistryValue{type, std::string(bytes->begin(), bytes->end())};
-    if (const auto* number = std::get_if<std::int32_t>(&value);
-        number && type == RegistryType::DWord)
-        stored = RegistryValue{type, RegistryNumberToBytes(static_cast<std::uint32_t>(*number))};
-    if (stored)
+    if (const auto stored = Stored(value, type))
         registry_.Set(root, keyPath, valueName, *stored, RegistryRights::ReadWrite);
+}
+
+std::optional<RegistryValue> modRegistry::Stored(const RegistryVariant& value,
+                                                 std::uint32_t type) const {
+    const auto* number = std::get_if<std::int32_t>(&value);
+    const auto* text = std::get_if<std::string>(&value);
+    const auto* bytes = std::get_if<std::vector<std::uint8_t>>(&value);
+    if (type == RegistryType::String && text)
+        return StringValue(*text);
+    if (type == RegistryType::String && number)
+        return StringValue(std::to_string(*number));
+    if (type == RegistryType::Binary && bytes)
+        return RegistryValue{type, std::string(bytes->begin(), bytes->end())};
+    if (type == RegistryType::DWord && number)
+        return RegistryValue{type, RegistryNumberToBytes(static_cast<std::uint32_t>(*number))};
+    return {};
 }
 
 std::string modRegistry::ReadString(std::uint32_t root, const std::string& keyPath,

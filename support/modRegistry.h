@@ -4,6 +4,7 @@
 #include "common/ports/RegistryAccess.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -23,8 +24,8 @@ public:
                                                       const std::string& keyPath,
                                                       const std::string& valueName) const;
 
-    // Creates the key when it does not exist.  type: RegistryType; a value that is not of its type
-    // is not written.
+    // Creates the key when it does not exist.  type: RegistryType.  A number is written as its
+    // decimal text under the type of strings; a value that does not convert is not written.
     void RegistrySetKeyValue(std::uint32_t root, const std::string& keyPath,
                              const std::string& valueName, const RegistryVariant& value,
                              std::uint32_t type) const;
@@ -40,6 +41,8 @@ public:
 private:
     [[nodiscard]] std::string TextOf(const RegistryValue& value) const;
     [[nodiscard]] RegistryValue StringValue(const std::string& text) const;
+    [[nodiscard]] std::optional<RegistryValue> Stored(const RegistryVariant& value,
+                                                      std::uint32_t type) const;
 
     RegistryAccess& registry_;
     const AnsiCodePage& codePage_;

@@ -91,6 +91,38 @@ TEST_F(SettingsStoreTest, ValuesThatDoNotConvertKeepTheirDefaultsAndAreNamed) {
     EXPECT_FALSE(settings.confirmDel);
 }
 
+TEST_F(SettingsStoreTest, BytesAreNoTextOfASetting) {
+    for (const std::string& name : kNames)
+        registry.values[kKey + name] = {RegistryType::Binary, "True"};
+    EXPECT_EQ(store.Load(settings), kNames);
+    EXPECT_EQ(settings, Settings{});
+    registry.values[kKey + "LastSponsorShown"] = {RegistryType::Binary, "2"};
+    EXPECT_EQ(store.LoadLastSponsorShown(), "1");
+}
+
+TEST_F(SettingsStoreTest, NumberOfTheRegistryConvertsAsItsText) {
+    registry.values[kKey + "Language"] = {RegistryType::DWord, std::string(4, '\0')};
+    registry.values[kKey + "ConfirmDel"] = {RegistryType::DWord, std::string(4, '\0')};
+    EXPECT_TRUE(store.Load(settings).empty());
+    EXPECT_EQ(settings.language, 0);
+    EXPECT_FALSE(settings.confirmDel);
+}
+
+TEST_F(SettingsStoreTest, LanguageBeyondTheTwoIsLoadedAllTheSame) {
+    registry.SetText(kKey + "Language", "2");
+    EXPECT_TRUE(store.Load(settings).empty());
+    EXPECT_EQ(settings.language, 2);
+}
+
+TEST_F(SettingsStoreTest, EmptyTextCountsAsAbsent) {
+    settings.defaultColorFile = "C:\\a.tnt";
+    for (const std::string& name : kNames)
+        registry.SetText(kKey + name, "");
+    EXPECT_TRUE(store.Load(settings).empty());
+    EXPECT_EQ(settings.language, 1);
+    EXPECT_EQ(settings.defaultColorFile, "C:\\a.tnt");
+}
+
 TEST_F(SettingsStoreTest, LastSponsorShownDefaultsToOneAndIsKeptApart) {
     EXPECT_EQ(store.LoadLastSponsorShown(), "1");
     store.SaveLastSponsorShown(3);

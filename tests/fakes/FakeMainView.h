@@ -74,6 +74,7 @@ public:
     // Window
     void ShowWindow() override { isShown = true; }
     void SetBanner(int index) override { banner = index; }
+    void StopBannerTimer() override { isBannerStopped = true; }
     void EndProgram() override { isEnded = true; }
 
     std::map<std::string, std::string> nodes; // text by key
@@ -108,5 +109,6 @@ public:
     bool splitterBarShown = false;
     bool isShown = false;
     int banner = -1;
+    bool isBannerStopped = false;
     bool isEnded = false;
 };

@@ -4,8 +4,8 @@
 #include "tests/platform/PollUntil.h"
 
 #include <cstring>
+#include <future>
 #include <gtest/gtest.h>
-#include <semaphore>
 #include <thread>
 
 namespace {
@@ -27,18 +27,18 @@ public:
     explicit ClipboardHolder(std::chrono::milliseconds time)
         : thread_([this, time] {
               EXPECT_TRUE(PollUntil([] { return OpenClipboard(nullptr) != FALSE; }));
-              isOpen_.release();
+              isOpen_.set_value();
               std::this_thread::sleep_for(time);
               CloseClipboard();
           }) {
-        isOpen_.acquire();
+        isOpen_.get_future().wait();
     }
     ClipboardHolder(const ClipboardHolder&) = delete;
     ClipboardHolder& operator=(const ClipboardHolder&) = delete;
     ~ClipboardHolder() { thread_.join(); }
 
 private:
-    std::binary_semaphore isOpen_{0};
+    std::promise<void> isOpen_; // a semaphore of this library can miss its wake-up on this target
     std::thread thread_;
 };
 

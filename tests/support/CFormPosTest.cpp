@@ -39,6 +39,14 @@ TEST(CFormPos, StartsWithTheMachinesRootAndTheProgramsTitle) {
     EXPECT_EQ(position.RootKey(), 0x80000002U);
     EXPECT_EQ(position.RegistryPath(), "SOFTWARE\\TNT4SWX");
     EXPECT_EQ(position.SubKey(), "");
+    EXPECT_EQ(position.Form(), nullptr);
+}
+
+TEST_F(CFormPosTest, PropertiesReadBack) {
+    EXPECT_EQ(position.Form(), &form);
+    EXPECT_EQ(position.RootKey(), 0x80000001U);
+    EXPECT_EQ(position.RegistryPath(), "SOFTWARE\\Chromixs\\TNT4SWX");
+    EXPECT_EQ(position.SubKey(), "Form Positions");
 }
 
 TEST_F(CFormPosTest, SavedTextHasFiveFieldsAndATrailingSemicolon) {

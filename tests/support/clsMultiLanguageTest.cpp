@@ -266,6 +266,41 @@ TEST_F(clsMultiLanguageTest, IntegerOutsideSixteenBitsIsTheEmptyValue) {
     EXPECT_EQ(language.INIGetSettingInteger("frmMain", "n", kIni, 7), 0);
 }
 
+TEST_F(clsMultiLanguageTest, PathHasAFolderPartWithItsBackslashAndANamePart) {
+    EXPECT_EQ(clsMultiLanguage::FileGetPathPart("C:\\a\\b.ini"), "C:\\a\\");
+    EXPECT_EQ(clsMultiLanguage::FileGetNamePart("C:\\a\\b.ini"), "b.ini");
+    EXPECT_EQ(clsMultiLanguage::FileGetPathPart("b.ini"), "");
+    EXPECT_EQ(clsMultiLanguage::FileGetNamePart("b.ini"), "b.ini");
+    EXPECT_EQ(clsMultiLanguage::FileGetPathPart("C:\\a\\"), "C:\\a\\");
+    EXPECT_EQ(clsMultiLanguage::FileGetNamePart("C:\\a\\"), "");
+}
+
+TEST_F(clsMultiLanguageTest, FileThatVanishesIsNoLanguageFileAnyMore) {
+    files.contents.clear();
+    form.Add("lbl", "Label");
+    language.SetAllControlText(form);
+    EXPECT_TRUE(profile.asked.empty());
+    EXPECT_EQ(language.GetInfoText(1), std::string("INI file doesn't exists ") + kIni);
+}
+
+TEST_F(clsMultiLanguageTest, TemplateNeedsNoLanguageFile) {
+    language.SetIniFile("");
+    form.Add("lbl", "Label");
+    language.GetAllControlText(form);
+    EXPECT_EQ(profile.written.size(), 2U);
+    EXPECT_TRUE(profile.values.contains({kTemplate, "frmMain", "lbl.Caption"}));
+}
+
+TEST_F(clsMultiLanguageTest, ListCountBelowZeroAddsNothingAndOneOverSixteenBitsIsAnError) {
+    FakeControl& box = form.Add("cmb", "ComboBox");
+    Put("cmb.ListCount", "-3");
+    language.SetAllControlText(form);
+    EXPECT_TRUE(box.list.entries.empty());
+    Put("cmb.ListCount", "2147483647");
+    EXPECT_THROW(language.SetAllControlText(form), RuntimeError);
+    EXPECT_TRUE(box.list.entries.empty());
+}
+
 TEST_F(clsMultiLanguageTest, WritingReportsWhatThePlatformReports) {
     EXPECT_TRUE(language.INIWriteSetting("s", "k", "Größe", kIni));
     EXPECT_EQ(profile.written.back(), "s/k=Gr\xF6\xDF"

@@ -69,10 +69,19 @@ TEST_F(modRegistryTest, WrittenValuesReadBack) {
     EXPECT_EQ(Get(), RegistryVariant(std::int32_t{-2}));
 }
 
-TEST_F(modRegistryTest, ValueThatIsNotOfItsTypeIsNotWritten) {
+TEST_F(modRegistryTest, NumberIsWrittenAsItsTextUnderTheTypeOfStrings) {
+    Set(std::int32_t{-12}, RegistryType::String);
+    EXPECT_EQ(registry.values.at("K|V").type, RegistryType::String);
+    EXPECT_EQ(registry.values.at("K|V").bytes, std::string("-12\0", 4));
+}
+
+TEST_F(modRegistryTest, ValueThatDoesNotConvertIsNotWritten) {
     Set("text", RegistryType::DWord);
-    Set(std::int32_t{1}, RegistryType::String);
+    Set("text", RegistryType::Binary);
+    Set(Bytes{1}, RegistryType::String);
+    Set(std::int32_t{1}, RegistryType::Binary);
     Set(RegistryVariant{}, RegistryType::String);
+    Set("text", 2);
     EXPECT_TRUE(registry.written.empty());
 }
 
