@@ -45,7 +45,7 @@ bool ColorLibrary::NewGroupNode(const std::optional<std::string>& mainKey) {
 }
 
 std::string ColorLibrary::NewGroupNode(const std::string& mainKey, const std::string& name) {
-    const std::string key = NextGroupKey(tree_.At(mainKey));
+    std::string key = NextGroupKey(tree_.At(mainKey));
     tree_.AddGroup(mainKey, key, name);
     return key;
 }

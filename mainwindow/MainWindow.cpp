@@ -82,7 +82,7 @@ void MainWindow::AddFileHandlers() {
     handlers_[IDM_mnuFileSaveAs] = [&files] { files.mnuFileSaveAs_Click(); };
     handlers_[IDM_mnuFileClose] = [&files] { files.mnuFileClose_Click(); };
     handlers_[IDM_mnuFileCancelAutoload] = [&files] { files.mnuFileCancelAutoload_Click(); };
-    handlers_[IDM_mnuQuit] = [this] { Quit(); };
+    handlers_[IDM_mnuQuit] = parts_.quit;
 }
 
 void MainWindow::AddColorHandlers() {
@@ -157,10 +157,6 @@ void MainWindow::AddOptionAndHelpHandlers() {
     handlers_[IDM_mnuHlpAbout] = [this] { parts_.about.ShowModal(); };
     handlers_[IDM_mnuHlpShowReadme] = [this] { parts_.textViewer.Show("readme"); };
     handlers_[IDM_mnuHlpShowLizenz] = [this] { parts_.textViewer.Show("lizenz"); };
-}
-
-void MainWindow::Quit() {
-    parts_.quit();
 }
 
 // The position is stored only here: Quit in the file menu does not pass, on purpose.

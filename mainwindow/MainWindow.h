@@ -102,7 +102,6 @@ private:
     void RunSolidWorks(void (SolidWorksCommands::*handler)());
     void PlaceWindow();
     void ApplyLanguage();
-    void Quit();
 
     Parts parts_;
     ColorEditor editor_;

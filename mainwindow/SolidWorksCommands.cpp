@@ -4,8 +4,9 @@
 #include "common/ProgramNames.h"
 #include "solidworks/ResultKey.h"
 
+#include <algorithm>
 #include <array>
-#include <utility>
+#include <string_view>
 
 namespace {
 
@@ -15,7 +16,7 @@ constexpr const char* kStatusOkay = "Okay setzen in SolidWorks";
 constexpr int kFirstEmission = 10;
 
 struct RefusalText {
-    const char* resultKey;
+    std::string_view resultKey;
     std::int32_t textNumber;
 };
 
@@ -36,12 +37,11 @@ void SolidWorksCommands::ShowMessage(const std::string& text) {
 }
 
 bool SolidWorksCommands::ReportRefusal(const std::string& resultKey) {
-    for (const RefusalText& refusal : kRefusalTexts)
-        if (resultKey == refusal.resultKey) {
-            ShowMessage(parts_.texts.GetInfoText(refusal.textNumber));
-            return true;
-        }
-    return false;
+    const auto refusal = std::ranges::find(kRefusalTexts, resultKey, &RefusalText::resultKey);
+    if (refusal == kRefusalTexts.end())
+        return false;
+    ShowMessage(parts_.texts.GetInfoText(refusal->textNumber));
+    return true;
 }
 
 void SolidWorksCommands::Report(const std::string& resultKey) {

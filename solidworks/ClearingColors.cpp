@@ -58,7 +58,7 @@ private:
 
 std::string modSldTools::SWXClearColor() {
     SolidWorksSession session(ports_.service);
-    if (const std::string refusal = session.TakeDocument(DocumentDemand::PartOrAssembly);
+    if (std::string refusal = session.TakeDocument(DocumentDemand::PartOrAssembly);
         !refusal.empty())
         return refusal;
     const SolidWorksSelection selection(session.Document());
@@ -101,8 +101,7 @@ void modSldTools::ClearComponent(const SolidWorksSession& session, AutomationObj
 
 std::string modSldTools::SWXClearComponentColor() {
     SolidWorksSession session(ports_.service);
-    if (const std::string refusal = session.TakeDocument(DocumentDemand::Assembly);
-        !refusal.empty())
+    if (std::string refusal = session.TakeDocument(DocumentDemand::Assembly); !refusal.empty())
         return refusal;
     const SolidWorksSelection selection(session.Document());
     const std::int32_t count = selection.Count();
@@ -121,7 +120,7 @@ std::string modSldTools::SWXClearComponentColor() {
 std::string modSldTools::SWXClearColorPart() {
     ports_.stopFlag = false;
     SolidWorksSession session(ports_.service);
-    if (const std::string refusal = session.TakeDocument(DocumentDemand::Part); !refusal.empty())
+    if (std::string refusal = session.TakeDocument(DocumentDemand::Part); !refusal.empty())
         return refusal;
     AutomationObject& document = session.Document();
     const AutomationObjectPtr body = document.Get("Body").AsObject();
@@ -188,8 +187,7 @@ std::string modSldTools::SWXClearColorAssembly() {
     // The revision comes first, on purpose: also without a document.
     if (!session.HasRequiredRevision())
         return ResultKey::NoRequiredSWAPI;
-    if (const std::string refusal = session.TakeDocument(DocumentDemand::Assembly);
-        !refusal.empty())
+    if (std::string refusal = session.TakeDocument(DocumentDemand::Assembly); !refusal.empty())
         return refusal;
     AutomationObject& document = session.Document();
     document.Invoke("ClearSelection", {});

@@ -106,7 +106,7 @@ void ColorSelection(AutomationObject& document, const std::vector<double>& array
 
 std::string modSldTools::SWXGetColor(ColorRecord& color) {
     SolidWorksSession session(ports_.service);
-    if (const std::string refusal = session.TakeDocument(DocumentDemand::PartOrAssembly);
+    if (std::string refusal = session.TakeDocument(DocumentDemand::PartOrAssembly);
         !refusal.empty())
         return refusal;
     const SolidWorksSelection selection(session.Document());
@@ -128,7 +128,7 @@ std::string modSldTools::SWXGetColor(ColorRecord& color) {
 
 std::string modSldTools::SWXSetColor(const ColorRecord& color) {
     SolidWorksSession session(ports_.service);
-    if (const std::string refusal = session.TakeDocument(DocumentDemand::PartOrAssembly);
+    if (std::string refusal = session.TakeDocument(DocumentDemand::PartOrAssembly);
         !refusal.empty())
         return refusal;
     AutomationObject& document = session.Document();
@@ -142,8 +142,7 @@ std::string modSldTools::SWXSetColor(const ColorRecord& color) {
 
 std::string modSldTools::SWXSetColorComponent(const ColorRecord& color) {
     SolidWorksSession session(ports_.service);
-    if (const std::string refusal = session.TakeDocument(DocumentDemand::Assembly);
-        !refusal.empty())
+    if (std::string refusal = session.TakeDocument(DocumentDemand::Assembly); !refusal.empty())
         return refusal;
     AutomationObject& document = session.Document();
     const std::vector<double> array = ColorArray::FromValues(color.values);

@@ -32,7 +32,7 @@ void WriteEntry(AutomationObject& table, std::int32_t index, const ColorRecord& 
 
 std::string modSldTools::SWXGetStandardColors(std::vector<ColorRecord>& colors) {
     SolidWorksSession session(ports_.service);
-    if (const std::string refusal = session.TakeDocument(DocumentDemand::Any); !refusal.empty())
+    if (std::string refusal = session.TakeDocument(DocumentDemand::Any); !refusal.empty())
         return refusal;
     const AutomationObjectPtr table = RequiredObject(session.Document(), "GetColorTable");
     const std::int32_t count = table->Get("GetStandardCount").AsInt32();
@@ -44,7 +44,7 @@ std::string modSldTools::SWXGetStandardColors(std::vector<ColorRecord>& colors) 
 
 std::string modSldTools::SWXSetStandardColors(const std::vector<ColorRecord>& colors) {
     SolidWorksSession session(ports_.service);
-    if (const std::string refusal = session.TakeDocument(DocumentDemand::Any); !refusal.empty())
+    if (std::string refusal = session.TakeDocument(DocumentDemand::Any); !refusal.empty())
         return refusal;
     const AutomationObjectPtr table = RequiredObject(session.Document(), "GetColorTable");
     const std::int32_t count = table->Get("GetStandardCount").AsInt32();

@@ -31,7 +31,7 @@ void Options::mnuOptionsAlwaysOnTop_Click() {
     SetFormOnTop(parts_.mainForm, parts_.settings.alwaysOnTop);
 }
 
-void Options::mnuOptionsSaveSettings_Click() {
+void Options::mnuOptionsSaveSettings_Click() const {
     parts_.saveSettings();
 }
 

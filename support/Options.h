@@ -27,7 +27,7 @@ public:
     void mnuOptionsConfirmDel_Click();
     void mnuOptionsCreateBackups_Click();
     void mnuOptionsAlwaysOnTop_Click();
-    void mnuOptionsSaveSettings_Click();
+    void mnuOptionsSaveSettings_Click() const;
 
     // Start-up: the marks of the two entries that no command sets then.
     void ShowConfirmDelAndCreateBackups();

@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr const char* kProgramKey = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
-constexpr const char* kFolderKey = "SOFTWARE\\Microsoft\\Shared Tools Location";
+constexpr const char* kProgramKey = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
+constexpr const char* kFolderKey = R"(SOFTWARE\Microsoft\Shared Tools Location)";
 
 std::string Hexadecimal(std::uint32_t number) {
     std::string digits;

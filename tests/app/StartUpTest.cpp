@@ -10,7 +10,7 @@ protected:
     FakeProgram program;
 };
 
-TEST_F(StartUpTest, FirstStartCentresTheWindowAndShowsIt) {
+TEST_F(StartUpTest, FirstStartWithAnEmptyRegistryCentresTheWindowAndShowsIt) {
     program.application.Start();
     EXPECT_TRUE(program.view.isShown);
     EXPECT_EQ(program.mainWindow.bounds, (TwipsRect{2880, 2160, 9600, 7200}));
@@ -110,7 +110,7 @@ TEST_F(StartUpTest, DefaultLibraryThatIsGoneLeavesAnEmptyTreeAndNoMessage) {
     EXPECT_TRUE(program.prompts.questions.empty());
 }
 
-TEST_F(StartUpTest, DefaultLibraryThatIsNoneGivesItsMessageAndTheWindowIsShown) {
+TEST_F(StartUpTest, DefaultLibraryThatIsNoneGivesTheInvalidFileMessageAndTheWindowIsShown) {
     program.files.contents["C:\\a.tnt"] = "rubbish";
     program.registry.SetText(FakeProgram::Setting("DefaultColorFile"), "C:\\a.tnt");
     program.application.Start();

@@ -8,24 +8,34 @@ namespace {
 
 using Message = FakePrompts::Message;
 
-TEST(modinternet, MailLinkTakesItsSchemeOnce) {
+// The link that a mail opens.
+std::string MailLink(const std::string& address, const std::string& subject,
+                     const std::string& body) {
     FakeShell shell;
     const modinternet links(shell);
-    links.SendMail("a@b.c", "", "");
-    links.SendMail("MailTo:a@b.c", "", "");
-    EXPECT_EQ(shell.requests[0].file, "mailto:a@b.c");
-    EXPECT_EQ(shell.requests[1].file, "MailTo:a@b.c");
+    links.SendMail(address, subject, body);
+    return shell.requests.at(0).file;
 }
 
-TEST(modinternet, SubjectAndBodyAreJoinedWithoutEscaping) {
-    FakeShell shell;
-    const modinternet links(shell);
-    links.SendMail("a@b.c", "s & t", "");
-    links.SendMail("a@b.c", "", "body text");
-    links.SendMail("a@b.c", "s", "ü");
-    EXPECT_EQ(shell.requests[0].file, "mailto:a@b.c?subject=s & t");
-    EXPECT_EQ(shell.requests[1].file, "mailto:a@b.c?body=body text");
-    EXPECT_EQ(shell.requests[2].file, "mailto:a@b.c?subject=s&body=ü");
+TEST(modinternet, MailAddressGetsItsPrefix) {
+    EXPECT_EQ(MailLink("a@b.c", "", ""), "mailto:a@b.c");
+    EXPECT_EQ(MailLink("mailt", "", ""), "mailto:mailt") << "shorter than the prefix";
+}
+
+TEST(modinternet, AddressThatBeginsWithMailToInAnyLetterCaseGetsNoSecondPrefix) {
+    EXPECT_EQ(MailLink("MailTo:a@b.c", "", ""), "MailTo:a@b.c");
+}
+
+TEST(modinternet, BodyWithoutASubjectFollowsAQuestionMark) {
+    EXPECT_EQ(MailLink("a@b.c", "", "body text"), "mailto:a@b.c?body=body text");
+}
+
+TEST(modinternet, SubjectAndBodyAreJoinedByAnAmpersand) {
+    EXPECT_EQ(MailLink("a@b.c", "s", "ü"), "mailto:a@b.c?subject=s&body=ü");
+}
+
+TEST(modinternet, NothingInAMailLinkIsEscaped) {
+    EXPECT_EQ(MailLink("a@b.c", "s & t", ""), "mailto:a@b.c?subject=s & t");
 }
 
 TEST(modinternet, MailHasNoOwnerNoParametersAndNoDirectory) {
@@ -93,6 +103,35 @@ TEST_F(AuxiliaryWindowsTest, SystemInformationRunsTheRegisteredProgram) {
     EXPECT_EQ(program.shell.programs, std::vector<std::string>{"C:\\m\\msinfo32.exe"});
 }
 
+TEST_F(AuxiliaryWindowsTest, SystemInformationTakesARegisteredPathUpToItsFirstNul) {
+    program.registry.values["HKLM:SOFTWARE\\Microsoft\\Shared Tools\\MSINFO|PATH"] = {
+        RegistryType::String, std::string("C:\\a.exe\0rest\0", 14)};
+    program.application.AboutWindowEvents().SystemInfoClicked();
+    EXPECT_EQ(program.shell.programs, std::vector<std::string>{"C:\\a.exe"});
+}
+
+TEST_F(AuxiliaryWindowsTest, RegisteredPathComesBeforeTheFolder) {
+    program.registry.SetText("HKLM:SOFTWARE\\Microsoft\\Shared Tools\\MSINFO|PATH", "C:\\a.exe");
+    program.registry.SetText("HKLM:SOFTWARE\\Microsoft\\Shared Tools Location|MSINFO", "C:\\m");
+    program.files.contents["C:\\m\\MSINFO32.EXE"] = "";
+    program.application.AboutWindowEvents().SystemInfoClicked();
+    EXPECT_EQ(program.shell.programs, std::vector<std::string>{"C:\\a.exe"});
+}
+
+TEST_F(AuxiliaryWindowsTest, FolderWithoutTheSystemInformationProgramGivesTheMessage) {
+    program.registry.SetText("HKLM:SOFTWARE\\Microsoft\\Shared Tools Location|MSINFO", "C:\\m");
+    program.application.AboutWindowEvents().SystemInfoClicked();
+    EXPECT_TRUE(program.shell.programs.empty());
+    EXPECT_EQ(program.prompts.messages.size(), 1U);
+}
+
+TEST_F(AuxiliaryWindowsTest, SystemInformationThatDoesNotStartGivesTheMessage) {
+    program.registry.SetText("HKLM:SOFTWARE\\Microsoft\\Shared Tools\\MSINFO|PATH", "C:\\a.exe");
+    program.shell.starts = false;
+    program.application.AboutWindowEvents().SystemInfoClicked();
+    EXPECT_EQ(program.prompts.messages.size(), 1U);
+}
+
 TEST_F(AuxiliaryWindowsTest, SystemInformationIsLookedForInItsFolder) {
     program.registry.SetText("HKLM:SOFTWARE\\Microsoft\\Shared Tools Location|MSINFO", "C:\\m");
     program.files.contents["C:\\m\\MSINFO32.EXE"] = "";
@@ -128,21 +167,42 @@ TEST_F(AuxiliaryWindowsTest, ViewerHasItsFiveEntriesAndShowsTheOneAskedFor) {
     EXPECT_EQ(program.textViewer.selected, 1);
 }
 
-TEST_F(AuxiliaryWindowsTest, ChosenEntryLoadsTheFileOfTheCurrentLanguage) {
+TEST_F(AuxiliaryWindowsTest, EntryChangesInLanguageNumberOneLoadsChangesUsFromTheProgramFolder) {
     program.files.contents["C:\\prog\\changes_us.txt"] = "changes";
-    program.files.contents["C:\\prog\\changes_de.txt"] = "Änderungen";
     program.application.TextViewerWindowEvents().EntryChosen(2);
     EXPECT_EQ(program.textViewer.text, "changes");
+}
+
+TEST_F(AuxiliaryWindowsTest, ViewerChangesItsLanguageOnlyWhenAnEntryIsChosen) {
+    program.files.contents["C:\\prog\\changes_us.txt"] = "changes";
     program.files.contents["C:\\prog\\changes_de.txt"] = "neu";
+    program.application.TextViewerWindowEvents().EntryChosen(2);
     program.Main().RunCommand(IDM_mnuOptionsLngGerman);
+    EXPECT_EQ(program.textViewer.text, "changes");
     program.application.TextViewerWindowEvents().EntryChosen(2);
     EXPECT_EQ(program.textViewer.text, "neu");
 }
 
-TEST_F(AuxiliaryWindowsTest, MissingTextShowsItsFullPath) {
+TEST_F(AuxiliaryWindowsTest, EntryWithoutItsFileShowsTheFullPathAndMissingFile) {
     program.Main().RunCommand(IDM_mnuOptionsLngGerman);
     program.application.TextViewerWindowEvents().EntryChosen(3);
     EXPECT_EQ(program.textViewer.text, "C:\\prog\\todo_de.txt: missing file");
+    EXPECT_TRUE(program.prompts.messages.empty());
+}
+
+TEST_F(AuxiliaryWindowsTest, FileThatCannotBeReadCountsAsMissing) {
+    program.files.contents["C:\\prog\\todo_us.txt"] = "x";
+    program.files.unreadable["C:\\prog\\todo_us.txt"] = true;
+    program.application.TextViewerWindowEvents().EntryChosen(3);
+    EXPECT_EQ(program.textViewer.text, "C:\\prog\\todo_us.txt: missing file");
+}
+
+TEST_F(AuxiliaryWindowsTest, LanguageNumberWithoutACodeShowsTheMissingFileText) {
+    FakeProgram other;
+    other.registry.SetText(FakeProgram::Setting("Language"), "7");
+    other.application.Start();
+    other.application.TextViewerWindowEvents().EntryChosen(0);
+    EXPECT_EQ(other.textViewer.text, "C:\\prog\\readme_.txt: missing file");
 }
 
 TEST_F(AuxiliaryWindowsTest, ViewersTextLeavesItsMarginsAndIsNeverBelowFive) {
@@ -151,12 +211,29 @@ TEST_F(AuxiliaryWindowsTest, ViewersTextLeavesItsMarginsAndIsNeverBelowFive) {
     EXPECT_EQ(viewer.TextSize({100, 100}), (TwipsSize{5, 5}));
 }
 
-TEST_F(AuxiliaryWindowsTest, StopButtonOnlySetsTheFlagAndTheWindowTakesTheCurrentOnTopState) {
+TEST_F(AuxiliaryWindowsTest, StopButtonSetsTheStopFlagAndLeavesTheProgressWindowOpen) {
+    const Settings settings;
+    bool stopFlag = false;
+    Progress progress(program.progressWindow, program.progressForm, program.language, settings,
+                      stopFlag);
+    progress.StopClicked();
+    EXPECT_TRUE(stopFlag);
+    EXPECT_TRUE(program.progress.calls.empty());
+}
+
+TEST_F(AuxiliaryWindowsTest, ProgressWindowTakesTheCurrentOnTopStateEachTimeItIsShown) {
+    program.application.ProgressWindowEvents().ProgressLoading();
     program.Main().RunCommand(IDM_mnuOptionsAlwaysOnTop);
     program.application.ProgressWindowEvents().ProgressLoading();
-    EXPECT_EQ(program.progressWindow.topmost, std::vector<bool>{false});
-    program.application.ProgressWindowEvents().StopClicked();
-    EXPECT_TRUE(program.progress.calls.empty());
+    EXPECT_EQ(program.progressWindow.topmost, (std::vector<bool>{true, false}));
+}
+
+TEST_F(AuxiliaryWindowsTest, ProgressWindowTakesItsTextsOfTheCurrentLanguage) {
+    program.profile.values[{"C:\\prog\\tntlng_us.ini", "frmProgress", "cmdCancel.Caption"}] =
+        "&Stop it";
+    FakeControl& button = program.progressForm.Add("cmdCancel", "CommandButton");
+    program.application.ProgressWindowEvents().ProgressLoading();
+    EXPECT_EQ(button.Property("Caption"), "&Stop it");
 }
 
 TEST_F(AuxiliaryWindowsTest, BannerTicksThroughAllPicturesAndItsClickOpensTheirAddress) {
@@ -168,6 +245,17 @@ TEST_F(AuxiliaryWindowsTest, BannerTicksThroughAllPicturesAndItsClickOpensTheirA
     EXPECT_EQ(program.textViewer.banner, 1);
     program.Main().BannerClicked();
     EXPECT_EQ(program.shell.requests[0].file, "https://www.example.org/1");
+}
+
+TEST(Banner, TimersCounterStartsFromTheIndexAtItsFirstTick) {
+    FakeShell shell;
+    const modinternet links(shell);
+    Banner banner(links, {"a", "b", "c"}, [](int) {});
+    banner.Start("2");
+    banner.Tick();
+    EXPECT_EQ(banner.Index(), 3);
+    banner.Click();
+    EXPECT_EQ(shell.requests.at(0).file, "c");
 }
 
 TEST(Banner, WithoutPicturesNothingIsShownAndAClickDoesNothing) {
