@@ -1,7 +1,9 @@
 #include "common/ColorNumber.h"
 
 ColorNumber MakeColorNumber(int red, int green, int blue) noexcept {
-    return static_cast<ColorNumber>(red + 256 * green + 65536 * blue);
+    // Unsigned: a library file may hold any 16-bit numbers.
+    return static_cast<ColorNumber>(red) + 256U * static_cast<ColorNumber>(green) +
+           65536U * static_cast<ColorNumber>(blue);
 }
 
 RedGreenBlue SplitColorNumber(ColorNumber color) noexcept {

@@ -18,7 +18,7 @@ struct RedGreenBlue {
 inline constexpr ColorNumber kFullComplementMask = 0xFFFFFF;
 inline constexpr ColorNumber kPartialComplementMask = 0xFFFFF;
 
-// red, green, blue: 0..255 each.
+// red, green, blue: 0..255 each; other numbers give some colour number.
 [[nodiscard]] ColorNumber MakeColorNumber(int red, int green, int blue) noexcept;
 
 // Splits a colour number; bits above the third byte are ignored.

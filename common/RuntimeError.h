@@ -10,6 +10,7 @@ inline constexpr int SubscriptOutOfRange = 9;
 inline constexpr int TypeMismatch = 13;
 inline constexpr int ObjectNotSet = 91;
 inline constexpr int Automation = 440;
+inline constexpr int ConnectionLost = 462; // the other program is gone, or busy to the end
 inline constexpr int PermissionDenied = 70;
 inline constexpr int NoSuchMember = 438;
 inline constexpr int InvalidPropertyValue = 380;

@@ -9,6 +9,9 @@
 [[nodiscard]] std::vector<std::string> SplitFields(std::string_view text,
                                                    std::string_view separator);
 
+// The characters of a UTF-8 text.
+[[nodiscard]] std::vector<std::string> CharactersOf(std::string_view text);
+
 // Lower case for A..Z only; every other character stays.
 [[nodiscard]] std::string ToLowerAscii(std::string_view text);
 

@@ -2,6 +2,7 @@
 
 #include "common/InfoTextNumber.h"
 #include "common/ProgramNames.h"
+#include "common/RuntimeError.h"
 
 namespace {
 
@@ -41,7 +42,17 @@ bool ColorLibrary::NewGroupNode(const std::optional<std::string>& mainKey) {
         NewMainNode();
         return false;
     }
-    return AskAndAddGroup(SelectMainNodeUpwards());
+    const std::string mainNode = SelectMainNodeUpwards();
+    try {
+        if (AskAndAddGroup(mainNode))
+            return true;
+    } catch (const RuntimeError&) {
+        host_->ShowColorNodes({}, {});
+        throw;
+    }
+    // The library is selected now, so the list shows what is selected there.
+    host_->ShowColorNodes({}, {});
+    return false;
 }
 
 std::string ColorLibrary::NewGroupNode(const std::string& mainKey, const std::string& name) {

@@ -3,6 +3,7 @@
 #include "common/RuntimeError.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 void ColorTable::Reset() {
@@ -46,8 +47,11 @@ void ColorTable::Erase(int index) {
     ForgetIndexes();
 }
 
-void ColorTable::EraseGroup(const std::string& groupKey) {
-    const auto belongs = [&](const ColorRecord& record) { return record.groupKey == groupKey; };
+void ColorTable::EraseGroups(const std::vector<std::string>& groupKeys) {
+    const std::unordered_set<std::string> groups(groupKeys.begin(), groupKeys.end());
+    const auto belongs = [&](const ColorRecord& record) {
+        return groups.contains(record.groupKey);
+    };
     records_.erase(std::remove_if(records_.begin() + 1, records_.end(), belongs), records_.end());
     ForgetIndexes();
 }

@@ -32,8 +32,8 @@ public:
     // Removes a colour (index from 1); later colours move down by one place.
     void Erase(int index);
 
-    // Removes all colours of a group, as erasing them one by one would.
-    void EraseGroup(const std::string& groupKey);
+    // Removes all colours of these groups, as erasing them one by one would.
+    void EraseGroups(const std::vector<std::string>& groupKeys);
 
     // Index of the first record with the key; 0 if none.
     [[nodiscard]] int IndexOfKey(const std::string& key) const;

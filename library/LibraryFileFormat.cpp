@@ -99,9 +99,15 @@ std::optional<Color> ParseColor(std::string_view record, std::string_view separa
                 std::string(record.substr(equals + 1, colon - equals - 1)),
                 fields.front(),
                 {}};
-    for (std::size_t index = 0; index < kColorValueCount; ++index)
-        color.values[index] = TextToInt16(fields[index + 1]);
+    std::copy(fields.begin() + 1, fields.end(), color.values.begin());
     return color;
+}
+
+ColorValueArray ValuesOf(const Color& color) {
+    ColorValueArray values{};
+    std::ranges::transform(color.values, values.begin(),
+                           [](const std::string& text) { return TextToInt16(text); });
+    return values;
 }
 
 std::string FormatHeader(std::string_view name, std::string_view mainKey, int count) {

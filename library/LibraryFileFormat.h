@@ -3,6 +3,7 @@
 #include "common/ColorRecord.h"
 #include "common/ports/AnsiCodePage.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -31,7 +32,7 @@ struct Color {
     std::string name;
     std::string groupKey; // as saved
     std::string altName;
-    ColorValueArray values{};
+    std::array<std::string, kColorValueCount> values;
 };
 
 // The lines of a file's content, without their ends (CR LF, LF or CR).
@@ -49,8 +50,10 @@ struct Color {
 // Nothing when the record is invalid.  record: UTF-8, with its tag, without quotes.
 [[nodiscard]] std::optional<Header> ParseHeader(std::string_view record);
 [[nodiscard]] std::optional<Group> ParseGroup(std::string_view record);
-// Throws RuntimeError TypeMismatch or Overflow for a value that is no 16-bit number.
 [[nodiscard]] std::optional<Color> ParseColor(std::string_view record, std::string_view separator);
+
+// Throws RuntimeError TypeMismatch or Overflow for a value that is no 16-bit number.
+[[nodiscard]] ColorValueArray ValuesOf(const Color& color);
 
 // Lines ready for the file, with quotes and CR LF, in UTF-8.
 [[nodiscard]] std::string FormatHeader(std::string_view name, std::string_view mainKey, int count);

@@ -84,7 +84,8 @@ bool LibraryFiles::ReadColor(std::string_view record, std::string_view separator
     if (group == groups.end())
         return false;
     library_.Colors().Append({color->name, group->second + "E" + std::to_string(number),
-                              group->second, false, color->values, color->altName});
+                              group->second, false, LibraryFileFormat::ValuesOf(*color),
+                              color->altName});
     return true;
 }
 
@@ -152,8 +153,9 @@ void LibraryFiles::AppendColors(Content& content, const std::string& mainKey, in
 void LibraryFiles::AppendLine(Content& content, const std::string& line) const {
     const AnsiCodePage::Encoded encoded = ports_.codePage.Encode(line);
     content.bytes += encoded.bytes;
-    if (content.unstored.find(encoded.unstored) == std::string::npos)
-        content.unstored += encoded.unstored;
+    for (const std::string& character : CharactersOf(encoded.unstored))
+        if (content.unstored.find(character) == std::string::npos)
+            content.unstored += character;
 }
 
 bool LibraryFiles::AcceptUnstored(const std::string& unstored) {

@@ -34,15 +34,41 @@ void ColorEditor::ShowColorFromSolidWorks(const ColorRecord& color) {
 
 void ColorEditor::Load(const ColorRecord& color, ColorNumber complementMask) {
     SetName(color.name);
-    for (std::size_t index = 0; index < kColorValueCount; ++index)
-        SetText(index, std::to_string(color.values[index]));
+    std::array<std::string, kColorValueCount> texts;
+    std::ranges::transform(color.values, texts.begin(),
+                           [](std::int16_t value) { return std::to_string(value); });
+    SetTexts(texts);
     ShowSmallSwatch(complementMask);
-    pane_.SetSmallSwatchCaption(name_ + ColorInNumbers());
+    ShowCaption(true);
+}
+
+void ColorEditor::Rename(const std::string& name) {
+    SetName(name);
+    ShowCaption(captionHasName_);
+}
+
+void ColorEditor::ShowCaption(bool withName) {
+    captionHasName_ = withName;
+    pane_.SetSmallSwatchCaption((withName ? name_ : std::string()) + ColorInNumbers());
 }
 
 void ColorEditor::SetName(const std::string& name) {
     name_ = name;
     pane_.SetColorName(name);
+}
+
+// All texts are the new ones before the first is handled: the swatches are built from three of
+// them, and what stood there before need not be a number.
+void ColorEditor::SetTexts(std::span<const std::string> texts) {
+    std::ranges::copy(texts, texts_.begin());
+    for (std::size_t index = 0; index < texts.size(); ++index)
+        SetText(index, texts[index]);
+}
+
+void ColorEditor::SetRedGreenBlue(const RedGreenBlue& color) {
+    const std::array texts = {std::to_string(color.red), std::to_string(color.green),
+                              std::to_string(color.blue)};
+    SetTexts(texts);
 }
 
 void ColorEditor::SetText(std::size_t index, const std::string& text) {
@@ -70,7 +96,7 @@ void ColorEditor::TextChanged(std::size_t index, const std::string& text) {
     pane_.SetSlider(index, value);
     PaintSwatches();
     // Without the colour's name on purpose: an edited colour is not the named one any more.
-    pane_.SetSmallSwatchCaption(ColorInNumbers());
+    ShowCaption(false);
 }
 
 bool ColorEditor::IsValueCharacter(char32_t character) noexcept {
@@ -88,12 +114,8 @@ void ColorEditor::SliderMoved(std::size_t index, int position) {
 
 void ColorEditor::PickActiveColorFromDialog() {
     const auto color = prompts_.AskColor(infoTexts_.GetInfoText(InfoTextNumber::Color), swatch_);
-    if (!color)
-        return;
-    const RedGreenBlue parts = SplitColorNumber(*color);
-    SetText(0, std::to_string(parts.red));
-    SetText(1, std::to_string(parts.green));
-    SetText(2, std::to_string(parts.blue));
+    if (color)
+        SetRedGreenBlue(SplitColorNumber(*color));
 }
 
 void ColorEditor::Repainted() {

@@ -7,6 +7,7 @@
 #include "mainwindow/MainView.h"
 
 #include <array>
+#include <span>
 #include <string>
 
 // The active-colour editor: a scratch copy of a colour in nine text boxes with sliders, a name
@@ -26,10 +27,17 @@ public:
     void ShowColorFromSolidWorks(const ColorRecord& color);
 
     void SetName(const std::string& name);
+
+    // The shown colour was renamed in the library: also the small swatch follows while it carries the
+    // name.
+    void Rename(const std::string& name);
     [[nodiscard]] const std::string& Name() const noexcept { return name_; }
 
     // Assigns a text box by code, with everything that a change of its text brings.
     void SetText(std::size_t index, const std::string& text);
+
+    // Assigns the first three text boxes.
+    void SetRedGreenBlue(const RedGreenBlue& color);
     [[nodiscard]] const std::string& Text(std::size_t index) const { return texts_.at(index); }
 
     // The nine texts as numbers.  Throws RuntimeError when one does not convert.
@@ -50,8 +58,10 @@ public:
 
 private:
     void Load(const ColorRecord& color, ColorNumber complementMask);
+    void SetTexts(std::span<const std::string> texts);
     void PaintSwatches();
     void ShowSmallSwatch(ColorNumber complementMask);
+    void ShowCaption(bool withName);
     [[nodiscard]] std::string ColorInNumbers() const;
 
     EditorPane& pane_;
@@ -60,4 +70,5 @@ private:
     std::string name_;
     std::array<std::string, kColorValueCount> texts_;
     ColorNumber swatch_ = 0; // background of both swatches
+    bool captionHasName_ = false; // of the small swatch
 };

@@ -26,7 +26,10 @@ void EditingCommands::DeleteGroup(const std::optional<std::string>& groupKey) {
     const std::string details = parts_.library.Tree().At(key).text + kLineBreak + ColorLines(key);
     if (!IsConfirmed(InfoTextNumber::GroupLabel, details))
         return;
-    RemoveGroup(key);
+    // The colours of a group go together: the list, which would lose its selected row for each of
+    // them, is filled anew afterwards.
+    parts_.library.Colors().EraseGroups({key});
+    parts_.library.Tree().Remove(key);
     parts_.panes.ShowSelectedGroup();
 }
 
@@ -36,19 +39,12 @@ void EditingCommands::DeleteMainNode(const std::optional<std::string>& mainKey) 
         return;
     if (!mainKey && parts_.library.Tree().Selected() != key)
         parts_.library.Tree().Select(key);
-    if (!IsConfirmed(InfoTextNumber::LibraryLabel, parts_.library.Tree().At(key).text + kLineBreak))
-        return;
-    for (const std::string& group : parts_.library.GetGroupInMainnode(key))
-        RemoveGroup(group);
-    parts_.library.Tree().Remove(key);
+    if (IsConfirmed(InfoTextNumber::LibraryLabel,
+                    parts_.library.Tree().At(key).text + kLineBreak)) {
+        parts_.library.Colors().EraseGroups(parts_.library.GetGroupInMainnode(key));
+        parts_.library.Tree().Remove(key);
+    }
     parts_.panes.ShowSelectedGroup();
-}
-
-// The colours of a group go together: the list, which would lose its selected row for each of them,
-// is filled anew afterwards.
-void EditingCommands::RemoveGroup(const std::string& groupKey) {
-    parts_.library.Colors().EraseGroup(groupKey);
-    parts_.library.Tree().Remove(groupKey);
 }
 
 void EditingCommands::DeleteSelectedNode() {

@@ -45,7 +45,6 @@ public:
 private:
     [[nodiscard]] bool IsConfirmed(std::int32_t labelNumber, const std::string& details);
     [[nodiscard]] std::string ColorLines(const std::string& groupKey) const;
-    void RemoveGroup(const std::string& groupKey);
 
     Parts parts_;
 };

@@ -75,5 +75,5 @@ void LibraryPanes::RowLabelEdited(int row, const std::string& text) {
         return;
     library_.Colors().SetNames(index, text);
     if (list_.SelectedRow() == row)
-        editor_.SetName(text);
+        editor_.Rename(text);
 }

@@ -90,7 +90,7 @@ void MainWindow::AddColorHandlers() {
     handlers_[IDM_mnuColorNewMainNode] = [&library] { library.NewMainNode(); };
     handlers_[IDM_mnuColorNewGroup] = [&library] { library.NewGroupNode(); };
     handlers_[IDM_mnuColorNewColor] = [&library] { library.NewColorNode(); };
-    handlers_[IDM_mnuColorRenameNode] = [this] { NodeEditRequested(); };
+    handlers_[IDM_mnuColorRenameNode] = [this] { EditSelectedNode(); };
     handlers_[IDM_mnuColorDelMainNode] = [this] { editing_.DeleteMainNode(); };
     handlers_[IDM_mnuColorDelGroup] = [this] { editing_.DeleteGroup(); };
     handlers_[IDM_mnuColorDelColor] = [this] { editing_.DeleteColor(); };
@@ -136,9 +136,13 @@ void MainWindow::AddSolidWorksHandler(int command, void (SolidWorksCommands::*ha
 
 // Calls to SolidWorks let the window handle events; nothing else is commanded until they are over.
 void MainWindow::RunSolidWorks(void (SolidWorksCommands::*handler)()) {
-    {
+    try {
         const ValueRestorer running(operationRuns_, true);
         (solidWorks_.*handler)();
+    } catch (...) {
+        // A user who has asked for the end meanwhile is not told what failed.
+        if (!afterOperation_)
+            throw;
     }
     if (const auto end = std::exchange(afterOperation_, nullptr))
         end();
@@ -174,6 +178,10 @@ void MainWindow::NodeLabelEdited(const std::string& key, const std::string& text
 }
 
 void MainWindow::NodeEditRequested() {
+    RunCommand(IDM_mnuColorRenameNode);
+}
+
+void MainWindow::EditSelectedNode() {
     if (!parts_.library.Tree().Selected().empty())
         parts_.view.EditNodeLabel(parts_.library.Tree().Selected());
 }
@@ -191,12 +199,12 @@ void MainWindow::RowClicked(int row) {
 }
 
 void MainWindow::RowEditRequested() {
-    if (const auto row = list_.SelectedRow())
+    if (const auto row = list_.SelectedRow(); row && MayEditRow())
         parts_.view.EditRowLabel(*row);
 }
 
 bool MainWindow::MayEditRow() const {
-    return true;
+    return !operationRuns_;
 }
 
 void MainWindow::RowLabelEdited(int row, const std::string& text) {
@@ -224,7 +232,7 @@ void MainWindow::SliderMoved(std::size_t index, int position) {
 }
 
 void MainWindow::SwatchDoubleClicked() {
-    editor_.PickActiveColorFromDialog();
+    RunCommand(IDM_mnuColorChange);
 }
 
 void MainWindow::Resized() {

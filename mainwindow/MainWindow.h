@@ -100,6 +100,7 @@ private:
     void AddOptionAndHelpHandlers();
     void AddSolidWorksHandler(int command, void (SolidWorksCommands::*handler)());
     void RunSolidWorks(void (SolidWorksCommands::*handler)());
+    void EditSelectedNode();
     void PlaceWindow();
     void ApplyLanguage();
 

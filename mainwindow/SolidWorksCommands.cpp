@@ -124,8 +124,7 @@ void SolidWorksCommands::ImportStandardColor(const ColorRecord& color, int index
                                              const std::string& groupKey) {
     parts_.library.NewColorNode(groupKey, color.name);
     parts_.editor.SetName(color.name);
-    for (const std::size_t value : {0U, 1U, 2U})
-        parts_.editor.SetText(value, std::to_string(color.values[value]));
+    parts_.editor.SetRedGreenBlue({color.values[0], color.values[1], color.values[2]});
     parts_.editor.SetText(static_cast<std::size_t>(ColorValue::Emission),
                           std::to_string(index + kFirstEmission));
     parts_.panes.UpdateFromColorPreview();

@@ -284,6 +284,9 @@ void frmMain::ApplyLayout(const MainLayout& layout) {
     editor_.FrameControl().Place(Scale().ToPixels(layout.frame));
     editor_.SmallSwatch().Place(Scale().ToPixels(layout.smallSwatch));
     editor_.Arrange();
+    // Nothing may be typed into a box that nobody sees.
+    if (!layout.hugeFrameShown && IsChild(editor_.FrameControl().Handle(), GetFocus()) != FALSE)
+        SetFocus(lvColor_.Handle());
     editor_.FrameControl().Show(layout.hugeFrameShown);
     editor_.SmallSwatch().Show(!layout.hugeFrameShown);
 }

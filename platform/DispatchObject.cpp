@@ -7,8 +7,18 @@
 
 namespace {
 
-[[noreturn]] void ThrowCallFailed(const std::string& description, const std::string& member) {
-    throw RuntimeError(ErrorNumber::Automation, description, member);
+// True when the program that owns the object is gone, or was busy until patience ended.
+bool IsConnectionLost(HRESULT result) noexcept {
+    return IsBusy(result) || result == RPC_E_DISCONNECTED || result == RPC_E_SERVER_DIED ||
+           result == HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE) ||
+           result == HRESULT_FROM_WIN32(RPC_S_CALL_FAILED);
+}
+
+[[noreturn]] void ThrowCallFailed(HRESULT result, ExceptionInfo& exception,
+                                  const std::string& member) {
+    throw RuntimeError(IsConnectionLost(result) ? ErrorNumber::ConnectionLost
+                                                : ErrorNumber::Automation,
+                       exception.Describe(result), member);
 }
 
 // Calls take their arguments as an array of plain variants.
@@ -41,13 +51,14 @@ DISPID DispatchObject::Resolve(const std::string& member) {
     std::wstring name = ToUtf16(member);
     LPOLESTR names = name.data();
     DISPID id = DISPID_UNKNOWN;
+    ExceptionInfo none; // names are resolved without one
     HRESULT result = S_OK;
     retry_.RepeatWhileBusy([&] {
         result = dispatch_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id);
         return IsBusy(result);
     });
     if (FAILED(result))
-        ThrowCallFailed(ExceptionInfo().Describe(result), member);
+        ThrowCallFailed(result, none, member);
     return members_.emplace(member, id).first->second;
 }
 
@@ -67,7 +78,7 @@ AutomationValue DispatchObject::Call(const std::string& member, WORD kind,
         return IsBusy(result);
     });
     if (FAILED(result))
-        ThrowCallFailed(exception.Describe(result), member);
+        ThrowCallFailed(result, exception, member);
     return FromVariant(answer, [this](const DispatchPtr& dispatch) { return Wrap(dispatch); });
 }
 

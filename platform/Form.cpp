@@ -42,6 +42,14 @@ int ShowCommand(WindowState state) noexcept {
     }
 }
 
+// Enter presses the button that has the focus; while another control has it, the default button.
+int ButtonForEnter(int defaultButton) {
+    const HWND focus = GetFocus();
+    const LRESULT code = focus != nullptr ? SendMessageW(focus, WM_GETDLGCODE, 0, 0) : 0;
+    return (code & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0 ? GetDlgCtrlID(focus)
+                                                                     : defaultButton;
+}
+
 void ForwardToChildren(const WindowMessage& message) {
     for (HWND child = GetWindow(message.window, GW_CHILD); child != nullptr;
          child = GetWindow(child, GW_HWNDNEXT))
@@ -142,8 +150,10 @@ MessageResult Form::OnMessage(const WindowMessage& message) {
     case WM_SETFOCUS:
         RestoreFocus();
         return 0;
-    case DM_GETDEFID:
-        return defaultButton_ != 0 ? MAKELRESULT(defaultButton_, DC_HASDEFID) : 0;
+    case DM_GETDEFID: {
+        const int button = ButtonForEnter(defaultButton_);
+        return button != 0 ? MAKELRESULT(button, DC_HASDEFID) : 0;
+    }
     case kLayoutMessage:
         layoutRequested_ = false;
         OnLayout();

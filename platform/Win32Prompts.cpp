@@ -23,7 +23,9 @@ Answer ToAnswer(int button) {
 
 HWND Win32Prompts::ActivePopup() const {
     HWND owner = owner_();
-    return owner != nullptr ? GetLastActivePopup(owner) : nullptr;
+    HWND popup = owner != nullptr ? GetLastActivePopup(owner) : nullptr;
+    // One that was hidden meanwhile still counts as the last active.
+    return popup != nullptr && IsWindowVisible(popup) != FALSE ? popup : owner;
 }
 
 Answer Win32Prompts::ShowMessage(const std::string& prompt, int style, const std::string& title) {

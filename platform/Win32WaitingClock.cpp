@@ -7,8 +7,13 @@ namespace {
 // Looking for messages also delivers those that were sent.
 void PaintWindows() {
     MSG message{};
-    if (PeekMessageW(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE))
+    while (PeekMessageW(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE)) {
+        if (message.message == WM_QUIT) { // passes every filter; it is for the program's own loop
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
         DispatchMessageW(&message);
+    }
 }
 
 } // namespace

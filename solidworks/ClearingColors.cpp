@@ -174,7 +174,9 @@ AutomationArray Children(AutomationObject& root) {
     AutomationValue children = root.Get("GetChildren");
     if (auto* array = std::get_if<AutomationArray>(&children.data))
         return std::move(*array);
-    return {};
+    if (!children.AsObject()) // throws for anything else
+        return {};
+    throw RuntimeError(ErrorNumber::TypeMismatch, "Type mismatch", "GetChildren");
 }
 
 } // namespace

@@ -16,11 +16,14 @@ constexpr const char* kValues = "MaterialPropertyValues";
 // Always this name, whatever the user's language.
 constexpr const char* kNameOfReadColor = "Neuer Farbwert";
 
-// Asks one source of a colour.  A call that fails is a source without a usable array.
+// Asks one source of a colour.  A call that fails is a source without a usable array, unless
+// SolidWorks itself is gone.
 AutomationValue Probe(const std::function<AutomationValue()>& source) {
     try {
         return source();
-    } catch (const RuntimeError&) {
+    } catch (const RuntimeError& error) {
+        if (error.Number() == ErrorNumber::ConnectionLost)
+            throw;
         return {};
     }
 }

@@ -15,8 +15,8 @@ constexpr const char* kQuestionTitle = "TNT4SWX";
 ColorRecord ReadEntry(AutomationObject& table, std::int32_t index) {
     ColorRecord color;
     color.name = table.Invoke("GetNameAtIndex", {index}).AsString();
-    const RedGreenBlue parts = SplitColorNumber(
-        static_cast<ColorNumber>(table.Invoke("GetColorRefAtIndex", {index}).AsInt32()));
+    const RedGreenBlue parts = SplitColorNumber(static_cast<ColorNumber>(
+        static_cast<std::int64_t>(table.Invoke("GetColorRefAtIndex", {index}).AsDouble())));
     color.values[0] = static_cast<std::int16_t>(parts.red);
     color.values[1] = static_cast<std::int16_t>(parts.green);
     color.values[2] = static_cast<std::int16_t>(parts.blue);

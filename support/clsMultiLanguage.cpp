@@ -54,6 +54,12 @@ std::string AsGivenBack(std::string fallback) {
     return fallback;
 }
 
+std::string WithoutQuotes(const std::string& text) {
+    const bool isQuoted = text.size() > 1 && (text.front() == '"' || text.front() == '\'') &&
+                          text.back() == text.front();
+    return isQuoted ? text.substr(1, text.size() - 2) : text;
+}
+
 } // namespace
 
 std::int16_t clsMultiLanguage::INIGetSettingInteger(const std::string& section,
@@ -132,7 +138,10 @@ std::string clsMultiLanguage::ReadOr(const std::string& section, const std::stri
                                      const std::string& current) {
     const std::string read = INIGetSettingString(section, key, iniFile_, current);
     const std::string fallback = AsGivenBack(codePage_.Encode(current).bytes);
-    return read == codePage_.Decode(fallback) ? current : read;
+    // Some platforms take quotes off a fallback, as off a value of the file.
+    const bool isMissing =
+        read == codePage_.Decode(fallback) || read == codePage_.Decode(WithoutQuotes(fallback));
+    return isMissing ? current : read;
 }
 
 void clsMultiLanguage::LoadProperties(const std::string& section, FormControl& control) {

@@ -26,6 +26,12 @@ COLORREF LinkColor() {
     return std::abs(contrast) >= kSmallestContrast ? link : GetSysColor(COLOR_BTNTEXT);
 }
 
+// Enter goes to the link that has the focus, not to the default button.
+bool IsEnter(LPARAM dialogMessage) {
+    const auto* message = reinterpret_cast<const MSG*>(dialogMessage);
+    return message != nullptr && message->message == WM_KEYDOWN && message->wParam == VK_RETURN;
+}
+
 } // namespace
 
 Label::Label(Form& form, const ControlPlace& place, LabelText kind)
@@ -63,7 +69,7 @@ MessageResult LinkLabel::OnMessage(const WindowMessage& message) {
         InvalidateRect(message.window, nullptr, FALSE);
         return {};
     case WM_GETDLGCODE:
-        return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON; // Enter goes here, not to the default button
+        return DLGC_BUTTON | (IsEnter(message.lParam) ? DLGC_WANTMESSAGE : 0);
     case BM_CLICK:
     case WM_LBUTTONUP:
         Raise(onClick);

@@ -27,6 +27,13 @@ RichEdit::RichEdit(Form& form, const ControlPlace& place)
     Send(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
 }
 
+// Left to itself it would keep Tab, Enter and Escape, and the keyboard could not leave it.
+MessageResult RichEdit::OnMessage(const WindowMessage& message) {
+    if (message.id == WM_GETDLGCODE)
+        return DLGC_WANTARROWS | DLGC_WANTCHARS;
+    return {};
+}
+
 void RichEdit::SetText(const std::string& text) {
     Control::SetText(text);
     Send(EM_SETSEL, 0, LPARAM{0});

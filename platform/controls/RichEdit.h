@@ -18,4 +18,7 @@ public:
     RichEdit(Form& form, const ControlPlace& place);
 
     void SetText(const std::string& text) override;
+
+protected:
+    MessageResult OnMessage(const WindowMessage& message) override;
 };

@@ -28,11 +28,13 @@ void Swatch::SetColors(ColorNumber background, ColorNumber text) {
 void Swatch::SetText(const std::string& text) {
     if (text == Text())
         return;
+    if (!IsShown()) { // switching its drawing on again would show it
+        Control::SetText(text);
+        return;
+    }
     Send(WM_SETREDRAW, FALSE);
     Control::SetText(text);
     Send(WM_SETREDRAW, TRUE);
-    if (!IsShown())
-        return;
     InvalidateRect(Handle(), nullptr, FALSE);
 }
 

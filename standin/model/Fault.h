@@ -41,12 +41,12 @@ struct Fault {
 class CallRejected : public RuntimeError {
 public:
     explicit CallRejected(const std::string& member)
-        : RuntimeError(ErrorNumber::Automation, "Call was rejected by callee.", member) {}
+        : RuntimeError(ErrorNumber::ConnectionLost, "Call was rejected by callee.", member) {}
 };
 
 // A call to a server that has ended.
 class ServerGone : public RuntimeError {
 public:
     explicit ServerGone(const std::string& member)
-        : RuntimeError(ErrorNumber::Automation, "The remote procedure call failed.", member) {}
+        : RuntimeError(ErrorNumber::ConnectionLost, "The remote procedure call failed.", member) {}
 };

@@ -119,6 +119,17 @@ TEST_F(StartUpTest, DefaultLibraryThatIsNoneGivesTheInvalidFileMessageAndTheWind
     EXPECT_TRUE(program.view.isShown);
 }
 
+TEST_F(StartUpTest, DefaultLibraryWithAFaultGivesTheInvalidFileMessageAndKeepsWhatWasReadBefore) {
+    program.files.contents["C:\\a.tnt"] = "\"D#Lib=0D:2\"\r\n\"G#g=0DG1\"\r\nrubbish\r\n";
+    program.registry.SetText(FakeProgram::Setting("DefaultColorFile"), "C:\\a.tnt");
+    program.application.Start();
+    ASSERT_EQ(program.prompts.messages.size(), 1U);
+    EXPECT_EQ(program.prompts.messages[0].prompt, "<5> C:\\a.tnt");
+    EXPECT_EQ(program.view.nodes.at("0D"), "Lib");
+    EXPECT_EQ(program.view.nodes.at("0DG1"), "g");
+    EXPECT_TRUE(program.view.isShown);
+}
+
 TEST_F(StartUpTest, DefaultLibraryWithABrokenValueIsReportedAndTheWindowIsShown) {
     program.files.contents["C:\\a.tnt"] = "\"D#L=0D:1\"\r\n\"G#g=0DG1\"\r\n\"E#a=0DG1:a\xF7"
                                           "99999\xF7"

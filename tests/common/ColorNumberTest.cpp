@@ -23,4 +23,9 @@ TEST(ColorNumber, HighByteIsIgnored) {
     EXPECT_EQ(SplitColorNumber(0xAB000001), (RedGreenBlue{1, 0, 0}));
 }
 
+TEST(ColorNumber, NumbersOutsideAByteGiveSomeColor) {
+    EXPECT_EQ(MakeColorNumber(32767, 32767, 32767) & 0xFFU, 0xFFU);
+    EXPECT_EQ(MakeColorNumber(-1, 0, 0), 0xFFFFFFFFU);
+}
+
 } // namespace

@@ -22,7 +22,8 @@ public:
                           std::uint32_t bufferSize) override {
         asked.push_back(section + "/" + key);
         const auto found = values.find({file, section, key});
-        return (found == values.end() ? fallback : found->second).substr(0, bufferSize - 1);
+        const std::string given = stripsFallbacks ? Stripped(fallback) : fallback;
+        return (found == values.end() ? given : found->second).substr(0, bufferSize - 1);
     }
     bool WriteString(const std::string& section, const std::string& key, const std::string& value,
                      const std::string& file) override {
@@ -37,4 +38,14 @@ public:
     std::vector<std::string> asked;
     std::vector<std::string> written;
     bool isReadOnly = false;
+    bool stripsFallbacks = false; // of blanks at the end and of quotes, as some platforms do
+
+private:
+    static std::string Stripped(std::string text) {
+        while (!text.empty() && text.back() == ' ')
+            text.pop_back();
+        const bool isQuoted = text.size() > 1 && (text.front() == '"' || text.front() == '\'') &&
+                              text.back() == text.front();
+        return isQuoted ? text.substr(1, text.size() - 2) : text;
+    }
 };

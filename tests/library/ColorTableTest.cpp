@@ -52,7 +52,7 @@ TEST(ColorTable, ErasingMovesLaterColorsDown) {
 
 TEST(ColorTable, ErasingAGroupIsErasingItsColorsOneByOne) {
     ColorTable table = ThreeColors();
-    table.EraseGroup("0DG1");
+    table.EraseGroups({"0DG1"});
     EXPECT_EQ(table.UpperBound(), 1);
     EXPECT_EQ(table.At(1).key, "0DG2E1");
     EXPECT_EQ(table.IndexOfKey("0DG2E1"), 1);

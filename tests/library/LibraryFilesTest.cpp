@@ -415,4 +415,27 @@ TEST_F(LibraryFilesTest, LockedTargetKeepsItsContentAndLeavesNothingBesideIt) {
     }
 }
 
+TEST_F(LibraryFilesTest, UndeclaredGroupComesBeforeABrokenValue) {
+    EXPECT_FALSE(
+        Read("\"D#L=0D:2\"\r\n\"G#g=0DG1\"\r\n\"E#a=0DG7:" + ValuesOf("a", "x") + "\"\r\n"));
+    ExpectInvalidFileMessage();
+}
+
+TEST_F(LibraryFilesTest, UnstorableCharacterIsToldOnce) {
+    library.NewMainNode("日本");
+    library.NewGroupNode("0D", "本日");
+    prompts.answers = {Answer::Cancel};
+    EXPECT_FALSE(Write());
+    EXPECT_EQ(prompts.messages.at(0).prompt, "<104>\r\n日本");
+}
+
+TEST_F(LibraryFilesTest, LibraryWithoutGroupsLeavesTheFileWithBackupsOff) {
+    library.NewMainNode("Lib");
+    settings.createBackups = false;
+    files.contents[kFile] = "old";
+    EXPECT_FALSE(Write());
+    EXPECT_EQ(files.contents.at(kFile), "old");
+    EXPECT_EQ(prompts.messages.size(), 1U);
+}
+
 } // namespace

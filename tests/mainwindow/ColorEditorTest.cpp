@@ -162,4 +162,23 @@ TEST_F(ColorEditorTest, CancelledDialogChangesNothing) {
     EXPECT_EQ(view.smallCaption, "Blue (R:0 G:0 B:255)");
 }
 
+TEST_F(ColorEditorTest, ColorIsShownWholeAlsoOverATextThatIsNoNumber) {
+    EXPECT_THROW(editor.TextChanged(1, "."), RuntimeError);
+    EXPECT_NO_THROW(editor.ShowColor(kBlue));
+    EXPECT_EQ(editor.Values(), kBlue.values);
+    EXPECT_THROW(editor.TextChanged(2, "."), RuntimeError);
+    prompts.chosenColors = {ColorNumber{0xFF8040}};
+    editor.PickActiveColorFromDialog();
+    EXPECT_EQ(editor.Values(), (ColorValueArray{64, 128, 255, 10, 20, 30, 40, 50, 60}));
+}
+
+TEST_F(ColorEditorTest, SmallSwatchFollowsARenameWhileItCarriesTheName) {
+    editor.ShowColor(kBlue);
+    editor.Rename("Azure");
+    EXPECT_EQ(view.smallCaption, "Azure (R:0 G:0 B:255)");
+    editor.TextChanged(0, "1");
+    editor.Rename("Sky");
+    EXPECT_EQ(view.smallCaption, " (R:1 G:0 B:255)");
+}
+
 } // namespace

@@ -199,4 +199,27 @@ TEST_F(EditingCommandsTest, RenameInTheListStartsTheEditOfTheSelectedRow) {
     EXPECT_EQ(program.view.editedRow, 1);
 }
 
+TEST_F(EditingCommandsTest, CancelledDeletionOfALibraryShowsWhatIsSelectedThen) {
+    program.Main().NodeClicked("0DG2");
+    program.prompts.answers = {Answer::Cancel};
+    Run(IDM_mnuColorDelMainNode);
+    EXPECT_EQ(program.view.selectedNode, "0D");
+    EXPECT_EQ(program.view.rowCount, 2) << "the first group of the library";
+}
+
+TEST_F(EditingCommandsTest, CancelledGroupShowsWhatIsSelectedThen) {
+    program.Main().NodeClicked("0DG2");
+    Run(IDM_mnuColorNewGroup); // cancelled
+    EXPECT_EQ(program.view.selectedNode, "0D");
+    EXPECT_EQ(program.view.rowCount, 2);
+}
+
+TEST_F(EditingCommandsTest, CutRestoresConfirmDelAlsoWhenTheClipboardIsBusy) {
+    program.clipboard.isBusy = true;
+    EXPECT_THROW(Run(IDM_mnuColorCut), RuntimeError);
+    program.clipboard.isBusy = false;
+    Run(IDM_mnuColorDelColor);
+    EXPECT_EQ(program.prompts.messages.size(), 1U);
+}
+
 } // namespace

@@ -240,6 +240,18 @@ TEST_F(SolidWorksCommandsTest, CommandsDuringAWalkAreRefusedSilently) {
     EXPECT_FALSE(program->view.nodes.contains("0D")) << "and work again afterwards";
 }
 
+TEST_F(SolidWorksCommandsTest, QuitDuringACallThatFailsEndsTheProgramWithoutAMessage) {
+    program->solidWorks.Gate().ClearFaults();
+    program->solidWorks.Gate().AddFault(ParseFault("3:error"));
+    program->solidWorks.Log().SetListener([&](const CallRecord& call) {
+        if (call.member == "SelectionManager")
+            Run(IDM_mnuQuit);
+    });
+    EXPECT_NO_THROW(Run(IDM_mnuSWXSetColor));
+    EXPECT_TRUE(program->view.isEnded);
+    program->solidWorks.Log().SetListener(nullptr);
+}
+
 TEST_F(SolidWorksCommandsTest, QuitDuringAWalkStopsItFirst) {
     bool endedDuringWalk = false;
     program->events.onEvents = [&] {
@@ -250,6 +262,32 @@ TEST_F(SolidWorksCommandsTest, QuitDuringAWalkStopsItFirst) {
     EXPECT_FALSE(endedDuringWalk);
     EXPECT_EQ(program->events.count, 1);
     EXPECT_TRUE(program->view.isEnded);
+}
+
+TEST_F(SolidWorksCommandsTest, DyingSolidWorksIsReportedAndNothingIsWrittenIntoTheLibrary) {
+    program->Main().NodeClicked("0DG1");
+    program->prompts.typed = {"kept"};
+    Run(IDM_mnuColorNewColor);
+    const std::string red = program->Main().CellText(0, 2);
+    Select(Client().Face(0));
+    program->solidWorks.Gate().ClearFaults();
+    program->solidWorks.Gate().AddFault(ParseFault("7:die")); // the face's colour
+    EXPECT_THROW(Run(IDM_mnuSWXNewColorUpdate), RuntimeError);
+    EXPECT_EQ(program->Main().CellText(0, 1), "kept");
+    EXPECT_EQ(program->Main().CellText(0, 2), red);
+    program->solidWorks.Gate().ClearFaults();
+}
+
+TEST_F(SolidWorksCommandsTest, NothingElseIsEditedDuringAWalk) {
+    program->events.onEvents = [&] {
+        program->Main().SwatchDoubleClicked();
+        program->Main().NodeEditRequested();
+        EXPECT_FALSE(program->Main().MayEditRow());
+    };
+    Run(IDM_mnuSWXClearColorPart);
+    EXPECT_TRUE(program->prompts.colorRequests.empty());
+    EXPECT_EQ(program->view.editedNode, "");
+    EXPECT_TRUE(program->Main().MayEditRow());
 }
 
 } // namespace

@@ -250,7 +250,7 @@ TEST_F(StandInModelTest, AnObjectOfAClosedModelSaysSo) {
     const AutomationObjectPtr face = client_->Face(0);
     client_.reset();
     model_.reset();
-    EXPECT_EQ(ErrorNumberOf([&] { face->Get("GetNextFace"); }), ErrorNumber::Automation);
+    EXPECT_EQ(ErrorNumberOf([&] { face->Get("GetNextFace"); }), ErrorNumber::ConnectionLost);
 }
 
 class CountingObserver final : public ModelObserver {

@@ -115,6 +115,19 @@ TEST_F(clsMultiLanguageTest, MissingKeyLeavesTheTextAlsoWhereTheCodePageCannotHo
     EXPECT_EQ(menu.properties["Caption"], "Löschen immer bestätigen");
 }
 
+TEST_F(clsMultiLanguageTest, MissingKeyLeavesTheTextWhateverThePlatformTakesOffItsEnds) {
+    FakeControl& label = form.Add("lblActiveColorName", "Label");
+    for (const char* name : {"\"Quoted\"", "'Quoted'  ", "\"", "ends in blanks  ", " ", "\"\""}) {
+        label.properties["Caption"] = name;
+        language.SetAllControlText(form);
+        EXPECT_EQ(label.properties["Caption"], name);
+        profile.stripsFallbacks = true;
+        language.SetAllControlText(form);
+        EXPECT_EQ(label.properties["Caption"], name) << "stripped";
+        profile.stripsFallbacks = false;
+    }
+}
+
 TEST_F(clsMultiLanguageTest, DisabledTextBoxIsEnabledWhileItsTextIsSet) {
     FakeControl& box = form.Add("txt", "TextBox");
     box.isEnabled = false;

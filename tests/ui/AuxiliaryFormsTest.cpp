@@ -4,6 +4,7 @@
 #include "support/frmAbout.h"
 #include "support/frmProgress.h"
 #include "support/frmTxtView.h"
+#include "tests/ui/GuiObjects.h"
 #include "tests/ui/MainFormTest.h"
 
 #include <algorithm>
@@ -196,6 +197,180 @@ TEST_F(AuxiliaryForms, ViewerClosesByItsButtonAndComesAgain) {
         SendMessageW(FindChild(viewer.Handle(), IDC_cmdOkay), BM_CLICK, 0, 0);
         EXPECT_EQ(IsWindowVisible(viewer.Handle()), FALSE);
     }
+}
+
+// A key that goes the way of the program's message loop.
+void Press(Form& owner, WPARAM key) {
+    MSG down{GetFocus(), WM_KEYDOWN, key, 0, 0, {}};
+    if (!owner.TranslateKeys(down))
+        SendMessageW(down.hwnd, WM_KEYDOWN, key, 0);
+}
+
+// Alt with a letter.
+void PressAccessKey(Form& owner, wchar_t letter) {
+    MSG down{GetFocus(), WM_SYSCHAR, letter, 0x20000001, 0, {}};
+    owner.TranslateKeys(down);
+}
+
+// The controls that the Tab key visits, from the one with the focus on.
+std::vector<int> TabOrder(Form& owner) {
+    std::vector<int> order;
+    const HWND first = GetFocus();
+    do {
+        order.push_back(GetDlgCtrlID(GetFocus()));
+        Press(owner, VK_TAB);
+    } while (GetFocus() != first && order.size() < 20);
+    return order;
+}
+
+class AboutKeys : public AuxiliaryForms {
+protected:
+    // Opens the window, does the action in it, and closes it if it is still open then.
+    void InAbout(const std::function<void()>& action) {
+        about.Attach(recorded);
+        Later([&] {
+            action();
+            wasClosed = IsWindowVisible(about.Handle()) == FALSE;
+            SendMessageW(about.Handle(), WM_CLOSE, 0, 0);
+        });
+        about.ShowModal();
+    }
+
+    frmAbout about{form.Handle(), errors, banners};
+    bool wasClosed = false;
+};
+
+TEST_F(AboutKeys, TabVisitsLinksAndButtonsAndStartsAtOk) {
+    std::vector<int> order;
+    InAbout([&] { order = TabOrder(about); });
+    EXPECT_EQ(order,
+              (std::vector<int>{IDC_cmdOK, IDC_lblLinkHomepage, IDC_lblMail, IDC_cmdSysInfo}));
+}
+
+TEST_F(AboutKeys, EnterOpensTheLinkThatHasTheFocus) {
+    InAbout([&] {
+        SetFocus(FindChild(about.Handle(), IDC_lblMail));
+        Press(about, VK_RETURN);
+    });
+    EXPECT_EQ(recorded.lines, (std::vector<std::string>{"mail", "unloading"}));
+}
+
+TEST_F(AboutKeys, EnterPressesTheButtonThatHasTheFocus) {
+    InAbout([&] {
+        SetFocus(FindChild(about.Handle(), IDC_cmdSysInfo));
+        Press(about, VK_RETURN);
+    });
+    EXPECT_EQ(recorded.lines, (std::vector<std::string>{"system", "unloading"}));
+}
+
+TEST_F(AboutKeys, AccessKeyPressesTheSystemInformationButton) {
+    ControlOf(about, "cmdSysInfo").SetProperty("Caption", "&System info ...");
+    InAbout([&] { PressAccessKey(about, L's'); });
+    EXPECT_EQ(recorded.lines, (std::vector<std::string>{"system", "unloading"}));
+}
+
+TEST_F(AuxiliaryForms, AboutIsClosedByEnterAndByEscape) {
+    frmAbout about(form.Handle(), errors, banners);
+    about.Attach(recorded);
+    for (const WPARAM key : {VK_RETURN, VK_ESCAPE}) {
+        Later([&] { Press(about, key); });
+        about.ShowModal();
+    }
+    EXPECT_EQ(recorded.lines, (std::vector<std::string>{"unloading", "unloading"}));
+}
+
+TEST_F(AuxiliaryForms, ViewerIsWorkedByKeysAlone) {
+    frmTxtView viewer(form.Handle(), errors, banners);
+    viewer.Attach(recorded);
+    viewer.SetEntries({"readme"});
+    viewer.ShowModeless();
+    EXPECT_EQ(TabOrder(viewer), (std::vector<int>{IDC_cmbTxtView, IDC_rtbShowtext, IDC_cmdOkay}));
+    for (const WPARAM key : {VK_RETURN, VK_ESCAPE})
+        for (const int id : {IDC_cmbTxtView, IDC_rtbShowtext, IDC_cmdOkay}) {
+            viewer.ShowModeless();
+            SetFocus(FindChild(viewer.Handle(), id));
+            Press(viewer, key);
+            EXPECT_EQ(IsWindowVisible(viewer.Handle()), FALSE) << id << " " << key;
+        }
+}
+
+TEST_F(AuxiliaryForms, ViewerThatIsMaximisedStaysSoWhenItIsAskedForAgain) {
+    frmTxtView viewer(form.Handle(), errors, banners);
+    viewer.Attach(recorded);
+    viewer.ShowModeless();
+    ShowWindow(viewer.Handle(), SW_MAXIMIZE);
+    viewer.ShowModeless();
+    EXPECT_NE(IsZoomed(viewer.Handle()), FALSE);
+    ShowWindow(viewer.Handle(), SW_MINIMIZE);
+    viewer.ShowModeless();
+    EXPECT_EQ(IsIconic(viewer.Handle()), FALSE);
+}
+
+TEST_F(AuxiliaryForms, ProgressIsStoppedByEnterByEscapeAndByItsAccessKey) {
+    frmProgress progress(form.Handle(), errors);
+    progress.Attach(recorded);
+    ControlOf(progress, "cmdCancel").SetProperty("Caption", "&Stop");
+    progress.ShowProgress("x", 0, 1);
+    recorded.lines.clear();
+    SetFocus(FindChild(progress.Handle(), IDC_cmdCancel));
+    Press(progress, VK_RETURN);
+    Press(progress, VK_ESCAPE);
+    PressAccessKey(progress, L's');
+    EXPECT_EQ(recorded.lines, (std::vector<std::string>{"stop", "stop", "stop"}));
+}
+
+TEST_F(AuxiliaryForms, ProgressShownHasTheFocusOnItsStopButton) {
+    frmProgress progress(form.Handle(), errors);
+    progress.ShowProgress("x", 0, 1);
+    EXPECT_EQ(GetFocus(), FindChild(progress.Handle(), IDC_cmdCancel));
+}
+
+class OpenedAndClosed : public AuxiliaryForms {
+protected:
+    void ShowAll() {
+        frmAbout about(form.Handle(), errors, banners);
+        about.Attach(recorded);
+        Later([&] { SendMessageW(about.Handle(), WM_CLOSE, 0, 0); });
+        about.ShowModal();
+        frmTxtView viewer(form.Handle(), errors, banners);
+        viewer.Attach(recorded);
+        viewer.SetEntries({"readme", "lizenz"});
+        viewer.SelectEntry(1);
+        viewer.SetText("text");
+        viewer.ShowModeless();
+        PumpMessages();
+        SendMessageW(viewer.Handle(), WM_CLOSE, 0, 0);
+        frmProgress progress(form.Handle(), errors);
+        progress.ShowProgress("x", 0, 9);
+        progress.SetProgress(5);
+        progress.RefreshProgress();
+        progress.HideProgress();
+        PumpMessages();
+    }
+};
+
+TEST_F(OpenedAndClosed, FiftyTimesLeavesNoHandleBehind) {
+    for (int warmUp = 0; warmUp < 2; ++warmUp) // what the system makes once and keeps
+        ShowAll();
+    const GuiObjects before = CountGuiObjects();
+    for (int time = 0; time < 50; ++time)
+        ShowAll();
+    const GuiObjects after = CountGuiObjects();
+    EXPECT_EQ(after.gdi, before.gdi);
+    EXPECT_EQ(after.user, before.user);
+}
+
+TEST_F(OpenedAndClosed, HandlesThatAreLeftBehindAreCounted) {
+    const GuiObjects before = CountGuiObjects();
+    HPEN pen = CreatePen(PS_SOLID, 1, RGB(1, 2, 3));
+    HMENU menu = CreateMenu();
+    HWND window = CreateWindowW(WC_STATICW, L"", 0, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+    const GuiObjects after = CountGuiObjects();
+    DestroyWindow(window);
+    DestroyMenu(menu);
+    DeleteObject(pen);
+    EXPECT_GT(after.gdi, before.gdi);
+    EXPECT_GE(after.user, before.user + 2);
 }
 
 class InputBoxes : public AuxiliaryForms {

@@ -4,10 +4,12 @@
 #include "support/clsMultiLanguage.h"
 #include "support/frmAbout.h"
 #include "support/frmProgress.h"
+#include "tests/platform/SourceFile.h"
 #include "tests/ui/MainFormTest.h"
 
 #include <algorithm>
 #include <iterator>
+#include <regex>
 #include <set>
 #include <sstream>
 
@@ -29,9 +31,7 @@ public:
 };
 
 std::string LanguageFile(const std::string& code) {
-    std::string path = std::string(TNT_SOURCE_DIR) + "/resources/language/tntlng_" + code + ".ini";
-    std::ranges::replace(path, '/', '\\');
-    return path.front() == '\\' ? "Z:" + path : path; // of a cross build: the root as Wine shows it
+    return SourceFile("resources/language/tntlng_" + code + ".ini");
 }
 
 // The real forms that take their texts from a language file, and the class that gives them.
@@ -121,9 +121,25 @@ TEST_P(LanguageFiles, NoKeyIsSuperfluous) {
     EXPECT_EQ(Without(ofForms, profile.asked), Keys{});
 }
 
-TEST_P(LanguageFiles, EditorsTextBoxesHaveAToolTip) {
+// The numbers that the code knows are those of one header.
+TEST_P(LanguageFiles, MessagesAreThoseThatTheCodeHasANumberFor) {
+    const std::string header = files.ReadWhole(SourceFile("common/InfoTextNumber.h")).value_or("");
+    const std::regex number("std::int32_t \\w+ = (\\d+);");
+    Keys ofCode;
+    for (std::sregex_iterator found(header.begin(), header.end(), number), end; found != end;
+         ++found)
+        ofCode.insert("Info/Text." + found->str(1));
+    ASSERT_GT(ofCode.size(), 30U);
+    Keys ofFile = KeysOfFile();
+    std::erase_if(ofFile, [](const std::string& key) { return !key.starts_with("Info/"); });
+    EXPECT_EQ(Without(ofCode, ofFile), Keys{}) << "missing";
+    EXPECT_EQ(Without(ofFile, ofCode), Keys{}) << "superfluous";
+}
+
+TEST_P(LanguageFiles, EveryControlOfTheEditorHasAToolTip) {
     EXPECT_TRUE(KeysOfFile().contains("frmMain/txtActiveColor.ToolTipText"));
-    for (const char* label : {"lblRed", "lblGreen", "lblBlue", "lblAmbient", "lblDiffuse",
+    for (const char* label : {"lblActiveColor", "lblActiveColorSmall", "lblActiveColorName",
+                              "lblRed", "lblGreen", "lblBlue", "lblAmbient", "lblDiffuse",
                               "lblSpecular", "lblShininess", "lblTransparency", "lblEmission"})
         EXPECT_TRUE(KeysOfFile().contains(std::string("frmMain/") + label + ".ToolTipText"))
             << label;

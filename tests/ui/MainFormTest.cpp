@@ -1,6 +1,7 @@
 #include "tests/ui/MainFormTest.h"
 
 #include "platform/MessageLoop.h"
+#include "platform/Utf16.h"
 
 #include <array>
 
@@ -37,6 +38,24 @@ std::wstring TextOf(HWND window) {
     std::array<wchar_t, 256> text{};
     GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
     return text.data();
+}
+
+std::string MenuText(HMENU menu, int command) {
+    std::array<wchar_t, 128> text{};
+    GetMenuStringW(menu, static_cast<UINT>(command), text.data(), static_cast<int>(text.size()),
+                   MF_BYCOMMAND);
+    return ToUtf8(text.data());
+}
+
+std::string ButtonTip(HWND form, int command) {
+    std::array<wchar_t, 128> text{};
+    NMTBGETINFOTIPW tip{};
+    tip.hdr = {FindChild(form, IDC_tlbarMain), IDC_tlbarMain, static_cast<UINT>(TBN_GETINFOTIPW)};
+    tip.iItem = command;
+    tip.pszText = text.data();
+    tip.cchTextMax = static_cast<int>(text.size());
+    SendMessageW(form, WM_NOTIFY, IDC_tlbarMain, reinterpret_cast<LPARAM>(&tip));
+    return ToUtf8(text.data());
 }
 
 void PumpMessages() {

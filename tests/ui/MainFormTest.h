@@ -13,6 +13,10 @@
 [[nodiscard]] std::wstring ClassOf(HWND window);
 [[nodiscard]] std::wstring TextOf(HWND window);
 
+// What a user reads: an entry of a menu with its shortcut, and the tool tip of a toolbar button.
+[[nodiscard]] std::string MenuText(HMENU menu, int command);
+[[nodiscard]] std::string ButtonTip(HWND form, int command);
+
 // Handles the messages that are waiting, as the program's loop does.
 void PumpMessages();
 

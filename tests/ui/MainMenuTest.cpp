@@ -7,13 +7,6 @@
 
 namespace {
 
-std::string MenuText(HMENU menu, int command) {
-    std::array<wchar_t, 128> text{};
-    GetMenuStringW(menu, static_cast<UINT>(command), text.data(), static_cast<int>(text.size()),
-                   MF_BYCOMMAND);
-    return ToUtf8(text.data());
-}
-
 // Presses or releases Ctrl for this thread.
 void SetCtrl(bool down) {
     std::array<BYTE, 256> keys{};

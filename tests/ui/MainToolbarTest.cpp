@@ -23,16 +23,6 @@ protected:
                      reinterpret_cast<LPARAM>(text.data()));
         return ToUtf8(text.data());
     }
-    [[nodiscard]] std::string TipOf(int command) const {
-        std::array<wchar_t, 128> text{};
-        NMTBGETINFOTIPW tip{};
-        tip.hdr = {Bar(), IDC_tlbarMain, static_cast<UINT>(TBN_GETINFOTIPW)};
-        tip.iItem = command;
-        tip.pszText = text.data();
-        tip.cchTextMax = static_cast<int>(text.size());
-        SendMessageW(form.Handle(), WM_NOTIFY, IDC_tlbarMain, reinterpret_cast<LPARAM>(&tip));
-        return ToUtf8(text.data());
-    }
     void PressKeys(std::initializer_list<WPARAM> keys) const {
         for (const WPARAM key : keys) {
             PostMessageW(form.Handle(), WM_KEYDOWN, key, 0);
@@ -101,7 +91,7 @@ TEST_F(MainToolbar, MenuEntriesFollowTheTable) {
 
 TEST_F(MainToolbar, ToolTipIsToldAndAnnounced) {
     Buttons().SetButtonProperty(4, "ToolTipText", "Bibliothek öffnen");
-    EXPECT_EQ(TipOf(IDM_mnuFileOpen), "Bibliothek öffnen");
+    EXPECT_EQ(ButtonTip(form.Handle(), IDM_mnuFileOpen), "Bibliothek öffnen");
     EXPECT_EQ(TextOfButton(IDM_mnuFileOpen), "Bibliothek öffnen");
 }
 

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "app/Application.h"
+#include "mainwindow/frmMain.h"
+#include "platform/BannerPictures.h"
+#include "platform/Win32AnsiCodePage.h"
+#include "platform/Win32Files.h"
+#include "platform/Win32PrivateProfile.h"
+#include "standin/model/StandInService.h"
+#include "support/ErrorReporter.h"
+#include "support/frmAbout.h"
+#include "support/frmProgress.h"
+#include "support/frmTxtView.h"
+#include "tests/fakes/FakeClipboard.h"
+#include "tests/fakes/FakeCollation.h"
+#include "tests/fakes/FakeProgress.h"
+#include "tests/fakes/FakePrompts.h"
+#include "tests/fakes/FakeShell.h"
+
+#include <string>
+
+// The whole program with its real forms, real files and the real private-profile functions. Message
+// boxes are kept instead of shown.
+class RealProgram {
+public:
+    // programFolder: holds the language files.  codePage: that of the language files.
+    RealProgram(RegistryAccess& registryAccess, std::string programFolder,
+                const AnsiCodePage& codePage)
+        : registry(registryAccess), folder(std::move(programFolder)), page(codePage) {
+        main.Attach(application.MainEvents());
+        about.Attach(application.AboutWindowEvents());
+        textViewer.Attach(application.TextViewerWindowEvents());
+        progress.Attach(application.ProgressWindowEvents());
+    }
+
+    // As the menu does.
+    void Run(int command) {
+        SendMessageW(main.Handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+    }
+
+    // Closes the window by its close box; the end of the program is not carried out.
+    void Close() {
+        SendMessageW(main.Handle(), WM_CLOSE, 0, 0);
+        MSG quit{};
+        PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    }
+
+    RegistryAccess& registry;
+    std::string folder;
+    const AnsiCodePage& page;
+    FakePrompts prompts;
+    Win32Files files;
+    Win32PrivateProfile profile;
+    FakeClipboard clipboard;
+    FakeCollation collation;
+    FakeShell shell;
+    FakeEventPump events;
+    StandInModel solidWorks{"default"};
+    StandInService service{solidWorks};
+    clsMultiLanguage language{profile, files, page};
+    ErrorReporter errors{prompts, language};
+    BannerPictures banners;
+    frmMain main{errors, banners};
+    frmAbout about{main.Handle(), errors, banners};
+    frmTxtView textViewer{main.Handle(), errors, banners};
+    frmProgress progress{main.Handle(), errors};
+    Application application{{files, page, registry, prompts, clipboard, collation, shell, events,
+                             service, language, errors},
+                            {main, main, main, about, textViewer, progress, progress, progress},
+                            {folder, "1.0.0", {}}};
+};
