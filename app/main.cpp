@@ -66,7 +66,7 @@ int RunProgram() {
     frmMain main(errors, banners);
     mainWindow = main.Handle();
     frmAbout about(mainWindow, errors, banners);
-    frmTxtView textViewer(mainWindow, errors, banners);
+    TextViewerOnDemand textViewer(mainWindow, errors, banners);
     frmProgress progress(mainWindow, errors);
 
     Application application(

@@ -102,3 +102,17 @@ void frmTxtView::PlaceText() {
         events_->TextSize({Scale().ToTwips(WidthOf(area)), Scale().ToTwips(HeightOf(area))});
     rtbShowtext_.Place(Scale().ToPixels(TwipsRect{kTextLeft, kTextTop, size.width, size.height}));
 }
+
+void TextViewerOnDemand::SetBanner(int index) {
+    if (window_ != nullptr)
+        window_->SetBanner(index);
+}
+
+frmTxtView& TextViewerOnDemand::Window() {
+    if (window_ == nullptr) {
+        window_ = std::make_unique<frmTxtView>(owner_, errors_, banners_);
+        if (events_ != nullptr)
+            window_->Attach(*events_);
+    }
+    return *window_;
+}

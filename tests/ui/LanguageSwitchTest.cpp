@@ -208,6 +208,39 @@ TEST_F(LanguageSwitch, OptionThatIsNotSavedIsGoneAtTheNextStart) {
     EXPECT_FALSE(IsChecked(IDM_mnuOptionsConfirmDel));
 }
 
+TEST_F(LanguageSwitch, TemplateOfTheRealFormsHoldsTheirTextsInTheOrderOfTheirControls) {
+    Start();
+    clsMultiLanguage& language = program->language;
+    language.SetNewIniFile(folder.File("template.ini"));
+    language.GetAllControlText(program->main);
+    const std::string text = folder.Read("template.ini");
+    std::size_t before = 0;
+    for (const char* line :
+         {"[frmMain]\r\n", "\r\ntlbarMain.New.ToolTipText=New color\r\n",
+          "\r\ntlbarMain.New.NewGroup.Text=New &group\r\n", "\r\ntvColor.ToolTipText=",
+          "\r\nsldActiveColor.TypeName=Slider*** unbekannte Steuerelemente\r\n",
+          "\r\nmnuFile.Caption=&File\r\n", "\r\nmnuOptionsHR.Caption=-\r\n"}) {
+        const std::size_t found = text.find(line);
+        EXPECT_NE(found, std::string::npos) << line;
+        EXPECT_GE(found, before) << line;
+        before = found;
+    }
+    EXPECT_EQ(text.find("[frmMain]", 1), std::string::npos);
+    EXPECT_EQ(text.find(".sep"), std::string::npos) << "separators have no texts";
+}
+
+TEST_F(LanguageSwitch, TemplateServesAsALanguageFile) {
+    Start();
+    program->Run(IDM_mnuOptionsLngGerman);
+    program->language.SetNewIniFile(folder.File("template.ini"));
+    program->language.GetAllControlText(program->main);
+    program->Run(IDM_mnuOptionsLngEnglish);
+    program->language.SetIniFile(folder.File("template.ini"));
+    program->language.SetAllControlText(program->main);
+    ExpectMenus("de");
+    ExpectToolTips("de");
+}
+
 class CodePages : public LanguageSwitch, public testing::WithParamInterface<unsigned> {
 protected:
     CodePages() {
