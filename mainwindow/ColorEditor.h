@@ -28,8 +28,8 @@ public:
 
     void SetName(const std::string& name);
 
-    // The shown colour was renamed in the library: also the small swatch follows while it carries the
-    // name.
+    // The shown colour was renamed in the library: also the small swatch follows while it carries
+    // the name.
     void Rename(const std::string& name);
     [[nodiscard]] const std::string& Name() const noexcept { return name_; }
 
@@ -69,6 +69,6 @@ private:
     InfoTexts& infoTexts_;
     std::string name_;
     std::array<std::string, kColorValueCount> texts_;
-    ColorNumber swatch_ = 0; // background of both swatches
+    ColorNumber swatch_ = 0;      // background of both swatches
     bool captionHasName_ = false; // of the small swatch
 };

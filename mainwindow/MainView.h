@@ -106,7 +106,7 @@ public:
     virtual void ShowWindow() = 0;
     virtual void SetBanner(int index) = 0; // from 1; 0: none
     virtual void StopBannerTimer() = 0;
-    virtual void EndProgram() = 0;         // leaves the message loop
+    virtual void EndProgram() = 0; // leaves the message loop
 };
 
 // What the user did in the main window.  Rows count from 0, columns from 1, values from 0.

@@ -12,8 +12,9 @@
 void MoveWindowTo(HWND window, const TwipsRect& bounds);
 [[nodiscard]] TwipsSize SizeOfScreen(); // of the primary screen
 
-// Outer width in pixels as it is seen: the client area and a border line on either side.  The rest of
-// a resize border is invisible, and a window that is still hidden does not tell how wide that is.
+// Outer width in pixels as it is seen: the client area and a border line on either side.  The rest
+// of a resize border is invisible, and a window that is still hidden does not tell how wide that
+// is.
 [[nodiscard]] int VisibleWidth(HWND window);
 
 // Client size in pixels; the window's left and top stay.
