@@ -21,7 +21,8 @@ POINT RemoteStandIn::PointOf(const std::string& name) const {
         .ToScreen({static_cast<short>(LOWORD(point)), static_cast<short>(HIWORD(point))});
 }
 
-// A window that is just coming to the front can swallow a click; a person sees that and clicks again.
+// A window that is just coming to the front can swallow a click; a person sees that and clicks
+// again.
 void RemoteStandIn::ClickObject(const std::string& name) const {
     const std::vector<std::string> expected = {name};
     const auto isSelected = [&] { return SelectedObjects() == expected; };
