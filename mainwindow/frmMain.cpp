@@ -121,6 +121,9 @@ void frmMain::OnCloseBox() {
 }
 
 bool frmMain::TranslateShortcut(MSG& message) {
+    // In the tree the key would delete a colour that the user is not looking at.
+    if (message.wParam == VK_DELETE && GetFocus() == tvColor_.Handle())
+        return false;
     return shortcuts_.Translate(Handle(), message);
 }
 
