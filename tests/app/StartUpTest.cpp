@@ -120,7 +120,7 @@ TEST_F(StartUpTest, DefaultLibraryThatIsNoneGivesTheInvalidFileMessageAndTheWind
 }
 
 TEST_F(StartUpTest, DefaultLibraryWithAFaultGivesTheInvalidFileMessageAndKeepsWhatWasReadBefore) {
-    program.files.contents["C:\\a.tnt"] = "\"D#Lib=0D:2\"\r\n\"G#g=0DG1\"\r\nrubbish\r\n";
+    program.files.contents["C:\\a.tnt"] = "\"D#Lib=0D:2\"\r\n\"G#g=0DG1\"\r\n\"G#rubbish\"\r\n";
     program.registry.SetText(FakeProgram::Setting("DefaultColorFile"), "C:\\a.tnt");
     program.application.Start();
     ASSERT_EQ(program.prompts.messages.size(), 1U);

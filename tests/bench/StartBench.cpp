@@ -111,13 +111,13 @@ private:
 };
 
 void MeasureFloor(std::vector<Phase>& phases) {
-    WatchedStart start("C:\\windows\\system32\\hostname.exe", phases);
+    WatchedStart start(R"(C:\windows\system32\hostname.exe)", phases);
     start.WaitForEnd();
     start.Until(0, [] { return true; });
 }
 
 void MeasureEditor(std::vector<Phase>& phases) {
-    WatchedStart start("C:\\windows\\system32\\notepad.exe", phases);
+    WatchedStart start(R"(C:\windows\system32\notepad.exe)", phases);
     HWND window = nullptr;
     start.Until(0, [&] { return (window = WindowOf(L"Notepad", start.Id())) != nullptr; });
     start.Until(1, [&] { return IsWindowVisible(window) != FALSE; });

@@ -54,7 +54,7 @@ public:
     // The text of the message box that stands on the screen; it is closed by OK.
     [[nodiscard]] std::string DismissMessage() const {
         const RemoteWindow box = Wait(L"#32770");
-        const std::string text = box.Child(kMessageText).Text();
+        std::string text = box.Child(kMessageText).Text();
         PostMessageW(box.Handle(), WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
         EXPECT_TRUE(PollUntil([&] { return !box.Exists(); }));
         return text;
@@ -78,7 +78,7 @@ class ProgramStart : public testing::Test {
 protected:
     // A copy of the program alone, without a file beside it.
     [[nodiscard]] std::filesystem::path ProgramAlone() const {
-        const std::filesystem::path copy = ToUtf16(folder.File("tnt4swx.exe"));
+        std::filesystem::path copy = ToUtf16(folder.File("tnt4swx.exe"));
         std::filesystem::copy_file(BuiltProgram(), copy);
         return copy;
     }

@@ -1,6 +1,7 @@
 #include "common/RuntimeError.h"
 #include "platform/controls/TextBox.h"
 #include "platform/Form.h"
+#include "tests/ui/GuiObjects.h"
 #include "tests/ui/RecordingErrorSink.h"
 
 #include <gtest/gtest.h>
@@ -81,10 +82,12 @@ TEST(FormErrors, NothingIsReportedWhileTheFormGoes) {
 TEST(FormErrors, WindowsAndHandlesAreGivenBack) {
     RecordingErrorSink errors;
     { FaultyForm first(errors); }
-    const DWORD before = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    const GuiObjects before = CountGuiObjects();
     for (int time = 0; time < 20; ++time)
         FaultyForm form(errors);
-    EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), before + 2);
+    const GuiObjects after = CountGuiObjects();
+    EXPECT_LE(after.gdi, before.gdi + 2);
+    EXPECT_LE(after.user, before.user + 2);
 }
 
 } // namespace
