@@ -1,12 +1,13 @@
 #include "common/RuntimeError.h"
-#include "tests/fuzz/FuzzLibrary.h"
+#include "tests/fakes/LibraryOnFakes.h"
+#include "tests/fuzz/Require.h"
 
 #include <cstdint>
 
 // Any bytes as a library file: loaded, refused with its message, or a conversion error; whatever
 // was kept is consistent, and the progress window is gone.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzLibrary fuzz;
+    LibraryOnFakes fuzz;
     fuzz.files.contents["a.tnt"] = std::string(data, data + size);
     bool loaded = false;
     bool raised = false;

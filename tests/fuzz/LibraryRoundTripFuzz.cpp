@@ -1,4 +1,5 @@
-#include "tests/fuzz/FuzzLibrary.h"
+#include "tests/fakes/LibraryOnFakes.h"
+#include "tests/fuzz/Require.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -20,7 +21,7 @@ std::string Name(FuzzedDataProvider& source, const AnsiCodePage& codePage) {
     return codePage.Decode(bytes);
 }
 
-void MakeLibrary(FuzzLibrary& fuzz, FuzzedDataProvider& source) {
+void MakeLibrary(LibraryOnFakes& fuzz, FuzzedDataProvider& source) {
     fuzz.library.NewMainNode(Name(source, fuzz.codePage));
     const int groups = source.ConsumeIntegralInRange(1, 4);
     for (int group = 0; group < groups; ++group)
@@ -44,11 +45,11 @@ bool SameButForKeys(ColorRecord left, const ColorRecord& right) {
 // A random library survives saving and loading, and a second save gives the same bytes.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider source(data, size);
-    FuzzLibrary first;
+    LibraryOnFakes first;
     MakeLibrary(first, source);
     Require(first.libraryFiles.FileWriteColorValues(kFile, "0D"));
 
-    FuzzLibrary second;
+    LibraryOnFakes second;
     second.files.contents = first.files.contents;
     Require(second.libraryFiles.FileReadColorValues(kFile));
     Require(second.library.Tree().At("0D").text == first.library.Tree().At("0D").text);

@@ -1,12 +1,7 @@
 #include "library/LibraryFiles.h"
 
 #include "common/RuntimeError.h"
-#include "tests/fakes/FakeCodePage.h"
-#include "tests/fakes/FakeFiles.h"
-#include "tests/fakes/FakeLibraryHost.h"
-#include "tests/fakes/FakeProgress.h"
-#include "tests/fakes/FakePrompts.h"
-#include "tests/fakes/FakeTexts.h"
+#include "tests/fakes/LibraryOnFakes.h"
 
 #include <gtest/gtest.h>
 
@@ -23,13 +18,8 @@ std::string ValuesOf(const std::string& altName, const std::string& first) {
     return line;
 }
 
-class LibraryFilesTest : public testing::Test {
+class LibraryFilesTest : public testing::Test, protected LibraryOnFakes {
 protected:
-    LibraryFilesTest() {
-        library.SetHost(host);
-        libraryFiles.SetHost(host);
-    }
-
     bool Read(const std::string& content) {
         files.contents[kFile] = content;
         return libraryFiles.FileReadColorValues(kFile);
@@ -49,16 +39,6 @@ protected:
         EXPECT_EQ(prompts.messages[0], (FakePrompts::Message{"<5> C:\\colors.tnt", 48, "<98>"}));
         EXPECT_FALSE(progress.isShown);
     }
-
-    FakePrompts prompts;
-    FakeTexts texts;
-    FakeFiles files;
-    FakeProgress progress;
-    FakeLibraryHost host;
-    Settings settings;
-    FakeCodePage codePage = FakeCodePage::Western();
-    ColorLibrary library{prompts, texts};
-    LibraryFiles libraryFiles{library, settings, {files, codePage, prompts, texts, progress}};
 };
 
 // The file that MakeLibrary's library gives, byte for byte.

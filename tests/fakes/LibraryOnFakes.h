@@ -8,18 +8,9 @@
 #include "tests/fakes/FakePrompts.h"
 #include "tests/fakes/FakeTexts.h"
 
-#include <cstdlib>
-#include <string>
-
-// Ends the fuzzer with a finding when a condition does not hold.
-inline void Require(bool condition) {
-    if (!condition)
-        std::abort();
-}
-
 // A colour library with its files in memory.
-struct FuzzLibrary {
-    FuzzLibrary() {
+struct LibraryOnFakes {
+    LibraryOnFakes() {
         library.SetHost(host);
         libraryFiles.SetHost(host);
     }
