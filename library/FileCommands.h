@@ -48,14 +48,12 @@ public:
     // Loads the default library at start-up; the file dialog starts from it then.
     void Autoload();
 
-    // Loads a library as Open does once the file is chosen, with its question and its messages.
-    void OpenLibrary(const std::string& path);
-
     [[nodiscard]] const std::string& DialogFileName() const noexcept { return dialogFileName_; }
 
 private:
     [[nodiscard]] FileDialogRequest Request(unsigned flags) const;
     [[nodiscard]] std::string Text(std::int32_t number) const;
+    void OpenLibrary(const std::string& path);
     void AskAutoload(const std::string& path);
     bool WriteTo(const std::string& path, const std::string& mainKey);
 

@@ -3,7 +3,6 @@
 #include "common/ColorRecord.h"
 #include "common/ports/AutomationObject.h"
 
-#include <optional>
 #include <vector>
 
 // The nine values as the automation interface keeps them: doubles from 0 to 1 in an array.

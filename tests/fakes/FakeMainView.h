@@ -13,7 +13,9 @@ public:
     // Tree
     void NodeAdded(const LibraryNode& node) override { nodes[node.key] = node.text; }
     void NodeRemoved(const std::string& key) override {
-        std::erase_if(nodes, [&](const auto& node) { return node.first.starts_with(key); });
+        std::erase_if(nodes, [&](const auto& node) {
+            return node.first == key || node.first.starts_with(key + "G");
+        });
     }
     void NodeTextChanged(const std::string& key, const std::string& text) override {
         nodes[key] = text;
