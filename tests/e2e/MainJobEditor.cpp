@@ -14,60 +14,60 @@ constexpr std::size_t kTransparency = 7;
 } // namespace
 
 void MainJob::ShowLargeEditor() {
-    const bool before = main_->IsLargeEditorShown();
-    main_->ClickButton(IDM_mnuViewHugeColorDialog);
-    report_.CheckBecomes(
+    const bool before = Main().IsLargeEditorShown();
+    Main().ClickButton(IDM_mnuViewHugeColorDialog);
+    Report().CheckBecomes(
         "the large editor has changed its state",
-        [&] { return main_->IsLargeEditorShown() != before; }, true);
+        [&] { return Main().IsLargeEditorShown() != before; }, true);
     if (before)
-        main_->ClickButton(IDM_mnuViewHugeColorDialog);
-    report_.CheckBecomes(
-        "the large editor is shown", [this] { return main_->IsLargeEditorShown(); }, true);
-    report_.CheckBecomes(
+        Main().ClickButton(IDM_mnuViewHugeColorDialog);
+    Report().CheckBecomes(
+        "the large editor is shown", [this] { return Main().IsLargeEditorShown(); }, true);
+    Report().CheckBecomes(
         "the small swatch is shown",
-        [this] { return main_->Window().Child(IDC_lblActiveColorSmall).IsVisible(); }, false);
+        [this] { return Main().Window().Child(IDC_lblActiveColorSmall).IsVisible(); }, false);
 }
 
 // One value is typed, one is dragged, one is moved by the arrow keys.
 void MainJob::EditValues() {
-    std::vector<std::string> expected = main_->ValueTexts();
-    main_->TypeValue(kBlue, "120");
+    std::vector<std::string> expected = Main().ValueTexts();
+    Main().TypeValue(kBlue, "120");
     expected[kBlue] = "120";
-    report_.CheckBecomes(
-        "values after typing", [this] { return main_->ValueTexts(); }, expected);
-    report_.CheckBecomes(
-        "small swatch", [this] { return main_->SwatchCaption(); },
+    Report().CheckBecomes(
+        "values after typing", [this] { return Main().ValueTexts(); }, expected);
+    Report().CheckBecomes(
+        "small swatch", [this] { return Main().SwatchCaption(); },
         std::string(" (R:255 G:206 B:120)"));
 
-    main_->DragSlider(kTransparency, 60);
-    report_.CheckBecomes(
-        "the dragged slider has moved", [&] { return main_->ValueTexts() != expected; }, true);
-    report_.CheckBecomes(
-        "the mouse is held", [this] { return main_->Window().HoldsMouse(); }, false);
-    expected[kTransparency] = main_->SliderPositions()[kTransparency];
-    report_.CheckBecomes(
-        "values after dragging", [this] { return main_->ValueTexts(); }, expected);
+    Main().DragSlider(kTransparency, 60);
+    Report().CheckBecomes(
+        "the dragged slider has moved", [&] { return Main().ValueTexts() != expected; }, true);
+    Report().CheckBecomes(
+        "the mouse is held", [this] { return Main().Window().HoldsMouse(); }, false);
+    expected[kTransparency] = Main().SliderPositions()[kTransparency];
+    Report().CheckBecomes(
+        "values after dragging", [this] { return Main().ValueTexts(); }, expected);
 
-    main_->DragSlider(kAmbient, 0); // a click: the slider takes the focus
+    Main().DragSlider(kAmbient, 0); // a click: the slider takes the focus
     RealInput::PressKey(VK_RIGHT);
     RealInput::PressKey(VK_NEXT);
     expected[kAmbient] = std::to_string(std::stoi(expected[kAmbient]) + 1 + 10);
-    report_.CheckBecomes(
-        "values after a small and a large step", [this] { return main_->ValueTexts(); }, expected);
-    report_.CheckBecomes(
-        "sliders", [this] { return main_->SliderPositions(); }, expected);
-    report_.CheckEqual("rows of the list, unchanged", main_->List().ReadRows(),
-                       GroupNamed(library_, kGroup).rows);
+    Report().CheckBecomes(
+        "values after a small and a large step", [this] { return Main().ValueTexts(); }, expected);
+    Report().CheckBecomes(
+        "sliders", [this] { return Main().SliderPositions(); }, expected);
+    Report().CheckEqual("rows of the list, unchanged", Main().List().ReadRows(),
+                        GroupNamed(library_, kGroup).rows);
 }
 
 void MainJob::UpdateColor() {
-    Row edited = main_->ValueTexts();
+    Row edited = Main().ValueTexts();
     edited.insert(edited.begin(), kColor);
     for (Row& row : GroupNamed(library_, kGroup).rows)
         if (row.front() == kColor)
             row = edited;
-    main_->ClickButton(IDM_mnuColorUpdateColor);
-    report_.CheckBecomes(
-        "rows of the list", [this] { return main_->List().ReadRows(); },
+    Main().ClickButton(IDM_mnuColorUpdateColor);
+    Report().CheckBecomes(
+        "rows of the list", [this] { return Main().List().ReadRows(); },
         GroupNamed(library_, kGroup).rows);
 }

@@ -27,95 +27,95 @@ std::vector<std::string> TextsOf(const std::vector<double>& values) {
 
 std::vector<double> MainJob::ValuesAsSent() const {
     std::vector<double> values;
-    for (const std::string& text : main_->ValueTexts())
+    for (const std::string& text : Main().ValueTexts())
         values.push_back(std::stoi(text) / ScaleOf(values.size()));
     return values;
 }
 
 void MainJob::GetColorOfFace() {
-    standIn_->ClickObject("Face 10");
-    report_.CheckBecomes(
-        "selected in the stand-in", [this] { return standIn_->SelectedObjects(); },
+    StandIn().ClickObject("Face 10");
+    Report().CheckBecomes(
+        "selected in the stand-in", [this] { return StandIn().SelectedObjects(); },
         std::vector<std::string>{"Face 10"});
     const std::vector<double> values = reader_.SelectedValues();
-    report_.CheckEqual("numbers of the face", values.size(), RemoteMain::kValues);
-    main_->ClickButton(IDM_mnuSWXGetColor);
-    report_.CheckBecomes(
-        "values of the editor", [this] { return main_->ValueTexts(); }, TextsOf(values));
-    report_.CheckBecomes(
-        "name in the editor", [this] { return main_->ColorName(); },
+    Report().CheckEqual("numbers of the face", values.size(), RemoteMain::kValues);
+    Main().ClickButton(IDM_mnuSWXGetColor);
+    Report().CheckBecomes(
+        "values of the editor", [this] { return Main().ValueTexts(); }, TextsOf(values));
+    Report().CheckBecomes(
+        "name in the editor", [this] { return Main().ColorName(); },
         std::string(kNameFromSolidWorks));
 }
 
 void MainJob::MakeColorFromFace() {
     std::vector<Row>& rows = GroupNamed(library_, kGroup).rows;
     const std::string preset = "New Color" + std::to_string(rows.size() + 1);
-    main_->ClickButton(IDM_mnuSWXNewColorUpdate);
+    Main().ClickButton(IDM_mnuSWXNewColorUpdate);
     const RemoteDialogs::Question question =
-        RemoteDialogs::AnswerInputBox(main_->Window(), "From a face");
-    report_.Note("question: " + question.prompt);
-    report_.CheckEqual("preset name", question.preset, preset);
+        RemoteDialogs::AnswerInputBox(Main().Window(), "From a face");
+    Report().Note("question: " + question.prompt);
+    Report().CheckEqual("preset name", question.preset, preset);
 
-    Row row = main_->ValueTexts();
+    Row row = Main().ValueTexts();
     row.insert(row.begin(), kNameFromSolidWorks);
     rows.push_back(row);
-    report_.CheckBecomes(
-        "rows of the list", [this] { return main_->List().ReadRows(); }, rows);
-    report_.CheckBecomes(
-        "selected colors", [this] { return main_->List().SelectedNames(); },
+    Report().CheckBecomes(
+        "rows of the list", [this] { return Main().List().ReadRows(); }, rows);
+    Report().CheckBecomes(
+        "selected colors", [this] { return Main().List().SelectedNames(); },
         std::vector<std::string>{kNameFromSolidWorks});
 }
 
 // Each line of the record that assigns values must hold exactly those of the editor.
 void MainJob::CheckValuesSent(const std::vector<std::string>& puts) {
     for (const std::string& put : puts) {
-        report_.Note(put);
-        report_.CheckEqual("numbers received", NumbersOf(put), ValuesAsSent());
+        Report().Note(put);
+        Report().CheckEqual("numbers received", NumbersOf(put), ValuesAsSent());
     }
 }
 
 void MainJob::SetColorOnTwoFaces() {
-    main_->List().ClickRow(kColor);
-    report_.CheckBecomes(
-        "name in the editor", [this] { return main_->ColorName(); }, std::string(kColor));
-    standIn_->ClickObject("Face 1");
-    standIn_->CtrlClickObject("Face 2");
-    report_.CheckBecomes(
-        "selected in the stand-in", [this] { return standIn_->SelectedObjects(); },
+    Main().List().ClickRow(kColor);
+    Report().CheckBecomes(
+        "name in the editor", [this] { return Main().ColorName(); }, std::string(kColor));
+    StandIn().ClickObject("Face 1");
+    StandIn().CtrlClickObject("Face 2");
+    Report().CheckBecomes(
+        "selected in the stand-in", [this] { return StandIn().SelectedObjects(); },
         std::vector<std::string>{"Face 1", "Face 2"});
 
     log_.Mark();
-    main_->ClickButton(IDM_mnuSWXSetColor);
-    report_.CheckBecomes(
-        "status bar", [this] { return main_->InfoText(); }, std::string(kStatusOkay));
+    Main().ClickButton(IDM_mnuSWXSetColor);
+    Report().CheckBecomes(
+        "status bar", [this] { return Main().InfoText(); }, std::string(kStatusOkay));
     const std::vector<std::string> puts = log_.NewLinesWith("put ");
-    report_.CheckEqual("assignments", puts.size(), std::size_t{2});
-    report_.CheckEqual("rebuilds", log_.NewLinesWith("EditRebuild").size(), std::size_t{1});
+    Report().CheckEqual("assignments", puts.size(), std::size_t{2});
+    Report().CheckEqual("rebuilds", log_.NewLinesWith("EditRebuild").size(), std::size_t{1});
     CheckValuesSent(puts);
-    report_.CheckEqual("values of face 1", reader_.FaceValues(1), ValuesAsSent());
-    report_.CheckEqual("values of face 2", reader_.FaceValues(2), ValuesAsSent());
-    report_.Check(reader_.FaceValues(3) != ValuesAsSent(), "face 3 keeps its own values");
+    Report().CheckEqual("values of face 1", reader_.FaceValues(1), ValuesAsSent());
+    Report().CheckEqual("values of face 2", reader_.FaceValues(2), ValuesAsSent());
+    Report().Check(reader_.FaceValues(3) != ValuesAsSent(), "face 3 keeps its own values");
 }
 
 void MainJob::SetColorOnComponent() {
-    main_->List().ClickRow("Copper");
-    report_.CheckBecomes(
-        "name in the editor", [this] { return main_->ColorName(); }, std::string("Copper"));
-    standIn_->ChooseNextDocument();
-    report_.CheckBecomes(
-        "document", [this] { return standIn_->ChosenDocument(); }, std::string("Assembly"));
-    standIn_->ClickObject("Cover-1");
-    report_.CheckBecomes(
-        "selected in the stand-in", [this] { return standIn_->SelectedObjects(); },
+    Main().List().ClickRow("Copper");
+    Report().CheckBecomes(
+        "name in the editor", [this] { return Main().ColorName(); }, std::string("Copper"));
+    StandIn().ChooseNextDocument();
+    Report().CheckBecomes(
+        "document", [this] { return StandIn().ChosenDocument(); }, std::string("Assembly"));
+    StandIn().ClickObject("Cover-1");
+    Report().CheckBecomes(
+        "selected in the stand-in", [this] { return StandIn().SelectedObjects(); },
         std::vector<std::string>{"Cover-1"});
 
     log_.Mark();
-    main_->ClickButton(IDM_mnuSWXSetColorComponent);
-    report_.CheckBecomes(
+    Main().ClickButton(IDM_mnuSWXSetColorComponent);
+    Report().CheckBecomes(
         "rebuilds", [this] { return log_.NewLinesWith("EditRebuild").size(); }, std::size_t{1});
     const std::vector<std::string> puts = log_.NewLinesWith("put ");
-    report_.CheckEqual("assignments", puts.size(), std::size_t{1});
+    Report().CheckEqual("assignments", puts.size(), std::size_t{1});
     CheckValuesSent(puts);
-    report_.CheckEqual("values of the component", reader_.ComponentValues("Cover-1"),
-                       ValuesAsSent());
+    Report().CheckEqual("values of the component", reader_.ComponentValues("Cover-1"),
+                        ValuesAsSent());
 }

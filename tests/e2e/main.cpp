@@ -2,7 +2,10 @@
 
 #include "platform/Utf16.h"
 
+#include <functional>
 #include <iostream>
+#include <map>
+#include <memory>
 #include <shellapi.h>
 
 namespace {
@@ -18,17 +21,34 @@ std::vector<std::string> Arguments() {
     return arguments;
 }
 
+// Every job by its name.
+using JobMaker = std::function<std::unique_ptr<Job>(const std::string&, const std::string&)>;
+
+template <typename AnyJob>
+JobMaker Maker() {
+    return [](const std::string& programFolder, const std::string& pictureFolder) {
+        return std::make_unique<AnyJob>(programFolder, pictureFolder);
+    };
+}
+
+const std::map<std::string, JobMaker>& Jobs() {
+    static const std::map<std::string, JobMaker> jobs = {
+        {"main", Maker<MainJob>()},
+    };
+    return jobs;
+}
+
 } // namespace
 
-// main_job.exe PROGRAM_FOLDER PICTURE_FOLDER
+// play_job.exe JOB PROGRAM_FOLDER PICTURE_FOLDER
 int main() {
     const std::vector<std::string> arguments = Arguments();
-    if (arguments.size() != 2) {
-        std::cout << "usage: main_job PROGRAM_FOLDER PICTURE_FOLDER\n";
+    if (arguments.size() != 3 || !Jobs().contains(arguments[0])) {
+        std::cout << "usage: play_job JOB PROGRAM_FOLDER PICTURE_FOLDER\n";
         return 2;
     }
     try {
-        return MainJob(arguments[0], arguments[1]).Run();
+        return Jobs().at(arguments[0])(arguments[1], arguments[2])->Run();
     } catch (const std::exception& error) {
         std::cout << error.what() << "\n0 passed, 1 failed\n";
         return 1;
