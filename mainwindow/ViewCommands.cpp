@@ -65,15 +65,25 @@ void ViewCommands::ShowDesignedState() {
 void ViewCommands::ApplySettings() {
     for (const Switch& row : kSwitches)
         if (settings_.*row.setting != row.designed)
-            Toggle(row.command);
+            Turn(row.command);
+    ArrangeWindow();
 }
 
 void ViewCommands::Toggle(int command) {
+    Turn(command);
+    ArrangeWindow();
+}
+
+void ViewCommands::Turn(int command) {
     SetMark(command, !marks_[command]);
     for (const Switch& row : kSwitches)
         if (row.command == command)
             settings_.*row.setting = marks_[command];
     Show(command, marks_[command]);
+}
+
+void ViewCommands::ArrangeWindow() {
+    bars_.ArrangeBars();
     layout_.Resize();
 }
 

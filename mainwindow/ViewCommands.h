@@ -27,7 +27,9 @@ public:
 
 private:
     void SetMark(int command, bool checked);
+    void Turn(int command);
     void Show(int command, bool visible);
+    void ArrangeWindow();
 
     BarsPane& bars_;
     ListPane& list_;

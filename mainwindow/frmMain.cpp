@@ -135,7 +135,8 @@ void frmMain::OnLayout() {
     FollowSize();
     if (events_ != nullptr)
         events_->Resized();
-    editor_.Arrange();
+    if (editor_.FrameControl().IsShown()) // a hidden one is arranged when it is shown
+        editor_.Arrange();
 }
 
 // The bars place themselves, also while the window is maximised.
@@ -244,16 +245,17 @@ void frmMain::SetButtonPressed(const std::string& buttonKey, bool pressed) {
 
 void frmMain::SetButtonVisible(const std::string& buttonKey, bool visible) {
     tlbarMain_.SetVisible(buttonKey, visible);
-    FollowSize();
 }
 
 void frmMain::SetToolbarVisible(bool visible) {
     tlbarMain_.Show(visible);
-    FollowSize();
 }
 
 void frmMain::SetStatusBarVisible(bool visible) {
     stbarMain_.Show(visible);
+}
+
+void frmMain::ArrangeBars() {
     FollowSize();
 }
 
@@ -286,10 +288,11 @@ void frmMain::ApplyLayout(const MainLayout& layout) {
     lvColor_.Place(Scale().ToPixels(layout.list));
     editor_.FrameControl().Place(Scale().ToPixels(layout.frame));
     editor_.SmallSwatch().Place(Scale().ToPixels(layout.smallSwatch));
-    editor_.Arrange();
     // Nothing may be typed into a box that nobody sees.
     if (!layout.hugeFrameShown && IsChild(editor_.FrameControl().Handle(), GetFocus()) != FALSE)
         SetFocus(lvColor_.Handle());
+    if (layout.hugeFrameShown)
+        editor_.Arrange();
     editor_.FrameControl().Show(layout.hugeFrameShown);
     editor_.SmallSwatch().Show(!layout.hugeFrameShown);
 }
@@ -309,7 +312,7 @@ void frmMain::HideSplitterBar() {
 // The visible part of the border is known only once the window is on the screen.
 void frmMain::ShowWindow() {
     Show();
-    OnLayout();
+    LayOut();
     SetTimer(Handle(), kBannerTimer, kBannerInterval, nullptr);
 }
 

@@ -55,6 +55,7 @@ public:
     void SetButtonVisible(const std::string& buttonKey, bool visible) override;
     void SetToolbarVisible(bool visible) override;
     void SetStatusBarVisible(bool visible) override;
+    void ArrangeBars() override;
     void SetInfoPanelText(const std::string& text) override;
 
     // LayoutPane

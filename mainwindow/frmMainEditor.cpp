@@ -159,7 +159,7 @@ void MainEditor::PlaceSwatch(const RECT& area) {
 
 void MainEditor::PlaceRow(const Row& row, const Grid& grid, int left, int top) const {
     const int lineHeight = LineHeight(form_.Font());
-    const int boxHeight = BoxHeight();
+    const int boxHeight = grid.cellHeight - Design(kGap);
     const int labelTop = top + (boxHeight - lineHeight) / 2;
     row.label->Place({left, labelTop, left + grid.labelWidth, labelTop + lineHeight});
     const int boxLeft = left + grid.labelWidth;

@@ -22,21 +22,20 @@ LOGFONTW DescribeFont(HFONT font) {
     return description;
 }
 
-// A screen device with a font selected into it.
+// A device like the screen with a font selected into it.  One device serves all: a layout pass
+// measures many texts, and to get a new device each time takes longer than to measure.
 class FontDevice {
 public:
-    explicit FontDevice(HFONT font) noexcept
-        : device_(GetDC(nullptr)), before_(SelectObject(device_, font)) {}
+    explicit FontDevice(HFONT font) noexcept : before_(SelectObject(Device(), font)) {}
     FontDevice(const FontDevice&) = delete;
     FontDevice& operator=(const FontDevice&) = delete;
-    ~FontDevice() {
-        SelectObject(device_, before_);
-        ReleaseDC(nullptr, device_);
+    ~FontDevice() { SelectObject(Device(), before_); }
+    [[nodiscard]] static HDC Device() noexcept {
+        static const MemoryDevice device(CreateCompatibleDC(nullptr));
+        return device.Get();
     }
-    [[nodiscard]] HDC Device() const noexcept { return device_; }
 
 private:
-    HDC device_;
     HGDIOBJ before_;
 };
 

@@ -155,8 +155,8 @@ MessageResult Form::OnMessage(const WindowMessage& message) {
         return button != 0 ? MAKELRESULT(button, DC_HASDEFID) : 0;
     }
     case kLayoutMessage:
-        layoutRequested_ = false;
-        OnLayout();
+        if (layoutRequested_)
+            LayOut();
         return 0;
     default:
         return {};
@@ -200,7 +200,7 @@ void Form::ChangeScale(unsigned dpi, const RECT* suggested) {
     if (suggested != nullptr && !moving_)
         SetWindowPos(window_, nullptr, suggested->left, suggested->top, WidthOf(*suggested),
                      HeightOf(*suggested), SWP_NOZORDER | SWP_NOACTIVATE);
-    OnLayout();
+    LayOut();
 }
 
 void Form::ApplyScale() {
@@ -251,6 +251,11 @@ bool Form::TranslateKeys(MSG& message) {
 void Form::RequestLayout() noexcept {
     if (!std::exchange(layoutRequested_, true))
         PostMessageW(window_, kLayoutMessage, 0, 0);
+}
+
+void Form::LayOut() {
+    layoutRequested_ = false;
+    OnLayout();
 }
 
 void Form::Show() {

@@ -71,6 +71,8 @@ protected:
 
     void SetDefaultButton(int id) noexcept { defaultButton_ = id; }
 
+    void LayOut(); // at once; a request that is waiting is done with
+
     virtual MessageResult OnMessage(const WindowMessage& message);
     virtual void OnMenuCommand(int) {}
     virtual void OnCloseBox() {}

@@ -115,13 +115,15 @@ void clsMultiLanguage::SetAllControlText(LocalizableForm& form) {
     if (!FileExists(iniFile_))
         return;
     for (FormControl* control : form.Controls())
-        SetControlText(form, *control);
+        LoadControl(form.Name(), *control);
 }
 
 void clsMultiLanguage::SetControlText(LocalizableForm& form, FormControl& control) {
-    if (!FileExists(iniFile_))
-        return;
-    const std::string section = form.Name();
+    if (FileExists(iniFile_))
+        LoadControl(form.Name(), control);
+}
+
+void clsMultiLanguage::LoadControl(const std::string& section, FormControl& control) {
     const std::string typeName = control.TypeName();
     // "Listbox" is spelt so on purpose: list boxes call themselves "ListBox" and are never
     // localised on loading, while the template writer knows them.

@@ -59,6 +59,7 @@ public:
 private:
     [[nodiscard]] std::string ReadOr(const std::string& section, const std::string& key,
                                      const std::string& current);
+    void LoadControl(const std::string& section, FormControl& control);
     void LoadProperties(const std::string& section, FormControl& control);
     void LoadProperty(const std::string& section, FormControl& control,
                       const std::string& property);

@@ -72,6 +72,9 @@ void Control::SetText(const std::string& text) {
 }
 
 void Control::Place(const RECT& bounds) {
+    const RECT before = Bounds();
+    if (EqualRect(&before, &bounds) != FALSE)
+        return;
     SetWindowPos(window_, nullptr, bounds.left, bounds.top, WidthOf(bounds), HeightOf(bounds),
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }

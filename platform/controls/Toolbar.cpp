@@ -46,21 +46,25 @@ Toolbar::Toolbar(Form& form, const ControlPlace& place, IconList& images,
     Toolbar::ApplyScale();
 }
 
+// All at once: a toolbar measures and places all of its buttons after each change.
 void Toolbar::AddButtons() {
+    std::vector<TBBUTTON> added;
+    std::vector<std::wstring> texts;
+    texts.reserve(buttons_.size()); // the texts stay where they are
     for (const Button& button : buttons_) {
-        TBBUTTON data{};
-        data.iBitmap = images_.IndexOf(button.design.icon);
+        TBBUTTON& data = added.emplace_back();
         data.idCommand = button.design.command;
         data.fsState = TBSTATE_ENABLED;
         data.fsStyle = StyleOf(button.design.style);
         data.iString = -1;
         if (data.fsStyle == BTNS_SEP)
-            data.iBitmap = 0; // the usual width
-        else
-            data.fsStyle |= BTNS_AUTOSIZE;
-        Send(TB_ADDBUTTONSW, 1, &data);
-        ShowTexts(button);
+            continue; // with the usual width
+        data.iBitmap = images_.IndexOf(button.design.icon);
+        data.fsStyle |= BTNS_AUTOSIZE;
+        data.iString =
+            reinterpret_cast<INT_PTR>(texts.emplace_back(ToUtf16(button.design.toolTip)).c_str());
     }
+    Send(TB_ADDBUTTONSW, added.size(), added.data());
 }
 
 void Toolbar::ShowTexts(const Button& button) {

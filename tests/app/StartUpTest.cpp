@@ -38,6 +38,11 @@ TEST_F(StartUpTest, FirstStartShowsToolbarColorAndSolidWorksBarsAlone) {
     EXPECT_FALSE(program.view.layout.hugeFrameShown);
 }
 
+TEST_F(StartUpTest, ViewsThatDifferFromTheDesignTakeTheirPlacesOnceForAll) {
+    program.application.Start();
+    EXPECT_EQ(program.view.barArrangements, 1);
+}
+
 TEST_F(StartUpTest, ListStartsInItsDetailViewWithItsColumns) {
     program.application.Start();
     EXPECT_EQ(program.view.listMode, ListViewMode::Details);

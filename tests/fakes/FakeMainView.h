@@ -59,6 +59,7 @@ public:
     }
     void SetToolbarVisible(bool visible) override { toolbarVisible = visible; }
     void SetStatusBarVisible(bool visible) override { statusBarVisible = visible; }
+    void ArrangeBars() override { ++barArrangements; }
     void SetInfoPanelText(const std::string& text) override { infoPanel = text; }
 
     // Layout
@@ -103,6 +104,7 @@ public:
     std::map<std::string, bool> buttonsVisible;
     bool toolbarVisible = true;
     bool statusBarVisible = true;
+    int barArrangements = 0;
     std::string infoPanel;
     LayoutMetrics metrics{WindowState::Normal, 12000, 11760, 8000, 400, 300, 2400, 360};
     MainLayout layout;

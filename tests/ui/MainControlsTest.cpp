@@ -86,6 +86,7 @@ TEST_F(MainControls, ListsAndBarsHaveOnlyAToolTip) {
 }
 
 TEST_F(MainControls, LongerLabelMovesItsBox) {
+    events.layout.SetHugeFrame(true);
     RECT before{};
     RECT after{};
     GetWindowRect(Child(IDC_txtActiveColor), &before);
@@ -113,6 +114,7 @@ TEST_F(MainControls, TabKeyGoesThroughTreeListAndEachBoxFollowedByItsSlider) {
 }
 
 TEST_F(MainControls, LabelStandsDirectlyBeforeItsBoxAndNamesTheSlider) {
+    events.layout.SetHugeFrame(true);
     for (int index = 0; index < 9; ++index) {
         const HWND before = GetWindow(Child(IDC_txtActiveColor + index), GW_HWNDPREV);
         EXPECT_EQ(GetDlgCtrlID(before), IDC_lblRed + index);

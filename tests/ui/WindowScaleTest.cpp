@@ -51,6 +51,7 @@ protected:
 TEST_F(MainScale, NewResolutionScalesFontsIconsColumnsAndControls) {
     const int dpi = form.Scale().Dpi();
     form.AddColumns({{"Name", "Name", 1500}});
+    events.layout.SetHugeFrame(true);
     const SIZE box = SizeOf(IDC_txtActiveColor);
     const int icon = ToolbarIconSize();
     RECT before{};
