@@ -1,5 +1,6 @@
 #include "platform/Icons.h"
 
+#include "platform/IconStrip.h"
 #include "platform/Utf16.h"
 #include "resources/controls.h"
 
@@ -31,6 +32,10 @@ void IconList::Fit(int size) {
         return;
     const int count = static_cast<int>(keys_.size());
     images_ = ImageListHandle(ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, count, 1));
+    if (const BitmapHandle strip = LoadIconStrip(keys_, size)) {
+        ImageList_Add(images_.Get(), strip.Get(), nullptr);
+        return;
+    }
     ImageList_SetImageCount(images_.Get(), static_cast<UINT>(count));
     for (int index = 0; index < count; ++index) {
         const IconHandle icon = LoadNamedIcon(keys_[static_cast<std::size_t>(index)], size);
