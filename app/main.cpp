@@ -65,7 +65,7 @@ int RunProgram() {
     const BannerPictures banners(bannerFolder);
     frmMain main(errors, banners);
     mainWindow = main.Handle();
-    frmAbout about(mainWindow, errors, banners);
+    AboutOnDemand about(mainWindow, errors, banners);
     TextViewerOnDemand textViewer(mainWindow, errors, banners);
     frmProgress progress(mainWindow, errors);
 

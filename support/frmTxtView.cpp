@@ -104,15 +104,6 @@ void frmTxtView::PlaceText() {
 }
 
 void TextViewerOnDemand::SetBanner(int index) {
-    if (window_ != nullptr)
-        window_->SetBanner(index);
-}
-
-frmTxtView& TextViewerOnDemand::Window() {
-    if (window_ == nullptr) {
-        window_ = std::make_unique<frmTxtView>(owner_, errors_, banners_);
-        if (events_ != nullptr)
-            window_->Attach(*events_);
-    }
-    return *window_;
+    if (frmTxtView* window = WindowIfMade())
+        window->SetBanner(index);
 }

@@ -6,9 +6,8 @@
 #include "platform/controls/PictureBox.h"
 #include "platform/controls/RichEdit.h"
 #include "platform/Form.h"
+#include "support/FormOnDemand.h"
 #include "support/TextViewerView.h"
-
-#include <memory>
 
 // The text viewer: which text, the text, and the button that closes the window.
 class frmTxtView : public Form, public TextViewerView {
@@ -44,15 +43,11 @@ private:
     PictureBox& picSponsor_;
 };
 
-// The text viewer as the program holds it: the window is made when it is first wanted, because its
-// rich text box alone would take a good part of the program's start.
-class TextViewerOnDemand : public TextViewerView {
+// The text viewer as the program holds it.
+class TextViewerOnDemand : public TextViewerView,
+                           public FormOnDemand<frmTxtView, TextViewerEvents> {
 public:
-    // The pictures must outlive it.
-    TextViewerOnDemand(HWND owner, ErrorSink& errors, const BannerPictures& banners)
-        : owner_(owner), errors_(errors), banners_(banners) {}
-
-    void Attach(TextViewerEvents& events) { events_ = &events; }
+    using FormOnDemand::FormOnDemand;
 
     void SetEntries(const std::vector<std::string>& entries) override {
         Window().SetEntries(entries);
@@ -62,13 +57,4 @@ public:
     void SetBanner(int index) override; // a window that is not there gets it when it is shown
     void SetTopmost(bool onTop) override { Window().SetTopmost(onTop); }
     void ShowModeless() override { Window().ShowModeless(); }
-
-private:
-    frmTxtView& Window();
-
-    HWND owner_;
-    ErrorSink& errors_;
-    const BannerPictures& banners_;
-    TextViewerEvents* events_ = nullptr;
-    std::unique_ptr<frmTxtView> window_;
 };

@@ -122,6 +122,20 @@ TEST_F(AuxiliaryForms, AboutReportsItsLinksAndButtons) {
     EXPECT_EQ(recorded.lines, (std::vector<std::string>{"system", "home", "mail"}));
 }
 
+TEST_F(AuxiliaryForms, AboutWindowIsMadeWhenItIsFirstWanted) {
+    AboutOnDemand about(form.Handle(), errors, banners);
+    about.Attach(recorded);
+    about.SetBanner(1);
+    EXPECT_TRUE(about.Controls().empty());
+    EXPECT_EQ(FindWindowW(L"frmAbout", nullptr), nullptr);
+    about.SetTitle("TNT4SWX");
+    const HWND made = FindWindowW(L"frmAbout", nullptr);
+    EXPECT_EQ(TextOf(FindChild(made, IDC_lblTitle)), L"TNT4SWX");
+    EXPECT_FALSE(about.Controls().empty());
+    SendMessageW(FindChild(made, IDC_lblMail), WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_EQ(recorded.lines, std::vector<std::string>{"mail"});
+}
+
 TEST_F(AuxiliaryForms, AboutIsLocalisable) {
     frmAbout about(form.Handle(), errors, banners);
     EXPECT_EQ(about.Name(), "frmAbout");
