@@ -22,11 +22,13 @@
 #include "support/frmTxtView.h"
 
 #include <algorithm>
+#include <chrono>
 #include <windows.h>
 
 namespace {
 
 constexpr const char* kVersion = TNT_VERSION;
+constexpr std::chrono::milliseconds kProgressPatience(150);
 
 // An address for each picture; pictures beyond the addresses, and addresses beyond the pictures,
 // are not shown.
@@ -67,7 +69,7 @@ int RunProgram() {
     mainWindow = main.Handle();
     AboutOnDemand about(mainWindow, errors, banners);
     TextViewerOnDemand textViewer(mainWindow, errors, banners);
-    frmProgress progress(mainWindow, errors);
+    frmProgress progress(mainWindow, errors, kProgressPatience);
 
     Application application(
         {files, codePage, registry, prompts, clipboard, collation, shell, events, automation,

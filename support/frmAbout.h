@@ -6,7 +6,7 @@
 #include "platform/controls/PictureBox.h"
 #include "platform/Form.h"
 #include "support/AboutView.h"
-#include "support/FormOnDemand.h"
+#include "platform/FormOnDemand.h"
 
 // The About window: title, version, two links, the way to the system information, the banner.
 class frmAbout : public FormOf<AboutView> {

@@ -10,14 +10,16 @@ constexpr int kWidth = 360;
 constexpr int kMargin = 12;
 constexpr int kBarHeight = 18;
 
+constexpr UINT_PTR kPatienceTimer = 1;
+
 FormDesign DesignFor(HWND owner) {
     return {L"frmProgress", L"TNT4SWX", kDialogStyle, WS_EX_DLGMODALFRAME, owner, {380, 140}, {}};
 }
 
 } // namespace
 
-frmProgress::frmProgress(HWND owner, ErrorSink& errors)
-    : FormOf(DesignFor(owner), errors),
+frmProgress::frmProgress(HWND owner, ErrorSink& errors, std::chrono::milliseconds patience)
+    : FormOf(DesignFor(owner), errors), patience_(patience),
       lblInfo_(Add<Label>(At("lblInfo", IDC_lblInfo), LabelText::Plain)),
       prbMain_(Add<ProgressBar>(At("prbMain", IDC_prbMain))),
       cmdCancel_(Add<CommandButton>(At("cmdCancel", IDC_cmdCancel))) {
@@ -33,14 +35,37 @@ void frmProgress::ShowProgress(const std::string& label, std::int32_t minimum,
     lblInfo_.SetText(label);
     prbMain_.SetRange(minimum, maximum);
     OnLayout();
+    due_ = std::chrono::steady_clock::now() + patience_;
+    waiting_ = true;
+    // An operation that lets the window handle events is seen by the timer, any other by its steps.
+    SetTimer(Handle(), kPatienceTimer, static_cast<UINT>(patience_.count()), nullptr);
+    AppearWhenDue();
+}
+
+void frmProgress::AppearWhenDue() {
+    if (waiting_ && std::chrono::steady_clock::now() >= due_)
+        Appear();
+}
+
+void frmProgress::Appear() {
+    waiting_ = false;
+    KillTimer(Handle(), kPatienceTimer);
     if (IsWindowVisible(Handle()) == FALSE)
         CentreOnOwner(Handle());
     Show();
     RefreshProgress();
 }
 
+MessageResult frmProgress::OnMessage(const WindowMessage& message) {
+    if (message.id != WM_TIMER)
+        return Form::OnMessage(message);
+    AppearWhenDue();
+    return 0;
+}
+
 void frmProgress::SetProgress(std::int32_t value) {
     prbMain_.SetValue(value);
+    AppearWhenDue();
 }
 
 // UpdateWindow paints the window itself only; its parts are painted as well.
@@ -49,6 +74,8 @@ void frmProgress::RefreshProgress() {
 }
 
 void frmProgress::HideProgress() {
+    waiting_ = false;
+    KillTimer(Handle(), kPatienceTimer);
     if (IsWindowVisible(Handle()) != FALSE)
         Hide();
 }

@@ -7,10 +7,14 @@
 #include "platform/Form.h"
 #include "support/ProgressEvents.h"
 
+#include <chrono>
+
 // The progress window: one for every long operation, shown over the main window.
 class frmProgress : public FormOf<ProgressView, FormWindow, LocalizableForm> {
 public:
-    frmProgress(HWND owner, ErrorSink& errors); // makes the window, hidden
+    // Makes the window, hidden.  patience: how long an operation runs before its window appears;
+    // the window of one that is over at once would only flash.
+    frmProgress(HWND owner, ErrorSink& errors, std::chrono::milliseconds patience = {});
 
     void Attach(ProgressEvents& events) { events_ = &events; }
 
@@ -21,12 +25,19 @@ public:
     void HideProgress() override;
 
 protected:
+    MessageResult OnMessage(const WindowMessage& message) override;
     void OnCloseBox() override;
     void OnLayout() override;
 
 private:
+    void AppearWhenDue();
+    void Appear();
+
     [[nodiscard]] ControlPlace At(const char* name, int id) const { return {name, id, Handle()}; }
 
+    const std::chrono::milliseconds patience_;
+    std::chrono::steady_clock::time_point due_; // of the appearance, while it is waited for
+    bool waiting_ = false;
     ProgressEvents* events_ = nullptr;
     Label& lblInfo_;
     ProgressBar& prbMain_;

@@ -6,7 +6,7 @@
 #include "platform/controls/PictureBox.h"
 #include "platform/controls/RichEdit.h"
 #include "platform/Form.h"
-#include "support/FormOnDemand.h"
+#include "platform/FormOnDemand.h"
 #include "support/TextViewerView.h"
 
 // The text viewer: which text, the text, and the button that closes the window.

@@ -8,7 +8,8 @@ class ProgressView {
 public:
     virtual ~ProgressView() = default;
 
-    // Shows the window with its label, bar range minimum..maximum and bar value at the minimum.
+    // Shows the window with its label, bar range minimum..maximum and bar value at the minimum; it
+    // may stay away from the screen until the operation has taken a noticeable time.
     virtual void ShowProgress(const std::string& label, std::int32_t minimum,
                               std::int32_t maximum) = 0;
 

@@ -7,5 +7,13 @@ public:
     ProgressBar(Form& form, const ControlPlace& place);
 
     void SetRange(int minimum, int maximum); // the value becomes the minimum
-    void SetValue(int value);                // beyond the maximum: the maximum
+    // Beyond the maximum: the maximum.  Values that look alike cost nothing.
+    void SetValue(int value);
+
+private:
+    [[nodiscard]] int StepOf(int value) const noexcept;
+
+    int minimum_ = 0;
+    int maximum_ = 100;
+    int step_ = 0; // that is shown
 };

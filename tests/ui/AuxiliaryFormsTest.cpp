@@ -78,6 +78,47 @@ TEST_F(AuxiliaryForms, ProgressBeyondTheMaximumStaysAtTheEnd) {
     EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 30);
 }
 
+TEST_F(AuxiliaryForms, ProgressValuesThatLookAlikeAreNotSentToTheBar) {
+    frmProgress progress(form.Handle(), errors);
+    const HWND bar = FindChild(progress.Handle(), IDC_prbMain);
+    progress.ShowProgress("x", 0, 1'000'000);
+    progress.SetProgress(999);
+    EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 0);
+    progress.SetProgress(1000);
+    EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 1000);
+    progress.SetProgress(999'999);
+    progress.SetProgress(1'000'000);
+    EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 1'000'000);
+}
+
+TEST_F(AuxiliaryForms, ProgressOfAnOperationThatIsOverAtOnceDoesNotAppear) {
+    frmProgress progress(form.Handle(), errors, std::chrono::milliseconds(20));
+    progress.ShowProgress("x", 0, 2);
+    progress.SetProgress(1);
+    EXPECT_EQ(IsWindowVisible(progress.Handle()), FALSE);
+    progress.HideProgress();
+    Sleep(40);
+    PumpMessages();
+    EXPECT_EQ(IsWindowVisible(progress.Handle()), FALSE);
+}
+
+TEST_F(AuxiliaryForms, ProgressAppearsWithTheNextStepOfAnOperationThatTakesLonger) {
+    frmProgress progress(form.Handle(), errors, std::chrono::milliseconds(20));
+    progress.ShowProgress("x", 0, 2);
+    Sleep(40);
+    EXPECT_EQ(IsWindowVisible(progress.Handle()), FALSE);
+    progress.SetProgress(1);
+    EXPECT_NE(IsWindowVisible(progress.Handle()), FALSE);
+}
+
+TEST_F(AuxiliaryForms, ProgressAppearsWhileAnOperationLetsTheWindowHandleEvents) {
+    frmProgress progress(form.Handle(), errors, std::chrono::milliseconds(20));
+    progress.ShowProgress("x", 0, 2);
+    Sleep(40);
+    PumpMessages();
+    EXPECT_NE(IsWindowVisible(progress.Handle()), FALSE);
+}
+
 TEST_F(AuxiliaryForms, ButtonEscapeAndCloseBoxStopAndLeaveTheWindowOpen) {
     frmProgress progress(form.Handle(), errors);
     progress.Attach(recorded);
