@@ -6,12 +6,22 @@
 #include "common/ValueRestorer.h"
 #include "mainwindow/ClipboardLine.h"
 
+namespace {
+
+[[noreturn]] void ThrowClipboardUnavailable() {
+    throw RuntimeError(ErrorNumber::ClipboardUnavailable,
+                       "The clipboard is in use by another program");
+}
+
+} // namespace
+
 void EditingCommands::DeleteColor(const std::optional<std::string>& colorKey) {
     const int index =
         parts_.library.GetColornodeIndex(colorKey ? *colorKey : parts_.list.SelectedKey());
     if (index == 0)
         return;
-    if (!IsConfirmed(InfoTextNumber::ColorLabel, parts_.library.Colors().At(index).altName))
+    if (parts_.settings.confirmDel &&
+        !IsConfirmed(InfoTextNumber::ColorLabel, parts_.library.Colors().At(index).altName))
         return;
     // Whichever colour is deleted, it is the selected row that leaves the list, on purpose.
     parts_.library.Colors().Erase(index);
@@ -23,8 +33,9 @@ void EditingCommands::DeleteGroup(const std::optional<std::string>& groupKey) {
     const std::string key = groupKey ? *groupKey : parts_.library.Tree().Selected();
     if (parts_.library.Tree().Selected().empty() || !IsGroupKey(key))
         return;
-    const std::string details = parts_.library.Tree().At(key).text + kLineBreak + ColorLines(key);
-    if (!IsConfirmed(InfoTextNumber::GroupLabel, details))
+    if (parts_.settings.confirmDel &&
+        !IsConfirmed(InfoTextNumber::GroupLabel,
+                     parts_.library.Tree().At(key).text + kLineBreak + ColorLines(key)))
         return;
     // The colours of a group go together: the list, which would lose its selected row for each of
     // them, is filled anew afterwards.
@@ -39,7 +50,8 @@ void EditingCommands::DeleteMainNode(const std::optional<std::string>& mainKey) 
         return;
     if (!mainKey && parts_.library.Tree().Selected() != key)
         parts_.library.Tree().Select(key);
-    if (IsConfirmed(InfoTextNumber::LibraryLabel,
+    if (!parts_.settings.confirmDel ||
+        IsConfirmed(InfoTextNumber::LibraryLabel,
                     parts_.library.Tree().At(key).text + kLineBreak)) {
         parts_.library.Colors().EraseGroups(parts_.library.GetGroupInMainnode(key));
         parts_.library.Tree().Remove(key);
@@ -55,8 +67,6 @@ void EditingCommands::DeleteSelectedNode() {
 }
 
 bool EditingCommands::IsConfirmed(std::int32_t labelNumber, const std::string& details) {
-    if (!parts_.settings.confirmDel)
-        return true;
     const std::string prompt = parts_.texts.GetInfoText(InfoTextNumber::AskDelete) + kLineBreak +
                                parts_.texts.GetInfoText(labelNumber) + kLineBreak + details;
     return parts_.prompts.ShowMessage(prompt, MessageStyle::ConfirmDelete,
@@ -73,30 +83,57 @@ std::string EditingCommands::ColorLines(const std::string& groupKey) const {
     return lines;
 }
 
-void EditingCommands::Copy() {
+std::optional<std::string> EditingCommands::CopyLine() {
     const int index = parts_.library.GetColornodeIndex(parts_.list.SelectedKey());
     if (index == 0)
-        return;
-    if (!parts_.clipboard.SetText(ClipboardLine::Format(parts_.library.Colors().At(index))))
-        throw RuntimeError(ErrorNumber::ClipboardUnavailable,
-                           "The clipboard is in use by another program");
+        return {};
+    std::string line = ClipboardLine::Format(parts_.library.Colors().At(index));
+    if (!parts_.clipboard.SetText(line))
+        ThrowClipboardUnavailable();
+    return line;
 }
 
-void EditingCommands::Cut() {
-    Copy();
+std::optional<std::string> EditingCommands::CutLine() {
+    std::optional<std::string> line = CopyLine();
+    if (!line)
+        return {};
+    if (!ClipboardLine::Parse(*line)) {
+        ShowInvalidFormat();
+        return {};
+    }
+    if (parts_.clipboard.Text() != line)
+        ThrowClipboardUnavailable();
     const ValueRestorer withoutAsking(parts_.settings.confirmDel, false);
     DeleteColor();
+    return line;
+}
+
+void EditingCommands::CopyInto(const std::string& groupKey) {
+    PasteInto(groupKey, CopyLine());
+}
+
+void EditingCommands::MoveInto(const std::string& groupKey) {
+    PasteInto(groupKey, CutLine());
+}
+
+void EditingCommands::PasteInto(const std::string& groupKey,
+                                const std::optional<std::string>& line) {
+    if (!line)
+        return;
+    parts_.library.Tree().Select(groupKey);
+    PasteLine(*line);
 }
 
 void EditingCommands::Paste() {
-    const std::string text = parts_.clipboard.Text().value_or("");
-    if (!ClipboardLine::IsColor(text))
+    PasteLine(parts_.clipboard.Text().value_or(""));
+}
+
+void EditingCommands::PasteLine(const std::string& line) {
+    if (!ClipboardLine::IsColor(line))
         return;
-    const auto pasted = ClipboardLine::Parse(text);
+    const auto pasted = ClipboardLine::Parse(line);
     if (!pasted) {
-        parts_.prompts.ShowMessage(
-            parts_.texts.GetInfoText(InfoTextNumber::InvalidFormat) + " CLIPBOARD",
-            MessageStyle::Exclamation, parts_.texts.GetInfoText(InfoTextNumber::Attention));
+        ShowInvalidFormat();
         return;
     }
     // A pasted colour always lands in the current group.
@@ -105,4 +142,10 @@ void EditingCommands::Paste() {
     const std::string key = parts_.list.SelectedKey();
     parts_.library.Colors().SetValues(parts_.library.GetColornodeIndex(key), pasted->values);
     parts_.panes.ShowSelectedGroup();
+}
+
+void EditingCommands::ShowInvalidFormat() {
+    parts_.prompts.ShowMessage(
+        parts_.texts.GetInfoText(InfoTextNumber::InvalidFormat) + " CLIPBOARD",
+        MessageStyle::Exclamation, parts_.texts.GetInfoText(InfoTextNumber::Attention));
 }

@@ -35,16 +35,29 @@ public:
     // The selected library or group.
     void DeleteSelectedNode();
 
-    // Each throws RuntimeError when the clipboard cannot be written; nothing is deleted then.
-    void Copy();
-    void Cut();
+    // Each throws RuntimeError when the clipboard cannot be written.  A colour is cut only when its
+    // copy stands on the clipboard and a paste would take it: one that a paste would refuse gives
+    // the invalid-format message at once and stays.
+    void Copy() { static_cast<void>(CopyLine()); }
+    void Cut() { static_cast<void>(CutLine()); }
 
     // A text that is no colour is ignored; one that is broken gives the invalid-format message.
     void Paste();
 
+    // Copy or cut, then a paste into the group, which is selected.  What is pasted is what was
+    // copied, whatever another program puts on the clipboard meanwhile.
+    void CopyInto(const std::string& groupKey);
+    void MoveInto(const std::string& groupKey);
+
 private:
     [[nodiscard]] bool IsConfirmed(std::int32_t labelNumber, const std::string& details);
     [[nodiscard]] std::string ColorLines(const std::string& groupKey) const;
+    // The line on the clipboard; nothing when none was put there.
+    [[nodiscard]] std::optional<std::string> CopyLine();
+    [[nodiscard]] std::optional<std::string> CutLine();
+    void PasteInto(const std::string& groupKey, const std::optional<std::string>& line);
+    void PasteLine(const std::string& line);
+    void ShowInvalidFormat();
 
     Parts parts_;
 };

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-// The main window as its rules see it.  frmMain implements these five panes and reports what the
+// The main window as its rules see it.  frmMain implements these six panes and reports what the
 // user did through MainViewEvents; it decides nothing.  Texts are UTF-8, lengths are twips.
 
 // tvColor.
@@ -99,11 +99,45 @@ public:
     virtual void HideSplitterBar() = 0;
 };
 
+// What a dragged colour will be at the group that it is dropped on.
+enum class DragMode { None, Move, Copy };
+
+// Keys that are held down.
+struct HeldKeys {
+    bool shift = false;
+    bool ctrl = false;
+    bool alt = false;
+};
+
+enum class TreeEdge { None, Top, Bottom };
+
+// Where the pointer is while a colour is dragged.
+struct DragPoint {
+    float left = 0; // in the form
+    float top = 0;
+    bool isOverList = false;
+    std::string node;               // key of the tree's node under it; empty: none
+    TreeEdge edge = TreeEdge::None; // of the tree's area, when the pointer is near to it
+};
+
+class DragPane {
+public:
+    virtual ~DragPane() = default;
+    // lblDrag, which is invisible, stands at the point, and the pointer has the picture of the
+    // mode; None: that of a place where nothing can be dropped.
+    virtual void ShowDrag(float left, float top, DragMode picture) = 0;
+    virtual void MarkDropNode(const std::string& key) = 0; // empty: none
+    virtual void ScrollTree(TreeEdge towards) = 0;         // by one line
+    // Does not report the end back.
+    virtual void EndDrag() = 0;
+};
+
 class MainView : public TreePane,
                  public ListPane,
                  public EditorPane,
                  public BarsPane,
-                 public LayoutPane {
+                 public LayoutPane,
+                 public DragPane {
 public:
     virtual void ShowWindow() = 0;
     virtual void SetBanner(int index) = 0; // from 1; 0: none
@@ -131,6 +165,15 @@ public:
     [[nodiscard]] virtual bool MayEditRow() const = 0;
     virtual void RowLabelEdited(int row, const std::string& text) = 0;
     virtual void ColumnClicked(int column) = 0;
+
+    virtual void ListPressed() = 0; // a mouse button, beside the rows too
+    // The selected row is dragged with the left button.  False: refused; else moves and ticks (ten
+    // a second) follow until it is dropped or given up.
+    [[nodiscard]] virtual bool DragStarted(const HeldKeys& keys, const DragPoint& at) = 0;
+    virtual void DragMoved(const DragPoint& at) = 0;
+    virtual void DragTicked(const DragPoint& at) = 0;
+    virtual void DragDropped(const DragPoint& at) = 0;
+    virtual void DragCancelled() = 0; // Escape, or the mouse was taken away
 
     virtual void ValueTextChanged(std::size_t index, const std::string& text) = 0;
     [[nodiscard]] virtual bool IsValueCharacter(char32_t character) const = 0;

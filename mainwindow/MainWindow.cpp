@@ -12,6 +12,7 @@ MainWindow::MainWindow(const Parts& parts)
       layout_(parts.view), views_(parts.view, parts.view, layout_, parts.settings),
       editing_({parts.library, list_, panes_, parts.settings, parts.clipboard, parts.prompts,
                 parts.texts}),
+      drag_({parts.view, parts.library.Tree(), editing_, parts.prompts, parts.texts}),
       solidWorks_({parts.solidWorks, parts.library, list_, panes_, editor_, parts.view,
                    parts.prompts, parts.texts}),
       position_(parts.registry) {
@@ -66,9 +67,13 @@ void MainWindow::RunCommand(int command) {
     const auto handler = handlers_.find(command);
     if (handler == handlers_.end())
         return;
+    drag_.Cancel();
     if (!operationRuns_) {
         handler->second();
-    } else if (command == IDM_mnuQuit) {
+        return;
+    }
+    views_.ShowPressedView();
+    if (command == IDM_mnuQuit) {
         parts_.stopFlag = true;
         afterOperation_ = handler->second;
     }
@@ -204,7 +209,7 @@ void MainWindow::RowEditRequested() {
 }
 
 bool MainWindow::MayEditRow() const {
-    return !operationRuns_;
+    return !operationRuns_ && drag_.Mode() == DragMode::None;
 }
 
 void MainWindow::RowLabelEdited(int row, const std::string& text) {
@@ -213,6 +218,33 @@ void MainWindow::RowLabelEdited(int row, const std::string& text) {
 
 void MainWindow::ColumnClicked(int column) {
     list_.ColumnClicked(column);
+}
+
+void MainWindow::ListPressed() {
+    drag_.ListPressed();
+}
+
+bool MainWindow::DragStarted(const HeldKeys& keys, const DragPoint& at) {
+    if (operationRuns_ || list_.SelectedKey().empty())
+        return false;
+    drag_.Start(keys, at);
+    return true;
+}
+
+void MainWindow::DragMoved(const DragPoint& at) {
+    drag_.Move(at);
+}
+
+void MainWindow::DragTicked(const DragPoint& at) {
+    drag_.Tick(at);
+}
+
+void MainWindow::DragDropped(const DragPoint& at) {
+    drag_.Drop(at);
+}
+
+void MainWindow::DragCancelled() {
+    drag_.Cancel();
 }
 
 void MainWindow::ValueTextChanged(std::size_t index, const std::string& text) {

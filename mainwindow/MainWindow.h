@@ -8,6 +8,7 @@
 #include "library/ColorLibrary.h"
 #include "library/FileCommands.h"
 #include "library/LibraryFiles.h"
+#include "mainwindow/ColorDrag.h"
 #include "mainwindow/ColorEditor.h"
 #include "mainwindow/ColorList.h"
 #include "mainwindow/EditingCommands.h"
@@ -61,7 +62,7 @@ public:
     void SetFormDefaults();
 
     // While a SolidWorks operation runs, every command is refused silently; Quit stops a walk
-    // first.
+    // first.  A drag that is under way is given up.
     void RunCommand(int command) override;
 
     void NodeClicked(const std::string& key) override;
@@ -74,6 +75,12 @@ public:
     bool MayEditRow() const override;
     void RowLabelEdited(int row, const std::string& text) override;
     void ColumnClicked(int column) override;
+    void ListPressed() override;
+    bool DragStarted(const HeldKeys& keys, const DragPoint& at) override;
+    void DragMoved(const DragPoint& at) override;
+    void DragTicked(const DragPoint& at) override;
+    void DragDropped(const DragPoint& at) override;
+    void DragCancelled() override;
     void ValueTextChanged(std::size_t index, const std::string& text) override;
     bool IsValueCharacter(char32_t character) const override;
     void ValueFocused(std::size_t index) override;
@@ -111,6 +118,7 @@ private:
     LayoutController layout_;
     ViewCommands views_;
     EditingCommands editing_;
+    ColorDrag drag_;
     SolidWorksCommands solidWorks_;
     CFormPos position_;
     std::map<int, Handler> handlers_; // by command number

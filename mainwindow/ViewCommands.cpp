@@ -100,11 +100,16 @@ void ViewCommands::Show(int command, bool visible) {
 }
 
 void ViewCommands::SetListView(ListViewMode mode) {
-    for (const ListView& view : kListViews) {
+    listView_ = mode;
+    for (const ListView& view : kListViews)
         SetMark(view.command, view.mode == mode);
-        bars_.SetButtonPressed(view.buttonKey, view.mode == mode);
-    }
+    ShowPressedView();
     list_.SetListViewMode(mode);
+}
+
+void ViewCommands::ShowPressedView() {
+    for (const ListView& view : kListViews)
+        bars_.SetButtonPressed(view.buttonKey, view.mode == listView_);
 }
 
 void ViewCommands::SetMark(int command, bool checked) {

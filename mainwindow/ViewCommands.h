@@ -25,6 +25,10 @@ public:
 
     void SetListView(ListViewMode mode);
 
+    // The toolbar presses the button of a view by itself when it is clicked; this presses that of
+    // the view which is shown.
+    void ShowPressedView();
+
 private:
     void SetMark(int command, bool checked);
     void Turn(int command);
@@ -36,4 +40,5 @@ private:
     LayoutController& layout_;
     Settings& settings_;
     std::map<int, bool> marks_;
+    ListViewMode listView_ = ListViewMode::LargeIcons;
 };

@@ -30,7 +30,8 @@ frmMain::frmMain(ErrorSink& errors, const BannerPictures& banners)
       editor_(*this), stbarMain_(Add<StatusBar>(At("stbarMain", IDC_stbarMain))),
       picSponsor_(Add<PictureBox>(At("picSponsor", IDC_picSponsor))),
       picSplitter_(Add<SolidBar>(At("picSplitter", IDC_picSplitter))),
-      lblDrag_(Add<Label>(At("lblDrag", IDC_lblDrag))) {
+      lblDrag_(Add<Label>(At("lblDrag", IDC_lblDrag))),
+      drag_(*this, {lvColor_, tvColor_, lblDrag_}) {
     MainBars::BuildMenu(menu_);
     menu_.AttachTo(Handle());
     for (FormControl* entry : menu_.Entries())
@@ -51,6 +52,7 @@ void frmMain::Attach(MainViewEvents& events) {
     ConnectTree(events);
     ConnectList(events);
     editor_.Attach(events);
+    drag_.Attach(events);
     tlbarMain_.onCommand = [&events](int command) { events.RunCommand(command); };
     imgSplitter_.onPress = [&events] { events.SplitterPressed(); };
     imgSplitter_.onDrag = [this, &events](int x) { events.SplitterDragged(Scale().ToTwips(x)); };
@@ -99,7 +101,10 @@ MessageResult frmMain::OnMessage(const WindowMessage& message) {
         events_->Repainted();
         return {};
     case WM_TIMER:
-        events_->BannerTicked();
+        if (message.wParam == MainDrag::kTimer)
+            events_->DragTicked(drag_.Point());
+        else
+            events_->BannerTicked();
         return 0;
     case WM_ENDSESSION: // the session ends without asking for the close box
         if (message.wParam != FALSE)
@@ -121,6 +126,8 @@ void frmMain::OnCloseBox() {
 }
 
 bool frmMain::TranslateShortcut(MSG& message) {
+    if (drag_.TakeKey(message))
+        return true;
     // In the tree the key would delete a colour that the user is not looking at.
     if (message.wParam == VK_DELETE && GetFocus() == tvColor_.Handle())
         return false;
@@ -128,6 +135,7 @@ bool frmMain::TranslateShortcut(MSG& message) {
 }
 
 void frmMain::OnScaleChanged() {
+    drag_.ApplyScale();
     FollowSize();
 }
 
@@ -305,6 +313,24 @@ void frmMain::ShowSplitterBar(const TwipsRect& bounds) {
 
 void frmMain::HideSplitterBar() {
     picSplitter_.Show(false);
+}
+
+// DragPane
+
+void frmMain::ShowDrag(float left, float top, DragMode picture) {
+    drag_.Show(left, top, picture);
+}
+
+void frmMain::MarkDropNode(const std::string& key) {
+    drag_.Mark(key);
+}
+
+void frmMain::ScrollTree(TreeEdge towards) {
+    drag_.Scroll(towards);
+}
+
+void frmMain::EndDrag() {
+    drag_.End();
 }
 
 // MainView

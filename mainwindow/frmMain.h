@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mainwindow/frmMainDrag.h"
 #include "mainwindow/frmMainEditor.h"
 #include "mainwindow/MainView.h"
 #include "platform/BannerPictures.h"
@@ -64,6 +65,12 @@ public:
     void ShowSplitterBar(const TwipsRect& bounds) override;
     void HideSplitterBar() override;
 
+    // DragPane
+    void ShowDrag(float left, float top, DragMode picture) override;
+    void MarkDropNode(const std::string& key) override;
+    void ScrollTree(TreeEdge towards) override;
+    void EndDrag() override;
+
     // MainView
     void ShowWindow() override;
     void SetBanner(int index) override;
@@ -106,4 +113,5 @@ private:
     PictureBox& picSponsor_;
     SolidBar& picSplitter_;
     Label& lblDrag_;
+    MainDrag drag_;
 };

@@ -45,6 +45,13 @@ struct IconTraits {
 };
 using IconHandle = UniqueHandle<IconTraits>;
 
+struct CursorTraits {
+    using Handle = HCURSOR;
+    static Handle None() noexcept { return nullptr; }
+    static bool Close(Handle cursor) noexcept { return DestroyCursor(cursor) != FALSE; }
+};
+using CursorHandle = UniqueHandle<CursorTraits>;
+
 struct MemoryDeviceTraits {
     using Handle = HDC;
     static Handle None() noexcept { return nullptr; }

@@ -118,6 +118,9 @@ MessageResult ListView::OnNotify(NMHDR& header) {
     case LVN_ENDLABELEDITW:
         EndLabelEdit(reinterpret_cast<const NMLVDISPINFOW&>(header));
         return TRUE;
+    case LVN_BEGINDRAG:
+        StartDrag(reinterpret_cast<const NMLISTVIEW&>(header));
+        return 0;
     case LVN_COLUMNCLICK:
         Raise(onColumnClick, reinterpret_cast<const NMLISTVIEW&>(header).iSubItem + 1);
         return 0;
@@ -160,10 +163,14 @@ bool ListView::IsEmptiedLabel() const {
 }
 
 MessageResult ListView::OnMessage(const WindowMessage& message) {
+    if (const MessageResult result = drag_.OnMessage(message))
+        return result;
     switch (message.id) {
     case WM_LBUTTONDOWN:
+        Raise(onPress);
         return PressLeft(message);
     case WM_RBUTTONDOWN:
+        Raise(onPress);
         PressRight(message);
         return 0;
     case WM_KEYDOWN:
@@ -209,6 +216,19 @@ void ListView::PressRight(const WindowMessage& message) {
         Raise(onClick, row);
     }
     OpenContextMenu(message);
+}
+
+void ListView::StartDrag(const NMLISTVIEW& start) {
+    if (start.iItem < 0)
+        return;
+    if (start.iItem != selected_) {
+        ShowSelection(start.iItem);
+        Raise(onClick, start.iItem);
+    }
+    POINT at = start.ptAction;
+    ClientToScreen(Handle(), &at);
+    if (onDragStart && onDragStart(at))
+        drag_.Begin(at);
 }
 
 int ListView::RowAt(POINT point) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/controls/Control.h"
+#include "platform/controls/MouseDrag.h"
 #include "platform/Icons.h"
 
 #include <functional>
@@ -26,6 +27,8 @@ public:
     void SetMode(int mode); // 0 large icons, 1 small icons, 2 list, 3 details
     [[nodiscard]] int SelectedRow() const noexcept { return selected_; } // -1: none
 
+    [[nodiscard]] MouseDrag& Drag() noexcept { return drag_; }
+
     void SetAccessibleName(const std::string& name) { SetText(name); }
 
     std::function<std::string(int row, int column)> cellText;
@@ -36,6 +39,8 @@ public:
     std::function<void(int row, const std::string& text)> onLabelEdited;
     std::function<void(int column)> onColumnClick;
     std::function<void(POINT screen)> onContextMenu; // the row under it is selected
+    std::function<void()> onPress;                   // a mouse button, beside the rows too
+    std::function<bool(POINT screen)> onDragStart;   // of the selected row; true: Drag() begins
 
     MessageResult OnNotify(NMHDR& header) override;
     void ApplyScale() override;
@@ -54,10 +59,12 @@ private:
     MessageResult PressLeft(const WindowMessage& message);
     void PressRight(const WindowMessage& message);
     void OpenContextMenu(const WindowMessage& message);
+    void StartDrag(const NMLISTVIEW& start);
 
     Images images_;
     int dpi_ = 0; // that the column widths are made for
     int columns_ = 0;
     int selected_ = -1;
     bool silent_ = false; // the program itself changes the selection
+    MouseDrag drag_{Handle()};
 };

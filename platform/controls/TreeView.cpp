@@ -128,6 +128,27 @@ HTREEITEM TreeView::ItemAt(POINT point) const {
     return (hit.flags & TVHT_ONITEM) != 0 ? hit.hItem : nullptr;
 }
 
+std::string TreeView::KeyAtLine(POINT screen) const {
+    constexpr UINT kBesideTheText = TVHT_ONITEMINDENT | TVHT_ONITEMBUTTON | TVHT_ONITEMRIGHT;
+    TVHITTESTINFO hit{};
+    hit.pt = screen;
+    ScreenToClient(Handle(), &hit.pt);
+    Send(TVM_HITTEST, 0, &hit);
+    return (hit.flags & (TVHT_ONITEM | kBesideTheText)) != 0 ? KeyOf(hit.hItem) : std::string();
+}
+
+int TreeView::LineHeight() const {
+    return static_cast<int>(Send(TVM_GETITEMHEIGHT));
+}
+
+void TreeView::MarkDropTarget(const std::string& key) {
+    Send(TVM_SELECTITEM, TVGN_DROPHILITE, reinterpret_cast<LPARAM>(Find(key)));
+}
+
+void TreeView::ScrollLine(bool down) {
+    Send(WM_VSCROLL, static_cast<WPARAM>(down ? SB_LINEDOWN : SB_LINEUP));
+}
+
 MessageResult TreeView::OnNotify(NMHDR& header) {
     switch (header.code) {
     case TVN_SELCHANGEDW:

@@ -23,6 +23,12 @@ public:
     void EditLabel(const std::string& key);
     [[nodiscard]] std::string SelectedKey() const;
 
+    // For a drag: points are pixels of the screen.
+    [[nodiscard]] std::string KeyAtLine(POINT screen) const; // empty: no node's line is there
+    [[nodiscard]] int LineHeight() const;                    // pixels
+    void MarkDropTarget(const std::string& key);             // empty: none
+    void ScrollLine(bool down);
+
     void SetAccessibleName(const std::string& name) { SetText(name); }
 
     std::function<void(const std::string& key)> onClick; // a node was selected or clicked again

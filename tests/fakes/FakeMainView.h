@@ -74,6 +74,17 @@ public:
     }
     void HideSplitterBar() override { splitterBarShown = false; }
 
+    // Drag
+    void ShowDrag(float left, float top, DragMode picture) override {
+        dragLeft = left;
+        dragTop = top;
+        dragPicture = picture;
+        isDragShown = true;
+    }
+    void MarkDropNode(const std::string& key) override { dropNode = key; }
+    void ScrollTree(TreeEdge towards) override { scrolls.push_back(towards); }
+    void EndDrag() override { isDragShown = false; }
+
     // Window
     void ShowWindow() override { isShown = true; }
     void SetBanner(int index) override { banner = index; }
@@ -111,6 +122,12 @@ public:
     int layouts = 0;
     TwipsRect splitterBar;
     bool splitterBarShown = false;
+    bool isDragShown = false;
+    float dragLeft = 0;
+    float dragTop = 0;
+    DragMode dragPicture = DragMode::None;
+    std::string dropNode;
+    std::vector<TreeEdge> scrolls;
     bool isShown = false;
     int banner = -1;
     bool isBannerStopped = false;

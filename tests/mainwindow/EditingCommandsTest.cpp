@@ -71,6 +71,51 @@ TEST_F(EditingCommandsTest, CutDeletesOnlyWhenTheColorIsOnTheClipboard) {
     EXPECT_EQ(program.view.rowCount, 2);
 }
 
+TEST_F(EditingCommandsTest, CutDeletesOnlyWhenTheClipboardStillHoldsTheColor) {
+    program.clipboard.replacedBy = "of another program";
+    EXPECT_THROW(Run(IDM_mnuColorCut), RuntimeError);
+    EXPECT_EQ(program.view.rowCount, 2);
+}
+
+TEST_F(EditingCommandsTest, CutOfAColorThatAPasteWouldRefuseTellsSoAndKeepsIt) {
+    program.Main().RowLabelEdited(0, "light, warm");
+    Run(IDM_mnuColorCut);
+    EXPECT_EQ(program.prompts.messages, (std::vector<Message>{{"<5> CLIPBOARD", 48, "<98>"}}));
+    EXPECT_EQ(program.view.rowCount, 2);
+}
+
+TEST_F(EditingCommandsTest, CutWithNothingSelectedDoesNothing) {
+    program.clipboard.text = "before";
+    program.Main().NodeClicked("0DG2");
+    Run(IDM_mnuColorCut);
+    EXPECT_EQ(program.clipboard.text, "before");
+    EXPECT_TRUE(program.prompts.messages.empty());
+}
+
+TEST_F(EditingCommandsTest, PasteTakesWhatItHasReadWhateverComesThen) {
+    program.clipboard.text = kLineOfA;
+    program.clipboard.textAfterReading = "E#";
+    Run(IDM_mnuColorPaste);
+    EXPECT_EQ(program.view.rowCount, 3);
+    EXPECT_TRUE(program.prompts.messages.empty());
+}
+
+TEST_F(EditingCommandsTest, PasteWithTheClipboardHeldDoesNothing) {
+    program.clipboard.text = kLineOfA;
+    program.clipboard.isBusy = true;
+    Run(IDM_mnuColorPaste);
+    EXPECT_EQ(program.view.rowCount, 2);
+    EXPECT_TRUE(program.prompts.messages.empty());
+}
+
+TEST_F(EditingCommandsTest, GroupWhoseRememberedColorWasDeletedShowsItsFirst) {
+    program.Main().RowClicked(1);
+    Run(IDM_mnuColorDelColor);
+    program.Main().NodeClicked("0DG2");
+    program.Main().NodeClicked("0DG1");
+    EXPECT_EQ(program.view.selectedRow, 0);
+}
+
 TEST_F(EditingCommandsTest, PasteSelectsTheNewColorInAnEmptyGroup) {
     program.clipboard.text = kLineOfA;
     program.Main().NodeClicked("0DG2");

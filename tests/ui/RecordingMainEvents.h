@@ -38,6 +38,16 @@ public:
     }
     void ColumnClicked(int column) override { Note("column " + std::to_string(column)); }
 
+    void ListPressed() override { ++presses; }
+    bool DragStarted(const HeldKeys& keys, const DragPoint& at) override {
+        Note(std::string("drag start") + (keys.ctrl ? " ctrl" : "") + Told(at));
+        return mayDrag;
+    }
+    void DragMoved(const DragPoint& at) override { Note("drag move" + Told(at)); }
+    void DragTicked(const DragPoint& at) override { ticks.push_back(Told(at)); }
+    void DragDropped(const DragPoint& at) override { Note("drop" + Told(at)); }
+    void DragCancelled() override { Note("drag cancelled"); }
+
     void ValueTextChanged(std::size_t index, const std::string& text) override {
         Note("text " + std::to_string(index) + "=" + text);
         if (onTextChanged)
@@ -76,10 +86,19 @@ public:
     std::vector<std::string> lines;
     int resized = 0;
     int repainted = 0;
+    int presses = 0;
+    std::vector<std::string> ticks;
     bool mayEdit = true;
+    bool mayDrag = true;
     std::function<void(int)> onCommand;
     std::function<void(std::size_t, const std::string&)> onTextChanged;
 
 private:
+    static std::string Told(const DragPoint& at) {
+        return std::string(at.isOverList ? " list" : "") +
+               (at.node.empty() ? "" : " node " + at.node) +
+               (at.edge == TreeEdge::Top ? " top" : "") +
+               (at.edge == TreeEdge::Bottom ? " bottom" : "");
+    }
     void Note(const std::string& line) { lines.push_back(line); }
 };

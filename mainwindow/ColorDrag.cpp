@@ -1,0 +1,88 @@
+#include "mainwindow/ColorDrag.h"
+
+#include "common/InfoTextNumber.h"
+
+#include <utility>
+
+namespace {
+
+std::string GroupUnder(const DragPoint& at) {
+    return IsGroupKey(at.node) ? at.node : std::string();
+}
+
+} // namespace
+
+void ColorDrag::Start(const HeldKeys& keys, const DragPoint& at) {
+    const bool ctrlAlone = keys.ctrl && !keys.shift && !keys.alt;
+    mode_ = ctrlAlone ? DragMode::Copy : DragMode::Move;
+    underWay_ = true;
+    restsOn_.clear();
+    Show(at);
+}
+
+void ColorDrag::Move(const DragPoint& at) {
+    if (underWay_)
+        Show(at);
+}
+
+void ColorDrag::Show(const DragPoint& at) {
+    Rest(at);
+    const std::string group = GroupUnder(at);
+    parts_.pane.MarkDropNode(group);
+    parts_.pane.ShowDrag(at.left, at.top, at.isOverList || !group.empty() ? mode_ : DragMode::None);
+}
+
+void ColorDrag::Rest(const DragPoint& at) {
+    if (std::exchange(restsOn_, at.node) != at.node)
+        ticks_ = 0;
+}
+
+void ColorDrag::Tick(const DragPoint& at) {
+    if (!underWay_)
+        return;
+    if (at.edge != TreeEdge::None)
+        parts_.pane.ScrollTree(at.edge);
+    Show(at);
+    if (!restsOn_.empty() && ++ticks_ == kTicksToExpand)
+        parts_.tree.Expand(restsOn_);
+}
+
+void ColorDrag::Drop(const DragPoint& at) {
+    if (!underWay_)
+        return;
+    End();
+    if (at.isOverList)
+        mode_ = DragMode::None;
+    else if (!at.node.empty())
+        DropOnNode(at.node);
+}
+
+void ColorDrag::DropOnNode(const std::string& key) {
+    // Idle whatever happens from here on.
+    const DragMode mode = std::exchange(mode_, DragMode::None);
+    if (!IsGroupKey(key))
+        parts_.prompts.ShowMessage(parts_.texts.GetInfoText(InfoTextNumber::DropOnGroupOnly),
+                                   MessageStyle::Information,
+                                   parts_.texts.GetInfoText(InfoTextNumber::Color));
+    else if (mode == DragMode::Move)
+        parts_.editing.MoveInto(key);
+    else
+        parts_.editing.CopyInto(key);
+}
+
+void ColorDrag::Cancel() {
+    if (!underWay_)
+        return;
+    mode_ = DragMode::None;
+    End();
+}
+
+void ColorDrag::End() {
+    underWay_ = false;
+    parts_.pane.MarkDropNode({});
+    parts_.pane.EndDrag();
+}
+
+void ColorDrag::ListPressed() {
+    mode_ = DragMode::None;
+}

@@ -1,0 +1,99 @@
+#include "mainwindow/frmMainDrag.h"
+
+#include "platform/Form.h"
+
+namespace {
+
+constexpr UINT kTick = 100; // milliseconds
+
+// Design pixels.
+constexpr int kCursorSize = 32;
+
+HeldKeys KeysHeld() {
+    const auto isHeld = [](int virtualKey) { return GetKeyState(virtualKey) < 0; };
+    return {isHeld(VK_SHIFT), isHeld(VK_CONTROL), isHeld(VK_MENU)};
+}
+
+} // namespace
+
+void MainDrag::Attach(MainViewEvents& events) {
+    ApplyScale();
+    ListView& list = controls_.list;
+    list.onPress = [&events] { events.ListPressed(); };
+    list.onDragStart = [this, &events](POINT at) {
+        const bool starts = events.DragStarted(KeysHeld(), PointAt(at));
+        if (starts)
+            SetTimer(form_.Handle(), kTimer, kTick, nullptr);
+        return starts;
+    };
+    list.Drag().onMove = [this, &events] { events.DragMoved(Point()); };
+    list.Drag().onDrop = [this, &events] { events.DragDropped(Point()); };
+    list.Drag().onCancel = [&events] { events.DragCancelled(); };
+}
+
+void MainDrag::ApplyScale() {
+    const int size = form_.Scale().FromDesign(kCursorSize);
+    move_ = LoadNamedCursor("DragMove", size);
+    copy_ = LoadNamedCursor("DragCopy", size);
+}
+
+void MainDrag::Show(float left, float top, DragMode picture) {
+    const RECT before = controls_.label.Bounds();
+    const POINT at = {form_.Scale().ToPixels(left), form_.Scale().ToPixels(top)};
+    controls_.label.Place({at.x, at.y, at.x + WidthOf(before), at.y + HeightOf(before)});
+    SetCursor(CursorOf(picture));
+}
+
+HCURSOR MainDrag::CursorOf(DragMode picture) const {
+    switch (picture) {
+    case DragMode::Move:
+        return move_.Get();
+    case DragMode::Copy:
+        return copy_.Get();
+    default:
+        return LoadCursorW(nullptr, IDC_NO);
+    }
+}
+
+void MainDrag::End() {
+    KillTimer(form_.Handle(), kTimer);
+    controls_.list.Drag().End();
+    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+}
+
+bool MainDrag::TakeKey(const MSG& message) {
+    if (!controls_.list.Drag().IsUnderWay())
+        return false;
+    if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE)
+        controls_.list.Drag().Cancel();
+    return true;
+}
+
+DragPoint MainDrag::Point() const {
+    return PointAt(controls_.list.Drag().Pointer());
+}
+
+DragPoint MainDrag::PointAt(POINT screen) const {
+    POINT inForm = screen;
+    ScreenToClient(form_.Handle(), &inForm);
+    const HWND under = WindowFromPoint(screen);
+    DragPoint at;
+    at.left = form_.Scale().ToTwips(static_cast<int>(inForm.x));
+    at.top = form_.Scale().ToTwips(static_cast<int>(inForm.y));
+    at.isOverList = under == controls_.list.Handle();
+    if (under == controls_.tree.Handle()) {
+        at.node = controls_.tree.KeyAtLine(screen);
+        at.edge = EdgeAt(screen);
+    }
+    return at;
+}
+
+TreeEdge MainDrag::EdgeAt(POINT screen) const {
+    RECT area{};
+    GetClientRect(controls_.tree.Handle(), &area);
+    ScreenToClient(controls_.tree.Handle(), &screen);
+    const LONG margin = controls_.tree.LineHeight();
+    if (screen.y < margin)
+        return TreeEdge::Top;
+    return screen.y >= area.bottom - margin ? TreeEdge::Bottom : TreeEdge::None;
+}
