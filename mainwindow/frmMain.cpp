@@ -135,7 +135,6 @@ bool frmMain::TranslateShortcut(MSG& message) {
 }
 
 void frmMain::OnScaleChanged() {
-    drag_.ApplyScale();
     FollowSize();
 }
 

@@ -17,10 +17,10 @@ HeldKeys KeysHeld() {
 } // namespace
 
 void MainDrag::Attach(MainViewEvents& events) {
-    ApplyScale();
     ListView& list = controls_.list;
     list.onPress = [&events] { events.ListPressed(); };
     list.onDragStart = [this, &events](POINT at) {
+        LoadCursors();
         const bool starts = events.DragStarted(KeysHeld(), PointAt(at));
         if (starts)
             SetTimer(form_.Handle(), kTimer, kTick, nullptr);
@@ -31,7 +31,7 @@ void MainDrag::Attach(MainViewEvents& events) {
     list.Drag().onCancel = [&events] { events.DragCancelled(); };
 }
 
-void MainDrag::ApplyScale() {
+void MainDrag::LoadCursors() {
     const int size = form_.Scale().FromDesign(kCursorSize);
     move_ = LoadNamedCursor("DragMove", size);
     copy_ = LoadNamedCursor("DragCopy", size);

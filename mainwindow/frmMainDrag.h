@@ -23,7 +23,6 @@ public:
     MainDrag(Form& form, const Controls& controls) : form_(form), controls_(controls) {}
 
     void Attach(MainViewEvents& events);
-    void ApplyScale();
 
     void Show(float left, float top, DragMode picture);
     void Mark(const std::string& node) { controls_.tree.MarkDropTarget(node); }
@@ -37,6 +36,7 @@ public:
     [[nodiscard]] DragPoint Point() const; // where the pointer is
 
 private:
+    void LoadCursors();
     [[nodiscard]] DragPoint PointAt(POINT screen) const;
     [[nodiscard]] TreeEdge EdgeAt(POINT screen) const;
     [[nodiscard]] HCURSOR CursorOf(DragMode picture) const;

@@ -219,6 +219,7 @@ TEST_F(MainDragging, InvisibleLabelStandsAtThePoint) {
 
 TEST_F(MainDragging, PointerHasAPictureOfItsOwnForEachMode) {
     std::vector<HCURSOR> pictures;
+    StartDrag();
     for (const DragMode mode : {DragMode::Move, DragMode::Copy, DragMode::None}) {
         form.ShowDrag(0, 0, mode);
         pictures.push_back(GetCursor());
