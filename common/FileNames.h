@@ -1,10 +1,25 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 // The characters after the last "\"; the whole text when it holds none.
 [[nodiscard]] inline std::string FileNamePart(const std::string& path) {
     return path.substr(path.rfind('\\') + 1); // npos + 1 is 0
+}
+
+// Letters of A to Z count in either case.  extension: lower case, with its dot.
+[[nodiscard]] inline bool HasExtension(const std::string& path, std::string_view extension) {
+    const auto lower = [](char character) {
+        return character >= 'A' && character <= 'Z' ? static_cast<char>(character + 'a' - 'A')
+                                                    : character;
+    };
+    return path.size() >= extension.size() &&
+           std::equal(extension.begin(), extension.end(),
+                      path.end() - static_cast<std::ptrdiff_t>(extension.size()),
+                      [&](char wanted, char found) { return wanted == lower(found); });
 }
 
 // The characters up to and including the last "\"; empty when the text holds none.

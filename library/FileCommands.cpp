@@ -5,6 +5,12 @@
 #include "common/Text.h"
 #include "common/ValueRestorer.h"
 
+namespace {
+
+constexpr const char* kLibraryExtension = ".tnt";
+
+} // namespace
+
 std::string FileCommands::Text(std::int32_t number) const {
     return parts_.texts.GetInfoText(number);
 }
@@ -25,6 +31,12 @@ void FileCommands::mnuFileOpen_Click() {
     if (!path)
         return;
     OpenLibrary(*path);
+}
+
+void FileCommands::OpenDropped(const std::vector<std::string>& paths) {
+    for (const std::string& path : paths)
+        if (HasExtension(path, kLibraryExtension))
+            OpenLibrary(path);
 }
 
 void FileCommands::OpenLibrary(const std::string& path) {

@@ -7,6 +7,7 @@
 #include "library/LibraryFiles.h"
 
 #include <string>
+#include <vector>
 
 // What the file commands ask of the main window.
 class FileCommandsHost {
@@ -40,6 +41,9 @@ public:
 
     void mnuFileNew_Click();
     void mnuFileOpen_Click();
+    // Files dropped onto the window: each library file opens as with Open, with its question; files
+    // with another extension are left alone.
+    void OpenDropped(const std::vector<std::string>& paths);
     void mnuFileSave_Click();
     void mnuFileSaveAs_Click();
     void mnuFileClose_Click();

@@ -189,5 +189,6 @@ public:
 
     virtual void BannerTicked() = 0;
     virtual void BannerClicked() = 0;
+    virtual void FilesDropped(const std::vector<std::string>& paths) = 0;
     virtual void WindowClosing() = 0; // close box
 };

@@ -168,6 +168,11 @@ void MainWindow::AddOptionAndHelpHandlers() {
     handlers_[IDM_mnuHlpShowLizenz] = [this] { parts_.textViewer.Show("lizenz"); };
 }
 
+void MainWindow::FilesDropped(const std::vector<std::string>& paths) {
+    if (!operationRuns_)
+        parts_.fileCommands.OpenDropped(paths);
+}
+
 // The position is stored only here: Quit in the file menu does not pass, on purpose.
 void MainWindow::WindowClosing() {
     position_.SaveForm();

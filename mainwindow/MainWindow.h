@@ -93,6 +93,7 @@ public:
     void SplitterReleased() override;
     void BannerTicked() override;
     void BannerClicked() override;
+    void FilesDropped(const std::vector<std::string>& paths) override;
     void WindowClosing() override;
 
     void ShowStatus(const std::string& text) override;

@@ -2,12 +2,19 @@
 
 #include "mainwindow/CommandTable.h"
 #include "mainwindow/frmMainBars.h"
+#include "platform/DroppedFiles.h"
 #include "resources/controls.h"
+
+#include <algorithm>
 
 namespace {
 
-constexpr FormDesign kDesign{L"frmMain",          L"TNT4SWX", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-                             WS_EX_CONTROLPARENT, nullptr,    {800, 600},
+constexpr FormDesign kDesign{L"frmMain",
+                             L"TNT4SWX",
+                             WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+                             WS_EX_CONTROLPARENT | WS_EX_ACCEPTFILES,
+                             nullptr,
+                             {800, 600},
                              {300, 240}};
 
 const std::vector<std::string> kNodeImages = {"Palette", "Colbrush", "Colcubes", "Colfile"};
@@ -106,6 +113,9 @@ MessageResult frmMain::OnMessage(const WindowMessage& message) {
         else
             events_->BannerTicked();
         return 0;
+    case WM_DROPFILES:
+        events_->FilesDropped(TakeDroppedFiles(message.wParam));
+        return 0;
     case WM_ENDSESSION: // the session ends without asking for the close box
         if (message.wParam != FALSE)
             events_->WindowClosing();
@@ -131,7 +141,31 @@ bool frmMain::TranslateShortcut(MSG& message) {
     // In the tree the key would delete a colour that the user is not looking at.
     if (message.wParam == VK_DELETE && GetFocus() == tvColor_.Handle())
         return false;
+    if (message.message == WM_KEYDOWN && message.wParam == VK_F6) {
+        FocusNextPane(GetKeyState(VK_SHIFT) < 0);
+        return true;
+    }
     return shortcuts_.Translate(Handle(), message);
+}
+
+// Tree, list and, while it is shown, the large editor, in this order and round.
+void frmMain::FocusNextPane(bool backwards) {
+    std::vector<HWND> panes = {tvColor_.Handle(), lvColor_.Handle()};
+    if (editor_.FrameControl().IsShown())
+        panes.push_back(editor_.FrameControl().Handle());
+    const HWND focus = GetFocus();
+    const auto current = std::find_if(panes.begin(), panes.end(), [focus](HWND pane) {
+        return pane == focus || IsChild(pane, focus) != FALSE;
+    });
+    std::size_t next = 0; // from anywhere else to the tree
+    if (current != panes.end()) {
+        const auto index = static_cast<std::size_t>(current - panes.begin());
+        next = (index + (backwards ? panes.size() - 1 : 1)) % panes.size();
+    }
+    if (panes[next] == editor_.FrameControl().Handle())
+        editor_.Box(0).Focus();
+    else
+        SetFocus(panes[next]);
 }
 
 void frmMain::OnScaleChanged() {

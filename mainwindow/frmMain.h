@@ -92,6 +92,7 @@ private:
     void ConnectList(MainViewEvents& events);
     void OpenColorMenu(POINT at) const;
     void FollowSize();
+    void FocusNextPane(bool backwards);
     void PlaceBanner();
 
     const BannerPictures& banners_;

@@ -37,6 +37,8 @@ void frmProgress::ShowProgress(const std::string& label, std::int32_t minimum,
     OnLayout();
     due_ = std::chrono::steady_clock::now() + patience_;
     waiting_ = true;
+    if (!cursor_)
+        cursor_.emplace();
     // An operation that lets the window handle events is seen by the timer, any other by its steps.
     SetTimer(Handle(), kPatienceTimer, static_cast<UINT>(patience_.count()), nullptr);
     AppearWhenDue();
@@ -75,6 +77,7 @@ void frmProgress::RefreshProgress() {
 
 void frmProgress::HideProgress() {
     waiting_ = false;
+    cursor_.reset();
     KillTimer(Handle(), kPatienceTimer);
     if (IsWindowVisible(Handle()) != FALSE)
         Hide();

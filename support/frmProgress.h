@@ -5,9 +5,11 @@
 #include "platform/controls/Label.h"
 #include "platform/controls/ProgressBar.h"
 #include "platform/Form.h"
+#include "platform/WaitCursor.h"
 #include "support/ProgressEvents.h"
 
 #include <chrono>
+#include <optional>
 
 // The progress window: one for every long operation, shown over the main window.
 class frmProgress : public FormOf<ProgressView, FormWindow, LocalizableForm> {
@@ -38,6 +40,7 @@ private:
     const std::chrono::milliseconds patience_;
     std::chrono::steady_clock::time_point due_; // of the appearance, while it is waited for
     bool waiting_ = false;
+    std::optional<WaitCursor> cursor_; // while the operation runs
     ProgressEvents* events_ = nullptr;
     Label& lblInfo_;
     ProgressBar& prbMain_;

@@ -55,6 +55,23 @@ TEST_F(FileCommandsTest, OpenAsksWithTitleFilterAndFlags) {
     EXPECT_EQ(prompts.fileRequests[0].flags, 0x1800U);
 }
 
+TEST_F(FileCommandsTest, DroppedLibrariesOpenInTheirOrderEachWithItsQuestion) {
+    prompts.answers = {Answer::No, Answer::Yes};
+    commands.OpenDropped({kB, kA});
+    EXPECT_EQ(host.status, (std::vector<std::string>{"Okay b.tnt", "Okay a.tnt"}));
+    EXPECT_EQ(settings.defaultColorFile, kA);
+    EXPECT_TRUE(prompts.fileRequests.empty());
+}
+
+TEST_F(FileCommandsTest, DroppedFilesOfOtherKindsAreLeftAlone) {
+    files.contents["C:\\lib\\a.txt"] = kContent;
+    files.contents["C:\\lib\\tnt"] = kContent;
+    files.contents["C:\\lib\\c.TNT"] = kContent;
+    prompts.answers = {Answer::No};
+    commands.OpenDropped({"C:\\lib\\a.txt", "C:\\lib\\tnt", "C:\\lib\\c.TNT", ""});
+    EXPECT_EQ(host.status, std::vector<std::string>{"Okay c.TNT"});
+}
+
 TEST_F(FileCommandsTest, OpenShowsTheFilesNameAndAsksWhetherToLoadItAtEveryStart) {
     Open(kA, Answer::Yes);
     EXPECT_EQ(host.status, std::vector<std::string>{"Okay a.tnt"});

@@ -91,6 +91,16 @@ TEST_F(AuxiliaryForms, ProgressValuesThatLookAlikeAreNotSentToTheBar) {
     EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 1'000'000);
 }
 
+TEST_F(AuxiliaryForms, ProgressGivesTheHourGlassUntilTheOperationIsOver) {
+    frmProgress progress(form.Handle(), errors);
+    SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+    progress.ShowProgress("x", 0, 2);
+    progress.ShowProgress("y", 0, 2);
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_WAIT));
+    progress.HideProgress();
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+}
+
 TEST_F(AuxiliaryForms, ProgressOfAnOperationThatIsOverAtOnceDoesNotAppear) {
     frmProgress progress(form.Handle(), errors, std::chrono::milliseconds(20));
     progress.ShowProgress("x", 0, 2);

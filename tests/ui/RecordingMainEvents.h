@@ -62,6 +62,10 @@ public:
     }
     void SwatchDoubleClicked() override { Note("swatch"); }
 
+    void FilesDropped(const std::vector<std::string>& paths) override {
+        for (const std::string& path : paths)
+            Note("dropped " + path);
+    }
     void Resized() override {
         ++resized;
         layout.Resize();

@@ -1,0 +1,63 @@
+#include "tests/ui/MainFormTest.h"
+
+#include "platform/GlobalMemory.h"
+
+#include <cstring>
+#include <shellapi.h>
+#include <shlobj.h>
+
+namespace {
+
+class MainPanes : public MainFormTest {
+protected:
+    // What the shell posts when files are dropped on the window.
+    [[nodiscard]] static WPARAM DropOf(const std::vector<std::wstring>& files) {
+        std::wstring names;
+        for (const std::wstring& file : files)
+            names += file + L'\0';
+        names += L'\0';
+        const std::size_t size = names.size() * sizeof(wchar_t);
+        GlobalMemory memory(GlobalAlloc(GMEM_MOVEABLE, sizeof(DROPFILES) + size));
+        {
+            const GlobalLockGuard lock(memory.Get());
+            auto* drop = new (lock.Content()) DROPFILES{};
+            drop->pFiles = sizeof(DROPFILES);
+            drop->fWide = TRUE;
+            std::memcpy(drop + 1, names.data(), size);
+        }
+        return reinterpret_cast<WPARAM>(memory.Release());
+    }
+    void PressF6() {
+        MSG key{GetFocus(), WM_KEYDOWN, VK_F6, 0, 0, {}};
+        EXPECT_TRUE(form.TranslateKeys(key));
+    }
+    [[nodiscard]] static int Focused() { return GetDlgCtrlID(GetFocus()); }
+};
+
+TEST_F(MainPanes, FilesCanBeDroppedAndAreReportedInTheirOrder) {
+    EXPECT_NE(GetWindowLongPtrW(form.Handle(), GWL_EXSTYLE) & WS_EX_ACCEPTFILES, 0);
+    SendMessageW(form.Handle(), WM_DROPFILES, DropOf({L"C:\\Ü b.tnt", L"C:\\a.tnt"}), 0);
+    EXPECT_EQ(events.lines, (std::vector<std::string>{"dropped C:\\Ü b.tnt", "dropped C:\\a.tnt"}));
+}
+
+TEST_F(MainPanes, F6GoesFromTreeToListToTheLargeEditorAndRound) {
+    form.ShowWindow();
+    events.layout.SetHugeFrame(true);
+    SetFocus(Child(IDC_tvColor));
+    for (const int pane : {IDC_lvColor, IDC_txtActiveColor, IDC_tvColor, IDC_lvColor}) {
+        PressF6();
+        EXPECT_EQ(Focused(), pane);
+    }
+    SetFocus(Child(IDC_sldActiveColor + 4)); // anywhere in the editor
+    PressF6();
+    EXPECT_EQ(Focused(), IDC_tvColor);
+}
+
+TEST_F(MainPanes, F6LeavesAHiddenEditorOut) {
+    form.ShowWindow();
+    SetFocus(Child(IDC_lvColor));
+    PressF6();
+    EXPECT_EQ(Focused(), IDC_tvColor);
+}
+
+} // namespace
