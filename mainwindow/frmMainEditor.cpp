@@ -45,9 +45,8 @@ constexpr int kValueCount = static_cast<int>(kColorValueCount);
 MainEditor::MainEditor(Form& form)
     : form_(form),
       frame_(&form.Add<Frame>(ControlPlace{"fraShowColor", IDC_fraShowColor, form.Handle()})),
-      colorName_(&form.Add<Label>(
-          ControlPlace{"lblActiveColorName", IDC_lblActiveColorName, frame_->Handle()},
-          LabelText::Plain)),
+      colorName_(&form.Add<NameLabel>(
+          ControlPlace{"lblActiveColorName", IDC_lblActiveColorName, frame_->Handle()})),
       largeSwatch_(
           &form.Add<Swatch>(ControlPlace{"lblActiveColor", IDC_lblActiveColor, frame_->Handle()})) {
     frame_->SetText("Aktive Farbe");

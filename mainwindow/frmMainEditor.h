@@ -28,7 +28,7 @@ public:
     [[nodiscard]] Frame& FrameControl() noexcept { return *frame_; }
     [[nodiscard]] Swatch& SmallSwatch() noexcept { return *smallSwatch_; }
     [[nodiscard]] Swatch& LargeSwatch() noexcept { return *largeSwatch_; }
-    [[nodiscard]] Label& ColorName() noexcept { return *colorName_; }
+    [[nodiscard]] NameLabel& ColorName() noexcept { return *colorName_; }
     [[nodiscard]] TextBox& Box(std::size_t index) { return *rows_.at(index).box; }
     [[nodiscard]] Slider& SliderAt(std::size_t index) { return *rows_.at(index).slider; }
 
@@ -59,7 +59,7 @@ private:
 
     Form& form_;
     Frame* frame_;
-    Label* colorName_;
+    NameLabel* colorName_;
     Swatch* largeSwatch_;
     Swatch* smallSwatch_ = nullptr;
     std::array<Row, kColorValueCount> rows_{};

@@ -184,8 +184,18 @@ MessageResult Form::OfferCommand(const WindowMessage& message) {
 
 MessageResult Form::OfferNotification(const WindowMessage& message) {
     auto& header = *reinterpret_cast<NMHDR*>(message.lParam);
+    if (header.hwndFrom == tips_.Window() && header.code == TTN_GETDISPINFOW) {
+        GiveTip(reinterpret_cast<NMTTDISPINFOW&>(header));
+        return 0;
+    }
     Control* control = FindControl(header.hwndFrom);
     return control != nullptr ? control->OnNotify(header) : MessageResult();
+}
+
+void Form::GiveTip(NMTTDISPINFOW& request) {
+    const Control* control = FindControl(reinterpret_cast<HWND>(request.hdr.idFrom));
+    tipText_ = control != nullptr ? ToUtf16(control->TipText()) : std::wstring();
+    request.lpszText = tipText_.data();
 }
 
 MessageResult Form::OfferColor(const WindowMessage& message) {

@@ -11,6 +11,7 @@
 #include "platform/WindowGeometry.h"
 #include "platform/WindowMessage.h"
 
+#include <commctrl.h>
 #include <memory>
 #include <string>
 #include <utility>
@@ -104,6 +105,7 @@ private:
     MessageResult OfferCommand(const WindowMessage& message);
     MessageResult OfferNotification(const WindowMessage& message);
     MessageResult OfferColor(const WindowMessage& message);
+    void GiveTip(NMTTDISPINFOW& request);
     void ChangeScale(unsigned dpi, const RECT* suggested);
     void ApplyScale();
     void LimitSize(MINMAXINFO& limits) const noexcept;
@@ -126,6 +128,7 @@ private:
     bool moving_ = false; // the size is the program's own, not the system's suggestion
     bool layoutRequested_ = false;
     ToolTips tips_;
+    std::wstring tipText_; // that is shown
     std::vector<std::unique_ptr<Control>> controls_;
     std::vector<FormControl*> designed_;
 };

@@ -54,10 +54,19 @@ void Control::SetProperty(const std::string& property, const std::string& text) 
         form_.RequestLayout(); // the text may need another width
     } else if (property == "ToolTipText") {
         toolTip_ = text;
-        form_.Tips().Set(form_.Handle(), window_, text);
+        UpdateTip();
     } else {
         ThrowNoSuchMember(name_, property);
     }
+}
+
+void Control::TipShowsCutText() {
+    tipShowsCutText_ = true;
+    UpdateTip();
+}
+
+void Control::UpdateTip() {
+    form_.Tips().Set(form_.Handle(), window_, tipShowsCutText_ || !toolTip_.empty());
 }
 
 std::string Control::Text() const {

@@ -39,6 +39,9 @@ public:
     [[nodiscard]] bool IsEnabled() const override { return IsWindowEnabled(window_) != FALSE; }
     void SetEnabled(bool enabled) override { EnableWindow(window_, enabled ? TRUE : FALSE); }
 
+    // What its tool tip says just now; empty: nothing.
+    [[nodiscard]] std::string TipText() const { return IsTextCut() ? Text() : toolTip_; }
+
     [[nodiscard]] std::string Text() const;
     virtual void SetText(const std::string& text);
 
@@ -68,6 +71,10 @@ protected:
     [[nodiscard]] const DpiScale& Scale() const noexcept;
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     LRESULT Send(UINT message, WPARAM wParam, const void* structure) const;
+    // A control whose text may be longer than its place: the tool tip shows the whole of it.
+    void TipShowsCutText();
+    [[nodiscard]] virtual bool IsTextCut() const { return false; }
+
     // What the window's class does with the message.
     [[nodiscard]] static LRESULT Default(const WindowMessage& message);
 
@@ -79,7 +86,10 @@ private:
     Form& form_;
     ControlKind kind_;
     std::string name_;
+    void UpdateTip();
+
     std::string toolTip_;
+    bool tipShowsCutText_ = false;
     HWND window_;
 };
 

@@ -49,6 +49,17 @@ SIZE Label::TextSize(int maximumWidth) const {
     return MeasureText(CurrentFont(), ToUtf16(Text()), maximumWidth);
 }
 
+NameLabel::NameLabel(Form& form, const ControlPlace& place) : Label(form, place, LabelText::Plain) {
+    SetWindowLongPtrW(Handle(), GWL_STYLE,
+                      GetWindowLongPtrW(Handle(), GWL_STYLE) |
+                          static_cast<LONG_PTR>(SS_ENDELLIPSIS));
+    TipShowsCutText();
+}
+
+bool NameLabel::IsTextCut() const {
+    return TextSize().cx > WidthOf(Bounds());
+}
+
 LinkLabel::LinkLabel(Form& form, const ControlPlace& place) : Label(form, place, LabelText::Plain) {
     SetWindowLongPtrW(Handle(), GWL_STYLE,
                       GetWindowLongPtrW(Handle(), GWL_STYLE) | static_cast<LONG_PTR>(WS_TABSTOP));

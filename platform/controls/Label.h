@@ -18,6 +18,15 @@ private:
     [[nodiscard]] HFONT CurrentFont() const;
 };
 
+// A name, on one line: what is cut ends with an ellipsis, and the tool tip shows all of it.
+class NameLabel : public Label {
+public:
+    NameLabel(Form& form, const ControlPlace& place);
+
+protected:
+    [[nodiscard]] bool IsTextCut() const override;
+};
+
 // A text that is clicked like a link: by mouse, Space or Enter.
 class LinkLabel : public Label {
 public:

@@ -11,13 +11,15 @@ constexpr ControlKind kStatusBar{"StatusBar", STATUSCLASSNAMEW, ""};
 } // namespace
 
 StatusBar::StatusBar(Form& form, const ControlPlace& place)
-    : Control(form, kStatusBar, place, WS_VISIBLE | SBARS_SIZEGRIP | CCS_BOTTOM) {
+    : Control(form, kStatusBar, place, WS_VISIBLE | SBARS_SIZEGRIP | SBARS_TOOLTIPS | CCS_BOTTOM) {
     const int toTheEnd = -1;
     Send(SB_SETPARTS, 1, &toTheEnd);
 }
 
 void StatusBar::SetPanelText(const std::string& text) {
-    Send(SB_SETTEXTW, 0, ToUtf16(text).c_str());
+    const std::wstring wide = ToUtf16(text);
+    Send(SB_SETTEXTW, 0, wide.c_str());
+    Send(SB_SETTIPTEXTW, 0, wide.c_str()); // shown while the text is cut
 }
 
 void StatusBar::FollowForm() {

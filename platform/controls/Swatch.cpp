@@ -1,6 +1,7 @@
 #include "platform/controls/Swatch.h"
 
 #include "platform/BufferedPaint.h"
+#include "platform/Fonts.h"
 #include "platform/Form.h"
 #include "platform/Utf16.h"
 
@@ -11,10 +12,19 @@ namespace {
 constexpr ControlKind kSwatch{"Label", WC_STATICW, "Caption"};
 constexpr ControlKind kSolidBar{"PictureBox", WC_STATICW, ""};
 
+constexpr int kMargin = 8; // left and right of the text, design pixels
+
 } // namespace
 
 Swatch::Swatch(Form& form, const ControlPlace& place)
-    : Control(form, kSwatch, place, WS_VISIBLE | SS_NOTIFY | SS_NOPREFIX) {}
+    : Control(form, kSwatch, place, WS_VISIBLE | SS_NOTIFY | SS_NOPREFIX) {
+    TipShowsCutText();
+}
+
+bool Swatch::IsTextCut() const {
+    const int margins = 2 * Scale().FromDesign(kMargin);
+    return MeasureText(Owner().Font(), ToUtf16(Text())).cx > WidthOf(Bounds()) - margins;
+}
 
 void Swatch::SetColors(ColorNumber background, ColorNumber text) {
     if (background_ == background && text_ == text)
@@ -64,7 +74,7 @@ void Swatch::Paint() const {
     const HGDIOBJ before = SelectObject(paint.Device(), Owner().Font());
     SetBkMode(paint.Device(), TRANSPARENT);
     SetTextColor(paint.Device(), text_);
-    const int margin = Scale().FromDesign(8);
+    const int margin = Scale().FromDesign(kMargin);
     InflateRect(&area, -margin, 0);
     DrawTextW(paint.Device(), ToUtf16(Text()).c_str(), -1, &area,
               DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);

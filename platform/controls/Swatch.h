@@ -18,6 +18,7 @@ public:
     void OnCommand(WPARAM wParam) override;
 
 protected:
+    [[nodiscard]] bool IsTextCut() const override;
     MessageResult OnMessage(const WindowMessage& message) override;
 
 private:

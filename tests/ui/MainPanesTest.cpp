@@ -1,6 +1,7 @@
 #include "tests/ui/MainFormTest.h"
 
 #include "platform/GlobalMemory.h"
+#include "platform/Utf16.h"
 
 #include <cstring>
 #include <shellapi.h>
@@ -58,6 +59,43 @@ TEST_F(MainPanes, F6LeavesAHiddenEditorOut) {
     SetFocus(Child(IDC_lvColor));
     PressF6();
     EXPECT_EQ(Focused(), IDC_tvColor);
+}
+
+class MainTips : public MainFormTest {
+protected:
+    // What the tool-tip window gets when it asks for the tip of a control.
+    [[nodiscard]] std::string TipOf(int id) {
+        NMTTDISPINFOW request{};
+        request.hdr = {form.Tips().Window(), reinterpret_cast<UINT_PTR>(Child(id)),
+                       static_cast<UINT>(TTN_GETDISPINFOW)};
+        request.uFlags = TTF_IDISHWND;
+        SendMessageW(form.Handle(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&request));
+        return ToUtf8(request.lpszText);
+    }
+};
+
+TEST_F(MainTips, ControlShowsItsToolTipText) {
+    Control("tvColor")->SetProperty("ToolTipText", "Bibliotheken und Gruppen");
+    EXPECT_EQ(TipOf(IDC_tvColor), "Bibliotheken und Gruppen");
+    EXPECT_EQ(TipOf(IDC_lvColor), "");
+}
+
+TEST_F(MainTips, NameThatIsCutIsShownAsAWholeAndAnyOtherNotAtAll) {
+    const std::string longName(200, 'W');
+    events.layout.SetHugeFrame(true);
+    form.SetColorName("Gold");
+    EXPECT_EQ(TipOf(IDC_lblActiveColorName), "");
+    form.SetColorName(longName);
+    EXPECT_EQ(TipOf(IDC_lblActiveColorName), longName);
+}
+
+TEST_F(MainTips, SmallSwatchShowsACutCaptionInsteadOfItsToolTip) {
+    const std::string longCaption(300, 'W');
+    Control("lblActiveColorSmall")->SetProperty("ToolTipText", "Aktive Farbe");
+    form.SetSmallSwatchCaption("Gold (R:1 G:2 B:3)");
+    EXPECT_EQ(TipOf(IDC_lblActiveColorSmall), "Aktive Farbe");
+    form.SetSmallSwatchCaption(longCaption);
+    EXPECT_EQ(TipOf(IDC_lblActiveColorSmall), longCaption);
 }
 
 } // namespace
