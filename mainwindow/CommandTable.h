@@ -134,6 +134,19 @@ inline constexpr std::array kMenuRows = {
     MenuRow{IDM_mnuHlpShowLizenz, "mnuHlpShowLizenz", "Nutzungsbedingungen", MenuKind::Entry},
 };
 
+// The keys of the shortcuts that have a name in each language.
+struct KeyRow {
+    std::uint8_t key;
+    const char* name;
+    const char* caption; // built in, German; the language file replaces it
+};
+
+inline constexpr std::array kKeyRows = {
+    KeyRow{0x11, "keyCtrl", "Strg"},
+    KeyRow{0x10, "keyShift", "Umschalt"},
+    KeyRow{0x2E, "keyDelete", "Entf"},
+};
+
 enum class ToolbarGroup : std::uint8_t { Standard, Color, ListView, SolidWorks };
 
 struct ToolbarRow {

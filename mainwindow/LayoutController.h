@@ -15,6 +15,10 @@ public:
     // keeps the geometry of its last normal size.
     void Resize();
 
+    // The controls take their places anew: the pixels of a twip are others now.  In every window
+    // state.
+    void Apply() { pane_.ApplyLayout(layout_); }
+
     // The large frame instead of the small swatch, at once and in every window state.
     void SetHugeFrame(bool shown);
 

@@ -182,6 +182,7 @@ public:
     virtual void SwatchDoubleClicked() = 0;
 
     virtual void Resized() = 0;
+    virtual void ScaleChanged() = 0; // pixels for a twip
     virtual void Repainted() = 0;
     virtual void SplitterPressed() = 0;
     virtual void SplitterDragged(float x) = 0; // x: from the splitter's left edge

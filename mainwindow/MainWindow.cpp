@@ -276,6 +276,10 @@ void MainWindow::Resized() {
     layout_.Resize();
 }
 
+void MainWindow::ScaleChanged() {
+    layout_.Apply();
+}
+
 void MainWindow::Repainted() {
     editor_.Repainted();
 }

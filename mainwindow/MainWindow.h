@@ -87,6 +87,7 @@ public:
     void SliderMoved(std::size_t index, int position) override;
     void SwatchDoubleClicked() override;
     void Resized() override;
+    void ScaleChanged() override;
     void Repainted() override;
     void SplitterPressed() override;
     void SplitterDragged(float x) override;

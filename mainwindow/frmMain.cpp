@@ -170,6 +170,8 @@ void frmMain::FocusNextPane(bool backwards) {
 
 void frmMain::OnScaleChanged() {
     FollowSize();
+    if (events_ != nullptr)
+        events_->ScaleChanged();
 }
 
 void frmMain::OnLayout() {

@@ -14,10 +14,6 @@ ShortcutDesign KeyOf(const MenuRow& row) {
             row.shortcut.leavesTextEntryAlone};
 }
 
-std::string ShortcutText(const MenuRow& row) {
-    return row.shortcut.key != 0 ? ShortcutName(KeyOf(row)) : std::string();
-}
-
 std::vector<ToolbarMenuDesign> MenuOf(const ToolbarRow& button) {
     std::vector<ToolbarMenuDesign> menu;
     for (const ButtonMenuRow& row : kButtonMenuRows)
@@ -26,11 +22,7 @@ std::vector<ToolbarMenuDesign> MenuOf(const ToolbarRow& button) {
     return menu;
 }
 
-} // namespace
-
-namespace MainBars {
-
-void BuildMenu(MenuBar& menu) {
+void AddEntries(MenuBar& menu) {
     for (const MenuRow& row : kMenuRows) {
         switch (row.kind) {
         case MenuKind::Title:
@@ -40,7 +32,7 @@ void BuildMenu(MenuBar& menu) {
             menu.AddSubmenu(row.command, row.name, row.caption);
             break;
         case MenuKind::Entry:
-            menu.AddEntry(row.command, row.name, row.caption, ShortcutText(row));
+            menu.AddEntry(row.command, row.name, row.caption);
             break;
         case MenuKind::SubmenuEntry:
             menu.AddSubmenuEntry(row.command, row.name, row.caption);
@@ -50,6 +42,18 @@ void BuildMenu(MenuBar& menu) {
             break;
         }
     }
+}
+
+} // namespace
+
+namespace MainBars {
+
+void BuildMenu(MenuBar& menu) {
+    AddEntries(menu);
+    for (const KeyRow& row : kKeyRows)
+        menu.AddKey(row.key, row.name, row.caption);
+    for (const ShortcutDesign& shortcut : ShortcutKeys())
+        menu.AddShortcut(shortcut);
 }
 
 std::vector<ShortcutDesign> ShortcutKeys() {

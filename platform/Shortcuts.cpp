@@ -1,7 +1,5 @@
 #include "platform/Shortcuts.h"
 
-#include "platform/Utf16.h"
-
 #include <array>
 #include <string_view>
 
@@ -27,25 +25,24 @@ bool IsTextEntry(HWND window) {
     return className == WC_EDITW || className.starts_with(L"RICHEDIT");
 }
 
-std::wstring KeyName(UINT virtualKey) {
-    constexpr LONG kExtendedKey = 1 << 24; // tells Delete from the numeric pad's key
-    const UINT scanCode = MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC);
-    const LONG extended = virtualKey == VK_DELETE ? kExtendedKey : 0;
-    std::array<wchar_t, 64> name{};
-    const int length = GetKeyNameTextW(static_cast<LONG>(scanCode << 16) | extended, name.data(),
-                                       static_cast<int>(name.size()));
-    return {name.data(), static_cast<std::size_t>(length)};
+std::string KeyName(WORD virtualKey, const KeyNames& names) {
+    const auto named = names.find(virtualKey);
+    if (named != names.end())
+        return named->second;
+    if (virtualKey >= VK_F1 && virtualKey <= VK_F24)
+        return "F" + std::to_string(virtualKey - VK_F1 + 1);
+    return {static_cast<char>(virtualKey)};
 }
 
 } // namespace
 
-std::string ShortcutName(const ShortcutDesign& design) {
-    std::wstring name;
+std::string ShortcutName(const ShortcutDesign& design, const KeyNames& names) {
+    std::string name;
     if (design.ctrl)
-        name += KeyName(VK_CONTROL) + L"+";
+        name += KeyName(VK_CONTROL, names) + "+";
     if (design.shift)
-        name += KeyName(VK_SHIFT) + L"+";
-    return ToUtf8(name + KeyName(design.key));
+        name += KeyName(VK_SHIFT, names) + "+";
+    return name + KeyName(design.key, names);
 }
 
 Shortcuts::Shortcuts(const std::vector<ShortcutDesign>& designs)

@@ -2,6 +2,7 @@
 
 #include "platform/Handles.h"
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -14,8 +15,11 @@ struct ShortcutDesign {
     bool leavesTextEntryAlone; // not taken while text is typed
 };
 
-// What the keyboard calls the shortcut: "Ctrl+S" (GetKeyNameTextW).
-[[nodiscard]] std::string ShortcutName(const ShortcutDesign& design);
+// What keys are called, by their virtual keys.
+using KeyNames = std::map<WORD, std::string>;
+
+// "Ctrl+S".  Letters, digits and function keys need no name in names.
+[[nodiscard]] std::string ShortcutName(const ShortcutDesign& design, const KeyNames& names);
 
 // The keys that run commands; while text is typed, a label edit included, those that the text
 // itself needs are left alone.

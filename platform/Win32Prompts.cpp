@@ -1,8 +1,13 @@
 #include "platform/Win32Prompts.h"
 
+#include "common/MessageText.h"
+#include "platform/DpiScale.h"
 #include "platform/FileDialog.h"
+#include "platform/Fonts.h"
 #include "platform/InputBox.h"
 #include "platform/Utf16.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -19,6 +24,17 @@ Answer ToAnswer(int button) {
     }
 }
 
+// The lines that the primary screen has room for, beside the box's border and buttons.
+MessageRoom RoomOnScreen() {
+    constexpr int kLinesOfBorder = 12;
+    constexpr int kFewest = 10;
+    constexpr std::size_t kLineLength = 90; // in a box on the smallest screens
+    RECT area{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    const int lines = HeightOf(area) / LineHeight(MessageFont(DpiOfScreen()).Get());
+    return {static_cast<std::size_t>(std::max(lines - kLinesOfBorder, kFewest)), kLineLength};
+}
+
 } // namespace
 
 HWND Win32Prompts::ActivePopup() const {
@@ -29,8 +45,9 @@ HWND Win32Prompts::ActivePopup() const {
 }
 
 Answer Win32Prompts::ShowMessage(const std::string& prompt, int style, const std::string& title) {
-    return ToAnswer(MessageBoxW(ActivePopup(), ToUtf16(prompt).c_str(), ToUtf16(title).c_str(),
-                                static_cast<UINT>(style)));
+    return ToAnswer(MessageBoxW(ActivePopup(),
+                                ToUtf16(FittedMessage(prompt, RoomOnScreen())).c_str(),
+                                ToUtf16(title).c_str(), static_cast<UINT>(style)));
 }
 
 std::string Win32Prompts::AskText(const std::string& prompt, const std::string& title,

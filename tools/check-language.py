@@ -3,8 +3,9 @@
 
   - Windows-1252, CR LF line ends, values of at most 255 bytes, no key twice or without a value
   - the same sections and keys in both languages
-  - a caption for every menu entry, a tool tip for every toolbar button, a text for every entry of
-    a button's menu, and every numbered message text, as the program's own tables name them
+  - a caption for every menu entry and every named key, a tool tip for every toolbar button, a text
+    for every entry of a button's menu, and every numbered message text, as the program's own tables
+    name them
   - access keys that differ within each menu
 
   tools/check-language.py        names each fault, and fails
@@ -19,6 +20,7 @@ FILES = tuple(ROOT / "resources" / "language" / f"tntlng_{code}.ini" for code in
 LONGEST_VALUE = 255
 
 MENU_ROW = re.compile(r'MenuRow\{\s*\w+,\s*"(\w+)",\s*"[^"]*",\s*MenuKind::(\w+)')
+KEY_ROW = re.compile(r'KeyRow\{\s*\w+,\s*"(\w+)"')
 TOOLBAR_ROW = re.compile(r'ToolbarRow\{\s*"([^"]+)",\s*ToolbarButtonStyle::(\w+)')
 BUTTON_MENU_ROW = re.compile(r'ButtonMenuRow\{\s*"([^"]+)",\s*"([^"]+)"')
 INFO_NUMBER = re.compile(r"std::int32_t \w+ = (\d+);")
@@ -64,6 +66,7 @@ def menus(table):
 def required_keys(table, info_numbers):
     keys = {("frmMain", f"{name}.Caption") for name, kind in MENU_ROW.findall(table)
             if kind != "Separator"}
+    keys |= {("frmMain", f"{name}.Caption") for name in KEY_ROW.findall(table)}
     keys |= {("frmMain", f"tlbarMain.{key}.ToolTipText")
              for key, style in TOOLBAR_ROW.findall(table) if style != "Separator"}
     keys |= {("frmMain", f"tlbarMain.{button}.{key}.Text")

@@ -19,9 +19,6 @@ void RedrawBarOf(HMENU bar) {
 
 } // namespace
 
-MenuEntry::MenuEntry(HMENU menu, int command, std::string name, std::string shortcut)
-    : menu_(menu), command_(command), name_(std::move(name)), shortcut_(std::move(shortcut)) {}
-
 std::string MenuEntry::Property(const std::string& property) const {
     if (property != kCaption)
         ThrowNoSuchMember(name_, property);
@@ -34,8 +31,16 @@ void MenuEntry::SetProperty(const std::string& property, const std::string& text
     if (text == caption_)
         return;
     caption_ = text;
-    if (separator_)
-        return;
+    if (!separator_)
+        ShowTexts();
+}
+
+void MenuEntry::SetShortcut(const std::string& text) {
+    shortcut_ = text;
+    ShowTexts();
+}
+
+void MenuEntry::ShowTexts() {
     std::wstring shown = ShownText();
     MENUITEMINFOW item{};
     item.cbSize = sizeof item;
@@ -85,34 +90,49 @@ HMENU MenuEntry::Submenu() const {
 
 MenuBar::MenuBar() : owned_(CreateMenu()), bar_(owned_.Get()) {}
 
-MenuEntry& MenuBar::NewEntry(HMENU menu, int command, const char* name,
-                             const std::string& shortcut) {
-    entries_.push_back(std::make_unique<MenuEntry>(menu, command, name, shortcut));
+MenuEntry& MenuBar::NewEntry(HMENU menu, int command, const char* name) {
+    entries_.push_back(std::make_unique<MenuEntry>(menu, command, name));
     byCommand_[command] = entries_.back().get();
     return *entries_.back();
 }
 
 void MenuBar::AddTitle(int command, const char* name, const char* caption) {
     open_ = CreatePopupMenu();
-    NewEntry(bar_, command, name, {}).Append(caption, open_);
+    NewEntry(bar_, command, name).Append(caption, open_);
 }
 
 void MenuBar::AddSubmenu(int command, const char* name, const char* caption) {
     submenu_ = CreatePopupMenu();
-    NewEntry(open_, command, name, {}).Append(caption, submenu_);
+    NewEntry(open_, command, name).Append(caption, submenu_);
 }
 
-void MenuBar::AddEntry(int command, const char* name, const char* caption,
-                       const std::string& shortcut) {
-    NewEntry(open_, command, name, shortcut).Append(caption, nullptr);
+void MenuBar::AddEntry(int command, const char* name, const char* caption) {
+    NewEntry(open_, command, name).Append(caption, nullptr);
 }
 
 void MenuBar::AddSubmenuEntry(int command, const char* name, const char* caption) {
-    NewEntry(submenu_, command, name, {}).Append(caption, nullptr);
+    NewEntry(submenu_, command, name).Append(caption, nullptr);
 }
 
 void MenuBar::AddSeparator(int command, const char* name, const char* caption) {
-    NewEntry(open_, command, name, {}).AppendSeparator(caption);
+    NewEntry(open_, command, name).AppendSeparator(caption);
+}
+
+void MenuBar::AddKey(WORD virtualKey, const char* name, const char* caption) {
+    keyNames_[virtualKey] = caption;
+    keys_.push_back(std::make_unique<KeyCaption>(
+        name, caption, [this, virtualKey](const std::string& text) { NameKey(virtualKey, text); }));
+}
+
+void MenuBar::NameKey(WORD virtualKey, const std::string& caption) {
+    keyNames_[virtualKey] = caption;
+    for (const ShortcutDesign& design : shortcuts_)
+        Find(design.command).SetShortcut(ShortcutName(design, keyNames_));
+}
+
+void MenuBar::AddShortcut(const ShortcutDesign& design) {
+    shortcuts_.push_back(design);
+    Find(design.command).SetShortcut(ShortcutName(design, keyNames_));
 }
 
 bool MenuBar::AttachTo(HWND form) {
@@ -132,9 +152,11 @@ void MenuBar::SetChecked(int command, bool checked) {
 
 std::vector<FormControl*> MenuBar::Entries() const {
     std::vector<FormControl*> entries;
-    entries.reserve(entries_.size());
+    entries.reserve(entries_.size() + keys_.size());
     for (const auto& entry : entries_)
         entries.push_back(entry.get());
+    for (const auto& key : keys_)
+        entries.push_back(key.get());
     return entries;
 }
 

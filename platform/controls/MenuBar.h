@@ -1,17 +1,21 @@
 #pragma once
 
 #include "common/ports/LocalizableForm.h"
+#include "platform/controls/KeyCaption.h"
 #include "platform/Handles.h"
+#include "platform/Shortcuts.h"
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 // One title, entry or separator of a menu.  Its caption is shown as soon as it is set.
 class MenuEntry : public FormControl {
 public:
-    MenuEntry(HMENU menu, int command, std::string name, std::string shortcut);
+    MenuEntry(HMENU menu, int command, std::string name)
+        : menu_(menu), command_(command), name_(std::move(name)) {}
 
     [[nodiscard]] std::string Name() const override { return name_; }
     [[nodiscard]] std::string TypeName() const override { return "Menu"; }
@@ -21,16 +25,18 @@ public:
     // submenu: null for an entry that runs a command.
     void Append(const std::string& caption, HMENU submenu);
     void AppendSeparator(const std::string& caption);
+    void SetShortcut(const std::string& text); // shown behind the caption
     void SetChecked(bool checked);
     [[nodiscard]] HMENU Submenu() const;
 
 private:
+    void ShowTexts();
     [[nodiscard]] std::wstring ShownText() const;
 
     HMENU menu_;
     int command_;
     std::string name_;
-    std::string shortcut_; // shown behind the caption
+    std::string shortcut_;
     std::string caption_;
     bool separator_ = false;
     UINT position_ = 0;
@@ -41,24 +47,31 @@ private:
 class MenuBar {
 public:
     MenuBar();
+    MenuBar(const MenuBar&) = delete;
+    MenuBar& operator=(const MenuBar&) = delete;
 
     void AddTitle(int command, const char* name, const char* caption);
     void AddSubmenu(int command, const char* name, const char* caption);
-    void AddEntry(int command, const char* name, const char* caption,
-                  const std::string& shortcut = {});
+    void AddEntry(int command, const char* name, const char* caption);
     void AddSubmenuEntry(int command, const char* name, const char* caption);
     void AddSeparator(int command, const char* name, const char* caption);
+
+    // The key's name in the shortcuts, as a control of the form.
+    void AddKey(WORD virtualKey, const char* name, const char* caption);
+    // Shows the shortcut behind the caption of its command's entry, which has been added.
+    void AddShortcut(const ShortcutDesign& design);
 
     // The menu goes with the form's window from then on; false: the window refused it.
     bool AttachTo(HWND form);
     void SetChecked(int command, bool checked);
-    [[nodiscard]] std::vector<FormControl*> Entries() const;
+    [[nodiscard]] std::vector<FormControl*> Entries() const; // and the names of keys
 
     // Opens the menu under a title at a point of the screen; the form gets its command.
     void OpenPopup(int titleCommand, HWND form, POINT at) const;
 
 private:
-    MenuEntry& NewEntry(HMENU menu, int command, const char* name, const std::string& shortcut);
+    MenuEntry& NewEntry(HMENU menu, int command, const char* name);
+    void NameKey(WORD virtualKey, const std::string& caption);
     [[nodiscard]] MenuEntry& Find(int command) const;
 
     MenuHandle owned_; // until a window takes the menu over
@@ -67,4 +80,7 @@ private:
     HMENU submenu_ = nullptr; // the last submenu
     std::vector<std::unique_ptr<MenuEntry>> entries_;
     std::map<int, MenuEntry*> byCommand_;
+    std::vector<std::unique_ptr<KeyCaption>> keys_;
+    KeyNames keyNames_;
+    std::vector<ShortcutDesign> shortcuts_;
 };

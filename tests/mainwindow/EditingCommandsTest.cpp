@@ -196,6 +196,25 @@ TEST_F(EditingCommandsTest, DeletingALibraryAsksExactlyOnce) {
     EXPECT_TRUE(program.prompts.questions.empty()) << "the empty tree asks for nothing";
 }
 
+TEST_F(EditingCommandsTest, OneConfirmationCoversManyGroupsAndColors) {
+    for (int group = 3; group <= 6; ++group) {
+        program.prompts.typed = {"group", "first color"};
+        Run(IDM_mnuColorNewGroup);
+        for (int color = 2; color <= 4; ++color) {
+            program.prompts.typed = {"color"};
+            Run(IDM_mnuColorNewColor);
+        }
+    }
+    Run(IDM_mnuColorDelMainNode);
+    EXPECT_EQ(program.prompts.messages.size(), 1U);
+    EXPECT_TRUE(program.view.nodes.empty());
+    program.prompts.typed = {"Lib", "g", "new"};
+    Run(IDM_mnuColorNewMainNode);
+    EXPECT_EQ(program.view.rowCount, 1) << "no colour of the same keys is left";
+    Run(IDM_mnuColorDelColor);
+    EXPECT_EQ(program.prompts.messages.size(), 2U) << "and the next deletion asks again";
+}
+
 TEST_F(EditingCommandsTest, NothingAsksWithConfirmDelOff) {
     Run(IDM_mnuOptionsConfirmDel);
     Run(IDM_mnuColorDelColor);

@@ -93,6 +93,17 @@ TEST_F(LayoutTest, EditorTogglesAlsoWhileMaximisedButThePanesStay) {
     EXPECT_EQ(view.layout.tree, before);
 }
 
+TEST_F(LayoutTest, NewScaleAppliesTheLayoutAnewInEveryWindowState) {
+    layout.Resize();
+    const MainLayout before = view.layout;
+    view.metrics.state = WindowState::Maximised;
+    view.metrics.formWidth = 20000;
+    view.layout = {};
+    layout.Apply();
+    EXPECT_EQ(view.layout.list, before.list);
+    EXPECT_EQ(view.layout.splitter, before.splitter);
+}
+
 TEST(SizeControls, ClampsToSevenHundredFiftyFromBothEdges) {
     MainLayout layout;
     float x = 100;

@@ -240,6 +240,29 @@ TEST_F(SolidWorksCommandsTest, CommandsDuringAWalkAreRefusedSilently) {
     EXPECT_FALSE(program->view.nodes.contains("0D")) << "and work again afterwards";
 }
 
+TEST_F(SolidWorksCommandsTest, ViewButtonThatIsRefusedDuringAWalkComesUpAgain) {
+    Run(IDM_mnuViewColorDetails);
+    program->events.onEvents = [&] {
+        program->view.presses = {{"View List", true}}; // as the toolbar does by itself
+        Run(IDM_mnuViewColorList);
+    };
+    Run(IDM_mnuSWXClearColorPart);
+    EXPECT_FALSE(program->view.presses.at("View List"));
+    EXPECT_TRUE(program->view.presses.at("View Details"));
+    EXPECT_EQ(program->view.listMode, ListViewMode::Details);
+}
+
+TEST_F(SolidWorksCommandsTest, NoDragStartsDuringAWalk) {
+    program->prompts.typed = {"Lib", "g", "c"};
+    Run(IDM_mnuColorNewMainNode);
+    bool started = true;
+    program->events.onEvents = [&] { started = program->Main().DragStarted({}, {}); };
+    Run(IDM_mnuSWXClearColorPart);
+    EXPECT_FALSE(started);
+    EXPECT_TRUE(program->Main().DragStarted({}, {})) << "and afterwards it does";
+    program->Main().DragCancelled();
+}
+
 TEST_F(SolidWorksCommandsTest, QuitDuringACallThatFailsEndsTheProgramWithoutAMessage) {
     program->solidWorks.Gate().ClearFaults();
     program->solidWorks.Gate().AddFault(ParseFault("3:error"));

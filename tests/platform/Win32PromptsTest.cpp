@@ -56,6 +56,24 @@ TEST_F(Win32PromptsTest, CancelIsTheDefaultWhenDeletingIsConfirmed) {
     EXPECT_EQ(focused, IDCANCEL);
 }
 
+TEST_F(Win32PromptsTest, BoxWithAHugeTextStaysOnTheScreenWithItsButtons) {
+    std::string prompt;
+    for (int line = 0; line < 5000; ++line)
+        prompt += "color " + std::to_string(line) + "\r\n";
+    RECT box{};
+    const DialogDriver driver(L"huge", [&](HWND dialog) {
+        GetWindowRect(dialog, &box);
+        text = TextOfControl(dialog, kMessageText);
+        Press(dialog, IDCANCEL);
+    });
+    EXPECT_EQ(prompts.ShowMessage(prompt, MessageStyle::ConfirmDelete, "huge"), Answer::Cancel);
+    RECT screen{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+    EXPECT_LE(box.bottom - box.top, screen.bottom - screen.top);
+    EXPECT_TRUE(text.starts_with(L"color 0\r\ncolor 1\r\n"));
+    EXPECT_TRUE(text.ends_with(L"\r\n..."));
+}
+
 TEST_F(Win32PromptsTest, MessageBelongsToAPopupThatIsOpenAlready) {
     HWND popup = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50,
                                  window.Handle(), nullptr, nullptr, nullptr);

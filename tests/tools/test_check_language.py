@@ -10,13 +10,14 @@ TABLE = """
             "mnuFileNew", "Neu", MenuKind::Entry, {true, false, 'N'}},
     MenuRow{IDM_mnuFileHR, "mnuFileHR", "-", MenuKind::Separator},
     MenuRow{IDM_mnuQuit, "mnuQuit", "Beenden", MenuKind::Entry},
+    KeyRow{0x11, "keyCtrl", "Strg"},
     ToolbarRow{"sepST1", ToolbarButtonStyle::Separator, ToolbarGroup::Standard, "", 0, ""},
     ToolbarRow{"View List", ToolbarButtonStyle::ButtonGroup, ToolbarGroup::ListView, "", 1, "V"},
     ButtonMenuRow{"New", "NewGroup", "Neue Gruppe", IDM_mnuColorNewGroup},
 """
 NUMBERS = "inline constexpr std::int32_t Save = 30;"
 GOOD = (b"; comment\r\n[frmMain]\r\nmnuFile.Caption=&File\r\nmnuFileNew.Caption=&New\r\n"
-        b"mnuQuit.Caption=&Quit\r\ntlbarMain.View List.ToolTipText=List\r\n"
+        b"mnuQuit.Caption=&Quit\r\nkeyCtrl.Caption=Ctrl\r\ntlbarMain.View List.ToolTipText=List\r\n"
         b"tlbarMain.New.NewGroup.Text=New group\r\n[Info]\r\nText.30=Save\r\n")
 
 

@@ -107,6 +107,23 @@ TEST_F(LanguageSwitch, EveryTextOfTheFormsFollowsBackAndForth) {
     EXPECT_TRUE(program->prompts.messages.empty());
 }
 
+TEST_F(LanguageSwitch, ShortcutsInTheMenusAreNamedAsTheKeyboardsOfTheLanguageNameThem) {
+    Start();
+    const auto shortcut = [this](int command) {
+        const std::string shown = MenuText(GetMenu(program->main.Handle()), command);
+        return shown.substr(shown.find('\t') + 1);
+    };
+    program->Run(IDM_mnuOptionsLngGerman);
+    EXPECT_EQ(shortcut(IDM_mnuFileNew), "Strg+N");
+    EXPECT_EQ(shortcut(IDM_mnuFileSaveAs), "Strg+Umschalt+S");
+    EXPECT_EQ(shortcut(IDM_mnuColorDelColor), "Entf");
+    EXPECT_EQ(shortcut(IDM_mnuHlpShowReadme), "F1");
+    program->Run(IDM_mnuOptionsLngEnglish);
+    EXPECT_EQ(shortcut(IDM_mnuFileNew), "Ctrl+N");
+    EXPECT_EQ(shortcut(IDM_mnuFileSaveAs), "Ctrl+Shift+S");
+    EXPECT_EQ(shortcut(IDM_mnuColorDelColor), "Del");
+}
+
 TEST_F(LanguageSwitch, MessagesFollow) {
     Start();
     program->Run(IDM_mnuOptionsLngGerman);

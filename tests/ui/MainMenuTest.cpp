@@ -1,9 +1,11 @@
+#include "common/RuntimeError.h"
 #include "mainwindow/CommandTable.h"
 #include "platform/Utf16.h"
 #include "tests/ui/MainFormTest.h"
 
 #include <algorithm>
 #include <array>
+#include <map>
 
 namespace {
 
@@ -62,6 +64,32 @@ TEST_F(MainMenu, CaptionIsShownAtOnceAndKeepsTheShortcut) {
     EXPECT_EQ(Control("mnuFileSave")->Property("Caption"), "&Save");
     Control("mnuHlpAbout")->SetProperty("Caption", "&About ...");
     EXPECT_EQ(MenuText(bar, IDM_mnuHlpAbout), "&About ...");
+}
+
+TEST_F(MainMenu, EveryShortcutIsShownBuiltInInGerman) {
+    const HMENU bar = GetMenu(form.Handle());
+    std::map<int, std::string> found;
+    for (const MenuRow& row : kMenuRows) {
+        const std::string text = MenuText(bar, row.command);
+        if (text.find('\t') != std::string::npos)
+            found[row.command] = text.substr(text.find('\t') + 1);
+    }
+    const std::map<int, std::string> expected = {
+        {IDM_mnuFileNew, "Strg+N"},     {IDM_mnuFileOpen, "Strg+O"},
+        {IDM_mnuFileSave, "Strg+S"},    {IDM_mnuFileSaveAs, "Strg+Umschalt+S"},
+        {IDM_mnuColorDelColor, "Entf"}, {IDM_mnuColorCopy, "Strg+C"},
+        {IDM_mnuColorCut, "Strg+X"},    {IDM_mnuColorPaste, "Strg+V"},
+        {IDM_mnuHlpShowReadme, "F1"}};
+    EXPECT_EQ(found, expected);
+}
+
+TEST_F(MainMenu, NameOfAKeyIsShownAtOnceInEveryShortcutWithIt) {
+    const HMENU bar = GetMenu(form.Handle());
+    Control("keyCtrl")->SetProperty("Caption", "Ctrl");
+    EXPECT_TRUE(MenuText(bar, IDM_mnuFileSave).ends_with("\tCtrl+S"));
+    EXPECT_TRUE(MenuText(bar, IDM_mnuFileSaveAs).ends_with("\tCtrl+Umschalt+S"));
+    EXPECT_EQ(Control("keyCtrl")->Property("Caption"), "Ctrl");
+    EXPECT_THROW(Control("keyCtrl")->SetProperty("Text", "x"), RuntimeError);
 }
 
 TEST_F(MainMenu, TitleKeepsItsMenuWhenItsCaptionChanges) {

@@ -70,6 +70,7 @@ public:
         ++resized;
         layout.Resize();
     }
+    void ScaleChanged() override { layout.Apply(); }
     void Repainted() override { ++repainted; }
     void SplitterPressed() override {
         Note("splitter down");

@@ -112,6 +112,18 @@ TEST_F(MainScale, MaximisedWindowKeepsThePanesOfItsNormalSize) {
     EXPECT_EQ(SizeOf(IDC_lvColor).cx, list.cx);
 }
 
+TEST_F(MainScale, PanesTakeANewResolutionAlsoWhileMaximised) {
+    form.ShowWindow();
+    form.SetState(WindowState::Maximised);
+    const SIZE list = SizeOf(IDC_lvColor);
+    const SIZE tree = SizeOf(IDC_tvColor);
+    SendMessageW(form.Handle(), WM_DPICHANGED,
+                 MAKEWPARAM(2 * form.Scale().Dpi(), 2 * form.Scale().Dpi()), 0);
+    EXPECT_NEAR(SizeOf(IDC_lvColor).cx, 2 * list.cx, 1);
+    EXPECT_NEAR(SizeOf(IDC_lvColor).cy, 2 * list.cy, 1);
+    EXPECT_NEAR(SizeOf(IDC_tvColor).cx, 2 * tree.cx, 1);
+}
+
 TEST_F(MainScale, TopmostComesAndGoes) {
     form.ShowWindow();
     form.SetTopmost(true);

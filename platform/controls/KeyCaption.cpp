@@ -1,0 +1,20 @@
+#include "platform/controls/KeyCaption.h"
+
+namespace {
+
+constexpr const char* kCaption = "Caption";
+
+} // namespace
+
+std::string KeyCaption::Property(const std::string& property) const {
+    return property == kCaption ? caption_ : DesignComponent::Property(property);
+}
+
+void KeyCaption::SetProperty(const std::string& property, const std::string& text) {
+    if (property != kCaption)
+        DesignComponent::SetProperty(property, text);
+    if (text == caption_)
+        return;
+    caption_ = text;
+    onChange_(caption_);
+}
