@@ -21,8 +21,8 @@ Application::Application(const Platform& platform, const Windows& windows, const
           {platform.files, platform.codePage, platform.prompts, language_, windows.progressView}),
       fileCommands_(
           {library_, libraryFiles_, settings_, platform.prompts, language_, data.programFolder}),
-      solidWorks_({platform.automation, platform.prompts, language_, windows.progressView,
-                   platform.events, stopFlag_}),
+      solidWorks_({platform.automation, platform.retry, platform.prompts, language_,
+                   windows.progressView, platform.events, stopFlag_}),
       links_(platform.shell),
       banner_(links_, data.bannerAddresses, [this](int index) { ShowBanner(index); }),
       systemInformation_(

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/SettingsStore.h"
+#include "common/BusyRetry.h"
 #include "common/Settings.h"
 #include "common/ports/AnsiCodePage.h"
 #include "common/ports/AutomationObject.h"
@@ -49,6 +50,7 @@ public:
         Shell& shell;
         EventPump& events;
         AutomationService& automation;
+        BusyRetry& retry;           // repeats the automation calls
         clsMultiLanguage& language; // the one of the program; the forms' error sink speaks it too
         ErrorSink& errors;
     };

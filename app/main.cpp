@@ -72,7 +72,7 @@ int RunProgram() {
     frmProgress progress(mainWindow, errors, kProgressPatience);
 
     Application application(
-        {files, codePage, registry, prompts, clipboard, collation, shell, events, automation,
+        {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
          language, errors},
         {main, main, main, about, textViewer, progress, progress, progress},
         {programFolder, kVersion, BannerAddresses(files, bannerFolder, banners)});

@@ -1,5 +1,8 @@
 #include "common/BusyRetry.h"
 
+#include <chrono>
+#include <utility>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -9,18 +12,22 @@ constexpr std::chrono::milliseconds kPause = 200ms;
 
 } // namespace
 
-std::optional<std::chrono::milliseconds> PauseBeforeRetry(std::chrono::milliseconds elapsed) {
-    if (elapsed >= kPatience)
-        return std::nullopt;
-    return kPause;
-}
-
 void BusyRetry::RepeatWhileBusy(const std::function<bool()>& attempt) {
     const std::chrono::milliseconds start = clock_.Now();
     while (attempt()) {
-        const auto pause = PauseBeforeRetry(clock_.Now() - start);
-        if (!pause)
+        if (isStopped_ && isStopped_())
+            throw OperationStopped();
+        if (clock_.Now() - start >= kPatience)
             return;
-        clock_.Wait(*pause);
+        clock_.Wait(kPause);
     }
+}
+
+StoppableCalls::StoppableCalls(BusyRetry& retry, BusyRetry::StopQuestion isStopped)
+    : retry_(retry) {
+    retry_.isStopped_ = std::move(isStopped);
+}
+
+StoppableCalls::~StoppableCalls() {
+    retry_.isStopped_ = nullptr;
 }

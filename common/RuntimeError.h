@@ -8,6 +8,7 @@ namespace ErrorNumber {
 inline constexpr int Overflow = 6;
 inline constexpr int SubscriptOutOfRange = 9;
 inline constexpr int TypeMismatch = 13;
+inline constexpr int UserInterrupt = 18;
 inline constexpr int ObjectNotSet = 91;
 inline constexpr int Automation = 440;
 inline constexpr int ConnectionLost = 462; // the other program is gone, or busy to the end
@@ -35,3 +36,15 @@ private:
     int number_;
     std::string member_;
 };
+
+// Does the action; an error of it that names no member names this one.
+template <class Action>
+auto NamingMember(const std::string& member, Action action) {
+    try {
+        return action();
+    } catch (const RuntimeError& error) {
+        if (!error.Member().empty())
+            throw;
+        throw RuntimeError(error.Number(), error.Description(), member);
+    }
+}

@@ -192,4 +192,5 @@ public:
     virtual void BannerClicked() = 0;
     virtual void FilesDropped(const std::vector<std::string>& paths) = 0;
     virtual void WindowClosing() = 0; // close box
+    virtual void SessionEnding() = 0; // the user's session ends, and with it the process
 };

@@ -14,7 +14,7 @@ MainWindow::MainWindow(const Parts& parts)
                 parts.texts}),
       drag_({parts.view, parts.library.Tree(), editing_, parts.prompts, parts.texts}),
       solidWorks_({parts.solidWorks, parts.library, list_, panes_, editor_, parts.view,
-                   parts.prompts, parts.texts}),
+                   parts.prompts, parts.texts, endRequested_}),
       position_(parts.registry) {
     parts_.library.SetHost(panes_);
     parts_.library.Tree().Observe(&parts_.view);
@@ -73,10 +73,13 @@ void MainWindow::RunCommand(int command) {
         return;
     }
     views_.ShowPressedView();
-    if (command == IDM_mnuQuit) {
-        parts_.stopFlag = true;
-        afterOperation_ = handler->second;
-    }
+    if (command == IDM_mnuQuit)
+        EndAfterOperation();
+}
+
+void MainWindow::EndAfterOperation() {
+    parts_.stopFlag = true;
+    endRequested_ = true;
 }
 
 void MainWindow::AddFileHandlers() {
@@ -146,11 +149,11 @@ void MainWindow::RunSolidWorks(void (SolidWorksCommands::*handler)()) {
         (solidWorks_.*handler)();
     } catch (...) {
         // A user who has asked for the end meanwhile is not told what failed.
-        if (!afterOperation_)
+        if (!endRequested_)
             throw;
     }
-    if (const auto end = std::exchange(afterOperation_, nullptr))
-        end();
+    if (endRequested_)
+        parts_.quit();
 }
 
 void MainWindow::AddOptionAndHelpHandlers() {
@@ -177,6 +180,14 @@ void MainWindow::FilesDropped(const std::vector<std::string>& paths) {
 void MainWindow::WindowClosing() {
     position_.SaveForm();
     RunCommand(IDM_mnuQuit);
+}
+
+// The system may end the process as soon as this returns: nothing waits for an operation.
+void MainWindow::SessionEnding() {
+    position_.SaveForm();
+    if (operationRuns_)
+        EndAfterOperation();
+    parts_.quit();
 }
 
 void MainWindow::NodeClicked(const std::string& key) {

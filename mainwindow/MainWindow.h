@@ -96,6 +96,7 @@ public:
     void BannerClicked() override;
     void FilesDropped(const std::vector<std::string>& paths) override;
     void WindowClosing() override;
+    void SessionEnding() override;
 
     void ShowStatus(const std::string& text) override;
     void DeleteSelectedNode() override;
@@ -109,6 +110,7 @@ private:
     void AddOptionAndHelpHandlers();
     void AddSolidWorksHandler(int command, void (SolidWorksCommands::*handler)());
     void RunSolidWorks(void (SolidWorksCommands::*handler)());
+    void EndAfterOperation();
     void EditSelectedNode();
     void PlaceWindow();
     void ApplyLanguage();
@@ -125,5 +127,5 @@ private:
     CFormPos position_;
     std::map<int, Handler> handlers_; // by command number
     bool operationRuns_ = false;
-    std::function<void()> afterOperation_; // what was asked for while it ran: an end of the program
+    bool endRequested_ = false; // the user wants the program to end as soon as it is over
 };

@@ -32,6 +32,8 @@ constexpr std::array kRefusalTexts = {
 } // namespace
 
 void SolidWorksCommands::ShowMessage(const std::string& text) {
+    if (parts_.endRequested)
+        return;
     parts_.prompts.ShowMessage(text, MessageStyle::Information,
                                ProgramNames::SolidWorksMessageTitle);
 }

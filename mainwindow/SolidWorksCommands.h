@@ -26,6 +26,7 @@ public:
         BarsPane& bars;
         Prompts& prompts;
         InfoTexts& texts;
+        const bool& endRequested; // the program is about to end: nothing is told any more
     };
 
     explicit SolidWorksCommands(const Parts& parts) : parts_(parts) {}

@@ -118,7 +118,7 @@ MessageResult frmMain::OnMessage(const WindowMessage& message) {
         return 0;
     case WM_ENDSESSION: // the session ends without asking for the close box
         if (message.wParam != FALSE)
-            events_->WindowClosing();
+            events_->SessionEnding();
         return 0;
     default:
         return Form::OnMessage(message);

@@ -1,7 +1,5 @@
 #include "platform/BusyMessageFilter.h"
 
-#include "common/BusyRetry.h"
-
 #include <objbase.h>
 
 BusyMessageFilter::BusyMessageFilter() {
@@ -16,11 +14,8 @@ DWORD BusyMessageFilter::HandleInComingCall(DWORD, HTASK, DWORD, LPINTERFACEINFO
     return SERVERCALL_ISHANDLED;
 }
 
-// tickCount: milliseconds since the call was first made.  The answer is a pause in milliseconds
-// (100 or more), or -1: give up.
-DWORD BusyMessageFilter::RetryRejectedCall(HTASK, DWORD tickCount, DWORD) noexcept {
-    const auto pause = PauseBeforeRetry(std::chrono::milliseconds(tickCount));
-    return pause ? static_cast<DWORD>(pause->count()) : static_cast<DWORD>(-1);
+DWORD BusyMessageFilter::RetryRejectedCall(HTASK, DWORD, DWORD) noexcept {
+    return static_cast<DWORD>(-1); // returns to the caller at once
 }
 
 DWORD BusyMessageFilter::MessagePending(HTASK, DWORD, DWORD) noexcept {

@@ -5,8 +5,9 @@
 #include <wrl/client.h>
 
 // The calling thread's message filter for as long as this object lives (CoRegisterMessageFilter):
-// calls that a busy program rejects are repeated by the rules of common/BusyRetry.h, and during a
-// call windows are repainted but take no input.
+// during a call windows are repainted but take no input.  A call that a busy program rejects comes
+// back to its caller at once and is repeated there (BusyRetry), so that its time has one clock and
+// a user can stop it.
 class BusyMessageFilter : private IMessageFilter {
 public:
     BusyMessageFilter();

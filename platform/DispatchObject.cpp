@@ -33,53 +33,54 @@ AutomationValue DispatchObject::Invoke(const std::string& member,
                                        const AutomationArray& arguments) {
     std::vector<_variant_t> reversed(arguments.size());
     for (std::size_t i = 0; i < arguments.size(); ++i)
-        ToVariant(arguments[i], Unwrap, reversed[arguments.size() - 1 - i]);
+        NamingMember(member,
+                     [&] { ToVariant(arguments[i], Unwrap, reversed[arguments.size() - 1 - i]); });
     const DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
     return Call(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, parameters);
 }
 
 void DispatchObject::Put(const std::string& member, const AutomationValue& value) {
     _variant_t argument;
-    ToVariant(value, Unwrap, argument);
+    NamingMember(member, [&] { ToVariant(value, Unwrap, argument); });
     DISPID assigned = DISPID_PROPERTYPUT;
     static_cast<void>(Call(member, DISPATCH_PROPERTYPUT, {&argument, &assigned, 1, 1}));
 }
 
-DISPID DispatchObject::Resolve(const std::string& member) {
-    if (const auto known = members_.find(member); known != members_.end())
-        return known->second;
+HRESULT DispatchObject::Resolve(const std::string& member, DISPID& id) {
+    if (const auto known = members_.find(member); known != members_.end()) {
+        id = known->second;
+        return S_OK;
+    }
     std::wstring name = ToUtf16(member);
     LPOLESTR names = name.data();
-    DISPID id = DISPID_UNKNOWN;
-    ExceptionInfo none; // names are resolved without one
-    HRESULT result = S_OK;
-    retry_.RepeatWhileBusy([&] {
-        result = dispatch_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id);
-        return IsBusy(result);
-    });
-    if (FAILED(result))
-        ThrowCallFailed(result, none, member);
-    return members_.emplace(member, id).first->second;
+    const HRESULT result = dispatch_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id);
+    if (SUCCEEDED(result))
+        members_.emplace(member, id);
+    return result;
 }
 
 AutomationValue DispatchObject::Call(const std::string& member, WORD kind,
                                      const DISPPARAMS& parameters) {
-    const DISPID id = Resolve(member);
     DISPPARAMS passed = parameters; // the interface takes it without const
     VARIANT* noResult = nullptr;
     _variant_t answer;
     ExceptionInfo exception;
     UINT badArgument = 0;
+    DISPID id = DISPID_UNKNOWN;
     HRESULT result = S_OK;
     retry_.RepeatWhileBusy([&] {
-        result = dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &passed,
-                                   kind == DISPATCH_PROPERTYPUT ? noResult : &answer,
-                                   exception.Receive(), &badArgument);
+        result = Resolve(member, id);
+        if (SUCCEEDED(result))
+            result = dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &passed,
+                                       kind == DISPATCH_PROPERTYPUT ? noResult : &answer,
+                                       exception.Receive(), &badArgument);
         return IsBusy(result);
     });
     if (FAILED(result))
         ThrowCallFailed(result, exception, member);
-    return FromVariant(answer, [this](const DispatchPtr& dispatch) { return Wrap(dispatch); });
+    return NamingMember(member, [&] {
+        return FromVariant(answer, [this](const DispatchPtr& dispatch) { return Wrap(dispatch); });
+    });
 }
 
 AutomationObjectPtr DispatchObject::Wrap(const DispatchPtr& dispatch) const {

@@ -7,7 +7,8 @@
 #include <map>
 
 // A late-bound object of another program: IDispatch, called by name.  A name is resolved once per
-// object.  A call that the other side rejects because it is busy is repeated.
+// object.  A call that the other side rejects because it is busy is repeated; resolving its name is
+// part of it.
 class DispatchObject : public AutomationObject {
 public:
     // retry must outlive this object and every object that its members return.
@@ -17,7 +18,8 @@ public:
     void Put(const std::string& member, const AutomationValue& value) override;
 
 private:
-    [[nodiscard]] DISPID Resolve(const std::string& member);
+    // The member's number, asked for once.
+    [[nodiscard]] HRESULT Resolve(const std::string& member, DISPID& id);
     [[nodiscard]] AutomationValue Call(const std::string& member, WORD kind,
                                        const DISPPARAMS& parameters);
 

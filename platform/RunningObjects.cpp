@@ -4,14 +4,21 @@
 #include "platform/DispatchObject.h"
 #include "platform/Utf16.h"
 
+HRESULT RunningObjects::ActiveObject(const CLSID& classId, IUnknown** object) {
+    return GetActiveObject(classId, nullptr, object);
+}
+
+HRESULT RunningObjects::Attach(const CLSID& classId, IDispatch** dispatch) const {
+    Microsoft::WRL::ComPtr<IUnknown> running;
+    const HRESULT result = source_(classId, &running);
+    return FAILED(result) ? result : running->QueryInterface(IID_PPV_ARGS(dispatch));
+}
+
 AutomationObjectPtr RunningObjects::GetRunningObject(const std::string& className) {
     CLSID classId{};
     if (FAILED(CLSIDFromProgID(ToUtf16(className).c_str(), &classId)))
         return nullptr;
-    Microsoft::WRL::ComPtr<IUnknown> running;
-    if (FAILED(GetActiveObject(classId, nullptr, &running)))
-        return nullptr;
     DispatchPtr dispatch;
-    retry_.RepeatWhileBusy([&] { return IsBusy(running.As(&dispatch)); });
+    retry_.RepeatWhileBusy([&] { return IsBusy(Attach(classId, &dispatch)); });
     return dispatch ? std::make_shared<DispatchObject>(dispatch, retry_) : nullptr;
 }

@@ -18,7 +18,7 @@ constexpr const char* kNameOfReadColor = "Neuer Farbwert";
 
 // Asks one source of a colour.  A call that fails is a source without a usable array, unless
 // SolidWorks itself is gone.
-AutomationValue Probe(const std::function<AutomationValue()>& source) {
+AutomationAnswer Probe(const std::function<AutomationAnswer()>& source) {
     try {
         return source();
     } catch (const RuntimeError& error) {
@@ -28,33 +28,40 @@ AutomationValue Probe(const std::function<AutomationValue()>& source) {
     }
 }
 
-AutomationValue ColorOfFeature(const AutomationObjectPtr& feature, AutomationObject& document) {
-    AutomationValue array;
+AutomationAnswer ColorOfFeature(const AutomationObjectPtr& feature, AutomationObject& document) {
+    AutomationAnswer array;
     if (feature)
         array = Probe([&] { return feature->Get("GetMaterialPropertyValues"); });
     return ColorArray::IsUsable(array) ? array : Probe([&] { return document.Get(kValues); });
 }
 
-AutomationValue ColorOfFace(const AutomationObjectPtr& face, AutomationObject& document) {
+// Null when the face does not tell.
+AutomationObjectPtr FeatureOf(AutomationObject& face) {
+    const AutomationAnswer feature = Probe([&] { return face.Get("GetFeature"); });
+    const auto* object = std::get_if<AutomationObjectPtr>(&feature.data);
+    return object ? *object : nullptr;
+}
+
+AutomationAnswer ColorOfFace(const AutomationObjectPtr& face, AutomationObject& document) {
     if (!face)
         return ColorOfFeature(nullptr, document);
-    AutomationValue array = Probe([&] { return face->Get(kValues); });
+    AutomationAnswer array = Probe([&] { return face->Get(kValues); });
     if (ColorArray::IsUsable(array))
         return array;
-    const AutomationValue feature = Probe([&] { return face->Get("GetFeature").AsObject(); });
-    return ColorOfFeature(feature.AsObject(), document);
+    return ColorOfFeature(FeatureOf(*face), document);
 }
 
-AutomationValue ColorOfComponent(const AutomationObjectPtr& component, AutomationObject& document) {
+AutomationAnswer ColorOfComponent(const AutomationObjectPtr& component,
+                                  AutomationObject& document) {
     AutomationObject& asked = component ? *component : document;
-    AutomationValue array = Probe([&] { return asked.Get(kValues); });
+    AutomationAnswer array = Probe([&] { return asked.Get(kValues); });
     if (ColorArray::IsUsable(array) || !component)
         return array;
-    return Probe([&] { return RequiredObject(*component, "GetModelDoc")->Get(kValues); });
+    return Probe([&] { return RequiredObject(component->Get("GetModelDoc"))->Get(kValues); });
 }
 
-AutomationValue ColorOfSelected(std::int32_t type, const AutomationObjectPtr& object,
-                                AutomationObject& document) {
+AutomationAnswer ColorOfSelected(std::int32_t type, const AutomationObjectPtr& object,
+                                 AutomationObject& document) {
     switch (type) {
     case SelectionType::Face:
         return ColorOfFace(object, document);
@@ -70,8 +77,8 @@ bool CarriesColor(std::int32_t type) {
            type == SelectionType::BodyFeature;
 }
 
-void Fill(ColorRecord& color, const AutomationValue& array) {
-    color.values = ColorArray::ToValues(array);
+void Fill(ColorRecord& color, const AutomationAnswer& array) {
+    color.values = NamingMember(array.Member(), [&] { return ColorArray::ToValues(array); });
     color.name = kNameOfReadColor;
 }
 
@@ -122,7 +129,7 @@ std::string modSldTools::SWXGetColor(ColorRecord& color) {
     const std::int32_t type = selection.TypeAt(1);
     if (!CarriesColor(type))
         return ResultKey::NoValidSelection + std::to_string(type);
-    const AutomationValue array = ColorOfSelected(type, object, session.Document());
+    const AutomationAnswer array = ColorOfSelected(type, object, session.Document());
     if (!ColorArray::IsUsable(array))
         return ResultKey::NoColorValueFound + std::to_string(type);
     Fill(color, array);

@@ -42,27 +42,27 @@ bool SolidWorksSession::HasRequiredRevision() const {
 }
 
 SolidWorksSelection::SolidWorksSelection(AutomationObject& document)
-    : manager_(RequiredObject(document, "SelectionManager")) {}
+    : manager_(RequiredObject(document.Get("SelectionManager"))) {}
 
 std::int32_t SolidWorksSelection::Count() const {
     return manager_->Get("GetSelectedObjectCount").AsInt32();
 }
 
 AutomationObjectPtr SolidWorksSelection::ObjectAt(std::int32_t index) const {
-    return manager_->Invoke("GetSelectedObject3", {index}).AsObject();
+    return manager_->Get("GetSelectedObject3", {index}).AsObject();
 }
 
 std::int32_t SolidWorksSelection::TypeAt(std::int32_t index) const {
-    return manager_->Invoke("GetSelectedObjectType2", {index}).AsInt32();
+    return manager_->Get("GetSelectedObjectType2", {index}).AsInt32();
 }
 
 AutomationObjectPtr SolidWorksSelection::ComponentAt(std::int32_t index) const {
-    return manager_->Invoke("GetSelectedObjectsComponent", {index}).AsObject();
+    return manager_->Get("GetSelectedObjectsComponent", {index}).AsObject();
 }
 
-AutomationObjectPtr RequiredObject(AutomationObject& object, const std::string& member) {
-    AutomationObjectPtr result = object.Get(member).AsObject();
-    if (!result)
-        throw RuntimeError(ErrorNumber::ObjectNotSet, "SolidWorks gave no object", member);
-    return result;
+AutomationObjectPtr RequiredObject(const AutomationAnswer& answer) {
+    AutomationObjectPtr object = answer.AsObject();
+    if (!object)
+        throw RuntimeError(ErrorNumber::ObjectNotSet, "SolidWorks gave no object", answer.Member());
+    return object;
 }

@@ -63,6 +63,5 @@ private:
     AutomationObjectPtr manager_;
 };
 
-// The object that a member gives.  Throws RuntimeError when it gives none.
-[[nodiscard]] AutomationObjectPtr RequiredObject(AutomationObject& object,
-                                                 const std::string& member);
+// The object that a member gave.  Throws RuntimeError when it gave none.
+[[nodiscard]] AutomationObjectPtr RequiredObject(const AutomationAnswer& answer);

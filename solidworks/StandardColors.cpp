@@ -6,17 +6,28 @@
 #include "solidworks/SolidWorksSession.h"
 #include "solidworks/modSldTools.h"
 
+#include <limits>
+
 // The document's table of named standard colours.
 
 namespace {
 
 constexpr const char* kQuestionTitle = "TNT4SWX";
 
+// A number of 32 bits, with or without a sign.
+ColorNumber ReadColorNumber(const AutomationAnswer& answer) {
+    const double number = answer.AsDouble();
+    if (!(number >= std::numeric_limits<std::int32_t>::min() &&
+          number <= std::numeric_limits<ColorNumber>::max()))
+        throw RuntimeError(ErrorNumber::Overflow, "Overflow", answer.Member());
+    return static_cast<ColorNumber>(static_cast<std::int64_t>(number));
+}
+
 ColorRecord ReadEntry(AutomationObject& table, std::int32_t index) {
     ColorRecord color;
-    color.name = table.Invoke("GetNameAtIndex", {index}).AsString();
-    const RedGreenBlue parts = SplitColorNumber(static_cast<ColorNumber>(
-        static_cast<std::int64_t>(table.Invoke("GetColorRefAtIndex", {index}).AsDouble())));
+    color.name = table.Get("GetNameAtIndex", {index}).AsString();
+    const RedGreenBlue parts =
+        SplitColorNumber(ReadColorNumber(table.Get("GetColorRefAtIndex", {index})));
     color.values[0] = static_cast<std::int16_t>(parts.red);
     color.values[1] = static_cast<std::int16_t>(parts.green);
     color.values[2] = static_cast<std::int16_t>(parts.blue);
@@ -34,7 +45,7 @@ std::string modSldTools::SWXGetStandardColors(std::vector<ColorRecord>& colors) 
     SolidWorksSession session(ports_.service);
     if (std::string refusal = session.TakeDocument(DocumentDemand::Any); !refusal.empty())
         return refusal;
-    const AutomationObjectPtr table = RequiredObject(session.Document(), "GetColorTable");
+    const AutomationObjectPtr table = RequiredObject(session.Document().Get("GetColorTable"));
     const std::int32_t count = table->Get("GetStandardCount").AsInt32();
     colors.clear();
     for (std::int32_t index = 0; index < count; ++index)
@@ -46,13 +57,13 @@ std::string modSldTools::SWXSetStandardColors(const std::vector<ColorRecord>& co
     SolidWorksSession session(ports_.service);
     if (std::string refusal = session.TakeDocument(DocumentDemand::Any); !refusal.empty())
         return refusal;
-    const AutomationObjectPtr table = RequiredObject(session.Document(), "GetColorTable");
+    const AutomationObjectPtr table = RequiredObject(session.Document().Get("GetColorTable"));
     const std::int32_t count = table->Get("GetStandardCount").AsInt32();
     if (count != static_cast<std::int32_t>(colors.size()) &&
         !AskContinue(InfoTextNumber::StandardColorsDifferInSize))
         return ResultKey::NoValidColorScheme;
     for (std::int32_t index = 0; index < count; ++index) {
-        const std::string name = table->Invoke("GetNameAtIndex", {index}).AsString();
+        const std::string name = table->Get("GetNameAtIndex", {index}).AsString();
         if (static_cast<std::size_t>(index) >= colors.size())
             throw RuntimeError(ErrorNumber::SubscriptOutOfRange, "Subscript out of range");
         const ColorRecord& color = colors[static_cast<std::size_t>(index)];

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/BusyRetry.h"
 #include "common/ColorRecord.h"
 #include "common/ports/AutomationObject.h"
 #include "common/ports/EventPump.h"
@@ -7,6 +8,7 @@
 #include "common/ports/ProgressView.h"
 #include "common/ports/Prompts.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,6 +23,7 @@ class modSldTools {
 public:
     struct Ports {
         AutomationService& service;
+        BusyRetry& retry; // repeats the service's calls
         Prompts& prompts;
         InfoTexts& texts;
         ProgressView& progress;
@@ -65,8 +68,8 @@ private:
     void ClearComponent(const SolidWorksSession& session, AutomationObject& component,
                         std::string& report);
     // Each false when the user stopped the walk.
-    bool ClearFeatures(AutomationObject& document, WalkProgress& walk);
-    bool ClearFaces(AutomationObject& document, AutomationObject& body, WalkProgress& walk);
+    bool Walk(std::int32_t labelText, std::int32_t maximum,
+              const std::function<void(WalkProgress&)>& items);
     bool ClearChildren(AutomationObject& root);
     bool AskContinue(std::int32_t textNumber);
 

@@ -45,6 +45,27 @@ struct AutomationValue {
     [[nodiscard]] AutomationObjectPtr AsObject() const;
 };
 
+// What a member answered.  An answer of another kind than is asked for is an error that names the
+// member.
+class AutomationAnswer : public AutomationValue {
+public:
+    AutomationAnswer() = default;
+    AutomationAnswer(AutomationValue value, std::string member)
+        : AutomationValue(std::move(value)), member_(std::move(member)) {}
+
+    [[nodiscard]] const std::string& Member() const noexcept { return member_; }
+
+    // As those of AutomationValue.
+    [[nodiscard]] double AsDouble() const;
+    [[nodiscard]] std::int32_t AsInt32() const;
+    [[nodiscard]] std::string AsString() const;
+    [[nodiscard]] bool AsBoolean() const;
+    [[nodiscard]] AutomationObjectPtr AsObject() const;
+
+private:
+    std::string member_;
+};
+
 // One late-bound object.  Members are called by name; a name is resolved at most once per object.
 // A failing call throws RuntimeError with the member's name and the other side's own words.
 class AutomationObject {
@@ -57,7 +78,10 @@ public:
     // Assigns a property.
     virtual void Put(const std::string& member, const AutomationValue& value) = 0;
 
-    AutomationValue Get(const std::string& member) { return Invoke(member, {}); }
+    // As Invoke; for an answer that is looked at.
+    AutomationAnswer Get(const std::string& member, const AutomationArray& arguments = {}) {
+        return {Invoke(member, arguments), member};
+    }
 };
 
 // The platform's service that gets an existing automation object.

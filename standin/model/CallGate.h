@@ -30,6 +30,9 @@ public:
     // Removes all faults, brings an ended server back and counts the calls from 1 again.
     void ClearFaults() noexcept;
 
+    // Whether it was told to die and was not brought back.
+    [[nodiscard]] bool IsDead() const noexcept { return dead_; }
+
     // What "die" does, for example ending the process.  Without one every later call fails.
     void SetDieHandler(DieHandler handler) { dieHandler_ = std::move(handler); }
 

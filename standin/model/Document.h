@@ -43,6 +43,7 @@ public:
     void ClearSelection();
 
     [[nodiscard]] const StandardColorTable& Colors() const noexcept { return *colorTable_; }
+    [[nodiscard]] StandardColorTable& Colors() noexcept { return *colorTable_; }
     // How often EditRebuild was called.
     [[nodiscard]] int RebuildCount() const noexcept { return rebuildCount_; }
 

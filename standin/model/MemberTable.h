@@ -44,14 +44,14 @@ public:
                                "Wrong number of arguments: " + std::to_string(arguments.size()) +
                                    " instead of " + std::to_string(member.argumentCount),
                                name);
-        return Named(name, [&] { return member.read(object, arguments); });
+        return NamingMember(name, [&] { return member.read(object, arguments); });
     }
 
     void Put(Object& object, const std::string& name, const AutomationValue& value) const {
         const Member<Object>& member = Require(name);
         if (!member.write)
             throw RuntimeError(ErrorNumber::NoSuchMember, "This member cannot be assigned", name);
-        Named(name, [&] { member.write(object, value); });
+        NamingMember(name, [&] { member.write(object, value); });
     }
 
     [[nodiscard]] std::optional<std::string> Find(const std::string& name) const {
@@ -70,16 +70,6 @@ private:
             throw RuntimeError(ErrorNumber::NoSuchMember,
                                "The object has no property or method of this name", name);
         return *found;
-    }
-
-    template <class Action>
-    static auto Named(const std::string& name, Action action) {
-        try {
-            return action();
-        } catch (const RuntimeError& error) {
-            throw RuntimeError(error.Number(), error.Description(),
-                               error.Member().empty() ? name : error.Member());
-        }
     }
 
     std::vector<Member<Object>> members_;

@@ -141,6 +141,10 @@ SampleDocuments MakeSampleDocuments(const SessionPtr& session, const Scenario& s
         AddSampleComponents(session, documents);
     if (!scenario.colorsSet)
         RemoveAllColors(documents);
+    if (scenario.standardColors)
+        for (Document* document : {static_cast<Document*>(documents.part.get()),
+                                   static_cast<Document*>(documents.assembly.get())})
+            document->Colors().Replace(GeneratedColors(*scenario.standardColors));
     if (!scenario.rootInAssembly)
         documents.assembly->RemoveRoot();
     return documents;

@@ -59,6 +59,8 @@ void ApplySize(const std::string& word, Scenario& scenario) {
     } else if (name == "components") {
         scenario.components = count;
         scenario.active = DocumentType::Assembly;
+    } else if (name == "standard-colors") {
+        scenario.standardColors = count;
     } else {
         ThrowUnknown(word);
     }

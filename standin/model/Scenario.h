@@ -18,10 +18,11 @@ struct Scenario {
     std::optional<std::size_t> faces;
     std::optional<std::size_t> features;
     std::optional<std::size_t> components;
+    std::optional<std::size_t> standardColors; // generated tables of this size
 };
 
 // Changes the scenario as the words of `text` say, which are separated by commas: "default",
 // "assembly", "no-document", "drawing", "old-revision", "empty-assembly", "no-root",
-// "part-without-body", "no-colors", "faces=N", "features=N", "components=N".  Throws RuntimeError
-// InvalidPropertyValue for any other word.
+// "part-without-body", "no-colors", "faces=N", "features=N", "components=N", "standard-colors=N".
+// Throws RuntimeError InvalidPropertyValue for any other word.
 void ApplyScenario(const std::string& text, Scenario& scenario);

@@ -8,11 +8,11 @@ class StandInService final : public AutomationService {
 public:
     explicit StandInService(StandInModel& model) : model_(model) {}
 
-    // Not running: attaching fails.
+    // Not running: attaching fails, as it does when the stand-in was told to die.
     void SetRunning(bool running) noexcept { running_ = running; }
 
     [[nodiscard]] AutomationObjectPtr GetRunningObject(const std::string& className) override {
-        if (!running_ || className != ProgramNames::SolidWorksClass)
+        if (!running_ || model_.Gate().IsDead() || className != ProgramNames::SolidWorksClass)
             return nullptr;
         return model_.ApplicationObject();
     }

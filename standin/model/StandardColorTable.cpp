@@ -10,6 +10,11 @@ NamedColor& StandardColorTable::At(const AutomationValue& index) {
     return colors_[static_cast<std::size_t>(number)];
 }
 
+void StandardColorTable::Replace(std::vector<NamedColor> colors) {
+    colors_ = std::move(colors);
+    session_->events.Changed();
+}
+
 const MemberTable<StandardColorTable>& StandardColorTable::Members() const {
     using Arguments = AutomationArray;
     static const MemberTable<StandardColorTable> members{
@@ -53,4 +58,13 @@ std::vector<NamedColor> StandardColors() {
         {"Light grey", MakeColorNumber(208, 210, 212)},
         {"Graphite", MakeColorNumber(58, 62, 68)},
     };
+}
+
+std::vector<NamedColor> GeneratedColors(std::size_t count) {
+    constexpr ColorNumber step = 0x010307; // any odd one: no two of 2^24 colours are the same
+    std::vector<NamedColor> colors;
+    for (std::size_t i = 1; i <= count; ++i)
+        colors.push_back({"Color " + std::to_string(i),
+                          static_cast<ColorNumber>(i * step) & ColorNumber{0xFFFFFF}});
+    return colors;
 }

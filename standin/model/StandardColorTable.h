@@ -20,6 +20,8 @@ public:
 
     [[nodiscard]] const std::vector<NamedColor>& Colors() const noexcept { return colors_; }
 
+    void Replace(std::vector<NamedColor> colors);
+
     [[nodiscard]] std::string Label() const override { return "color table"; }
     [[nodiscard]] const MemberTable<StandardColorTable>& Members() const;
 
@@ -32,3 +34,6 @@ private:
 
 // The twelve colours with which every document starts.
 [[nodiscard]] std::vector<NamedColor> StandardColors();
+
+// "Color 1", "Color 2", ... in different colours.
+[[nodiscard]] std::vector<NamedColor> GeneratedColors(std::size_t count);

@@ -49,13 +49,33 @@ TEST(BusyRetry, ErrorOfTheCallIsPassedOn) {
     EXPECT_THROW(BusyRetry(clock).RepeatWhileBusy([]() -> bool { throw 1; }), int);
 }
 
-// The platform's message filter takes a pause below 100 milliseconds for "at once".
-TEST(PauseBeforeRetry, IsAtLeastATenthOfASecond) {
-    EXPECT_GE(PauseBeforeRetry(0ms).value(), 100ms);
-    EXPECT_GE(PauseBeforeRetry(29999ms).value(), 100ms);
+TEST(BusyRetry, UserCanStopWaitingAfterEveryRejection) {
+    FakeWaitingClock clock;
+    BusyRetry retry(clock);
+    int attempts = 0;
+    const StoppableCalls stoppable(retry, [&] { return attempts == 3; });
+    EXPECT_THROW(retry.RepeatWhileBusy([&] {
+        ++attempts;
+        return true;
+    }),
+                 OperationStopped);
+    EXPECT_EQ(attempts, 3);
+    EXPECT_EQ(clock.waits.size(), 2U);
 }
 
-TEST(PauseBeforeRetry, EndsWithTheThirtiethSecond) {
-    EXPECT_TRUE(PauseBeforeRetry(29999ms));
-    EXPECT_FALSE(PauseBeforeRetry(30s));
+TEST(BusyRetry, CallThatIsTakenDoesNotAskWhetherItIsStopped) {
+    FakeWaitingClock clock;
+    BusyRetry retry(clock);
+    const StoppableCalls stoppable(retry, [] { return true; });
+    EXPECT_NO_THROW(retry.RepeatWhileBusy([] { return false; }));
+}
+
+TEST(BusyRetry, StopHoldsOnlyWhileTheCallsAreStoppable) {
+    FakeWaitingClock clock;
+    BusyRetry retry(clock);
+    {
+        const StoppableCalls stoppable(retry, [] { return true; });
+    }
+    int attempts = 0;
+    EXPECT_NO_THROW(retry.RepeatWhileBusy([&] { return ++attempts < 2; }));
 }

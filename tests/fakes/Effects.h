@@ -137,8 +137,8 @@ public:
     clsMultiLanguage language{rest.profile, files, rest.codePage};
     ErrorReporter errors{rest.prompts, language};
     Application application{{files, rest.codePage, registry, rest.prompts, rest.clipboard,
-                             rest.collation, rest.shell, rest.events, rest.service, language,
-                             errors},
+                             rest.collation, rest.shell, rest.events, rest.service, rest.retry,
+                             language, errors},
                             {view, window, form, rest.about, rest.textViewer, rest.progress,
                              rest.progressWindow, rest.progressForm},
                             {"C:\\prog", "1.2.7", {"https://www.example.org/1"}}};

@@ -15,6 +15,8 @@
 #include "tests/fakes/FakePrompts.h"
 #include "tests/fakes/FakeRegistry.h"
 #include "tests/fakes/FakeShell.h"
+#include "tests/fakes/FakeWaitingClock.h"
+#include "tests/fakes/RetryingService.h"
 
 #include <memory>
 #include <string>
@@ -70,7 +72,10 @@ public:
 // file of both languages is there: its message texts are their numbers in angle brackets.
 class FakeProgram {
 public:
-    explicit FakeProgram(const std::string& scenario = "default") : solidWorks(scenario) {
+    // running: gets the running SolidWorks instead of the model.
+    explicit FakeProgram(const std::string& scenario = "default",
+                         AutomationService* running = nullptr)
+        : solidWorks(scenario), automation(running ? *running : retryingService) {
         files.contents["C:\\prog\\tntlng_de.ini"] = "";
         files.contents["C:\\prog\\tntlng_us.ini"] = "";
         for (int number = 0; number <= 110; ++number)
@@ -100,6 +105,10 @@ public:
     FakeCodePage codePage = FakeCodePage::Western();
     StandInModel solidWorks;
     StandInService service{solidWorks};
+    FakeWaitingClock clock;
+    BusyRetry retry{clock};
+    RetryingService retryingService{service, retry};
+    AutomationService& automation;
     FakeMainView view;
     FakeFormWindow mainWindow;
     FakeForm mainForm{"frmMain"};
@@ -110,8 +119,8 @@ public:
     clsMultiLanguage language{profile, files, codePage};
     ErrorReporter errors{prompts, language};
     Application application{
-        {files, codePage, registry, prompts, clipboard, collation, shell, events, service, language,
-         errors},
+        {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
+         language, errors},
         {view, mainWindow, mainForm, about, textViewer, progress, progressWindow, progressForm},
         {"C:\\prog",
          "1.2.7",

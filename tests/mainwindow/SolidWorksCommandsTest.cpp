@@ -28,6 +28,12 @@ protected:
         program->Main().ValueTextChanged(index, text);
     }
     [[nodiscard]] StandInClient Client() const { return StandInClient(program->solidWorks); }
+    // A library that is marked as changed has no file: Save asks for one.
+    [[nodiscard]] bool IsMarkedAsChanged() {
+        program->prompts.fileRequests.clear();
+        Run(IDM_mnuFileSave);
+        return !program->prompts.fileRequests.empty();
+    }
     [[nodiscard]] std::vector<double> ColorOf(const AutomationObjectPtr& object) const {
         return std::get<std::vector<double>>(object->Get("MaterialPropertyValues").data);
     }
@@ -36,6 +42,7 @@ protected:
 };
 
 const std::vector<int> kAllCommands = {IDM_mnuSWXGetColor,
+                                       IDM_mnuSWXNewColorUpdate,
                                        IDM_mnuSWXSetColor,
                                        IDM_mnuSWXSetColorComponent,
                                        IDM_mnuSWXClearColorFromSelection,
@@ -86,6 +93,80 @@ TEST_F(SolidWorksCommandsTest, ComponentAndAssemblyCommandsShowTextTenWithAPart)
         Run(command);
         EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<10>", 64, kTitle}}));
     }
+}
+
+TEST_F(SolidWorksCommandsTest, DrawingIsNeitherAPartNorAnAssembly) {
+    Start("drawing");
+    for (const auto& [command, text] :
+         {std::pair{IDM_mnuSWXNewColorUpdate, "<2>"}, std::pair{IDM_mnuSWXClearColorPart, "<9>"},
+          std::pair{IDM_mnuSWXSetColorComponent, "<10>"},
+          std::pair{IDM_mnuSWXClearComponentColorFromSelection, "<10>"},
+          std::pair{IDM_mnuSWXClearColorAssembly, "<10>"}}) {
+        program->prompts.messages.clear();
+        Run(command);
+        EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{text, 64, kTitle}})) << command;
+    }
+}
+
+TEST_F(SolidWorksCommandsTest, PartWithoutABodyIsToldByItsKey) {
+    Start("part-without-body");
+    Run(IDM_mnuSWXClearColorPart);
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"NoPartBody", 64, kTitle}}));
+    EXPECT_EQ(program->view.infoPanel, "");
+}
+
+TEST_F(SolidWorksCommandsTest, SelectionThatCannotBeHandledIsToldAsItStands) {
+    program->solidWorks.Part().Edges().front()->Select(false);
+    for (const int command : {IDM_mnuSWXSetColor, IDM_mnuSWXClearColorFromSelection}) {
+        program->prompts.messages.clear();
+        Run(command);
+        EXPECT_EQ(program->prompts.messages,
+                  (std::vector<Message>{{"\r\nNoValidSelection: 1", 64, kTitle}}));
+    }
+    EXPECT_EQ(program->view.infoPanel, "");
+}
+
+TEST_F(SolidWorksCommandsTest, OldRevisionIsToldOncePerComponentInOneMessage) {
+    Start("assembly,old-revision");
+    Select(Client().Child(0));
+    Select(Client().Child(1), true);
+    for (const int command :
+         {IDM_mnuSWXClearColorFromSelection, IDM_mnuSWXClearComponentColorFromSelection}) {
+        program->prompts.messages.clear();
+        Run(command);
+        EXPECT_EQ(program->prompts.messages,
+                  (std::vector<Message>{{"\r\n<8>\r\n<8>", 64, kTitle}}));
+    }
+}
+
+TEST_F(SolidWorksCommandsTest, EverySuccessfulChangeShowsTheSameStatusInBothLanguages) {
+    for (const int language : {IDM_mnuOptionsLngGerman, IDM_mnuOptionsLngEnglish}) {
+        Run(language);
+        program->solidWorks.Activate(DocumentType::Part);
+        for (const int command :
+             {IDM_mnuSWXSetColor, IDM_mnuSWXClearColorFromSelection, IDM_mnuSWXClearColorPart}) {
+            program->view.infoPanel.clear();
+            Run(command);
+            EXPECT_EQ(program->view.infoPanel, "Okay setzen in SolidWorks") << command;
+        }
+        program->solidWorks.Activate(DocumentType::Assembly);
+        for (const int command :
+             {IDM_mnuSWXSetColorComponent, IDM_mnuSWXClearComponentColorFromSelection,
+              IDM_mnuSWXClearColorAssembly}) {
+            program->view.infoPanel.clear();
+            Run(command);
+            EXPECT_EQ(program->view.infoPanel, "Okay setzen in SolidWorks") << command;
+        }
+    }
+    EXPECT_TRUE(program->prompts.messages.empty());
+}
+
+TEST_F(SolidWorksCommandsTest, ReadingAColorAndTheStandardColorsShowNoStatus) {
+    for (const int command : {IDM_mnuSWXGetColor, IDM_mnuSWXNewColorUpdate,
+                              IDM_mnuSWXGetStandardColor, IDM_mnuSWXSetStandardColor})
+        Run(command);
+    EXPECT_EQ(program->view.infoPanel, "");
+    EXPECT_TRUE(program->prompts.messages.empty());
 }
 
 TEST_F(SolidWorksCommandsTest, PartCommandShowsTextNineWithAnAssembly) {
@@ -172,6 +253,112 @@ TEST_F(SolidWorksCommandsTest, StandardColorsBecomeAGroupWithRisingEmission) {
     ASSERT_EQ(program->view.rowCount, 12);
     EXPECT_EQ(program->Main().CellText(0, 10), "10");
     EXPECT_EQ(program->Main().CellText(11, 10), "21");
+}
+
+TEST_F(SolidWorksCommandsTest, StandardColorsTakeNameAndColorFromTheTableAndTheRestFromTheEditor) {
+    const std::vector<std::string> texts{"1", "2", "3", "11", "22", "33", "44", "55", "66"};
+    for (std::size_t index = 0; index < texts.size(); ++index)
+        TypeValue(index, texts[index]);
+    program->solidWorks.Part().Colors().Replace({{"Sky", 0xFF8040}});
+    Run(IDM_mnuSWXGetStandardColor);
+    ASSERT_EQ(program->view.rowCount, 1);
+    EXPECT_EQ(program->Main().CellText(0, 1), "Sky");
+    const std::vector<std::string> expected{"64", "128", "255", "11", "22", "33", "44", "55", "10"};
+    for (int value = 0; value < 9; ++value)
+        EXPECT_EQ(program->Main().CellText(0, value + 2), expected[static_cast<std::size_t>(value)])
+            << value;
+    EXPECT_EQ(program->view.colorName, "Sky");
+    EXPECT_EQ(program->view.valueTexts[8], "10");
+}
+
+TEST_F(SolidWorksCommandsTest, EmissionOfStandardColorsEndsAtAHundred) {
+    Start("standard-colors=95");
+    Run(IDM_mnuSWXGetStandardColor);
+    ASSERT_EQ(program->view.rowCount, 95);
+    EXPECT_EQ(program->Main().CellText(89, 10), "99");
+    EXPECT_EQ(program->Main().CellText(90, 10), "100");
+    EXPECT_EQ(program->Main().CellText(91, 10), "100");
+    EXPECT_EQ(program->Main().CellText(94, 10), "100");
+}
+
+TEST_F(SolidWorksCommandsTest, StandardColorsMarkTheLibraryOfTheSelectedNodeAsChanged) {
+    program->Main().NodeClicked("0DG1");
+    ASSERT_FALSE(IsMarkedAsChanged());
+    Run(IDM_mnuSWXGetStandardColor);
+    EXPECT_TRUE(IsMarkedAsChanged());
+    EXPECT_TRUE(program->view.nodes.contains("0DG2"));
+}
+
+TEST_F(SolidWorksCommandsTest, StandardColorsWithoutALibraryMakeOneFirst) {
+    Run(IDM_mnuColorDelMainNode);
+    ASSERT_TRUE(program->view.nodes.empty());
+    program->prompts.typed = {"Made", ""}; // its name, and no first group
+    Run(IDM_mnuSWXGetStandardColor);
+    ASSERT_EQ(program->view.nodes.size(), 2U);
+    EXPECT_EQ(program->view.nodes.begin()->second, "Made");
+    EXPECT_EQ(program->view.rowCount, 12);
+}
+
+TEST_F(SolidWorksCommandsTest, StandardColorsWithoutALibraryAndWithoutANameChangeNothing) {
+    Run(IDM_mnuColorDelMainNode);
+    Run(IDM_mnuSWXGetStandardColor); // the question for a name is cancelled
+    EXPECT_TRUE(program->view.nodes.empty());
+    EXPECT_EQ(program->view.rowCount, 0);
+}
+
+TEST_F(SolidWorksCommandsTest, EmptyTableGivesAnEmptyGroup) {
+    Start("standard-colors=0");
+    Run(IDM_mnuSWXGetStandardColor);
+    EXPECT_EQ(program->view.nodes.at("0DG2"), "<70>");
+    EXPECT_EQ(program->view.selectedNode, "0DG2");
+    EXPECT_EQ(program->view.rowCount, 0);
+}
+
+TEST_F(SolidWorksCommandsTest, StandardColorsAreSetInTheOrderOfTheList) {
+    program->solidWorks.Part().Colors().Replace({{"a", 1}, {"b", 2}});
+    Run(IDM_mnuSWXGetStandardColor);
+    program->Main().ColumnClicked(1); // by name, the first click descending
+    ASSERT_EQ(program->Main().CellText(0, 1), "b");
+    Run(IDM_mnuSWXSetStandardColor);
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<73>\r\n<74>", 65, "TNT4SWX"},
+                                                               {"<73>\r\n<74>", 65, "TNT4SWX"}}));
+}
+
+TEST_F(SolidWorksCommandsTest, RenamedStandardColorIsAskedOnceAndTheOthersAreWritten) {
+    Run(IDM_mnuSWXGetStandardColor);
+    program->Main().RowLabelEdited(3, "My green");
+    std::vector<NamedColor> black = program->solidWorks.Part().Colors().Colors();
+    for (NamedColor& entry : black)
+        entry.color = 0;
+    program->solidWorks.Part().Colors().Replace(black);
+    Run(IDM_mnuSWXSetStandardColor);
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<73>\r\n<74>", 65, "TNT4SWX"}}));
+    const std::vector<NamedColor>& written = program->solidWorks.Part().Colors().Colors();
+    for (std::size_t index = 0; index < written.size(); ++index)
+        EXPECT_EQ(written[index].color == 0, index == 3) << index;
+}
+
+TEST_F(SolidWorksCommandsTest, CancelledQuestionOfTheStandardColorsIsNotFollowedByAMessage) {
+    Run(IDM_mnuSWXGetStandardColor);
+    program->Main().RowLabelEdited(0, "other");
+    program->prompts.answers = {Answer::Cancel};
+    Run(IDM_mnuSWXSetStandardColor);
+    EXPECT_EQ(program->prompts.messages.size(), 1U);
+    program->prompts.messages.clear();
+    program->Main().NodeClicked("0DG1"); // a group without colours
+    program->prompts.answers = {Answer::Cancel};
+    Run(IDM_mnuSWXSetStandardColor);
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<72>\r\n<74>", 65, "TNT4SWX"}}));
+}
+
+TEST_F(SolidWorksCommandsTest, SmallerGroupWritesItsEntriesAndThenReportsAnError) {
+    program->solidWorks.Part().Colors().Replace({{"a", 1}});
+    Run(IDM_mnuSWXGetStandardColor);
+    program->solidWorks.Part().Colors().Replace({{"a", 7}, {"b", 7}});
+    EXPECT_EQ(ErrorNumberOf([&] { Run(IDM_mnuSWXSetStandardColor); }),
+              ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(program->solidWorks.Part().Colors().Colors()[0].color, 1U);
+    EXPECT_EQ(program->solidWorks.Part().Colors().Colors()[1].color, 7U);
 }
 
 TEST_F(SolidWorksCommandsTest, StandardColorsSetWithoutEditsAreWrittenBackUnchanged) {
@@ -275,16 +462,80 @@ TEST_F(SolidWorksCommandsTest, QuitDuringACallThatFailsEndsTheProgramWithoutAMes
     program->solidWorks.Log().SetListener(nullptr);
 }
 
-TEST_F(SolidWorksCommandsTest, QuitDuringAWalkStopsItFirst) {
+TEST_F(SolidWorksCommandsTest, QuitDuringAWalkStopsItFirstAndEndsWithoutAMessage) {
+    for (const auto& [scenario, command] : {std::pair{"default", IDM_mnuSWXClearColorPart},
+                                            std::pair{"assembly", IDM_mnuSWXClearColorAssembly}}) {
+        Start(scenario);
+        bool endedDuringWalk = false;
+        program->events.onEvents = [&] {
+            Run(IDM_mnuQuit);
+            endedDuringWalk = program->view.isEnded;
+        };
+        Run(command);
+        EXPECT_FALSE(endedDuringWalk);
+        EXPECT_EQ(program->events.count, 1);
+        EXPECT_TRUE(program->view.isEnded);
+        EXPECT_TRUE(program->prompts.messages.empty());
+        EXPECT_FALSE(program->progress.isShown);
+        EXPECT_EQ(program->solidWorks.Gate().LiveObjects(), 0U);
+    }
+}
+
+TEST_F(SolidWorksCommandsTest, CloseBoxDuringAWalkEndsTheProgramToo) {
+    program->events.onEvents = [&] { program->Main().WindowClosing(); };
+    Run(IDM_mnuSWXClearColorPart);
+    EXPECT_TRUE(program->view.isEnded);
+    EXPECT_TRUE(program->prompts.messages.empty());
+}
+
+TEST_F(SolidWorksCommandsTest, EndOfTheSessionWaitsForNoWalk) {
     bool endedDuringWalk = false;
+    std::string storedBanner;
     program->events.onEvents = [&] {
-        Run(IDM_mnuQuit);
+        program->Main().SessionEnding();
         endedDuringWalk = program->view.isEnded;
+        storedBanner = program->registry.Text(FakeProgram::Setting("LastSponsorShown"));
     };
     Run(IDM_mnuSWXClearColorPart);
-    EXPECT_FALSE(endedDuringWalk);
-    EXPECT_EQ(program->events.count, 1);
+    EXPECT_TRUE(endedDuringWalk) << "the process may be gone before the walk is";
+    EXPECT_NE(storedBanner, "(none)");
+    EXPECT_EQ(program->events.count, 1) << "and the walk stops";
+    EXPECT_TRUE(program->prompts.messages.empty());
+}
+
+TEST_F(SolidWorksCommandsTest, QuitIsSeenWhileAWalkWaitsForABusySolidWorks) {
+    program->solidWorks.Gate().AddFault(ParseFault("9:busy:always"));
+    program->events.onEvents = [&] {
+        if (program->events.count == 3) // before the item, then after each rejection
+            Run(IDM_mnuQuit);
+    };
+    Run(IDM_mnuSWXClearColorPart);
     EXPECT_TRUE(program->view.isEnded);
+    EXPECT_TRUE(program->prompts.messages.empty());
+    EXPECT_EQ(program->solidWorks.Gate().RejectedCalls(), 2U);
+}
+
+TEST_F(SolidWorksCommandsTest, StopIsSeenWhileAWalkWaitsForABusySolidWorks) {
+    program->solidWorks.Gate().AddFault(ParseFault("9:busy:always"));
+    program->events.onEvents = [&] {
+        if (program->events.count == 5)
+            program->application.ProgressWindowEvents().StopClicked();
+    };
+    Run(IDM_mnuSWXClearColorPart);
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"ProgressStopped", 64, kTitle}}));
+    EXPECT_EQ(program->solidWorks.Gate().RejectedCalls(), 4U);
+    EXPECT_FALSE(program->progress.isShown);
+}
+
+TEST_F(SolidWorksCommandsTest, CommandsWorkAgainAfterSolidWorksWasClosedAndStartedAnew) {
+    Run(IDM_mnuSWXSetColor);
+    program->service.SetRunning(false);
+    Run(IDM_mnuSWXSetColor);
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<0>", 64, kTitle}}));
+    program->service.SetRunning(true);
+    program->view.infoPanel.clear();
+    Run(IDM_mnuSWXSetColor);
+    EXPECT_EQ(program->view.infoPanel, "Okay setzen in SolidWorks");
 }
 
 TEST_F(SolidWorksCommandsTest, DyingSolidWorksIsReportedAndNothingIsWrittenIntoTheLibrary) {

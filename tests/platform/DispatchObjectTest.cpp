@@ -179,6 +179,56 @@ TEST_F(DispatchObjectTest, OtherSideThatStaysBusyIsAnErrorAfterThirtySeconds) {
     EXPECT_GE(clock.now, std::chrono::seconds(35));
 }
 
+TEST_F(DispatchObjectTest, ResolvingTheNameAndTheCallShareTheThirtySeconds) {
+    fake.members[L"GetType"] = [this](VARIANT*, EXCEPINFO*) {
+        fake.busyAnswers = 1000000; // busy again as soon as the name was told
+        return RPC_E_CALL_REJECTED;
+    };
+    fake.busyAnswers = 100; // 20 seconds until the name is told
+    const auto start = clock.now;
+    ErrorOf("GetType");
+    EXPECT_GE(clock.now - start, std::chrono::seconds(30));
+    EXPECT_LT(clock.now - start, std::chrono::seconds(31));
+}
+
+TEST_F(DispatchObjectTest, UserCanStopWaitingForABusyOtherSide) {
+    fake.members[L"GetType"] = FakeDispatch::Returns(2L);
+    fake.busyAnswers = 1000000;
+    const StoppableCalls stoppable(retry, [this] { return clock.waits.size() == 4; });
+    EXPECT_THROW(object->Get("GetType"), OperationStopped);
+}
+
+TEST_F(DispatchObjectTest, AnswerThatCannotBeTakenIsAnErrorThatNamesTheMember) {
+    fake.members[L"GetChildren"] = [](VARIANT* result, EXCEPINFO*) {
+        SAFEARRAYBOUND bounds[2] = {{2, 0}, {2, 0}};
+        result->vt = VT_ARRAY | VT_R8;
+        result->parray = SafeArrayCreate(VT_R8, 2, bounds);
+        return S_OK;
+    };
+    const RuntimeError error = ErrorOf("GetChildren");
+    EXPECT_EQ(error.Number(), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(error.Member(), "GetChildren");
+}
+
+TEST_F(DispatchObjectTest, ArgumentThatCannotBeSentIsAnErrorThatNamesTheMember) {
+    class Foreign : public AutomationObject {
+        AutomationValue Invoke(const std::string&, const AutomationArray&) override { return {}; }
+        void Put(const std::string&, const AutomationValue&) override {}
+    };
+    fake.members[L"Select"] = {};
+    const AutomationObjectPtr foreign = std::make_shared<Foreign>();
+    for (const std::function<void()>& call :
+         {std::function<void()>([&] { object->Invoke("Select", {foreign}); }),
+          std::function<void()>([&] { object->Put("Select", foreign); })})
+        try {
+            call();
+            FAIL();
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.Member(), "Select");
+        }
+    EXPECT_TRUE(fake.calls.empty());
+}
+
 TEST_F(DispatchObjectTest, OtherFailuresAreNotRepeated) {
     fake.members[L"GetType"] = Fails(static_cast<HRESULT>(0x800706BA)); // the other side is gone
     ErrorOf("GetType");

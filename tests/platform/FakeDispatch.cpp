@@ -10,6 +10,10 @@ FakeDispatch::Answer FakeDispatch::Returns(const _variant_t& value) {
 }
 
 HRESULT FakeDispatch::QueryInterface(REFIID interfaceId, void** object) {
+    if (interfaceId == IID_IDispatch && FAILED(interfaceResult)) {
+        *object = nullptr;
+        return interfaceResult;
+    }
     const bool known = interfaceId == IID_IUnknown || interfaceId == IID_IDispatch;
     *object = known ? static_cast<IDispatch*>(this) : nullptr;
     if (!known)

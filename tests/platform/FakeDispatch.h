@@ -28,6 +28,7 @@ public:
     int nameQueries = 0;
     int busyAnswers = 0; // so many calls and name queries are rejected first
     HRESULT busyResult = RPC_E_CALL_REJECTED;
+    HRESULT interfaceResult = S_OK; // of asking for the automation interface
 
     // Counts held by others; this object itself belongs to the test.
     [[nodiscard]] ULONG References() const noexcept { return references_; }

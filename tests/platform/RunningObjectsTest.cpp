@@ -45,6 +45,45 @@ TEST_F(RunningObjectsTest, ClassThatIsNotRunningGivesNothing) {
     EXPECT_EQ(objects.GetRunningObject(scratch.Name()), nullptr);
 }
 
+// As the system answers when one of both runs elevated, when nothing runs, or when what runs cannot
+// be reached.
+TEST_F(RunningObjectsTest, ActiveObjectThatCannotBeHadGivesNothingAtOnce) {
+    const ScratchClass scratch;
+    if (!scratch.IsRegistered())
+        GTEST_SKIP() << "classes cannot be registered here";
+    for (const HRESULT result :
+         {E_ACCESSDENIED, MK_E_UNAVAILABLE, CO_E_OBJNOTCONNECTED, E_NOINTERFACE,
+          HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE), REGDB_E_CLASSNOTREG}) {
+        RunningObjects refused(retry, [result](const CLSID&, IUnknown**) { return result; });
+        EXPECT_EQ(refused.GetRunningObject(scratch.Name()), nullptr);
+    }
+    EXPECT_TRUE(clock.waits.empty());
+}
+
+TEST_F(RunningObjectsTest, ObjectThatRefusesTheInterfaceGivesNothing) {
+    const ScratchClass scratch;
+    if (!scratch.IsRegistered())
+        GTEST_SKIP() << "classes cannot be registered here";
+    FakeDispatch fake;
+    fake.interfaceResult = E_ACCESSDENIED;
+    RunningObjects refused(retry, [&](const CLSID&, IUnknown** object) {
+        fake.AddRef();
+        *object = &fake;
+        return S_OK;
+    });
+    EXPECT_EQ(refused.GetRunningObject(scratch.Name()), nullptr);
+    EXPECT_EQ(fake.References(), 0U);
+}
+
+TEST_F(RunningObjectsTest, BusyProgramIsAskedAgainForThirtySecondsAndGivesNothingThen) {
+    const ScratchClass scratch;
+    if (!scratch.IsRegistered())
+        GTEST_SKIP() << "classes cannot be registered here";
+    RunningObjects busy(retry, [](const CLSID&, IUnknown**) { return RPC_E_CALL_REJECTED; });
+    EXPECT_EQ(busy.GetRunningObject(scratch.Name()), nullptr);
+    EXPECT_GE(clock.now, std::chrono::seconds(35));
+}
+
 TEST_F(RunningObjectsTest, RunningObjectIsCallableAndNotHeldLonger) {
     const ScratchClass scratch;
     if (!scratch.IsRegistered())

@@ -54,6 +54,16 @@ TEST(Scenario, SizesGenerateDocuments) {
     EXPECT_EQ(model.ActiveDocument()->Type(), DocumentType::Assembly);
 }
 
+TEST(Scenario, ColourTablesOfAnySizeCanBeGenerated) {
+    StandInModel model("standard-colors=100");
+    const auto& colors = model.Part().Colors().Colors();
+    ASSERT_EQ(colors.size(), 100U);
+    EXPECT_EQ(colors[99].name, "Color 100");
+    EXPECT_NE(colors[99].color, colors[98].color);
+    EXPECT_EQ(model.Assembly().Colors().Colors().size(), 100U);
+    EXPECT_TRUE(StandInModel("standard-colors=0").Part().Colors().Colors().empty());
+}
+
 TEST(Scenario, WordsAreAppliedInTheirOrder) {
     Scenario scenario;
     ApplyScenario("old-revision,no-document", scenario);

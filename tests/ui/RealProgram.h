@@ -16,6 +16,7 @@
 #include "tests/fakes/FakeProgress.h"
 #include "tests/fakes/FakePrompts.h"
 #include "tests/fakes/FakeShell.h"
+#include "tests/fakes/FakeWaitingClock.h"
 
 #include <string>
 
@@ -57,6 +58,8 @@ public:
     FakeEventPump events;
     StandInModel solidWorks{"default"};
     StandInService service{solidWorks};
+    FakeWaitingClock clock;
+    BusyRetry retry{clock};
     clsMultiLanguage language{profile, files, page};
     ErrorReporter errors{prompts, language};
     BannerPictures banners;
@@ -65,7 +68,7 @@ public:
     frmTxtView textViewer{main.Handle(), errors, banners};
     frmProgress progress{main.Handle(), errors};
     Application application{{files, page, registry, prompts, clipboard, collation, shell, events,
-                             service, language, errors},
+                             service, retry, language, errors},
                             {main, main, main, about, textViewer, progress, progress, progress},
                             {folder, "1.0.0", {}}};
 };

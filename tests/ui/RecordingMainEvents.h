@@ -85,6 +85,7 @@ public:
     void BannerTicked() override { Note("tick"); }
     void BannerClicked() override { Note("banner"); }
     void WindowClosing() override { Note("closing"); }
+    void SessionEnding() override { Note("session ending"); }
 
     LayoutController layout;
     std::vector<int> commands;

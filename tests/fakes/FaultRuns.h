@@ -1,0 +1,83 @@
+#pragma once
+
+#include "resources/controls.h"
+#include "tests/fakes/FakeProgram.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+// One of the program's SolidWorks commands as it is run again and again while calls go wrong.
+struct FaultyCommand {
+    const char* name;
+    const char* scenario;
+    int number;                                     // of the command
+    std::function<void(StandInModel&)> select = {}; // what is selected in SolidWorks
+    std::function<void(FakeProgram&)> prepare = {}; // what the user has done before
+    std::string typed = {};                         // what the user answers when asked for a text
+};
+
+// The whole program on fakes with a library of one group, worked through its commands.  Errors are
+// reported as the form reports them.
+class FaultyProgram {
+public:
+    // running: gets the running SolidWorks instead of the model.
+    explicit FaultyProgram(const FaultyCommand& command, AutomationService* running = nullptr)
+        : program(command.scenario, running), command_(command) {
+        program.files.contents["C:\\a.tnt"] = "\"D#Lib=0D:1\"\r\n\"G#g=0DG1\"\r\n";
+        program.registry.SetText(FakeProgram::Setting("DefaultColorFile"), "C:\\a.tnt");
+        program.application.Start();
+        program.Main().NodeClicked("0DG1");
+        program.prompts.typed = {"one"};
+        program.Main().RunCommand(IDM_mnuColorNewColor);
+        if (command.prepare)
+            command.prepare(program);
+        if (command.select)
+            command.select(program.solidWorks);
+    }
+
+    // Runs the command; what the user sees of its end: "status" (the text of success), a message
+    // as "note: TEXT", an error as "error: TEXT", or "nothing".
+    std::string Run() {
+        program.prompts.messages.clear();
+        program.prompts.typed = {command_.typed};
+        program.view.infoPanel.clear();
+        program.progress.calls.clear();
+        try {
+            program.Main().RunCommand(command_.number);
+        } catch (const RuntimeError& error) {
+            program.errors.ReportError(error.Description(), error.Member());
+        }
+        return Seen();
+    }
+
+    // Everything that the user has in the library and in the editor.
+    [[nodiscard]] std::vector<std::string> State() {
+        std::vector<std::string> state;
+        for (const auto& [key, text] : program.view.nodes)
+            state.push_back(key + "=" + text);
+        for (int row = 0; row < program.view.rowCount; ++row)
+            for (int column = 1; column <= 10; ++column)
+                state.push_back(program.Main().CellText(row, column));
+        state.push_back(program.view.colorName);
+        state.insert(state.end(), program.view.valueTexts.begin(), program.view.valueTexts.end());
+        return state;
+    }
+
+    FakeProgram program;
+
+private:
+    [[nodiscard]] std::string Seen() const {
+        if (!program.view.infoPanel.empty())
+            return "status";
+        std::string seen;
+        for (const FakePrompts::Message& message : program.prompts.messages) {
+            const bool isError = message.style == 48;
+            const std::string prefix = isError ? "<3>\r\n" : "";
+            seen += (isError ? "error: " : "note: ") + message.prompt.substr(prefix.size());
+        }
+        return seen.empty() ? "nothing" : seen;
+    }
+
+    FaultyCommand command_;
+};

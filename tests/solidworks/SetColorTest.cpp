@@ -1,0 +1,206 @@
+#include "tests/solidworks/OperationTest.h"
+
+namespace {
+
+constexpr MaterialValues kSent{1, 0, 1, 1, 0.5, 0.25, 0, 0, 1}; // the editor's colour
+
+class SetColor : public OperationTest {
+protected:
+    std::string Calls(const std::string& fault = {}) {
+        return CallsOf([&] { return tools->SWXSetColor(color); }, fault);
+    }
+};
+
+class SetColorComponent : public OperationTest {
+protected:
+    SetColorComponent() { Start("assembly"); }
+
+    std::string Calls(const std::string& fault = {}) {
+        return CallsOf([&] { return tools->SWXSetColorComponent(color); }, fault);
+    }
+};
+
+TEST_F(SetColor, NothingSelectedColorsTheDocument) {
+    EXPECT_EQ(Calls(), R"(
+call application ActiveDoc()
+call document "Housing.SLDPRT" GetType()
+call document "Housing.SLDPRT" SelectionManager()
+call selection manager GetSelectedObjectCount()
+put document "Housing.SLDPRT" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call document "Housing.SLDPRT" EditRebuild()
+= okay
+)");
+    EXPECT_EQ(model->Part().Color(), kSent);
+}
+
+TEST_F(SetColor, FacesAndFeaturesAreColoredAndTheDocumentRebuiltOnce) {
+    FaceAt(0)->Select(true);
+    FeatureAt(1)->Select(true);
+    EXPECT_EQ(Calls(), R"(
+call application ActiveDoc()
+call document "Housing.SLDPRT" GetType()
+call document "Housing.SLDPRT" SelectionManager()
+call selection manager GetSelectedObjectCount()
+call selection manager GetSelectedObject3(1)
+call selection manager GetSelectedObjectType2(1)
+put face "Face 1" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call selection manager GetSelectedObject3(2)
+call selection manager GetSelectedObjectType2(2)
+call feature "Pocket" SetMaterialPropertyValues([1, 0, 1, 1, 0.5, 0.25, 0, 0, 1])
+call document "Housing.SLDPRT" EditRebuild()
+= okay
+)");
+    EXPECT_EQ(FaceAt(0)->Color(), kSent);
+    EXPECT_EQ(FeatureAt(1)->Color(), kSent);
+    EXPECT_EQ(FaceAt(1)->Color(), std::nullopt);
+}
+
+TEST_F(SetColor, ComponentsFacesAndFeaturesOfAnAssemblyAreColored) {
+    Start("assembly");
+    ComponentNamed("Screw-1")->Select(true);
+    FaceAt(0)->Select(true);
+    model->Assembly().FeatureAt(0)->Select(true);
+    EXPECT_EQ(Calls(), R"(
+call application ActiveDoc()
+call document "Enclosure.SLDASM" GetType()
+call document "Enclosure.SLDASM" SelectionManager()
+call selection manager GetSelectedObjectCount()
+call selection manager GetSelectedObject3(1)
+call selection manager GetSelectedObjectType2(1)
+put component "Screw-1" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call selection manager GetSelectedObject3(2)
+call selection manager GetSelectedObjectType2(2)
+put face "Face 1" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call selection manager GetSelectedObject3(3)
+call selection manager GetSelectedObjectType2(3)
+call feature "Mates" SetMaterialPropertyValues([1, 0, 1, 1, 0.5, 0.25, 0, 0, 1])
+call document "Enclosure.SLDASM" EditRebuild()
+= okay
+)");
+    EXPECT_EQ(ComponentNamed("Screw-1")->Color(), kSent);
+    EXPECT_EQ(FaceAt(0)->Color(), kSent);
+    EXPECT_EQ(model->Assembly().FeatureAt(0)->Color(), kSent);
+}
+
+TEST_F(SetColor, EdgeIsReportedAndThreeFacesAreColored) {
+    FaceAt(0)->Select(true);
+    AnEdge()->Select(true);
+    FaceAt(1)->Select(true);
+    FaceAt(2)->Select(true);
+    EXPECT_EQ(Calls(), R"(
+call application ActiveDoc()
+call document "Housing.SLDPRT" GetType()
+call document "Housing.SLDPRT" SelectionManager()
+call selection manager GetSelectedObjectCount()
+call selection manager GetSelectedObject3(1)
+call selection manager GetSelectedObjectType2(1)
+put face "Face 1" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call selection manager GetSelectedObject3(2)
+call selection manager GetSelectedObjectType2(2)
+call selection manager GetSelectedObject3(3)
+call selection manager GetSelectedObjectType2(3)
+put face "Face 2" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call selection manager GetSelectedObject3(4)
+call selection manager GetSelectedObjectType2(4)
+put face "Face 3" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call document "Housing.SLDPRT" EditRebuild()
+= \r\nNoValidSelection: 1
+)");
+    for (const std::size_t face : {0U, 1U, 2U})
+        EXPECT_EQ(FaceAt(face)->Color(), kSent) << face;
+}
+
+TEST_F(SetColor, EveryEdgeIsReportedInALineOfItsOwn) {
+    AnEdge()->Select(true);
+    model->Part().Edges()[1]->Select(true);
+    EXPECT_EQ(tools->SWXSetColor(color), "\r\nNoValidSelection: 1\r\nNoValidSelection: 1");
+    EXPECT_EQ(model->Part().RebuildCount(), 1);
+}
+
+TEST_F(SetColor, SelectionThatIsNoObjectColorsTheDocument) {
+    FaceAt(0)->Select(true);
+    FaceAt(1)->Select(true);
+    EXPECT_EQ(Calls("5:null"), R"(
+call application ActiveDoc()
+call document "Housing.SLDPRT" GetType()
+call document "Housing.SLDPRT" SelectionManager()
+call selection manager GetSelectedObjectCount()
+call selection manager GetSelectedObject3(1)
+put document "Housing.SLDPRT" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call selection manager GetSelectedObject3(2)
+call selection manager GetSelectedObjectType2(2)
+put face "Face 2" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call document "Housing.SLDPRT" EditRebuild()
+= okay
+)");
+    EXPECT_EQ(model->Part().Color(), kSent);
+    EXPECT_EQ(FaceAt(0)->Color(), std::nullopt);
+    EXPECT_EQ(FaceAt(1)->Color(), kSent);
+}
+
+TEST_F(SetColor, ValuesAreSentAsNumbersFromZeroToOne) {
+    color.values = {128, 1, 254, 1, 99, 33, 7, 50, 0};
+    tools->SWXSetColor(color);
+    EXPECT_EQ(model->Part().Color(),
+              (MaterialValues{128 / 255.0, 1 / 255.0, 254 / 255.0, 1 / 100.0, 99 / 100.0,
+                              33 / 100.0, 7 / 100.0, 50 / 100.0, 0}));
+}
+
+TEST_F(SetColorComponent, NothingSelectedColorsTheAssembly) {
+    EXPECT_EQ(Calls(), R"(
+call application ActiveDoc()
+call document "Enclosure.SLDASM" GetType()
+call document "Enclosure.SLDASM" SelectionManager()
+call selection manager GetSelectedObjectCount()
+put document "Enclosure.SLDASM" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call document "Enclosure.SLDASM" EditRebuild()
+= okay
+)");
+    EXPECT_EQ(model->Assembly().Color(), kSent);
+}
+
+TEST_F(SetColorComponent, TheComponentThatOwnsEachSelectedObjectIsColored) {
+    ComponentNamed("Screw-1")->Select(true);
+    FaceAt(0)->Select(true);
+    FaceAt(1)->Select(true); // of the same component: once more
+    AnEdge()->Select(true);
+    FeatureAt(0)->Select(true);
+    EXPECT_EQ(Calls(), R"(
+call application ActiveDoc()
+call document "Enclosure.SLDASM" GetType()
+call document "Enclosure.SLDASM" SelectionManager()
+call selection manager GetSelectedObjectCount()
+call selection manager GetSelectedObjectsComponent(1)
+put component "Screw-1" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call selection manager GetSelectedObjectsComponent(2)
+put component "Housing-1" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call selection manager GetSelectedObjectsComponent(3)
+put component "Housing-1" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call selection manager GetSelectedObjectsComponent(4)
+put component "Housing-1" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call selection manager GetSelectedObjectsComponent(5)
+put component "Housing-1" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call document "Enclosure.SLDASM" EditRebuild()
+= okay
+)");
+    EXPECT_EQ(ComponentNamed("Screw-1")->Color(), kSent);
+    EXPECT_EQ(ComponentNamed("Housing-1")->Color(), kSent);
+    EXPECT_EQ(FaceAt(0)->Color(), std::nullopt);
+}
+
+TEST_F(SetColorComponent, ObjectWithoutAComponentColorsTheAssembly) {
+    model->Assembly().FeatureAt(0)->Select(true);
+    EXPECT_EQ(Calls(), R"(
+call application ActiveDoc()
+call document "Enclosure.SLDASM" GetType()
+call document "Enclosure.SLDASM" SelectionManager()
+call selection manager GetSelectedObjectCount()
+call selection manager GetSelectedObjectsComponent(1)
+put document "Enclosure.SLDASM" MaterialPropertyValues = [1, 0, 1, 1, 0.5, 0.25, 0, 0, 1]
+call document "Enclosure.SLDASM" EditRebuild()
+= okay
+)");
+    EXPECT_EQ(model->Assembly().Color(), kSent);
+}
+
+} // namespace
