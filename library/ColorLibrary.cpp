@@ -112,7 +112,7 @@ std::vector<std::string> ColorLibrary::GetGroupInMainnode(const std::string& mai
 }
 
 int ColorLibrary::GetColorCountInGroup(const std::string& groupKey) const {
-    return static_cast<int>(colors_.IndexesOfGroup(groupKey).size());
+    return colors_.CountOfGroup(groupKey);
 }
 
 std::vector<int> ColorLibrary::GetColorIndexInGroup(const std::string& groupKey) const {

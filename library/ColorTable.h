@@ -1,8 +1,12 @@
 #pragma once
 
 #include "common/ColorRecord.h"
+#include "library/ColorKeyIndex.h"
+#include "library/ColorStore.h"
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -12,17 +16,35 @@
 // through indexes.
 class ColorTable {
 public:
-    ColorTable() { Reset(); }
+    ColorTable();
+    ColorTable(const ColorTable&) = delete;
+    ColorTable& operator=(const ColorTable&) = delete;
 
     // Back to the placeholder alone.
     void Reset();
 
-    [[nodiscard]] int UpperBound() const noexcept { return static_cast<int>(records_.size()) - 1; }
+    [[nodiscard]] int UpperBound() const noexcept { return static_cast<int>(order_.size()); }
 
     // index: 0..UpperBound().  Throws RuntimeError SubscriptOutOfRange.
-    [[nodiscard]] const ColorRecord& At(int index) const;
+    [[nodiscard]] ColorRecord At(int index) const;
+
+    // The colour with its key as "group key, E, number", as At gives it, but not copied together;
+    // valid until the table changes.  index: 1..UpperBound(), as above.
+    struct View {
+        const StoredColor& color;
+        const std::string& groupKey;
+    };
+    [[nodiscard]] View ViewAt(int index) const;
+    [[nodiscard]] bool KeyBeginsWith(int index, std::string_view start) const;
 
     void Append(ColorRecord record);
+
+    // The same for many colours of one group: the group's number is looked up once, and the key is
+    // "group key, E, number".
+    using GroupNumber = std::uint32_t;
+    [[nodiscard]] GroupNumber NumberOfGroup(const std::string& groupKey);
+    void Append(GroupNumber group, std::uint32_t number, std::string name, std::string_view altName,
+                const ColorValueArray& values);
 
     // Both names of a colour, or its values; the keys of a record never change.
     void SetNames(int index, const std::string& name);
@@ -39,16 +61,34 @@ public:
     [[nodiscard]] int IndexOfKey(const std::string& key) const;
 
     // Indexes of the records of the group, ascending.
-    [[nodiscard]] const std::vector<int>& IndexesOfGroup(const std::string& groupKey) const;
+    [[nodiscard]] std::vector<int> IndexesOfGroup(const std::string& groupKey) const;
+    [[nodiscard]] int CountOfGroup(const std::string& groupKey) const;
+
+    // The same colours by what stays the same while colours before them come and go.
+    [[nodiscard]] const std::vector<ColorId>& IdsOfGroup(const std::string& groupKey) const;
+    [[nodiscard]] ColorId IdAt(int index) const;   // index: 1..UpperBound(), as above
+    [[nodiscard]] int IndexOfId(ColorId id) const; // 0: the colour is not there any more
 
 private:
-    ColorRecord& Checked(int index);
-    void IndexNewRecords() const;
-    void ForgetIndexes() const;
+    struct Group {
+        std::string key;
+        std::vector<ColorId> ids; // ascending
+    };
 
-    std::vector<ColorRecord> records_;
-    // Built on demand for the records below indexedCount_.
-    mutable std::size_t indexedCount_ = 0;
-    mutable std::unordered_map<std::string, int> positionOfKey_;
-    mutable std::unordered_map<std::string, std::vector<int>> positionsOfGroup_;
+    [[nodiscard]] StoredColor& ColorAt(int index);
+    void Insert(StoredColor color);
+    [[nodiscard]] const Group* FindGroup(const std::string& groupKey) const;
+    [[nodiscard]] std::string_view KeyOf(ColorId id) const;
+    void IndexKeys() const;
+
+    ColorStore store_;
+    std::vector<ColorId> order_; // ascending
+    std::vector<Group> groups_;  // also those whose colours have gone
+    std::unordered_map<std::string, GroupNumber> numberOfGroup_;
+
+    // Made when a key is first looked up.
+    mutable ColorKeyIndex keys_;
+    mutable bool keysIndexed_ = false;
+    mutable bool keysAreUnique_ = true;
+    mutable std::string composedKey_;
 };

@@ -2,7 +2,9 @@
 
 #include "common/RuntimeError.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <random>
 
 namespace {
 
@@ -10,13 +12,126 @@ ColorRecord Color(const std::string& key, const std::string& group) {
     return {"name of " + key, key, group, false, {}, {}};
 }
 
-ColorTable ThreeColors() {
-    ColorTable table;
-    table.Append(Color("0DG1E1", "0DG1"));
-    table.Append(Color("0DG2E1", "0DG2"));
-    table.Append(Color("0DG1E2", "0DG1"));
-    return table;
-}
+class ThreeColors : public ColorTable {
+public:
+    ThreeColors() {
+        Append(Color("0DG1E1", "0DG1"));
+        Append(Color("0DG2E1", "0DG2"));
+        Append(Color("0DG1E2", "0DG1"));
+    }
+};
+
+// The rules as they are said: a plain list that is scanned from its beginning.
+class ScannedTable {
+public:
+    void Append(const ColorRecord& record) { records.push_back(record); }
+    void EraseGroups(const std::vector<std::string>& groupKeys) {
+        std::erase_if(records, [&](const ColorRecord& record) {
+            return std::ranges::find(groupKeys, record.groupKey) != groupKeys.end();
+        });
+    }
+    [[nodiscard]] int IndexOfKey(const std::string& key) const {
+        const auto found = std::ranges::find(records, key, &ColorRecord::key);
+        return found == records.end() ? 0 : static_cast<int>(found - records.begin()) + 1;
+    }
+    [[nodiscard]] std::vector<int> IndexesOfGroup(const std::string& groupKey) const {
+        std::vector<int> indexes;
+        for (std::size_t i = 0; i < records.size(); ++i)
+            if (records[i].groupKey == groupKey)
+                indexes.push_back(static_cast<int>(i) + 1);
+        return indexes;
+    }
+
+    std::vector<ColorRecord> records;
+};
+
+// Random operations on both tables, from a small choice of keys so that they meet.
+class TwoTables {
+public:
+    explicit TwoTables(unsigned seed) : random_(seed) {}
+
+    void Step() {
+        switch (Number(10)) {
+        case 0:
+            EraseOne();
+            break;
+        case 1:
+            if (Number(8) == 0)
+                EraseGroups();
+            break;
+        case 2:
+            Change();
+            break;
+        default:
+            Append();
+        }
+    }
+    void Compare() const {
+        ASSERT_EQ(table_.UpperBound(), static_cast<int>(scanned_.records.size()));
+        for (int index = 1; index <= table_.UpperBound(); ++index) {
+            const ColorRecord& expected = scanned_.records[static_cast<std::size_t>(index) - 1];
+            ASSERT_EQ(table_.At(index), expected);
+            ASSERT_EQ(table_.IndexOfKey(expected.key), scanned_.IndexOfKey(expected.key));
+            ASSERT_EQ(table_.IndexOfId(table_.IdAt(index)), index);
+            for (const char* start : {"", "0D", "0DG1", "0DG1E", "0DG1E1", "1"})
+                ASSERT_EQ(table_.KeyBeginsWith(index, start), expected.key.starts_with(start));
+        }
+        for (const char* group : {"0DG1", "0DG2", "0DG10", "1DG1", "x", ""})
+            ASSERT_EQ(table_.IndexesOfGroup(group), scanned_.IndexesOfGroup(group)) << group;
+        ASSERT_EQ(table_.IndexOfKey("nothing"), 0);
+    }
+
+private:
+    int Number(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+    std::string GroupKey() {
+        static const std::vector<std::string> keys = {"0DG1", "0DG2", "0DG10", "1DG1", "x", ""};
+        return keys[static_cast<std::size_t>(Number(6))];
+    }
+    void Append() {
+        ColorRecord record;
+        record.groupKey = GroupKey();
+        static const std::vector<std::string> odd = {"", "E", "E01", "E4294967296", "e1", "E1 "};
+        record.key = (Number(4) == 0 ? GroupKey() : record.groupKey) +
+                     (Number(5) == 0 ? odd[static_cast<std::size_t>(Number(6))]
+                                     : "E" + std::to_string(Number(60)));
+        record.name = "name " + std::to_string(Number(5));
+        record.altName = Number(3) == 0 ? "other" : record.name;
+        record.isNew = Number(2) == 0;
+        record.values[3] = static_cast<std::int16_t>(Number(100));
+        table_.Append(record);
+        scanned_.Append(record);
+    }
+    void EraseOne() {
+        if (scanned_.records.empty())
+            return;
+        const int index = Number(table_.UpperBound()) + 1;
+        table_.Erase(index);
+        scanned_.records.erase(scanned_.records.begin() + (index - 1));
+    }
+    void EraseGroups() {
+        const std::vector<std::string> groups = {GroupKey(), "no such group"};
+        table_.EraseGroups(groups);
+        scanned_.EraseGroups(groups);
+    }
+    void Change() {
+        if (scanned_.records.empty())
+            return;
+        const int index = Number(table_.UpperBound()) + 1;
+        ColorRecord& record = scanned_.records[static_cast<std::size_t>(index) - 1];
+        record.name = Number(2) == 0 ? record.altName : "changed";
+        table_.SetName(index, record.name);
+        if (Number(2) == 0) {
+            record.altName = record.name;
+            table_.SetNames(index, record.name);
+        }
+        record.values[8] = 77;
+        table_.SetValues(index, record.values);
+    }
+
+    std::mt19937 random_;
+    ColorTable table_;
+    ScannedTable scanned_;
+};
 
 TEST(ColorTable, StartsWithThePlaceholderAlone) {
     const ColorTable table;
@@ -35,13 +150,13 @@ TEST(ColorTable, KeyThatIsNotThereHasIndexZero) {
 }
 
 TEST(ColorTable, FirstOfEqualKeysIsFound) {
-    ColorTable table = ThreeColors();
+    ThreeColors table;
     table.Append(Color("0DG2E1", "0DG9"));
     EXPECT_EQ(table.IndexOfKey("0DG2E1"), 2);
 }
 
 TEST(ColorTable, ErasingMovesLaterColorsDown) {
-    ColorTable table = ThreeColors();
+    ThreeColors table;
     EXPECT_EQ(table.IndexOfKey("0DG1E2"), 3);
     table.Erase(1);
     EXPECT_EQ(table.UpperBound(), 2);
@@ -51,7 +166,7 @@ TEST(ColorTable, ErasingMovesLaterColorsDown) {
 }
 
 TEST(ColorTable, ErasingAGroupIsErasingItsColorsOneByOne) {
-    ColorTable table = ThreeColors();
+    ThreeColors table;
     table.EraseGroups({"0DG1"});
     EXPECT_EQ(table.UpperBound(), 1);
     EXPECT_EQ(table.At(1).key, "0DG2E1");
@@ -59,12 +174,48 @@ TEST(ColorTable, ErasingAGroupIsErasingItsColorsOneByOne) {
 }
 
 TEST(ColorTable, PlaceholderAndIndexesPastTheEndAreNoColors) {
-    ColorTable table = ThreeColors();
+    ThreeColors table;
     EXPECT_THROW(table.Erase(0), RuntimeError);
     EXPECT_THROW(table.Erase(4), RuntimeError);
     EXPECT_THROW(static_cast<void>(table.At(4)), RuntimeError);
     EXPECT_THROW(static_cast<void>(table.At(-1)), RuntimeError);
     EXPECT_EQ(table.UpperBound(), 3);
+}
+
+TEST(ColorTable, NumberedColorsAreThoseWithTheSameKeysWrittenOut) {
+    ColorTable table;
+    const auto group = table.NumberOfGroup("0DG1");
+    table.Append(group, 12, "a", "a", {1, 2, 3, 4, 5, 6, 7, 8, 9});
+    table.Append(group, 13, "b", "second", {});
+    EXPECT_EQ(table.At(1),
+              (ColorRecord{"a", "0DG1E12", "0DG1", false, {1, 2, 3, 4, 5, 6, 7, 8, 9}, "a"}));
+    EXPECT_EQ(table.At(2), (ColorRecord{"b", "0DG1E13", "0DG1", false, {}, "second"}));
+    EXPECT_EQ(table.IndexOfKey("0DG1E13"), 2);
+}
+
+TEST(ColorTable, IdStaysWhileColorsBeforeItGo) {
+    ThreeColors table;
+    const ColorId last = table.IdAt(3);
+    const ColorId first = table.IdAt(1);
+    table.Erase(1);
+    EXPECT_EQ(table.IndexOfId(last), 2);
+    EXPECT_EQ(table.IndexOfId(first), 0);
+    EXPECT_EQ(table.IndexOfId(0), 0);
+    EXPECT_EQ(table.IdsOfGroup("0DG1"), std::vector<ColorId>{last});
+    EXPECT_THROW(static_cast<void>(table.IdAt(0)), RuntimeError);
+}
+
+TEST(ColorTable, RandomOperationsGiveWhatAScannedListGives) {
+    for (unsigned seed = 1; seed <= 6; ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        TwoTables tables(seed);
+        for (int step = 0; step < 600; ++step) {
+            tables.Step();
+            if (step % 30 != 0)
+                continue;
+            ASSERT_NO_FATAL_FAILURE(tables.Compare()) << "step " << step;
+        }
+    }
 }
 
 } // namespace

@@ -30,9 +30,7 @@ protected:
         with.files.contents[kFile] = ExampleBytes(with.codePage);
         loaded = with.libraryFiles.FileReadColorValues(kFile);
     }
-    [[nodiscard]] const ColorRecord& Color(int index) const {
-        return with.library.Colors().At(index);
-    }
+    [[nodiscard]] ColorRecord Color(int index) const { return with.library.Colors().At(index); }
 
     LibraryOnFakes with;
     bool loaded = false;

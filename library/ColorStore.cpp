@@ -1,0 +1,31 @@
+#include "library/ColorStore.h"
+
+#include <utility>
+
+void ColorStore::Clear() {
+    blocks_.clear();
+    next_ = 1;
+    gone_ = 0;
+}
+
+ColorId ColorStore::Add(StoredColor color) {
+    const ColorId id = next_++;
+    if (BlockOf(id) == blocks_.size())
+        blocks_.push_back(nullptr);
+    std::unique_ptr<Block>& block = blocks_[BlockOf(id)];
+    if (block == nullptr)
+        block = std::make_unique<Block>();
+    block->colors[id % kBlockSize] = std::move(color);
+    ++block->count;
+    return id;
+}
+
+void ColorStore::Remove(ColorId id) {
+    std::unique_ptr<Block>& block = blocks_[BlockOf(id)];
+    block->colors[id % kBlockSize] = {};
+    if (--block->count == 0)
+        block.reset();
+    // All but the block that the next colour may come into.
+    for (; blocks_.size() > 1 && blocks_.front() == nullptr; ++gone_)
+        blocks_.pop_front();
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "common/ColorRecord.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <string>
+
+// Names a colour for as long as it is in the table, whatever is added or removed beside it; later
+// colours have greater ones.  0: none.
+using ColorId = std::uint32_t;
+
+// A colour as the table keeps it.  Keys are the key of the group, "E" and a number, so the number
+// is enough; the second name is nearly always the name.
+struct StoredColor {
+    std::string name;
+    std::unique_ptr<std::string> altName;  // null: equal to the name
+    std::unique_ptr<std::string> otherKey; // null: made of group and number
+    std::uint32_t group = 0;               // number of its group
+    std::uint32_t number = 0;
+    ColorValueArray values{};
+    bool isNew = false;
+
+    [[nodiscard]] const std::string& AltName() const noexcept { return altName ? *altName : name; }
+};
+
+// Keeps colours in blocks, so that they never move and no room is kept in advance; a block goes
+// when its last colour has gone.
+class ColorStore {
+public:
+    void Clear();
+
+    ColorId Add(StoredColor color);
+    void Remove(ColorId id); // of a colour that is there
+
+    // The colour must be there.
+    [[nodiscard]] const StoredColor& At(ColorId id) const noexcept {
+        return blocks_[BlockOf(id)]->colors[id % kBlockSize];
+    }
+    [[nodiscard]] StoredColor& At(ColorId id) noexcept {
+        return blocks_[BlockOf(id)]->colors[id % kBlockSize];
+    }
+
+private:
+    static constexpr ColorId kBlockSize = 256;
+    struct Block {
+        std::array<StoredColor, kBlockSize> colors;
+        ColorId count = 0; // that are there
+    };
+
+    [[nodiscard]] std::size_t BlockOf(ColorId id) const noexcept { return id / kBlockSize - gone_; }
+
+    std::deque<std::unique_ptr<Block>> blocks_; // null: all of its colours have gone
+    ColorId next_ = 1;
+    ColorId gone_ = 0; // blocks that are not even remembered
+};
