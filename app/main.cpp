@@ -4,6 +4,7 @@
 #include "platform/BannerPictures.h"
 #include "platform/BusyMessageFilter.h"
 #include "platform/ComApartment.h"
+#include "platform/LibrarySearch.h"
 #include "platform/MessageLoop.h"
 #include "platform/ProgramFolder.h"
 #include "platform/RunningObjects.h"
@@ -87,6 +88,7 @@ int RunProgram() {
 } // namespace
 
 int WINAPI wWinMain(_In_ HINSTANCE, _In_opt_ HINSTANCE, _In_ LPWSTR, _In_ int) {
+    SearchSystemLibrariesOnly();
     // A library on a drive without a disk is a file that is not there, not a question.
     SetErrorMode(SEM_FAILCRITICALERRORS);
     try {

@@ -2,32 +2,41 @@
 tnt_sources(platform_sources platform platform/controls)
 add_library(tnt_platform STATIC ${platform_sources})
 target_link_libraries(tnt_platform PUBLIC tnt_portable comctl32 comdlg32 gdi32 user32 shell32 ole32
-    oleaut32 uuid advapi32 uxtheme)
+    oleaut32 uuid advapi32)
 tnt_target_options(tnt_platform)
 
 add_library(tnt_forms STATIC ${form_sources})
 target_link_libraries(tnt_forms PUBLIC tnt_platform)
 tnt_target_options(tnt_forms)
 
+# The version as code and resource scripts see it; its one place is CMakeLists.txt.
+configure_file(${CMAKE_SOURCE_DIR}/resources/tnt4swx.manifest.in
+    ${CMAKE_BINARY_DIR}/generated/resources/tnt4swx.manifest @ONLY)
+add_library(tnt_version INTERFACE)
+target_include_directories(tnt_version INTERFACE ${CMAKE_BINARY_DIR}/generated)
+target_compile_definitions(tnt_version INTERFACE TNT_VERSION="${PROJECT_VERSION}"
+    TNT_VERSION_MAJOR=${PROJECT_VERSION_MAJOR} TNT_VERSION_MINOR=${PROJECT_VERSION_MINOR}
+    TNT_VERSION_PATCH=${PROJECT_VERSION_PATCH})
+
 add_executable(tnt4swx WIN32 app/main.cpp resources/tnt4swx.rc)
-target_link_libraries(tnt4swx PRIVATE tnt_forms)
+target_link_libraries(tnt4swx PRIVATE tnt_forms tnt_version)
 tnt_target_options(tnt4swx)
 
 tnt_sources(standin_sources standin/com)
 add_executable(swx_standin WIN32 ${standin_sources} resources/swx_standin.rc)
-target_link_libraries(swx_standin PRIVATE standin_model tnt_platform)
+target_link_libraries(swx_standin PRIVATE standin_model tnt_platform tnt_version)
 tnt_target_options(swx_standin)
 
 foreach(program tnt4swx swx_standin)
-    target_compile_definitions(${program} PRIVATE TNT_VERSION="${PROJECT_VERSION}"
-        TNT_VERSION_MAJOR=${PROJECT_VERSION_MAJOR}
-        TNT_VERSION_MINOR=${PROJECT_VERSION_MINOR} TNT_VERSION_PATCH=${PROJECT_VERSION_PATCH})
     if(MSVC)
-        target_link_options(${program} PRIVATE /MANIFEST:NO) # the resource script holds it
+        target_link_options(${program} PRIVATE /MANIFEST:NO # the resource script holds it
+            /guard:cf /CETCOMPAT /DEPENDENTLOADFLAG:0x800)
     else()
-        # One file that runs anywhere: no run-time library beside it.
+        # One file that runs anywhere: no run-time library beside it.  The same sources give the same
+        # bytes: no time of the link in it.
         target_link_options(${program} PRIVATE -static -municode -Wl,--dynamicbase
-            -Wl,--nxcompat -Wl,--high-entropy-va $<$<CONFIG:Release>:-s>)
+            -Wl,--nxcompat -Wl,--high-entropy-va -Wl,--no-insert-timestamp
+            $<$<CONFIG:Release>:-s>)
     endif()
     set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 endforeach()

@@ -1,11 +1,6 @@
 #pragma once
 
-// The version as the build passes it on.
-#ifndef TNT_VERSION_MAJOR
-#define TNT_VERSION_MAJOR 1
-#define TNT_VERSION_MINOR 0
-#define TNT_VERSION_PATCH 0
-#endif
+// The version, as the build passes it on from CMakeLists.txt.
 
 #define TNT_TEXT_OF(number) #number
 #define TNT_TEXT(number) TNT_TEXT_OF(number)

@@ -11,7 +11,9 @@ packages=(
     libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
     fonts-open-sans fonts-liberation fonts-wine
     clang-format clang-tidy python3 librsvg2-bin             # checks
-    clang libclang-rt-14-dev                                 # fuzz targets
+    clang libclang-rt-14-dev                                 # fuzz targets, second compiler
+    cppcheck gcovr                                           # more checks, test coverage
+    nsis                                                     # installer
 )
 
 installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null |

@@ -1,10 +1,10 @@
 #include "platform/controls/ListView.h"
 
+#include "platform/ExplorerTheme.h"
 #include "platform/Form.h"
 #include "platform/Utf16.h"
 
 #include <utility>
-#include <uxtheme.h>
 
 namespace {
 
@@ -26,7 +26,7 @@ constexpr UINT kSelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
 ListView::ListView(Form& form, const ControlPlace& place, const Images& images)
     : Control(form, kListView, place, kListStyle, WS_EX_CLIENTEDGE), images_(images),
       dpi_(form.Scale().Dpi()) {
-    SetWindowTheme(Handle(), L"Explorer", nullptr);
+    UseExplorerTheme(Handle());
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kExtendedStyle, LPARAM{kExtendedStyle});
     ListView::ApplyScale();
 }

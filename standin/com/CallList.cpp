@@ -1,9 +1,8 @@
 #include "standin/com/CallList.h"
 
+#include "platform/ExplorerTheme.h"
 #include "platform/Form.h"
 #include "platform/Utf16.h"
-
-#include <uxtheme.h>
 
 namespace {
 
@@ -17,7 +16,7 @@ constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
 
 CallList::CallList(Form& form, const ControlPlace& place, const CallLog& log)
     : Control(form, kCallList, place, kListStyle), log_(log) {
-    SetWindowTheme(Handle(), L"Explorer", nullptr);
+    UseExplorerTheme(Handle());
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kExtendedStyle, LPARAM{kExtendedStyle});
     LVCOLUMNW column{};
     column.mask = LVCF_WIDTH;

@@ -1,5 +1,6 @@
 #include "standin/com/ObjectList.h"
 
+#include "platform/ExplorerTheme.h"
 #include "platform/Form.h"
 #include "platform/Utf16.h"
 #include "standin/com/Canvas.h"
@@ -7,7 +8,6 @@
 
 #include <algorithm>
 #include <utility>
-#include <uxtheme.h>
 
 namespace {
 
@@ -42,7 +42,7 @@ std::string ColorText(const SelectedItem& item) {
 
 ObjectList::ObjectList(Form& form, const ControlPlace& place)
     : Control(form, kObjectList, place, kListStyle) {
-    SetWindowTheme(Handle(), L"Explorer", nullptr);
+    UseExplorerTheme(Handle());
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kExtendedStyle, LPARAM{kExtendedStyle});
     AddColumn(NameColumn, L"Object");
     AddColumn(KindColumn, L"Kind");

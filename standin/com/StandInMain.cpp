@@ -1,5 +1,6 @@
 #include "common/RuntimeError.h"
 #include "platform/ComApartment.h"
+#include "platform/LibrarySearch.h"
 #include "platform/MessageLoop.h"
 #include "platform/Utf16.h"
 #include "standin/com/CallLogFile.h"
@@ -71,6 +72,7 @@ int Run(ErrorSink& errors) {
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+    SearchSystemLibrariesOnly();
     MessageBoxSink errors;
     try {
         return Run(errors);
