@@ -1,5 +1,9 @@
 #include "tests/e2e/RealInput.h"
 
+#include "tests/platform/PollUntil.h"
+
+#include <array>
+#include <commctrl.h>
 #include <vector>
 
 namespace {
@@ -46,9 +50,24 @@ INPUT MouseMove(POINT to) {
     return input;
 }
 
+bool IsToolTipAt(POINT at) {
+    std::array<wchar_t, 64> name{};
+    GetClassNameW(WindowFromPoint(at), name.data(), static_cast<int>(name.size()));
+    return std::wstring_view(name.data()) == TOOLTIPS_CLASSW;
+}
+
+// A tool tip that covers the place goes when the pointer leaves for the corner of the screen.
+void UncoverFromToolTip(POINT at) {
+    if (!IsToolTipAt(at))
+        return;
+    Send({MouseMove({0, 0})});
+    static_cast<void>(PollUntil([at] { return !IsToolTipAt(at); }));
+}
+
 } // namespace
 
 void RealInput::Click(POINT at) {
+    UncoverFromToolTip(at);
     Send({MouseMove(at), MouseButton(MOUSEEVENTF_LEFTDOWN), MouseButton(MOUSEEVENTF_LEFTUP)});
 }
 

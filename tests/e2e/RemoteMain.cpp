@@ -1,6 +1,7 @@
 #include "tests/e2e/RemoteMain.h"
 
 #include "platform/Utf16.h"
+#include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32PrivateProfile.h"
 #include "resources/controls.h"
 #include "tests/e2e/RealInput.h"
@@ -35,7 +36,8 @@ void RemoteMain::ChooseFromMenu(const std::string& menu, const std::string& entr
 // The character behind the "&" of the caption; its virtual key is its capital letter.
 WORD RemoteMain::AccessKey(const std::string& menuName) const {
     const std::string caption = Win32PrivateProfile().GetString(
-        "frmMain", menuName + ".Caption", "", programFolder_ + "\\tntlng_us.ini", 256);
+        "frmMain", menuName + ".Caption", "",
+        Win32AnsiCodePage().Encode(programFolder_ + "\\tntlng_us.ini").bytes, 256);
     const std::size_t mark = caption.find('&');
     if (mark == std::string::npos || mark + 1 == caption.size())
         throw std::runtime_error("No access key: " + menuName);
