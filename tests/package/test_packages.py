@@ -50,6 +50,15 @@ def versions(program):
     return tuple((words[i + 1], words[i], words[i + 3], words[i + 2]) for i in (0, 4))
 
 
+def named_entries(registry):
+    """Every key and value of the registry in which a name of the program stands."""
+    entries = set(registry) | {
+        f"{key}\\{name}={value}" for key, values in registry.items()
+        for name, value in values.items()}
+    names = re.compile(r"tnt4swx|chromixs|swx_standin|sldworks", re.IGNORECASE)
+    return {entry for entry in entries if names.search(entry)}
+
+
 class PackageTest(unittest.TestCase):
     def setUp(self):
         temporary = tempfile.TemporaryDirectory()
@@ -139,9 +148,11 @@ class Installer(PackageTest):
         windows.wait_until(lambda: UNINSTALL_KEY not in windows.users_registry(self.folder))
 
     def left_behind(self):
-        """What there is now and was not there before: files, and keys of the registry."""
-        keys = windows.users_registry(self.folder).keys() - self.registry_before.keys()
-        return sorted(windows.users_files() - self.files_before) + sorted(keys)
+        """What there is now and was not there before: files, and what names the program in the
+        registry, where Windows itself makes keys of its own when it is first used."""
+        entries = named_entries(windows.users_registry(self.folder))
+        return (sorted(windows.users_files() - self.files_before) +
+                sorted(entries - named_entries(self.registry_before)))
 
     def test_asks_for_no_rights(self):
         image = pe.Image(INSTALLER.read_bytes())
