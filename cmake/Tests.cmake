@@ -50,5 +50,9 @@ if(WIN32)
     if(NOT MSVC)
         target_link_options(start_bench PRIVATE -static)
     endif()
+    # A program of its own: its processes are killed, and it wants mounted places around it.
+    tnt_test_program(file_faults FOLDERS tests/faults LIBRARIES tnt_platform gtest)
+    target_sources(file_faults PRIVATE tests/e2e/RunningProgram.cpp
+        tests/platform/ScratchFolder.cpp)
     tnt_test_program(play_job FOLDERS tests/e2e LIBRARIES tnt_platform gdiplus)
 endif()

@@ -25,6 +25,11 @@ bool IsNormalFile(const WIN32_FIND_DATAW& found) {
     return (found.dwFileAttributes & kSkipped) == 0;
 }
 
+bool IsReadOnly(const std::string& path) {
+    const DWORD attributes = GetFileAttributesW(ToPlatformPath(path).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
 std::optional<std::size_t> ReadableSize(HANDLE file) {
     LARGE_INTEGER size{};
     if (!GetFileSizeEx(file, &size) || size.QuadPart > kLargestFile)
@@ -87,6 +92,9 @@ std::unique_ptr<OutputFile> Win32Files::Create(const std::string& path) {
 }
 
 bool Win32Files::Replace(const std::string& from, const std::string& to) {
+    // Not every platform minds.
+    if (IsReadOnly(from) || IsReadOnly(to))
+        return false;
     return MoveFileExW(ToPlatformPath(from).c_str(), ToPlatformPath(to).c_str(),
                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
 }

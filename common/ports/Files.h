@@ -35,7 +35,8 @@ public:
     // A new empty file; an existing one is emptied.  Null when it cannot be made.
     [[nodiscard]] virtual std::unique_ptr<OutputFile> Create(const std::string& path) = 0;
 
-    // Gives the file another name in one step; a file that has that name already is replaced.
+    // Gives the file another name in one step; a file that has that name already is replaced. False
+    // also when either is marked read-only.
     [[nodiscard]] virtual bool Replace(const std::string& from, const std::string& to) = 0;
 
     virtual bool Remove(const std::string& path) = 0;

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Win32Files.h"
+
+#include <memory>
+#include <string>
+
+// The real file system for a process that is killed before its n-th step; a write is killed in its
+// middle.
+class DyingFiles : public Files {
+public:
+    static constexpr unsigned kExitCode = 99; // of the killed process
+
+    explicit DyingFiles(int lastStep) : stepsLeft_(lastStep) {}
+
+    std::string FindNormalFile(const std::string& path) override {
+        return files_.FindNormalFile(path);
+    }
+    bool Exists(const std::string& path) override { return files_.Exists(path); }
+    std::optional<std::string> ReadWhole(const std::string& path) override {
+        return files_.ReadWhole(path);
+    }
+    std::unique_ptr<OutputFile> Create(const std::string& path) override;
+    bool Replace(const std::string& from, const std::string& to) override;
+    bool Remove(const std::string& path) override;
+
+    // True: the process is to be killed now.
+    [[nodiscard]] bool IsLastStep() noexcept { return stepsLeft_-- == 1; }
+    [[noreturn]] static void Die();
+
+private:
+    Win32Files files_;
+    int stepsLeft_;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+// What the test program does when it is started once more, as a process of its own:
+//     --save-and-die STEP FILE   opens the library, adds a colour and saves; killed at that step
+//     --save FILE                the same without an end before its time
+//     --hold FILE                keeps the file open, shared with nobody, until it is ended
+// Nothing when the command line asks for none of them; otherwise the exit code.
+[[nodiscard]] std::optional<int> RunAsSecondProcess(int count, char** arguments);
+
+// The command line that starts the test program so.
+[[nodiscard]] std::string SecondProcess(const std::string& arguments);
