@@ -13,7 +13,8 @@ public:
     // Thrown by the step at which the process "is killed".
     struct Killed {};
 
-    enum class FailureKind { Reported, Killed };
+    // FromHereOn: every later step fails as well, as when a medium goes away.
+    enum class FailureKind { Reported, FromHereOn, Killed };
 
     // The step with this number (from 1) fails; 0: none does.
     void FailAtStep(int step, FailureKind kind) {
@@ -47,7 +48,7 @@ public:
         contents.erase(from);
         return true;
     }
-    bool Remove(const std::string& path) override { return contents.erase(path) > 0; }
+    bool Remove(const std::string& path) override { return !Fails() && contents.erase(path) > 0; }
 
     std::map<std::string, std::string> contents; // by path
     std::map<std::string, bool> unreadable;      // paths that cannot be read
@@ -72,7 +73,9 @@ private:
     };
 
     bool Fails() {
-        if (++steps_ != failingStep_)
+        ++steps_;
+        const bool later = kind_ == FailureKind::FromHereOn && failingStep_ > 0;
+        if (later ? steps_ < failingStep_ : steps_ != failingStep_)
             return false;
         if (kind_ == FailureKind::Killed)
             throw Killed{};

@@ -1,0 +1,132 @@
+// Nothing is lost when a save goes wrong: each step of it fails in turn, alone or together with
+// everything after it, or ends the process.
+
+#include "library/FileCommands.h"
+#include "tests/fakes/LibraryOnFakes.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using FailureKind = FakeFiles::FailureKind;
+using Message = FakePrompts::Message;
+
+constexpr const char* kFile = "C:\\lib\\a.tnt";
+constexpr const char* kBackup = "C:\\lib\\a.tnt.bak";
+constexpr const char* kBeside = "C:\\lib\\a.tnt.saving";
+constexpr const char* kOld = "\"D#Lib=0D:1\"\r\n\"G#g=0DG1\"\r\n";
+constexpr const char* kNew = "\"D#Lib=0D:2\"\r\n\"G#g=0DG1\"\r\n\"G#added=0DG2\"\r\n";
+constexpr int kMoreThanAllSteps = 50; // so that a save that never completes ends the test
+
+// A library that was opened and changed, one Save before its end.
+struct ChangedLibrary : LibraryOnFakes {
+    explicit ChangedLibrary(bool backups) {
+        commands.SetHost(commandsHost);
+        settings.createBackups = backups;
+        files.contents[kFile] = kOld;
+        files.contents[kBackup] = "older";
+        prompts.chosenFiles.emplace_back(kFile);
+        prompts.answers.push_back(Answer::No);
+        commands.mnuFileOpen_Click();
+        library.NewGroupNode("0D", "added");
+        prompts.messages.clear();
+        commandsHost.status.clear();
+    }
+
+    // The content under the file's name, else the one under its backup's.
+    [[nodiscard]] std::string Kept() const {
+        const auto file = files.contents.find(kFile);
+        return file == files.contents.end() ? files.contents.at(kBackup) : file->second;
+    }
+    [[nodiscard]] bool IsWhole() const { return Kept() == kOld || Kept() == kNew; }
+
+    FakeFileCommandsHost commandsHost;
+    FileCommands commands{{library, libraryFiles, settings, prompts, texts, "C:\\prog"}};
+};
+
+// With backups on or off.
+class SaveFaults : public testing::TestWithParam<bool> {
+protected:
+    // Lets the save fail at step 1, 2, ... until it completes; returns how many steps it took.
+    template <typename Check>
+    static int ForEachStep(FailureKind kind, Check check) {
+        for (int step = 1; step < kMoreThanAllSteps; ++step) {
+            ChangedLibrary changed(GetParam());
+            changed.files.FailAtStep(step, kind);
+            changed.commands.mnuFileSave_Click();
+            if (changed.files.Steps() < step)
+                return changed.files.Steps();
+            SCOPED_TRACE("step " + std::to_string(step));
+            check(changed);
+        }
+        return kMoreThanAllSteps;
+    }
+
+    // Create, write, flush, close and replace, and with backups the rename to ".bak".
+    static int StepsOfASave() { return GetParam() ? 6 : 5; }
+};
+
+TEST_P(SaveFaults, EveryFailedStepKeepsTheOldContentUnderTheFilesName) {
+    const int steps = ForEachStep(FailureKind::Reported, [](const ChangedLibrary& changed) {
+        ASSERT_TRUE(changed.files.contents.contains(kFile));
+        EXPECT_EQ(changed.files.contents.at(kFile), kOld);
+        EXPECT_FALSE(changed.files.contents.contains(kBeside));
+    });
+    EXPECT_EQ(steps, StepsOfASave());
+}
+
+TEST_P(SaveFaults, EveryFailedStepIsToldOnceWithTheFilesName) {
+    ForEachStep(FailureKind::Reported, [](const ChangedLibrary& changed) {
+        EXPECT_EQ(changed.prompts.messages,
+                  (std::vector<Message>{{"<4>C:\\lib\\a.tnt", 16, "<98>"}}));
+        EXPECT_TRUE(changed.commandsHost.status.empty());
+    });
+}
+
+TEST_P(SaveFaults, MediumThatGoesAwayLeavesTheOldContentUnderNameOrBackup) {
+    const int steps = ForEachStep(FailureKind::FromHereOn, [](const ChangedLibrary& changed) {
+        EXPECT_EQ(changed.Kept(), kOld);
+        EXPECT_EQ(changed.prompts.messages.size(), 1U);
+    });
+    EXPECT_EQ(steps, StepsOfASave());
+}
+
+TEST_P(SaveFaults, LibraryKeepsItsStateAndIsSavedWhenTheFaultIsGone) {
+    ForEachStep(FailureKind::FromHereOn, [](ChangedLibrary& changed) {
+        EXPECT_EQ(changed.library.Tree().At("0D").tag, kFile);
+        EXPECT_EQ(changed.library.GetGroupInMainnode("0D").size(), 2U);
+        changed.files.FailAtStep(0, FailureKind::Reported);
+        changed.commands.mnuFileSave_Click();
+        EXPECT_EQ(changed.files.contents.at(kFile), kNew);
+        EXPECT_FALSE(changed.files.contents.contains(kBeside));
+        EXPECT_EQ(changed.prompts.messages.size(), 1U); // of the failed save alone
+    });
+}
+
+TEST_P(SaveFaults, ProcessKilledAtAnyStepLeavesOldOrNewWholeUnderNameOrBackup) {
+    int step = 1;
+    for (; step < kMoreThanAllSteps; ++step) {
+        ChangedLibrary changed(GetParam());
+        changed.files.FailAtStep(step, FailureKind::Killed);
+        try {
+            changed.commands.mnuFileSave_Click();
+            break;
+        } catch (const FakeFiles::Killed&) {
+            EXPECT_TRUE(changed.IsWhole()) << "step " << step << ": " << changed.Kept();
+        }
+    }
+    EXPECT_EQ(step, StepsOfASave() + 1);
+}
+
+TEST_P(SaveFaults, SaveAfterAKilledOneClearsWhatThatLeftBeside) {
+    ChangedLibrary changed(GetParam());
+    changed.files.contents[kBeside] = "half of an unfinished sa";
+    changed.commands.mnuFileSave_Click();
+    EXPECT_EQ(changed.files.contents.at(kFile), kNew);
+    EXPECT_FALSE(changed.files.contents.contains(kBeside));
+    EXPECT_TRUE(changed.prompts.messages.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(WithAndWithoutBackups, SaveFaults, testing::Bool());
+
+} // namespace

@@ -1,0 +1,60 @@
+#include "library/SafeFileWriter.h"
+
+#include "platform/KernelHandle.h"
+#include "platform/Utf16.h"
+#include "platform/Win32Files.h"
+#include "tests/platform/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+namespace {
+
+constexpr std::string_view kOld = "old content";
+constexpr std::string_view kNew = "new content, which is longer";
+
+// A file and its backup that other programs use as well.
+class SharedFile : public testing::Test {
+protected:
+    SharedFile() {
+        folder.Write("a.tnt", kOld);
+        folder.Write("a.tnt.bak", "older");
+    }
+
+    [[nodiscard]] bool Save() {
+        return SafeFileWriter(files).Write(folder.File("a.tnt"), kNew, true);
+    }
+    void ExpectOldFileAndBackup() {
+        EXPECT_EQ(folder.Read("a.tnt"), kOld);
+        EXPECT_EQ(folder.Read("a.tnt.bak"), "older");
+    }
+
+    ScratchFolder folder;
+    Win32Files files;
+};
+
+} // namespace
+
+TEST_F(SharedFile, BackupThatAnotherProgramReadsKeepsFileAndBackup) {
+    KernelHandle held(CreateFileW(ToUtf16(folder.File("a.tnt.bak")).c_str(), GENERIC_READ,
+                                  FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
+                                  nullptr));
+    ASSERT_TRUE(held);
+    EXPECT_FALSE(Save());
+    ASSERT_TRUE(held.Close());
+    ExpectOldFileAndBackup();
+    EXPECT_FALSE(files.Exists(folder.File("a.tnt.saving")));
+}
+
+TEST_F(SharedFile, SaveWhileAnotherProgramSavesToItFailsAndMixesNothing) {
+    const std::unique_ptr<OutputFile> another = files.Create(folder.File("a.tnt.saving"));
+    ASSERT_NE(another, nullptr);
+    ASSERT_TRUE(another->Write("half of another's"));
+    EXPECT_FALSE(Save());
+    ASSERT_TRUE(another->Close());
+    ExpectOldFileAndBackup();
+    EXPECT_EQ(folder.Read("a.tnt.saving"), "half of another's");
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(folder.Read("a.tnt"), kNew);
+    EXPECT_EQ(folder.Read("a.tnt.bak"), kOld);
+}
