@@ -166,6 +166,43 @@ TEST_F(FileCommandsTest, FailedSaveNamesTheDialogsFileAndKeepsTheTag) {
     EXPECT_EQ(files.contents.at(kA), kContent);
 }
 
+TEST_F(FileCommandsTest, SaveAsOntoAnExistingFileKeepsItsContentUnderBak) {
+    const std::string other = "\"D#Other=0D:0\"\r\n";
+    Open(kA);
+    files.contents[kB] = other;
+    prompts.chosenFiles.emplace_back(kB);
+    commands.mnuFileSaveAs_Click();
+    EXPECT_EQ(files.contents.at(kB), kContent);
+    EXPECT_EQ(files.contents.at(std::string(kB) + ".bak"), other);
+    EXPECT_EQ(files.contents.at(kA), kContent);
+    EXPECT_FALSE(files.contents.contains(std::string(kA) + ".bak"));
+    EXPECT_EQ(library.Tree().At("0D").tag, kB);
+}
+
+TEST_F(FileCommandsTest, FailedSaveNamesTheDialogsFileAlsoWhenTheLibraryHasAnother) {
+    Open(kA);
+    Open(kB);
+    library.Tree().Select("0D");
+    files.locked[kA] = true;
+    prompts.messages.clear();
+    commands.mnuFileSave_Click();
+    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<4>C:\\lib\\b.tnt", 16, "<98>"}}));
+    EXPECT_EQ(library.Tree().At("0D").tag, kA);
+}
+
+TEST_F(FileCommandsTest, RefusedLossOfCharactersIsAFailedSaveThatWritesNothing) {
+    Open(kA);
+    library.Tree().SetText("0DG1", "\u8272");
+    prompts.messages.clear();
+    prompts.answers = {Answer::Cancel};
+    commands.mnuFileSave_Click();
+    ASSERT_EQ(prompts.messages.size(), 2U);
+    EXPECT_EQ(prompts.messages[0].prompt.find("<104>"), 0U);
+    EXPECT_EQ(prompts.messages[1].prompt, "<4>C:\\lib\\a.tnt");
+    EXPECT_EQ(files.contents.at(kA), kContent);
+    EXPECT_FALSE(files.contents.contains(std::string(kA) + ".bak"));
+}
+
 TEST_F(FileCommandsTest, LibraryWithoutGroupsCountsAsAFailedSave) {
     library.NewMainNode("Lib");
     library.Tree().SetTag("0D", "C:\\lib\\c.tnt");
