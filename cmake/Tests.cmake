@@ -33,7 +33,7 @@ tnt_test_program(portable_tests FOLDERS ${portable_test_folders}
 
 if(WIN32)
     tnt_test_program(windows_tests FOLDERS tests/platform tests/ui
-        LIBRARIES standin_model tnt_forms tnt_version gmock gtest gtest_main)
+        LIBRARIES standin_com standin_model tnt_forms tnt_version gmock gtest gtest_main)
     # The forms' icons, and the manifest that gives the program its common controls.
     target_sources(windows_tests PRIVATE resources/tnt4swx.rc)
     # Started as processes of their own, by the tests of the server and of the program's start.
@@ -41,15 +41,21 @@ if(WIN32)
     set(remote_sources tests/e2e/RunningProgram.cpp tests/e2e/RemoteWindow.cpp
         tests/e2e/RealInput.cpp)
     target_sources(windows_tests PRIVATE ${remote_sources})
-    # Measures the start of the program; its numbers stand in docs/performance.md.
+    # Measure the start of the program and its walks over SolidWorks documents; their numbers stand
+    # in docs/performance.md.
     add_executable(start_bench tests/bench/StartBench.cpp tests/platform/SettingsKey.cpp
         ${remote_sources})
-    target_link_libraries(start_bench PRIVATE tnt_platform)
-    tnt_target_options(start_bench)
+    add_executable(walk_bench tests/bench/WalkBench.cpp tests/platform/StandInProcess.cpp
+        tests/platform/ScratchFolder.cpp)
+    target_link_libraries(walk_bench PRIVATE standin_model tnt_forms)
     add_dependencies(start_bench tnt4swx)
-    if(NOT MSVC)
-        target_link_options(start_bench PRIVATE -static)
-    endif()
+    add_dependencies(walk_bench swx_standin)
+    foreach(bench start_bench walk_bench)
+        tnt_target_options(${bench})
+        if(NOT MSVC)
+            target_link_options(${bench} PRIVATE -static)
+        endif()
+    endforeach()
     # A program of its own: its processes are killed, and it wants mounted places around it.
     tnt_test_program(file_faults FOLDERS tests/faults LIBRARIES tnt_platform gtest)
     target_sources(file_faults PRIVATE tests/e2e/RunningProgram.cpp

@@ -23,8 +23,13 @@ target_link_libraries(tnt4swx PRIVATE tnt_forms tnt_version)
 tnt_target_options(tnt4swx)
 
 tnt_sources(standin_sources standin/com)
-add_executable(swx_standin WIN32 ${standin_sources} resources/swx_standin.rc)
-target_link_libraries(swx_standin PRIVATE standin_model tnt_platform tnt_version)
+list(FILTER standin_sources EXCLUDE REGEX "/StandInMain\\.cpp$")
+add_library(standin_com STATIC ${standin_sources})
+target_link_libraries(standin_com PUBLIC standin_model tnt_platform)
+tnt_target_options(standin_com)
+
+add_executable(swx_standin WIN32 standin/com/StandInMain.cpp resources/swx_standin.rc)
+target_link_libraries(swx_standin PRIVATE standin_com tnt_version)
 tnt_target_options(swx_standin)
 
 foreach(program tnt4swx swx_standin)

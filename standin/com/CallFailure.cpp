@@ -33,7 +33,7 @@ HRESULT ResultOfCurrentException(EXCEPINFO* exception) noexcept {
     try {
         throw;
     } catch (const CallRejected&) {
-        return RPC_E_CALL_REJECTED;
+        return RPC_E_SERVERCALL_RETRYLATER; // the other answer is the message filter's
     } catch (const RuntimeError& error) {
         try {
             return Describe(error, exception);

@@ -203,6 +203,7 @@ void ObjectList::Report() {
     for (LRESULT row = Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LPARAM{LVNI_SELECTED});
          row >= 0; row = Send(LVM_GETNEXTITEM, static_cast<WPARAM>(row), LPARAM{LVNI_SELECTED}))
         selected.push_back(rows_[static_cast<std::size_t>(row)]);
-    shown_ = selected;
-    Raise(onSelect, selected);
+    const SelectionChange change = ChangeBetween(shown_, selected);
+    shown_ = std::move(selected);
+    Raise(onSelect, change);
 }

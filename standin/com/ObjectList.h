@@ -19,8 +19,9 @@ public:
     // Shows this selection, without reporting it.
     void ShowSelection(const Selection& selection);
 
-    // The user has changed which rows are selected; they are passed in the order of the list.
-    std::function<void(const std::vector<SelectedItem>&)> onSelect;
+    // The user has changed which rows are selected.  Only the change is passed, in the order of the
+    // list, so that it does not undo what a client selects at the same time.
+    std::function<void(const SelectionChange&)> onSelect;
 
     MessageResult OnNotify(NMHDR& header) override;
     void ApplyScale() override;

@@ -7,7 +7,8 @@
 
 // IDispatch for one object of the stand-in.  Names are found whatever their letter case; a call
 // with METHOD or PROPERTYGET reads, one with PROPERTYPUT assigns.  No exception leaves it: the
-// words of a RuntimeError go into EXCEPINFO, a rejected call returns RPC_E_CALL_REJECTED.
+// words of a RuntimeError go into EXCEPINFO, a rejected call returns
+// RPC_E_SERVERCALL_RETRYLATER.
 class ServedObject final : public ComObject<IDispatch> {
 public:
     ServedObject(std::shared_ptr<ServedObjects> objects, StandInObjectPtr object)

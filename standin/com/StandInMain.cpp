@@ -3,6 +3,7 @@
 #include "platform/LibrarySearch.h"
 #include "platform/MessageLoop.h"
 #include "platform/Utf16.h"
+#include "standin/com/BusyAnswer.h"
 #include "standin/com/CallLogFile.h"
 #include "standin/com/frmStandIn.h"
 #include "standin/com/StandInServer.h"
@@ -56,6 +57,7 @@ int Run(ErrorSink& errors) {
         model.Gate().AddFault(fault);
     model.Gate().SetDieHandler([] { TerminateProcess(GetCurrentProcess(), kDeathExitCode); });
     model.Log().SetLimit(kKeptCalls);
+    const BusyAnswer busyAnswer(model.Gate());
     const StandInServer server(model);
     frmStandIn window(model, server.Objects(), errors);
     model.Log().SetListener([&](const CallRecord& record) {

@@ -85,7 +85,7 @@ frmStandIn::~frmStandIn() {
 
 void frmStandIn::Connect() {
     documentChoice_.onChoose = [this](int index) { ChooseDocument(index); };
-    list_.onSelect = [this](const auto& rows) { SelectRows(rows); };
+    list_.onSelect = [this](const SelectionChange& change) { ChangeSelection(change); };
     picture_.onPick = [this](const SelectedItem& item, bool append) { Pick(item, append); };
 }
 
@@ -147,15 +147,13 @@ void frmStandIn::Pick(const SelectedItem& item, bool append) {
 }
 
 // What stays selected keeps its place; what is new follows.
-void frmStandIn::SelectRows(const std::vector<SelectedItem>& rows) {
+void frmStandIn::ChangeSelection(const SelectionChange& change) {
     const DocumentPtr document = model_.ActiveDocument();
     if (!document)
         return;
-    const std::vector<SelectedItem> before = document->CurrentSelection().Items();
-    for (const SelectedItem& item : before)
-        if (std::find(rows.begin(), rows.end(), item) == rows.end())
-            document->Deselect(item);
-    for (const SelectedItem& item : rows)
+    for (const SelectedItem& item : change.removed)
+        document->Deselect(item);
+    for (const SelectedItem& item : change.added)
         document->SelectItem(item, true);
     Refresh();
 }
@@ -187,6 +185,7 @@ void frmStandIn::ShowDocument() {
 void frmStandIn::Refresh() {
     KillTimer(Handle(), kRefreshTimer);
     refreshRequested_ = false;
+    ++refreshes_;
     const ULONGLONG start = GetTickCount64();
     if (model_.ActiveDocument() != shownDocument_)
         ShowDocument();
@@ -213,6 +212,8 @@ LRESULT frmStandIn::AnswerQuestion(WPARAM question, LPARAM row) {
         return number(model_.Gate().RejectedCalls());
     case Contract::Question::PicturePoint:
         return PointOfRow(row);
+    case Contract::Question::Refreshes:
+        return number(refreshes_);
     case Contract::Question::RebuildCount: {
         const DocumentPtr document = model_.ActiveDocument();
         return document ? document->RebuildCount() : 0;

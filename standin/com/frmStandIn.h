@@ -38,7 +38,7 @@ private:
     void LoadStandInIcons();
     void ChooseDocument(int index);
     void Pick(const SelectedItem& item, bool append);
-    void SelectRows(const std::vector<SelectedItem>& rows);
+    void ChangeSelection(const SelectionChange& change);
     void ShowDocument();
     void Refresh();
     [[nodiscard]] LRESULT AnswerQuestion(WPARAM question, LPARAM row);
@@ -52,6 +52,7 @@ private:
     UINT askMessage_;
     DocumentPtr shownDocument_;
     bool refreshRequested_ = false;
+    std::size_t refreshes_ = 0;
     UINT refreshDelay_ = 0; // milliseconds
     IconHandle standInBigIcon_;
     IconHandle standInSmallIcon_;

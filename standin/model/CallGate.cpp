@@ -66,30 +66,30 @@ void CallGate::ClearFaults() noexcept {
     dead_ = false;
 }
 
-Fault* CallGate::FaultOfNextCall() {
+Fault* CallGate::FaultOfNextCall() noexcept {
     const auto found = std::find_if(faults_.begin(), faults_.end(), [&](const Fault& fault) {
-        return fault.callNumber == received_ + 1 &&
-               (fault.kind != FaultKind::Busy || fault.times > 0);
+        return fault.callNumber == received_ + 1 && (!IsRejection(fault.kind) || fault.times > 0);
     });
     return found == faults_.end() ? nullptr : &*found;
 }
 
 // A busy server does not see the call at all: it is neither counted nor logged.
-void CallGate::RejectIfBusy(const std::string& member) {
+bool CallGate::TakeRejection(FaultKind kind) noexcept {
     Fault* fault = FaultOfNextCall();
-    if (!fault || fault->kind != FaultKind::Busy)
-        return;
+    if (!fault || fault->kind != kind)
+        return false;
     if (fault->times != kAlways)
         --fault->times;
     ++rejected_;
-    throw CallRejected(member);
+    return true;
 }
 
 AutomationValue CallGate::Receive(const CallRecord& record,
                                   const std::function<AutomationValue()>& carryOut) {
     if (dead_)
         throw ServerGone(record.member);
-    RejectIfBusy(record.member);
+    if (TakeRejection(FaultKind::Busy) || TakeRejection(FaultKind::RetryLater))
+        throw CallRejected(record.member);
     const Fault* fault = FaultOfNextCall();
     ++received_;
     log_.Add(record);
@@ -115,6 +115,7 @@ AutomationValue CallGate::AnswerWrongly(const Fault& fault, const std::string& m
         throw ServerGone(member);
     case FaultKind::EmptyValue:
     case FaultKind::Busy:
+    case FaultKind::RetryLater:
         break;
     }
     return {};

@@ -36,6 +36,10 @@ public:
     // What "die" does, for example ending the process.  Without one every later call fails.
     void SetDieHandler(DieHandler handler) { dieHandler_ = std::move(handler); }
 
+    // Whether the next call meets a fault of this kind (Busy or RetryLater), which is counted.  The
+    // call is not received then; a server asks before it lets a call in.
+    [[nodiscard]] bool TakeRejection(FaultKind kind) noexcept;
+
     // Wrapped objects that some client still holds.
     [[nodiscard]] std::size_t LiveObjects() const noexcept { return wrappers_.size(); }
     // Calls that were turned away as busy; they are not in the log.
@@ -48,8 +52,7 @@ private:
 
     AutomationValue Receive(const CallRecord& record,
                             const std::function<AutomationValue()>& carryOut);
-    [[nodiscard]] Fault* FaultOfNextCall();
-    void RejectIfBusy(const std::string& member);
+    [[nodiscard]] Fault* FaultOfNextCall() noexcept;
     AutomationValue AnswerWrongly(const Fault& fault, const std::string& member);
     [[nodiscard]] AutomationValue WrapValue(const AutomationValue& value);
     void Forget(const StandInObject* object) noexcept { wrappers_.erase(object); }

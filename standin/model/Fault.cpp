@@ -11,7 +11,7 @@ struct KindName {
     FaultKind kind;
 };
 
-constexpr std::array<KindName, 8> kKindNames{{
+constexpr std::array<KindName, 9> kKindNames{{
     {"error", FaultKind::Error},
     {"null", FaultKind::NullObject},
     {"empty", FaultKind::EmptyValue},
@@ -19,6 +19,7 @@ constexpr std::array<KindName, 8> kKindNames{{
     {"text-array", FaultKind::WrongTypeArray},
     {"text", FaultKind::Text},
     {"busy", FaultKind::Busy},
+    {"retry-later", FaultKind::RetryLater},
     {"die", FaultKind::Die},
 }};
 
@@ -59,7 +60,7 @@ Fault ParseFault(const std::string& text) {
     const std::string detail = text.substr(second + 1);
     if (fault.kind == FaultKind::Error)
         fault.description = detail;
-    else if (fault.kind == FaultKind::Busy)
+    else if (IsRejection(fault.kind))
         fault.times = ReadTimes(text, detail);
     else
         ThrowInvalid(text);

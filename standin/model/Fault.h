@@ -14,9 +14,15 @@ enum class FaultKind {
     WrongSizeArray, // answers an array of two doubles
     WrongTypeArray, // answers an array of nine texts
     Text,           // answers a text that is no number
-    Busy,           // is rejected, `times` times, and then received
+    Busy,           // is rejected before it is received, `times` times
+    RetryLater,     // as Busy, with the other of the two answers that busy programs give
     Die             // the server ends
 };
+
+// Whether a call that goes wrong so is not received at all.
+[[nodiscard]] constexpr bool IsRejection(FaultKind kind) noexcept {
+    return kind == FaultKind::Busy || kind == FaultKind::RetryLater;
+}
 
 // A number of times without end.
 inline constexpr std::size_t kAlways = std::numeric_limits<std::size_t>::max();
@@ -27,14 +33,14 @@ struct Fault {
     std::size_t callNumber = 1;
     FaultKind kind = FaultKind::Error;
     std::string description = "The stand-in was told to fail"; // of Error
-    std::size_t times = 1;                                     // of Busy
+    std::size_t times = 1;                                     // of Busy and RetryLater
 
     bool operator==(const Fault&) const = default;
 };
 
 // "N:error", "N:error:TEXT", "N:null", "N:empty", "N:short-array", "N:text-array", "N:text",
-// "N:busy", "N:busy:TIMES", "N:busy:always", "N:die".  Throws RuntimeError InvalidPropertyValue for
-// everything else.
+// "N:busy", "N:busy:TIMES", "N:busy:always", the same with "retry-later", "N:die".  Throws
+// RuntimeError InvalidPropertyValue for everything else.
 [[nodiscard]] Fault ParseFault(const std::string& text);
 
 // A call that a busy server did not let in; it may be made again.

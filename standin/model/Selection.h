@@ -15,6 +15,14 @@ struct SelectedItem {
     bool operator==(const SelectedItem&) const = default;
 };
 
+// What a user changed in a view of the selection.
+struct SelectionChange {
+    std::vector<SelectedItem> added;
+    std::vector<SelectedItem> removed;
+};
+[[nodiscard]] SelectionChange ChangeBetween(const std::vector<SelectedItem>& before,
+                                            const std::vector<SelectedItem>& after);
+
 // What is selected in one document, in the order of selecting.
 class Selection {
 public:

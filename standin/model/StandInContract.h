@@ -18,7 +18,8 @@ enum class Question : std::uint32_t {
     // lParam: a row of the object list.  Where to click on it in the picture: x in the low, y in
     // the high word, in client pixels of the picture; -1 when the picture does not show it.
     PicturePoint = 5,
-    RebuildCount = 6 // EditRebuild calls of the active document
+    RebuildCount = 6, // EditRebuild calls of the active document
+    Refreshes = 7     // how often the window was brought up to date
 };
 
 // WM_COPYDATA with this number in dwData and an order (see RunOrder) as UTF-8 text.  The answer is

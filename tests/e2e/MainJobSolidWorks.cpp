@@ -84,6 +84,7 @@ void MainJob::SetColorOnTwoFaces() {
         "selected in the stand-in", [this] { return StandIn().SelectedObjects(); },
         std::vector<std::string>{"Face 1", "Face 2"});
 
+    Main().ClearInfoText();
     log_.Mark();
     Main().ClickButton(IDM_mnuSWXSetColor);
     Report().CheckBecomes(
@@ -109,10 +110,13 @@ void MainJob::SetColorOnComponent() {
         "selected in the stand-in", [this] { return StandIn().SelectedObjects(); },
         std::vector<std::string>{"Cover-1"});
 
+    Main().ClearInfoText();
+    Report().CheckEqual("status bar before", Main().InfoText(), std::string());
     log_.Mark();
     Main().ClickButton(IDM_mnuSWXSetColorComponent);
     Report().CheckBecomes(
-        "rebuilds", [this] { return log_.NewLinesWith("EditRebuild").size(); }, std::size_t{1});
+        "status bar", [this] { return Main().InfoText(); }, std::string(kStatusOkay));
+    Report().CheckEqual("rebuilds", log_.NewLinesWith("EditRebuild").size(), std::size_t{1});
     const std::vector<std::string> puts = log_.NewLinesWith("put ");
     Report().CheckEqual("assignments", puts.size(), std::size_t{1});
     CheckValuesSent(puts);

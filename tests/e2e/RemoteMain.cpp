@@ -85,6 +85,12 @@ std::string RemoteMain::InfoText() const {
     return ToUtf8(memory.Text());
 }
 
+void RemoteMain::ClearInfoText() const {
+    const RemoteWindow bar = window_.Child(IDC_stbarMain);
+    const RemoteMemory memory(bar.Handle()); // new memory holds the empty text
+    SendMessageW(bar.Handle(), SB_SETTEXTW, 0, reinterpret_cast<LPARAM>(memory.TextAddress()));
+}
+
 void RemoteMain::TypeValue(std::size_t index, const std::string& digits) const {
     const RemoteWindow box = ValueBox(index);
     box.Click();

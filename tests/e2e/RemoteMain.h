@@ -30,6 +30,7 @@ public:
     [[nodiscard]] std::string SwatchCaption() const;
     [[nodiscard]] bool IsLargeEditorShown() const;
     [[nodiscard]] std::string InfoText() const; // status bar
+    void ClearInfoText() const;                 // so that the next text is known to be a new one
 
     void TypeValue(std::size_t index, const std::string& digits) const;
     void DragSlider(std::size_t index, int pixels) const;

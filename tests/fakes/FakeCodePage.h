@@ -13,8 +13,8 @@ public:
     // Western (Windows-1252): Latin-1 from 0xA0 on, and a few of the characters in between.
     static FakeCodePage Western() {
         FakeCodePage page;
-        for (std::uint32_t byte = 0xA0; byte <= 0xFF; ++byte)
-            page.Add(static_cast<unsigned char>(byte), byte);
+        for (std::uint32_t octet = 0xA0; octet <= 0xFF; ++octet)
+            page.Add(static_cast<unsigned char>(octet), octet);
         page.Add(0x80, 0x20AC);
         page.Add(0x96, 0x2013);
         return page;
@@ -23,18 +23,18 @@ public:
     // Cyrillic (Windows-1251): the letters, and no division sign.
     static FakeCodePage Cyrillic() {
         FakeCodePage page;
-        for (std::uint32_t byte = 0xC0; byte <= 0xFF; ++byte)
-            page.Add(static_cast<unsigned char>(byte), byte - 0xC0 + 0x410);
+        for (std::uint32_t octet = 0xC0; octet <= 0xFF; ++octet)
+            page.Add(static_cast<unsigned char>(octet), octet - 0xC0 + 0x410);
         return page;
     }
 
     std::string Decode(std::string_view bytes) const override {
         std::string text;
         for (const char character : bytes) {
-            const auto byte = static_cast<unsigned char>(character);
-            const auto found = characters_.find(byte);
-            text += byte < 0x80 ? std::string(1, character)
-                                : Utf8(found == characters_.end() ? 0xFFFD : found->second);
+            const auto octet = static_cast<unsigned char>(character);
+            const auto found = characters_.find(octet);
+            text += octet < 0x80 ? std::string(1, character)
+                                 : Utf8(found == characters_.end() ? 0xFFFD : found->second);
         }
         return text;
     }
@@ -57,9 +57,9 @@ public:
     }
 
 private:
-    void Add(unsigned char byte, std::uint32_t codePoint) {
-        characters_[byte] = codePoint;
-        bytes_[Utf8(codePoint)] = byte;
+    void Add(unsigned char octet, std::uint32_t codePoint) {
+        characters_[octet] = codePoint;
+        bytes_[Utf8(codePoint)] = octet;
     }
     static void Refuse(Encoded& encoded, const std::string& character) {
         encoded.bytes += '?';

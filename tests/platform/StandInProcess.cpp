@@ -81,14 +81,15 @@ ProgramResult RunProgram(const std::wstring& commandLine) {
     return {ExitCode(process), output};
 }
 
-StandInProcess::StandInProcess(const std::wstring& switches) {
+StandInProcess::StandInProcess(const std::wstring& switches, CallLogging logging) {
     const std::wstring program = (ProgramFolder() / L"bin" / L"swx_standin.exe").wstring();
     const std::wstring log = ToUtf16(folder_.File("calls.log"));
     const std::wstring readyFile = ToUtf16(folder_.File("ready"));
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
-    process_ = Start(Quoted(program) + L" --hidden --log " + Quoted(log) + L" --ready-file " +
-                         Quoted(readyFile) + L" " + switches,
+    const std::wstring logSwitch = logging == CallLogging::On ? L" --log " + Quoted(log) : L"";
+    process_ = Start(Quoted(program) + L" --hidden --ready-file " + Quoted(readyFile) + logSwitch +
+                         L" " + switches,
                      startup);
     if (!process_)
         return;

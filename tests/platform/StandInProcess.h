@@ -14,11 +14,15 @@ struct ProgramResult {
 };
 [[nodiscard]] ProgramResult RunProgram(const std::wstring& commandLine);
 
+// Whether a stand-in writes every call into a file.
+enum class CallLogging { Off, On };
+
 // A stand-in in a process of its own, without a visible window; it ends with this object.
 class StandInProcess {
 public:
     // switches: as on the command line.
-    explicit StandInProcess(const std::wstring& switches = {});
+    explicit StandInProcess(const std::wstring& switches = {},
+                            CallLogging logging = CallLogging::On);
     StandInProcess(const StandInProcess&) = delete;
     StandInProcess& operator=(const StandInProcess&) = delete;
     ~StandInProcess() { Stop(); }

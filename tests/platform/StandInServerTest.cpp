@@ -117,6 +117,21 @@ TEST_F(StandInServerTest, ABusyServerIsAskedAgainUntilItAnswers) {
     EXPECT_EQ(standIn.Ask(Question::CallCount), 1);
 }
 
+// As the server's message filter answers, and as programs that are in the middle of something do.
+TEST_F(StandInServerTest, BothAnswersOfABusyServerReachTheClientAsTheyAre) {
+    const StandInProcess standIn(L"--fault 1:busy:always --fault 2:retry-later:always");
+    ASSERT_TRUE(standIn.IsReady());
+    const AutomationObjectPtr application = Attach();
+    const std::string rejected = ErrorOfReading(application, "RevisionNumber");
+    EXPECT_NE(rejected.find("80010001"), std::string::npos) << rejected;
+    EXPECT_EQ(standIn.Ask(Question::NameLookups), 0) << "turned away before it reached its object";
+    ASSERT_TRUE(standIn.Order("clear-faults"));
+    application->Get("RevisionNumber");
+    ASSERT_TRUE(standIn.Order("fault 2:retry-later:always"));
+    const std::string later = ErrorOfReading(application, "RevisionNumber");
+    EXPECT_NE(later.find("8001010A"), std::string::npos) << later;
+}
+
 TEST_F(StandInServerTest, AServerThatDiesInACallIsGoneAndCanBeStartedAnew) {
     StandInProcess standIn(L"--fault 1:die");
     ASSERT_TRUE(standIn.IsReady());

@@ -57,6 +57,16 @@ TEST(CallGate, ABusyServerRejectsTheCallAndThenReceivesIt) {
     EXPECT_EQ(model.Log().Records().size(), 1U);
 }
 
+TEST(CallGate, AServerCanTurnTheNextCallAwayBeforeItIsMade) {
+    StandInModel model;
+    model.Gate().AddFault(ParseFault("1:busy"));
+    EXPECT_FALSE(model.Gate().TakeRejection(FaultKind::RetryLater));
+    EXPECT_TRUE(model.Gate().TakeRejection(FaultKind::Busy));
+    EXPECT_FALSE(model.Gate().TakeRejection(FaultKind::Busy)) << "once only";
+    EXPECT_EQ(model.ApplicationObject()->Get("RevisionNumber").AsString(), "12.5.0");
+    EXPECT_EQ(model.Gate().RejectedCalls(), 1U);
+}
+
 TEST(CallGate, AServerThatIsAlwaysBusyNeverReceivesTheCall) {
     StandInModel model;
     model.Gate().AddFault(ParseFault("1:busy:always"));
@@ -111,6 +121,8 @@ TEST(ParseFault, ReadsEveryForm) {
     EXPECT_EQ(ParseFault("3:die").callNumber, 3U);
     EXPECT_EQ(ParseFault("7:busy:4").times, 4U);
     EXPECT_EQ(ParseFault("7:busy:always").times, kAlways);
+    EXPECT_EQ(ParseFault("7:retry-later:2").kind, FaultKind::RetryLater);
+    EXPECT_EQ(ParseFault("7:retry-later:2").times, 2U);
 }
 
 TEST(ParseFault, RefusesEverythingElse) {

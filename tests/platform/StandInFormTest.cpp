@@ -1,0 +1,123 @@
+#include "platform/ComApartment.h"
+#include "platform/MessageLoop.h"
+#include "platform/Utf16.h"
+#include "standin/com/frmStandIn.h"
+#include "standin/model/StandInContract.h"
+#include "tests/platform/PollUntil.h"
+#include "tests/standin/StandInClient.h"
+#include "tests/ui/RecordingErrorSink.h"
+
+#include <array>
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using StandInContract::Question;
+
+// The stand-in's window in this process, so that what a client and the user do at the same time has
+// one order.
+class StandInFormTest : public testing::Test {
+protected:
+    [[nodiscard]] HWND List() const {
+        return GetDlgItem(form.Handle(), StandInContract::ObjectList);
+    }
+    void SelectRow(int row, bool selected = true) const {
+        LVITEMW item{};
+        item.stateMask = LVIS_SELECTED;
+        item.state = selected ? LVIS_SELECTED : 0;
+        SendMessageW(List(), LVM_SETITEMSTATE, static_cast<WPARAM>(row),
+                     reinterpret_cast<LPARAM>(&item));
+    }
+    [[nodiscard]] bool IsRowSelected(int row) const {
+        return SendMessageW(List(), LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0;
+    }
+    [[nodiscard]] LRESULT Refreshes() const {
+        return SendMessageW(form.Handle(), RegisterWindowMessageW(StandInContract::AskMessage),
+                            static_cast<WPARAM>(Question::Refreshes), 0);
+    }
+    [[nodiscard]] std::string Details() const {
+        std::array<wchar_t, 512> text{};
+        GetDlgItemTextW(form.Handle(), StandInContract::Details, text.data(), 512);
+        return ToUtf8(text.data());
+    }
+    [[nodiscard]] std::vector<std::string> SelectedNames() {
+        std::vector<std::string> names;
+        for (const SelectedItem& item : model.Part().CurrentSelection().Items())
+            names.push_back(item.entity->Name());
+        return names;
+    }
+
+    using Names = std::vector<std::string>;
+
+    ComApartment apartment;
+    RecordingErrorSink errors;
+    StandInModel model{"features=2,faces=200"}; // rows 0 and 1 are the features
+    std::shared_ptr<ServedObjects> objects = std::make_shared<ServedObjects>();
+    frmStandIn form{model, *objects, errors};
+    Win32EventPump pump;
+};
+
+TEST_F(StandInFormTest, WhatAClientSelectsMeanwhileIsNotUndoneByTheUsersChoice) {
+    SelectRow(0);                         // reported soon
+    model.Part().FaceAt(0)->Select(true); // a client is faster
+    pump.ProcessPendingEvents();
+    EXPECT_EQ(SelectedNames(), (Names{"Face 1", "Feature 1"}));
+    EXPECT_TRUE(IsRowSelected(0));
+    EXPECT_TRUE(IsRowSelected(2));
+}
+
+TEST_F(StandInFormTest, WhatAClientReplacesMeanwhileIsNotBroughtBack) {
+    SelectRow(0);
+    pump.ProcessPendingEvents();
+    SelectRow(1);
+    model.Part().FaceAt(0)->Select(false);
+    pump.ProcessPendingEvents();
+    EXPECT_EQ(SelectedNames(), (Names{"Face 1", "Feature 2"}));
+    EXPECT_FALSE(IsRowSelected(0));
+}
+
+TEST_F(StandInFormTest, RowsThatTheUserTakesOffAreTakenOffAlone) {
+    model.Part().FaceAt(0)->Select(true);
+    model.Part().FaceAt(1)->Select(true);
+    ASSERT_TRUE(PollUntil([&] {
+        pump.ProcessPendingEvents();
+        return IsRowSelected(3);
+    }));
+    SelectRow(2, false);
+    pump.ProcessPendingEvents();
+    EXPECT_EQ(SelectedNames(), Names{"Face 2"});
+}
+
+TEST_F(StandInFormTest, ManyChangesBroughtUpToDateTogetherCostOneRefresh) {
+    const LRESULT before = Refreshes();
+    for (const auto& face : model.Part().Faces()) {
+        face->SetColor(MaterialValues{1, 0, 0, 0, 0, 0, 0, 0, 0});
+        face->Select(false);
+    }
+    EXPECT_EQ(Refreshes(), before) << "nothing is painted while calls come in";
+    ASSERT_TRUE(PollUntil([&] {
+        pump.ProcessPendingEvents();
+        return Refreshes() != before;
+    }));
+    EXPECT_EQ(Refreshes(), before + 1);
+    pump.ProcessPendingEvents();
+    EXPECT_EQ(Refreshes(), before + 1) << "and nothing is left to do";
+    EXPECT_TRUE(Details().starts_with("Face 200\r\n")) << Details();
+    EXPECT_TRUE(errors.reports.empty());
+}
+
+TEST_F(StandInFormTest, ClearedColourIsSeenWithTheNextRefresh) {
+    const auto face = model.Part().FaceAt(0);
+    face->SetColor(MaterialValues{1, 0, 0, 0, 0, 0, 0, 0, 0});
+    face->Select(false);
+    const auto shows = [&](const char* text) {
+        pump.ProcessPendingEvents();
+        return Details().find(text) != std::string::npos;
+    };
+    ASSERT_TRUE(PollUntil([&] { return shows("Own colour: set"); })) << Details();
+    face->SetColor(std::nullopt);
+    EXPECT_TRUE(PollUntil([&] { return shows("the colour of the part"); })) << Details();
+}
+
+} // namespace
