@@ -74,7 +74,7 @@ void MainEditor::AddRow(std::size_t index) {
 
 void MainEditor::Attach(MainViewEvents& events) {
     for (std::size_t index = 0; index < kColorValueCount; ++index) {
-        Row& row = rows_.at(index);
+        const Row& row = rows_.at(index);
         row.box->onChange = [&events, index](const std::string& text) {
             events.ValueTextChanged(index, text);
         };

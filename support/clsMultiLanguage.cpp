@@ -118,7 +118,7 @@ void clsMultiLanguage::SetAllControlText(LocalizableForm& form) {
         LoadControl(form.Name(), *control);
 }
 
-void clsMultiLanguage::SetControlText(LocalizableForm& form, FormControl& control) {
+void clsMultiLanguage::SetControlText(const LocalizableForm& form, FormControl& control) {
     if (FileExists(iniFile_))
         LoadControl(form.Name(), control);
 }
@@ -202,7 +202,7 @@ void clsMultiLanguage::GetAllControlText(LocalizableForm& form) {
         GetControlText(form, *control);
 }
 
-void clsMultiLanguage::GetControlText(LocalizableForm& form, FormControl& control) {
+void clsMultiLanguage::GetControlText(const LocalizableForm& form, FormControl& control) {
     const std::string section = form.Name();
     const std::string typeName = control.TypeName();
     if (typeName == "ListBox" || typeName == "ComboBox") {

@@ -44,7 +44,7 @@ public:
     // Throws RuntimeError for a list's ListCount that is no number, a Default that is no entry, and
     // a property that a control does not have.
     void SetAllControlText(LocalizableForm& form);
-    void SetControlText(LocalizableForm& form, FormControl& control);
+    void SetControlText(const LocalizableForm& form, FormControl& control);
 
     // A message text.
     std::string GetInfoText(std::int32_t number) override;
@@ -54,7 +54,7 @@ public:
 
     // Write a form's current texts as a template for a language file.
     void GetAllControlText(LocalizableForm& form);
-    void GetControlText(LocalizableForm& form, FormControl& control);
+    void GetControlText(const LocalizableForm& form, FormControl& control);
 
 private:
     [[nodiscard]] std::string ReadOr(const std::string& section, const std::string& key,

@@ -337,7 +337,7 @@ TEST_F(AboutKeys, AccessKeyPressesTheSystemInformationButton) {
 TEST_F(AuxiliaryForms, AboutIsClosedByEnterAndByEscape) {
     frmAbout about(form.Handle(), errors, banners);
     about.Attach(recorded);
-    for (const WPARAM key : {VK_RETURN, VK_ESCAPE}) {
+    for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_ESCAPE}}) {
         Later([&] { Press(about, key); });
         about.ShowModal();
     }
@@ -350,7 +350,7 @@ TEST_F(AuxiliaryForms, ViewerIsWorkedByKeysAlone) {
     viewer.SetEntries({"readme"});
     viewer.ShowModeless();
     EXPECT_EQ(TabOrder(viewer), (std::vector<int>{IDC_cmbTxtView, IDC_rtbShowtext, IDC_cmdOkay}));
-    for (const WPARAM key : {VK_RETURN, VK_ESCAPE})
+    for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_ESCAPE}})
         for (const int id : {IDC_cmbTxtView, IDC_rtbShowtext, IDC_cmdOkay}) {
             viewer.ShowModeless();
             SetFocus(FindChild(viewer.Handle(), id));
