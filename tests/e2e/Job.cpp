@@ -48,6 +48,15 @@ void Job::StartStandIn(const std::string& arguments) {
 
 void Job::EndMain() {
     main_->Window().Close();
+    AwaitEndOfMain();
+}
+
+void Job::QuitMain() {
+    main_->ChooseFromMenu("mnuFile", "mnuQuit");
+    AwaitEndOfMain();
+}
+
+void Job::AwaitEndOfMain() {
     report_.CheckEqual("exit code of the program", mainProgram_->WaitForExitCode().value_or(999U),
                        0U);
     main_.reset();

@@ -43,11 +43,14 @@ protected:
 
     // Closes the window as its close box does and checks the exit code.
     void EndMain();
+    // Quits by the menu and checks the exit code.
+    void QuitMain();
     void EndStandIn();
 
     [[nodiscard]] static std::filesystem::path PathOf(const std::string& utf8);
 
 private:
+    void AwaitEndOfMain();
     void SavePicture(int step, const std::string& name);
 
     std::string programFolder_;

@@ -3,14 +3,19 @@
 #include "platform/Utf16.h"
 #include "resources/controls.h"
 #include "tests/e2e/RealInput.h"
+#include "tests/e2e/RemoteMemory.h"
 #include "tests/platform/PollUntil.h"
 
+#include <commdlg.h>
+#include <dlgs.h>
 #include <stdexcept>
 
 namespace {
 
 constexpr int kMessageText = 0xFFFF;
 constexpr int kFileName = 1148;
+constexpr int kKinds = cmb1;   // the combo box with the kinds of files
+constexpr int kUnchanged = 20; // reads in a row that show that a name stays
 constexpr int kClickAttempts = 3;
 constexpr std::chrono::milliseconds kClickPatience{2000};
 
@@ -46,6 +51,59 @@ void Press(const RemoteWindow& dialog, int button) {
     PostMessageW(dialog.Handle(), WM_COMMAND, static_cast<WPARAM>(button), 0);
 }
 
+RemoteWindow WaitForFileDialog(const RemoteWindow& owner) {
+    return WaitForPopup(owner, L"#32770", kFileName);
+}
+
+// The dialog fills its own name in for a moment after it is there: so the name is entered until it
+// stays.
+void SetFileName(const RemoteWindow& dialog, const std::string& path) {
+    const std::wstring name = ToUtf16(path);
+    int unchanged = 0;
+    const bool entered = PollUntil([&] {
+        unchanged = dialog.Child(kFileName).Text() == path ? unchanged + 1 : 0;
+        if (unchanged == 0)
+            SendDlgItemMessageW(dialog.Handle(), kFileName, WM_SETTEXT, 0,
+                                reinterpret_cast<LPARAM>(name.c_str()));
+        return unchanged > kUnchanged;
+    });
+    if (!entered)
+        throw std::runtime_error("The dialog does not take the name");
+}
+
+std::string SettledFileName(const RemoteWindow& dialog) {
+    std::string name;
+    int unchanged = 0;
+    static_cast<void>(PollUntil([&] {
+        const std::string now = dialog.Child(kFileName).Text();
+        unchanged = now == name ? unchanged + 1 : 0;
+        name = now;
+        return unchanged > kUnchanged;
+    }));
+    return name.substr(name.rfind('\\') + 1);
+}
+
+std::string FolderOf(const RemoteWindow& dialog) {
+    const RemoteMemory memory(dialog.Handle());
+    SendMessageW(dialog.Handle(), CDM_GETFOLDERPATH, RemoteMemory::kTextCharacters,
+                 reinterpret_cast<LPARAM>(memory.TextAddress()));
+    return ToUtf8(memory.Text());
+}
+
+std::vector<std::string> KindsOf(const RemoteWindow& dialog) {
+    const HWND box = dialog.Child(kKinds).Handle();
+    std::vector<std::string> kinds;
+    for (LRESULT index = 0; index < SendMessageW(box, CB_GETCOUNT, 0, 0); ++index) {
+        const auto row = static_cast<WPARAM>(index);
+        std::wstring kind(static_cast<std::size_t>(SendMessageW(box, CB_GETLBTEXTLEN, row, 0)) + 1,
+                          L'\0');
+        kind.resize(static_cast<std::size_t>(
+            SendMessageW(box, CB_GETLBTEXT, row, reinterpret_cast<LPARAM>(kind.data()))));
+        kinds.push_back(ToUtf8(kind));
+    }
+    return kinds;
+}
+
 } // namespace
 
 // A click can come before the window manager has put the box where it stays: then it is made again.
@@ -60,22 +118,32 @@ RemoteDialogs::Message RemoteDialogs::AnswerMessageBox(const RemoteWindow& owner
     return message;
 }
 
-// The dialog fills its own name in for a moment after it is there: so the name is entered until it
-// stays.
+RemoteDialogs::FileDialog RemoteDialogs::ReadFileDialog(const RemoteWindow& owner) {
+    const RemoteWindow dialog = WaitForFileDialog(owner);
+    return {dialog.Title(), FolderOf(dialog), SettledFileName(dialog), KindsOf(dialog)};
+}
+
 void RemoteDialogs::EnterFileName(const RemoteWindow& owner, const std::string& path) {
-    const RemoteWindow dialog = WaitForPopup(owner, L"#32770", kFileName);
-    const std::wstring name = ToUtf16(path);
-    int unchanged = 0;
-    const bool entered = PollUntil([&] {
-        unchanged = dialog.Child(kFileName).Text() == path ? unchanged + 1 : 0;
-        if (unchanged == 0)
-            SendDlgItemMessageW(dialog.Handle(), kFileName, WM_SETTEXT, 0,
-                                reinterpret_cast<LPARAM>(name.c_str()));
-        return unchanged > 20;
-    });
-    if (!entered)
-        throw std::runtime_error("The dialog does not take the name");
+    const RemoteWindow dialog = WaitForFileDialog(owner);
+    SetFileName(dialog, path);
     Press(dialog, IDOK);
+    WaitUntilGone(dialog, kFileName);
+}
+
+RemoteDialogs::Message RemoteDialogs::EnterDoubtfulFileName(const RemoteWindow& owner,
+                                                            const std::string& path, int button) {
+    const RemoteWindow dialog = WaitForFileDialog(owner);
+    SetFileName(dialog, path);
+    Press(dialog, IDOK);
+    Message message = AnswerMessageBox(dialog, button);
+    if (button == IDYES)
+        WaitUntilGone(dialog, kFileName);
+    return message;
+}
+
+void RemoteDialogs::CancelFileDialog(const RemoteWindow& owner) {
+    const RemoteWindow dialog = WaitForFileDialog(owner);
+    Press(dialog, IDCANCEL);
     WaitUntilGone(dialog, kFileName);
 }
 

@@ -2,6 +2,8 @@
 
 #include "tests/e2e/RemoteWindow.h"
 
+#include <vector>
+
 // The dialogs that a window of another process shows.  Each of these waits for its dialog, works it
 // and waits until it is gone; each throws std::runtime_error when it does not come or does not go.
 namespace RemoteDialogs {
@@ -14,8 +16,23 @@ struct Message {
 // Presses a button (IDYES, IDNO, IDOK, ...) of a message box.
 Message AnswerMessageBox(const RemoteWindow& owner, int button);
 
+// An open or save dialog as it stands there: what it was preset to, and its kinds of files.
+struct FileDialog {
+    std::string title;
+    std::string folder;
+    std::string fileName; // without the folder
+    std::vector<std::string> kinds;
+};
+FileDialog ReadFileDialog(const RemoteWindow& owner);
+
 // Enters a path in an open or save dialog and presses its default button.
 void EnterFileName(const RemoteWindow& owner, const std::string& path);
+
+// As EnterFileName, for a path that makes the dialog itself ask or complain: presses a button of
+// that message box.  The dialog stays where it was when the answer was not Yes.
+Message EnterDoubtfulFileName(const RemoteWindow& owner, const std::string& path, int button);
+
+void CancelFileDialog(const RemoteWindow& owner);
 
 struct Question {
     std::string prompt;

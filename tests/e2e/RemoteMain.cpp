@@ -24,7 +24,13 @@ void RemoteMain::ClickButton(int command) const {
 }
 
 void RemoteMain::ChooseFromMenu(const std::string& menu, const std::string& entry) const {
-    SetForegroundWindow(window_.Handle());
+    // A window that has only just come takes keys a little later.
+    const bool takesKeys = PollUntil([&] {
+        SetForegroundWindow(window_.Handle());
+        return GetForegroundWindow() == window_.Handle() && window_.FocusedChild() != nullptr;
+    });
+    if (!takesKeys)
+        throw std::runtime_error("The window takes no keys");
     RealInput::PressWithAlt(AccessKey(menu));
     if (!PollUntil([&] { return window_.HasMenuOpen(); }))
         throw std::runtime_error("The menu does not open: " + menu);

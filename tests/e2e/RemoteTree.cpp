@@ -65,6 +65,13 @@ std::string RemoteTree::TextOf(HTREEITEM item) const {
     return ToUtf8(memory.Text());
 }
 
+void RemoteTree::ClickRoot(std::size_t root) const {
+    const std::vector<HTREEITEM> roots = Siblings(Next(TVGN_ROOT, nullptr));
+    if (root >= roots.size())
+        throw std::runtime_error("No main node " + std::to_string(root));
+    Click(roots[root]);
+}
+
 void RemoteTree::ClickChild(std::size_t root, const std::string& text) const {
     for (HTREEITEM item : ChildItems(root))
         if (TextOf(item) == text) {

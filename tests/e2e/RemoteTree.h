@@ -18,6 +18,7 @@ public:
     [[nodiscard]] std::string SelectedPath() const;
 
     // With the mouse; throws std::runtime_error when there is no such node.
+    void ClickRoot(std::size_t root) const;
     void ClickChild(std::size_t root, const std::string& text) const;
 
 private:

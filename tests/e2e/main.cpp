@@ -1,3 +1,4 @@
+#include "tests/e2e/FilesJob.h"
 #include "tests/e2e/MainJob.h"
 
 #include "platform/Utf16.h"
@@ -33,6 +34,7 @@ JobMaker Maker() {
 
 const std::map<std::string, JobMaker>& Jobs() {
     static const std::map<std::string, JobMaker> jobs = {
+        {"files", Maker<FilesJob>()},
         {"main", Maker<MainJob>()},
     };
     return jobs;

@@ -1,0 +1,96 @@
+// The steps of the files job that write libraries.
+
+#include "tests/e2e/FilesJob.h"
+
+#include "resources/controls.h"
+
+void FilesJob::CheckFileDialog(const RemoteDialogs::FileDialog& dialog, const std::string& folder,
+                               const std::string& fileName) {
+    Report().CheckEqual("title", dialog.title, std::string("Color library"));
+    Report().CheckEqual("kinds of files", dialog.kinds, {"Color libraries", "All files"});
+    Report().CheckEqual("folder", dialog.folder, folder);
+    Report().CheckEqual("file name", dialog.fileName, fileName);
+}
+
+// The first save writes the library's own file; from then on its file is the one that the dialog
+// holds, which is the file that was opened last.
+void FilesJob::SaveRetargets() {
+    const std::string first = ReadFile("first.tnt");
+    const std::string second = ReadFile("second.tnt");
+    Open("second.tnt", IDNO);
+    Select(0, "One", "0/First/One");
+    Main().ClickButton(IDM_mnuFileSave);
+    Report().CheckBecomes(
+        "backup of the first file", [this] { return ReadFile("first.tnt.bak"); }, first);
+    Report().CheckBecomes(
+        "first file", [this] { return ReadFile("first.tnt"); }, first);
+    Report().CheckEqual("second file", ReadFile("second.tnt"), second);
+    Report().CheckEqual("backup of the second file", ReadFile("second.tnt.bak"),
+                        std::string("(none)"));
+    CheckStatus("Okay second.tnt");
+    ChooseFile("mnuFileSave");
+    Report().CheckBecomes(
+        "backup of the second file", [this] { return ReadFile("second.tnt.bak"); }, second);
+    Report().CheckBecomes(
+        "second file", [this] { return ReadFile("second.tnt"); }, first);
+}
+
+void FilesJob::RefusedNames() {
+    const RemoteWindow& owner = Main().Window();
+    ChooseFile("mnuFileOpen");
+    Report().Note("a missing file: " +
+                  RemoteDialogs::EnterDoubtfulFileName(owner, File("none.tnt"), IDOK).text);
+    RemoteDialogs::CancelFileDialog(owner);
+    ChooseFile("mnuFileSaveAs");
+    Report().Note("a missing folder: " +
+                  RemoteDialogs::EnterDoubtfulFileName(owner, File("none\\x.tnt"), IDOK).text);
+    RemoteDialogs::CancelFileDialog(owner);
+    CheckRoots({"First", "Second", "Second"});
+    CheckStatus("Okay second.tnt");
+}
+
+void FilesJob::SaveAsOverAnExistingFile() {
+    const RemoteWindow& owner = Main().Window();
+    const std::string old = ReadFile("third.tnt");
+    ChooseFile("mnuFileSaveAs");
+    CheckFileDialog(RemoteDialogs::ReadFileDialog(owner), Folder(), "second.tnt");
+    Report().Note("question: " +
+                  RemoteDialogs::EnterDoubtfulFileName(owner, File("third.tnt"), IDNO).text);
+    Report().CheckEqual("file after No", ReadFile("third.tnt"), old);
+    static_cast<void>(RemoteDialogs::EnterDoubtfulFileName(owner, File("third.tnt"), IDYES));
+    CheckStatus("Okay third.tnt");
+    Report().CheckEqual("file after Yes", ReadFile("third.tnt"), ReadFile("first.tnt"));
+    Report().CheckEqual("backup", ReadFile("third.tnt.bak"), old);
+    CheckRoots({"First", "Second", "Second"});
+}
+
+void FilesJob::NewLibraryIsSavedAs() {
+    const RemoteWindow& owner = Main().Window();
+    ChooseFile("mnuFileNew");
+    for (const auto& [prompt, preset, answer] :
+         {std::array{"Name of the new library:", "New Node3", "Mine"},
+          std::array{"Name of the new group:", "New Group1", "Greens"},
+          std::array{"Name of the new color:", "New Color1", "Moss"}}) {
+        const RemoteDialogs::Question question = RemoteDialogs::AnswerInputBox(owner, answer);
+        Report().CheckEqual("prompt", question.prompt, std::string(prompt));
+        Report().CheckEqual("preset", question.preset, std::string(preset));
+    }
+    Main().ClickButton(IDM_mnuFileSave);
+    CheckFileDialog(RemoteDialogs::ReadFileDialog(owner), ProgramFolder(), "newtnt.tnt");
+    RemoteDialogs::EnterFileName(owner, File("mine.tnt"));
+    CheckStatus("Okay mine.tnt");
+    // The new color has the values of the editor, which shows the color Red.
+    Report().CheckEqual("file", ReadFile("mine.tnt"),
+                        std::string("\"D#Mine=3D:2\"\r\n\"G#Greens=3DG1\"\r\n"
+                                    "\"E#Moss=3DG1:Moss\xF7"
+                                    "255\xF7"
+                                    "0\xF7"
+                                    "0\xF7"
+                                    "1\xF7"
+                                    "2\xF7"
+                                    "3\xF7"
+                                    "4\xF7"
+                                    "5\xF7"
+                                    "6\"\r\n"));
+    Report().CheckEqual("name of the library", Main().Tree().Roots().back(), std::string("Mine"));
+}
