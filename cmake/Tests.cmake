@@ -41,16 +41,18 @@ if(WIN32)
     set(remote_sources tests/e2e/RunningProgram.cpp tests/e2e/RemoteWindow.cpp
         tests/e2e/RealInput.cpp)
     target_sources(windows_tests PRIVATE ${remote_sources})
-    # Measure the start of the program and its walks over SolidWorks documents; their numbers stand
-    # in docs/performance.md.
+    # Measure the start of the program, its list, and its walks over SolidWorks documents; their
+    # numbers stand in docs/performance.md.
     add_executable(start_bench tests/bench/StartBench.cpp tests/platform/SettingsKey.cpp
         ${remote_sources})
+    add_executable(sort_bench tests/bench/SortBench.cpp)
     add_executable(walk_bench tests/bench/WalkBench.cpp tests/platform/StandInProcess.cpp
         tests/platform/ScratchFolder.cpp)
     target_link_libraries(walk_bench PRIVATE standin_model tnt_forms)
     add_dependencies(start_bench tnt4swx)
     add_dependencies(walk_bench swx_standin)
-    foreach(bench start_bench walk_bench)
+    foreach(bench start_bench sort_bench walk_bench)
+        target_link_libraries(${bench} PRIVATE tnt_platform)
         tnt_target_options(${bench})
         if(NOT MSVC)
             target_link_options(${bench} PRIVATE -static)

@@ -77,9 +77,10 @@ bool ColorLibrary::AskAndAddGroup(const std::string& mainKey) {
 }
 
 bool ColorLibrary::NewColorNode(const std::optional<std::string>& groupKey,
-                                const std::optional<std::string>& name) {
+                                const std::optional<std::string>& name,
+                                const std::optional<ColorValueArray>& values) {
     if (groupKey)
-        return AddColor(*groupKey, name);
+        return AddColor(*groupKey, name, values);
     if (tree_.Selected().empty()) {
         NewMainNode();
         return false;
@@ -92,17 +93,19 @@ bool ColorLibrary::NewColorNode(const std::optional<std::string>& groupKey,
     }
     if (group != selected)
         tree_.Select(group);
-    return AddColor(group, name);
+    return AddColor(group, name, values);
 }
 
-bool ColorLibrary::AddColor(const std::string& groupKey, const std::optional<std::string>& name) {
+bool ColorLibrary::AddColor(const std::string& groupKey, const std::optional<std::string>& name,
+                            const std::optional<ColorValueArray>& values) {
     const int number = GetColorCountInGroup(groupKey) + 1;
     const std::string text =
         name ? *name : AskName(InfoTextNumber::NameOfColor, "New Color" + std::to_string(number));
     if (!name && text.empty())
         return false;
     const std::string key = LowestFreeColorKey(groupKey, number);
-    colors_.Append({text, key, groupKey, true, host_->ActiveColorValues(), text});
+    const ColorValueArray shown = values ? *values : host_->ActiveColorValues();
+    colors_.Append({text, key, groupKey, true, shown, text});
     host_->ShowColorNodes(groupKey, key);
     return true;
 }

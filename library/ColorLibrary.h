@@ -40,11 +40,12 @@ public:
     // Adds a group with a name and makes no colour; gives the group's key.  Throws as above.
     std::string NewGroupNode(const std::string& mainKey, const std::string& name);
 
-    // Appends a colour with the editor's values to the group (of the tree's selection when none is
-    // named) and selects it in the list.  False when the user cancelled or when a library or group
+    // Appends a colour with these values, else the editor's, to the group (of the tree's selection
+    // when none is named) and selects it in the list.  False when the user cancelled or when a library or group
     // had to be made first (which asks for its first colour itself).
     bool NewColorNode(const std::optional<std::string>& groupKey = {},
-                      const std::optional<std::string>& name = {});
+                      const std::optional<std::string>& name = {},
+                      const std::optional<ColorValueArray>& values = {});
 
     // Keys of the groups of a main node, in order.
     [[nodiscard]] std::vector<std::string> GetGroupInMainnode(const std::string& mainKey) const;
@@ -69,7 +70,8 @@ private:
     [[nodiscard]] std::string AskName(std::int32_t textNumber, const std::string& preset);
     std::string SelectMainNodeUpwards();
     bool AskAndAddGroup(const std::string& mainKey);
-    bool AddColor(const std::string& groupKey, const std::optional<std::string>& name);
+    bool AddColor(const std::string& groupKey, const std::optional<std::string>& name,
+                  const std::optional<ColorValueArray>& values);
 
     Prompts& prompts_;
     InfoTexts& texts_;

@@ -10,6 +10,11 @@ namespace {
 constexpr char32_t kBackspace = 8;
 constexpr char32_t kFullStop = 46;
 
+// texts: of the nine values.
+std::string ColorInNumbers(const std::array<std::string, kColorValueCount>& texts) {
+    return " (R:" + texts[0] + " G:" + texts[1] + " B:" + texts[2] + ")";
+}
+
 } // namespace
 
 ColorEditor::ColorEditor(EditorPane& pane, Prompts& prompts, InfoTexts& texts)
@@ -39,17 +44,19 @@ void ColorEditor::Load(const ColorRecord& color, ColorNumber complementMask) {
                            [](std::int16_t value) { return std::to_string(value); });
     SetTexts(texts);
     ShowSmallSwatch(complementMask);
-    ShowCaption(true);
+    // The color's own numbers, also those that the boxes do not take.
+    captionHasName_ = true;
+    captionNumbers_ = ColorInNumbers(texts);
+    ShowCaption();
 }
 
 void ColorEditor::Rename(const std::string& name) {
     SetName(name);
-    ShowCaption(captionHasName_);
+    ShowCaption();
 }
 
-void ColorEditor::ShowCaption(bool withName) {
-    captionHasName_ = withName;
-    pane_.SetSmallSwatchCaption((withName ? name_ : std::string()) + ColorInNumbers());
+void ColorEditor::ShowCaption() {
+    pane_.SetSmallSwatchCaption((captionHasName_ ? name_ : std::string()) + captionNumbers_);
 }
 
 void ColorEditor::SetName(const std::string& name) {
@@ -96,7 +103,9 @@ void ColorEditor::TextChanged(std::size_t index, const std::string& text) {
     pane_.SetSlider(index, value);
     PaintSwatches();
     // Without the colour's name on purpose: an edited colour is not the named one any more.
-    ShowCaption(false);
+    captionHasName_ = false;
+    captionNumbers_ = ColorInNumbers(texts_);
+    ShowCaption();
 }
 
 bool ColorEditor::IsValueCharacter(char32_t character) noexcept {
@@ -131,8 +140,4 @@ void ColorEditor::PaintSwatches() {
 
 void ColorEditor::ShowSmallSwatch(ColorNumber complementMask) {
     pane_.SetSmallSwatch(swatch_, swatch_ ^ complementMask);
-}
-
-std::string ColorEditor::ColorInNumbers() const {
-    return " (R:" + texts_[0] + " G:" + texts_[1] + " B:" + texts_[2] + ")";
 }

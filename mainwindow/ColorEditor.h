@@ -61,8 +61,7 @@ private:
     void SetTexts(std::span<const std::string> texts);
     void PaintSwatches();
     void ShowSmallSwatch(ColorNumber complementMask);
-    void ShowCaption(bool withName);
-    [[nodiscard]] std::string ColorInNumbers() const;
+    void ShowCaption();
 
     EditorPane& pane_;
     Prompts& prompts_;
@@ -71,4 +70,5 @@ private:
     std::array<std::string, kColorValueCount> texts_;
     ColorNumber swatch_ = 0;      // background of both swatches
     bool captionHasName_ = false; // of the small swatch
+    std::string captionNumbers_;
 };

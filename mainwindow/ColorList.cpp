@@ -102,15 +102,14 @@ void ColorList::ColumnClicked(int column) {
 
 // As text, the numbers too, on purpose: "100" comes before "20".
 void ColorList::Sort() {
-    std::vector<std::pair<std::string, std::string>> rows; // text of the cell, key
+    std::vector<std::pair<std::string, std::string>> rows; // sort key of the cell, color's key
     rows.reserve(keys_.size());
     for (std::string& key : keys_) {
-        std::string text = TextOfKey(key, sortKey_ + 1);
-        rows.emplace_back(std::move(text), std::move(key));
+        std::string sortKey = collation_.SortKey(TextOfKey(key, sortKey_ + 1));
+        rows.emplace_back(std::move(sortKey), std::move(key));
     }
     std::ranges::stable_sort(rows, [this](const auto& left, const auto& right) {
-        const int order = collation_.Compare(left.first, right.first);
-        return descending_ ? order > 0 : order < 0;
+        return descending_ ? left.first > right.first : left.first < right.first;
     });
     std::ranges::transform(rows, keys_.begin(), [](auto& row) { return std::move(row.second); });
 }
@@ -120,11 +119,12 @@ std::string ColorList::CellText(int row, int column) const {
 }
 
 std::string ColorList::TextOfKey(const std::string& key, int column) const {
-    const ColorRecord& color = library_.Colors().At(library_.GetColornodeIndex(key));
+    const int index = library_.GetColornodeIndex(key);
+    if (index == 0 || column < kNameColumn || column > kColumnCount)
+        return {};
+    const StoredColor& color = library_.Colors().ViewAt(index).color;
     if (column == kNameColumn)
         return color.name;
-    if (column < kNameColumn || column > kColumnCount || color.key.empty())
-        return {};
     return std::to_string(color.values[static_cast<std::size_t>(column - kNameColumn - 1)]);
 }
 
@@ -132,7 +132,7 @@ int ColorList::FindRow(const std::string& text, int start) const {
     const std::string wanted = ToLowerAscii(text);
     for (int step = 0; step < RowCount(); ++step) {
         const int row = (start + step) % RowCount();
-        if (ToLowerAscii(CellText(row, kNameColumn)).starts_with(wanted))
+        if (ToLowerAscii(CellText(row, kNameColumn).substr(0, wanted.size())) == wanted)
             return row;
     }
     return -1;

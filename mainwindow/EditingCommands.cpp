@@ -137,11 +137,7 @@ void EditingCommands::PasteLine(const std::string& line) {
         return;
     }
     // A pasted colour always lands in the current group.
-    if (!parts_.library.NewColorNode({}, pasted->name))
-        return;
-    const std::string key = parts_.list.SelectedKey();
-    parts_.library.Colors().SetValues(parts_.library.GetColornodeIndex(key), pasted->values);
-    parts_.panes.ShowSelectedGroup();
+    parts_.library.NewColorNode({}, pasted->name, pasted->values);
 }
 
 void EditingCommands::ShowInvalidFormat() {

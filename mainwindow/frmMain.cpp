@@ -47,11 +47,16 @@ frmMain::frmMain(ErrorSink& errors, const BannerPictures& banners)
          {static_cast<FormControl*>(&imlToolbarIcons_), static_cast<FormControl*>(&imlView_),
           static_cast<FormControl*>(&imlViewSmall_), static_cast<FormControl*>(&timSponsor_)})
         AddDesigned(*component);
-    tlbarMain_.SetAccessibleName("Symbolleiste");
-    tvColor_.SetAccessibleName("Bibliotheken");
-    lvColor_.SetAccessibleName("Farben");
+    for (HiddenCaption& name : accessibleNames_)
+        AddDesigned(name);
     lblDrag_.Show(false);
     FollowSize();
+}
+
+// The control is announced by the name, which the language file may replace.
+HiddenCaption frmMain::Announce(Control& control, const char* captionName, const char* name) {
+    control.SetText(name);
+    return {captionName, name, [&control](const std::string& text) { control.SetText(text); }};
 }
 
 void frmMain::Attach(MainViewEvents& events) {

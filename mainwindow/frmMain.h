@@ -5,6 +5,7 @@
 #include "mainwindow/MainView.h"
 #include "platform/BannerPictures.h"
 #include "platform/controls/DesignComponent.h"
+#include "platform/controls/HiddenCaption.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/MenuBar.h"
 #include "platform/controls/PictureBox.h"
@@ -14,6 +15,8 @@
 #include "platform/controls/TreeView.h"
 #include "platform/Form.h"
 #include "platform/Shortcuts.h"
+
+#include <array>
 
 // The main window.  It shows what it is told and reports what the user did; it decides nothing.
 class frmMain : public FormOf<MainView, FormWindow, LocalizableForm> {
@@ -87,6 +90,8 @@ protected:
     bool TranslateShortcut(MSG& message) override;
 
 private:
+    [[nodiscard]] static HiddenCaption Announce(Control& control, const char* captionName,
+                                                const char* name);
     [[nodiscard]] ControlPlace At(const char* name, int id) const { return {name, id, Handle()}; }
     void ConnectTree(MainViewEvents& events);
     void ConnectList(MainViewEvents& events);
@@ -115,4 +120,9 @@ private:
     SolidBar& picSplitter_;
     Label& lblDrag_;
     MainDrag drag_;
+    std::array<HiddenCaption, 3> accessibleNames_ = {
+        Announce(tlbarMain_, "nameToolbar", "Symbolleiste"),
+        Announce(tvColor_, "nameTree", "Bibliotheken und Gruppen"),
+        Announce(lvColor_, "nameList", "Farben"),
+    };
 };

@@ -56,7 +56,8 @@ MainEditor::MainEditor(Form& form)
         ControlPlace{"lblActiveColorSmall", IDC_lblActiveColorSmall, form.Handle()});
 }
 
-// The label stands directly before its text box: it names the box for assistive tools.
+// The label stands directly before its text box: it names the box for screen readers, and its tool
+// tip, which tells the range, the slider.
 void MainEditor::AddRow(std::size_t index) {
     const ValueDesign& design = kValues.at(index);
     const HWND parent = frame_->Handle();
@@ -69,6 +70,8 @@ void MainEditor::AddRow(std::size_t index) {
         &form_.Add<Slider>(ControlPlace{"sldActiveColor", IDC_sldActiveColor + offset, parent},
                            MaximumOfColorValue(index));
     row.label->SetText(design.caption);
+    row.slider->SetText(design.caption);
+    row.label->Announces(*row.slider);
     row.box->SetText("0");
 }
 
@@ -166,5 +169,4 @@ void MainEditor::PlaceRow(const Row& row, const Grid& grid, int left, int top) c
     const int sliderLeft = boxLeft + grid.boxWidth + Design(kGap);
     row.slider->Place(
         {sliderLeft, top, std::max(left + grid.cellWidth, sliderLeft), top + boxHeight});
-    row.slider->SetAccessibleName(row.label->Text());
 }

@@ -4,11 +4,24 @@
 
 #include <windows.h>
 
-int Win32TextCollation::Compare(const std::string& left, const std::string& right) const {
-    const std::wstring wideLeft = ToUtf16(left);
-    const std::wstring wideRight = ToUtf16(right);
-    const int order = CompareStringEx(LOCALE_NAME_USER_DEFAULT, NORM_IGNORECASE, wideLeft.c_str(),
-                                      static_cast<int>(wideLeft.size()), wideRight.c_str(),
-                                      static_cast<int>(wideRight.size()), nullptr, nullptr, 0);
-    return order == 0 ? wideLeft.compare(wideRight) : order - CSTR_EQUAL;
+namespace {
+
+// size: in bytes; 0 asks for the size that is needed.
+int MapToSortKey(const std::wstring& text, char* key, int size) {
+    // The function counts bytes here, although its buffer is one of characters.
+    return LCMapStringEx(LOCALE_NAME_USER_DEFAULT, LCMAP_SORTKEY | NORM_IGNORECASE, text.c_str(),
+                         static_cast<int>(text.size()), reinterpret_cast<wchar_t*>(key), size,
+                         nullptr, nullptr, 0);
+}
+
+} // namespace
+
+std::string Win32TextCollation::SortKey(const std::string& text) const {
+    const std::wstring wide = ToUtf16(text);
+    if (wide.empty())
+        return {};
+    const int size = MapToSortKey(wide, nullptr, 0);
+    std::string key(static_cast<std::size_t>(size), '\0');
+    MapToSortKey(wide, key.data(), size);
+    return key;
 }

@@ -2,9 +2,9 @@
 
 #include "common/ports/TextCollation.h"
 
-// CompareStringEx with the user's locale, letter case ignored: the order of lstrcmpiW, in which the
-// list control sorts.
+// The order of lstrcmpiW, in which the list control sorts: that of the user's locale, letter case
+// ignored.  A text that the platform cannot map comes first.
 class Win32TextCollation : public TextCollation {
 public:
-    [[nodiscard]] int Compare(const std::string& left, const std::string& right) const override;
+    [[nodiscard]] std::string SortKey(const std::string& text) const override;
 };

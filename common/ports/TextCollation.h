@@ -2,11 +2,11 @@
 
 #include <string>
 
-// The order in which the platform's list control sorts texts.
+// The order in which the platform's list control sorts texts; letter case is ignored.
 class TextCollation {
 public:
     virtual ~TextCollation() = default;
 
-    // Negative, 0 or positive; letter case is ignored.
-    [[nodiscard]] virtual int Compare(const std::string& left, const std::string& right) const = 0;
+    // Bytes that compare as the texts do: a text that is sorted among many is looked at once.
+    [[nodiscard]] virtual std::string SortKey(const std::string& text) const = 0;
 };

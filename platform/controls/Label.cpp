@@ -37,6 +37,12 @@ bool IsEnter(LPARAM dialogMessage) {
 Label::Label(Form& form, const ControlPlace& place, LabelText kind)
     : Control(form, kLabel, place, kLabelStyle | (kind == LabelText::Plain ? SS_NOPREFIX : 0U)) {}
 
+void Label::SetProperty(const std::string& property, const std::string& text) {
+    Control::SetProperty(property, text);
+    if (announced_ != nullptr && property == "ToolTipText")
+        announced_->SetText(text.empty() ? Text() : text);
+}
+
 void Label::SetFont(HFONT font) {
     Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }

@@ -11,11 +11,17 @@ class Label : public Control {
 public:
     Label(Form& form, const ControlPlace& place, LabelText kind = LabelText::AccessKeys);
 
+    // The tool tip is the name by which the control is announced, too.
+    void Announces(Control& control) noexcept { announced_ = &control; }
+    void SetProperty(const std::string& property, const std::string& text) override;
+
     void SetFont(HFONT font);                                // kept by the caller
     [[nodiscard]] SIZE TextSize(int maximumWidth = 0) const; // pixels
 
 private:
     [[nodiscard]] HFONT CurrentFont() const;
+
+    Control* announced_ = nullptr;
 };
 
 // A name, on one line: what is cut ends with an ellipsis, and the tool tip shows all of it.

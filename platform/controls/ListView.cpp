@@ -114,7 +114,8 @@ MessageResult ListView::OnNotify(NMHDR& header) {
             Raise(onEditRequested);
         return 0;
     case LVN_BEGINLABELEDITW:
-        return mayEdit && !mayEdit() ? TRUE : FALSE; // TRUE: no edit
+        return BeginLabelEdit(reinterpret_cast<const NMLVDISPINFOW&>(header).item.iItem) ? FALSE
+                                                                                         : TRUE;
     case LVN_ENDLABELEDITW:
         EndLabelEdit(reinterpret_cast<const NMLVDISPINFOW&>(header));
         return TRUE;
@@ -147,19 +148,23 @@ void ListView::SelectionChanged(const NMLISTVIEW& change) {
     Raise(onClick, selected_);
 }
 
-void ListView::EndLabelEdit(const NMLVDISPINFOW& info) {
-    if (info.item.pszText == nullptr && !IsEmptiedLabel())
-        return;
-    const int row = info.item.iItem;
-    const std::string text = info.item.pszText != nullptr ? ToUtf8(info.item.pszText) : "";
-    Raise(onLabelEdited, row, text);
-    Send(LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
+// False: no edit.
+bool ListView::BeginLabelEdit(int row) {
+    if (mayEdit && !mayEdit())
+        return false;
+    label_.Begin(reinterpret_cast<HWND>(Send(LVM_GETEDITCONTROL)),
+                 cellText ? cellText(row, 1) : "");
+    return true;
 }
 
-// Not every platform tells an edit that ended with an empty text from one that was given up.
-bool ListView::IsEmptiedLabel() const {
-    const auto edit = reinterpret_cast<HWND>(Send(LVM_GETEDITCONTROL));
-    return edit != nullptr && GetWindowTextLengthW(edit) == 0 && GetKeyState(VK_ESCAPE) >= 0;
+// Without a text the label is unchanged, unless the box is empty.
+void ListView::EndLabelEdit(const NMLVDISPINFOW& info) {
+    const std::string text = label_.Text();
+    if (label_.IsGivenUp() || (info.item.pszText == nullptr && !text.empty()))
+        return;
+    const int row = info.item.iItem;
+    Raise(onLabelEdited, row, text);
+    Send(LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
 }
 
 MessageResult ListView::OnMessage(const WindowMessage& message) {
@@ -175,6 +180,9 @@ MessageResult ListView::OnMessage(const WindowMessage& message) {
         return 0;
     case WM_KEYDOWN:
         return KeepSelection(message);
+    case LVM_CANCELEDITLABEL:
+        label_.GiveUp();
+        return {};
     case WM_CONTEXTMENU:
         if (message.lParam == -1) // the keyboard's menu key
             OpenContextMenu(message);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/controls/Control.h"
+#include "platform/controls/LabelEdit.h"
 #include "platform/controls/MouseDrag.h"
 #include "platform/Icons.h"
 
@@ -29,8 +30,6 @@ public:
 
     [[nodiscard]] MouseDrag& Drag() noexcept { return drag_; }
 
-    void SetAccessibleName(const std::string& name) { SetText(name); }
-
     std::function<std::string(int row, int column)> cellText;
     std::function<int(const std::string& text, int start)> findRow;
     std::function<void(int row)> onClick;  // a row was selected or clicked again
@@ -51,7 +50,7 @@ protected:
 private:
     void FillItem(LVITEMW& item) const;
     void SelectionChanged(const NMLISTVIEW& change);
-    [[nodiscard]] bool IsEmptiedLabel() const;
+    [[nodiscard]] bool BeginLabelEdit(int row);
     void EndLabelEdit(const NMLVDISPINFOW& info);
     [[nodiscard]] int RowAt(POINT point) const; // -1: none
     void ShowSelection(int row);                // without a report
@@ -65,6 +64,7 @@ private:
     int dpi_ = 0; // that the column widths are made for
     int columns_ = 0;
     int selected_ = -1;
+    LabelEdit label_;
     bool silent_ = false; // the program itself changes the selection
     MouseDrag drag_{Handle()};
 };

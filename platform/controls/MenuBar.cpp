@@ -120,7 +120,7 @@ void MenuBar::AddSeparator(int command, const char* name, const char* caption) {
 
 void MenuBar::AddKey(WORD virtualKey, const char* name, const char* caption) {
     keyNames_[virtualKey] = caption;
-    keys_.push_back(std::make_unique<KeyCaption>(
+    keys_.push_back(std::make_unique<HiddenCaption>(
         name, caption, [this, virtualKey](const std::string& text) { NameKey(virtualKey, text); }));
 }
 

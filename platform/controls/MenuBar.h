@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/ports/LocalizableForm.h"
-#include "platform/controls/KeyCaption.h"
+#include "platform/controls/HiddenCaption.h"
 #include "platform/Handles.h"
 #include "platform/Shortcuts.h"
 
@@ -80,7 +80,7 @@ private:
     HMENU submenu_ = nullptr; // the last submenu
     std::vector<std::unique_ptr<MenuEntry>> entries_;
     std::map<int, MenuEntry*> byCommand_;
-    std::vector<std::unique_ptr<KeyCaption>> keys_;
+    std::vector<std::unique_ptr<HiddenCaption>> keys_;
     KeyNames keyNames_;
     std::vector<ShortcutDesign> shortcuts_;
 };

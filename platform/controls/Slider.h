@@ -11,8 +11,6 @@ public:
 
     void SetPosition(int position); // not reported as a move
     [[nodiscard]] int Position() const;
-    void SetAccessibleName(const std::string& name) { SetText(name); }
-
     std::function<void(int position)> onMove; // by mouse or keyboard
 
     MessageResult OnScroll(unsigned code) override;

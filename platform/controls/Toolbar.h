@@ -34,8 +34,6 @@ public:
     void FollowForm();                             // after the form's width changed
     [[nodiscard]] int Height() const noexcept;     // pixels
     [[nodiscard]] int RightmostButtonEdge() const; // pixels, 0 without buttons
-    void SetAccessibleName(const std::string& name) { SetText(name); }
-
     std::function<void(int command)> onCommand; // a button or an entry of its menu
 
     [[nodiscard]] ToolbarButtons* Buttons() override { return this; }

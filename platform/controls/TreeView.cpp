@@ -5,8 +5,11 @@
 
 #include <cstring>
 #include <utility>
+#include <vector>
 
 namespace {
+
+constexpr std::size_t kLongestLabel = 32768; // characters
 
 constexpr ControlKind kTreeView{"TreeView", WC_TREEVIEWW, ""};
 
@@ -160,7 +163,7 @@ MessageResult TreeView::OnNotify(NMHDR& header) {
             Raise(onEditRequested);
         return 0;
     case TVN_BEGINLABELEDITW:
-        editing_ = true;
+        BeginLabelEdit(reinterpret_cast<const NMTVDISPINFOW&>(header).item.hItem);
         return FALSE; // go on
     case TVN_ENDLABELEDITW:
         EndLabelEdit(reinterpret_cast<const NMTVDISPINFOW&>(header));
@@ -170,11 +173,23 @@ MessageResult TreeView::OnNotify(NMHDR& header) {
     }
 }
 
+void TreeView::BeginLabelEdit(HTREEITEM item) {
+    editing_ = true;
+    std::vector<wchar_t> text(kLongestLabel);
+    TVITEMW whole{};
+    whole.mask = TVIF_HANDLE | TVIF_TEXT;
+    whole.hItem = item;
+    whole.pszText = text.data();
+    whole.cchTextMax = static_cast<int>(text.size());
+    Send(TVM_GETITEMW, 0, &whole);
+    label_.Begin(reinterpret_cast<HWND>(Send(TVM_GETEDITCONTROL)), ToUtf8(text.data()));
+}
+
 // The platform may tell the end of one edit twice.
 void TreeView::EndLabelEdit(const NMTVDISPINFOW& info) {
     if (!std::exchange(editing_, false) || info.item.pszText == nullptr)
         return;
-    const std::string text = ToUtf8(info.item.pszText);
+    const std::string text = label_.Text();
     Raise(onLabelEdited, KeyOf(info.item.hItem), text);
 }
 

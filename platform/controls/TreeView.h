@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/controls/Control.h"
+#include "platform/controls/LabelEdit.h"
 #include "platform/Icons.h"
 
 #include <functional>
@@ -29,8 +30,6 @@ public:
     void MarkDropTarget(const std::string& key);             // empty: none
     void ScrollLine(bool down);
 
-    void SetAccessibleName(const std::string& name) { SetText(name); }
-
     std::function<void(const std::string& key)> onClick; // a node was selected or clicked again
     std::function<void(const std::string& key, const std::string& text)> onLabelEdited;
     std::function<void()> onEditRequested;           // F2
@@ -49,6 +48,7 @@ private:
     [[nodiscard]] HTREEITEM ItemAt(POINT point) const;
     void ApplyColors();
     void Forget(HTREEITEM item);
+    void BeginLabelEdit(HTREEITEM item);
     void EndLabelEdit(const NMTVDISPINFOW& info);
     LRESULT TakeFocus(const WindowMessage& message);
     void OpenContextMenu(const WindowMessage& message);
@@ -56,5 +56,6 @@ private:
     IconList& images_;
     std::unordered_map<std::string, HTREEITEM> items_; // an item's lParam points at its key here
     bool silent_ = false;                              // the program itself changes the selection
+    LabelEdit label_;
     bool editing_ = false;
 };

@@ -1,6 +1,7 @@
 #include "tests/e2e/Job.h"
 
 #include "platform/Utf16.h"
+#include "tests/e2e/RemoteDialogs.h"
 
 #include <array>
 #include <cstdio>
@@ -44,6 +45,24 @@ void Job::StartStandIn(const std::string& arguments) {
                                                        "\\swx_standin.exe\" " + arguments);
     standIn_ = std::make_unique<RemoteStandIn>(
         RemoteWindow::WaitFor(L"frmStandIn", standInProgram_->Id()));
+}
+
+void Job::CopySample(const std::string& name) const {
+    const std::string path = File(name);
+    for (const std::string& old : {path, path + ".bak"})
+        std::filesystem::remove(PathOf(old));
+    std::filesystem::copy_file(PathOf(programFolder_) / "samples" / name, PathOf(path));
+}
+
+void Job::OpenFromMenu(const std::string& path) {
+    Main().ChooseFromMenu("mnuFile", "mnuFileOpen");
+    RemoteDialogs::EnterFileName(Main().Window(), path);
+    const RemoteDialogs::Message question = RemoteDialogs::AnswerMessageBox(Main().Window(), IDNO);
+    report_.Note("question: " + question.title + " / " + question.text);
+    report_.Check(question.text.ends_with("\n" + path), "the question names the file");
+    report_.CheckBecomes(
+        "status bar", [this] { return Main().InfoText(); },
+        "Okay " + path.substr(path.rfind('\\') + 1));
 }
 
 void Job::EndMain() {

@@ -41,6 +41,11 @@ protected:
     [[nodiscard]] const RemoteMain& Main() const noexcept { return *main_; }
     [[nodiscard]] const RemoteStandIn& StandIn() const noexcept { return *standIn_; }
 
+    // Copies a sample library to File(name).
+    void CopySample(const std::string& name) const;
+    // Opens a library by the menu and does not want it at every start.
+    void OpenFromMenu(const std::string& path);
+
     // Closes the window as its close box does and checks the exit code.
     void EndMain();
     // Quits by the menu and checks the exit code.

@@ -33,9 +33,8 @@ void MainJob::Work() {
 }
 
 void MainJob::StartPrograms() {
-    for (const std::string& old : {libraryPath_, libraryPath_ + ".bak", logPath_})
-        fs::remove(PathOf(old));
-    fs::copy_file(PathOf(ProgramFolder()) / "samples" / "materials.tnt", PathOf(libraryPath_));
+    fs::remove(PathOf(logPath_));
+    CopySample("materials.tnt");
     library_ = ParseLibrary(ReadLibraryFile());
 
     StartStandIn("--log \"" + logPath_ + "\"");

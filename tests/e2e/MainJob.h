@@ -37,7 +37,6 @@ private:
     void EndPrograms();
 
     static void ArrangeWindows(const RemoteWindow& main, const RemoteWindow& standIn);
-    void OpenFromMenu();
     void CheckGroup(std::size_t root, const LibraryGroup& group);
     void CheckValuesSent(const std::vector<std::string>& puts);
     [[nodiscard]] std::string ReadLibraryFile() const;

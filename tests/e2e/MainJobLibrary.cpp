@@ -4,7 +4,6 @@
 
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32Files.h"
-#include "tests/e2e/RemoteDialogs.h"
 
 #include <stdexcept>
 
@@ -15,18 +14,8 @@ std::string MainJob::ReadLibraryFile() const {
     return Win32AnsiCodePage(1252).Decode(*bytes);
 }
 
-void MainJob::OpenFromMenu() {
-    Main().ChooseFromMenu("mnuFile", "mnuFileOpen");
-    RemoteDialogs::EnterFileName(Main().Window(), libraryPath_);
-    const RemoteDialogs::Message question = RemoteDialogs::AnswerMessageBox(Main().Window(), IDNO);
-    Report().Note("question: " + question.title + " / " + question.text);
-    Report().Check(question.text.ends_with("\n" + libraryPath_), "the question names the file");
-    Report().CheckBecomes(
-        "status bar", [this] { return Main().InfoText(); }, std::string("Okay materials.tnt"));
-}
-
 void MainJob::OpenLibrary() {
-    OpenFromMenu();
+    OpenFromMenu(libraryPath_);
     Report().CheckEqual("main nodes", Main().Tree().Roots(), {"Materials"});
     Report().CheckEqual("groups", Main().Tree().Children(0), GroupNames(library_));
 }
@@ -79,7 +68,7 @@ void MainJob::SaveLibrary() {
 }
 
 void MainJob::ReopenLibrary() {
-    OpenFromMenu();
+    OpenFromMenu(libraryPath_);
     Report().CheckEqual("main nodes", Main().Tree().Roots(), {"Materials", "Materials"});
     Report().CheckEqual("groups of the second", Main().Tree().Children(1), GroupNames(library_));
     for (const std::size_t root : {std::size_t{0}, std::size_t{1}})

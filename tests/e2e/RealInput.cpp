@@ -71,6 +71,11 @@ void RealInput::Click(POINT at) {
     Send({MouseMove(at), MouseButton(MOUSEEVENTF_LEFTDOWN), MouseButton(MOUSEEVENTF_LEFTUP)});
 }
 
+void RealInput::DoubleClick(POINT at) {
+    Send({MouseMove(at), MouseButton(MOUSEEVENTF_LEFTDOWN), MouseButton(MOUSEEVENTF_LEFTUP),
+          MouseButton(MOUSEEVENTF_LEFTDOWN), MouseButton(MOUSEEVENTF_LEFTUP)});
+}
+
 void RealInput::ClickWithCtrl(POINT at) {
     Send({Key(VK_CONTROL), MouseMove(at), MouseButton(MOUSEEVENTF_LEFTDOWN),
           MouseButton(MOUSEEVENTF_LEFTUP), Key(VK_CONTROL, KEYEVENTF_KEYUP)});
@@ -83,6 +88,12 @@ void RealInput::Drag(POINT from, POINT to) {
                                     from.y + (to.y - from.y) * step / kDragSteps}));
     inputs.push_back(MouseButton(MOUSEEVENTF_LEFTUP));
     Send(inputs);
+}
+
+void RealInput::TurnWheel(POINT at, int notches) {
+    INPUT turn = MouseButton(MOUSEEVENTF_WHEEL);
+    turn.mi.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);
+    Send({MouseMove(at), turn});
 }
 
 void RealInput::PressKey(WORD virtualKey) {

@@ -9,8 +9,10 @@
 namespace RealInput {
 
 void Click(POINT at);
+void DoubleClick(POINT at);
 void ClickWithCtrl(POINT at);
 void Drag(POINT from, POINT to);
+void TurnWheel(POINT at, int notches); // above 0: away from the user
 
 void PressKey(WORD virtualKey);
 void PressWithAlt(WORD virtualKey);

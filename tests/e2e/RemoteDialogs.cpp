@@ -14,8 +14,9 @@ namespace {
 
 constexpr int kMessageText = 0xFFFF;
 constexpr int kFileName = 1148;
-constexpr int kKinds = cmb1;   // the combo box with the kinds of files
-constexpr int kUnchanged = 20; // reads in a row that show that a name stays
+constexpr int kKinds = cmb1;         // the combo box with the kinds of files
+constexpr int kUnchanged = 20;       // reads in a row that show that a name stays
+constexpr int kFirstColorPart = 706; // red; green and blue follow
 constexpr int kClickAttempts = 3;
 constexpr std::chrono::milliseconds kClickPatience{2000};
 
@@ -145,6 +146,21 @@ void RemoteDialogs::CancelFileDialog(const RemoteWindow& owner) {
     const RemoteWindow dialog = WaitForFileDialog(owner);
     Press(dialog, IDCANCEL);
     WaitUntilGone(dialog, kFileName);
+}
+
+std::string RemoteDialogs::AnswerColorDialog(const RemoteWindow& owner,
+                                             const std::optional<RedGreenBlue>& color) {
+    const RemoteWindow dialog = WaitForPopup(owner, L"#32770", kFirstColorPart);
+    const std::string title = dialog.Title();
+    if (color) {
+        int part = kFirstColorPart;
+        for (const int value : {color->red, color->green, color->blue})
+            SendDlgItemMessageW(dialog.Handle(), part++, WM_SETTEXT, 0,
+                                reinterpret_cast<LPARAM>(std::to_wstring(value).c_str()));
+    }
+    Press(dialog, color ? IDOK : IDCANCEL);
+    WaitUntilGone(dialog, kFirstColorPart);
+    return title;
 }
 
 RemoteDialogs::Question RemoteDialogs::AnswerInputBox(const RemoteWindow& owner,

@@ -3,6 +3,7 @@
 #include "tests/e2e/RemoteWindow.h"
 
 #include <vector>
+#include <optional>
 
 // The dialogs that a window of another process shows.  Each of these waits for its dialog, works it
 // and waits until it is gone; each throws std::runtime_error when it does not come or does not go.
@@ -33,6 +34,15 @@ void EnterFileName(const RemoteWindow& owner, const std::string& path);
 Message EnterDoubtfulFileName(const RemoteWindow& owner, const std::string& path, int button);
 
 void CancelFileDialog(const RemoteWindow& owner);
+
+struct RedGreenBlue {
+    int red;
+    int green;
+    int blue;
+};
+
+// Enters a color and presses OK, or Cancel without a color; gives the dialog's title.
+std::string AnswerColorDialog(const RemoteWindow& owner, const std::optional<RedGreenBlue>& color);
 
 struct Question {
     std::string prompt;

@@ -11,9 +11,32 @@ int RemoteList::RowCount() const {
     return static_cast<int>(SendMessageW(window_.Handle(), LVM_GETITEMCOUNT, 0, 0));
 }
 
+HWND RemoteList::Header() const {
+    return reinterpret_cast<HWND>(SendMessageW(window_.Handle(), LVM_GETHEADER, 0, 0));
+}
+
 int RemoteList::ColumnCount() const {
-    const auto header = reinterpret_cast<HWND>(SendMessageW(window_.Handle(), LVM_GETHEADER, 0, 0));
-    return static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
+    return static_cast<int>(SendMessageW(Header(), HDM_GETITEMCOUNT, 0, 0));
+}
+
+int RemoteList::TopRow() const {
+    return static_cast<int>(SendMessageW(window_.Handle(), LVM_GETTOPINDEX, 0, 0));
+}
+
+DWORD RemoteList::ViewStyle() const {
+    return static_cast<DWORD>(GetWindowLongPtrW(window_.Handle(), GWL_STYLE)) & LVS_TYPEMASK;
+}
+
+RemoteWindow RemoteList::LabelEdit() const {
+    return RemoteWindow(
+        reinterpret_cast<HWND>(SendMessageW(window_.Handle(), LVM_GETEDITCONTROL, 0, 0)));
+}
+
+void RemoteList::ClickColumn(int column) const {
+    const RemoteMemory memory(Header());
+    RECT bounds{};
+    memory.Send(HDM_GETITEMRECT, static_cast<WPARAM>(column), bounds);
+    RealInput::Click(RemoteWindow(Header()).ToScreen(CentreOf(bounds)));
 }
 
 std::string RemoteList::Cell(int row, int column) const {

@@ -20,9 +20,16 @@ public:
     // The row with the text in column 0; throws std::runtime_error when there is none.
     [[nodiscard]] int FindRow(const std::string& name) const;
     void ClickRow(const std::string& name) const; // with the mouse, on the text of column 0
+    void ClickColumn(int column) const;           // its header
+
+    [[nodiscard]] int TopRow() const;             // the first that is seen
+    [[nodiscard]] DWORD ViewStyle() const;        // LVS_ICON, LVS_SMALLICON, LVS_LIST or LVS_REPORT
+    [[nodiscard]] RemoteWindow LabelEdit() const; // without a handle while no label is edited
+    [[nodiscard]] POINT Centre() const { return window_.Centre(); }
 
 private:
     [[nodiscard]] std::string Cell(int row, int column) const;
+    [[nodiscard]] HWND Header() const;
 
     RemoteWindow window_;
 };

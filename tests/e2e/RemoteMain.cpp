@@ -84,6 +84,10 @@ bool RemoteMain::IsLargeEditorShown() const {
     return window_.Child(IDC_fraShowColor).IsVisible();
 }
 
+RemoteWindow RemoteMain::Swatch() const {
+    return window_.Child(IsLargeEditorShown() ? IDC_lblActiveColor : IDC_lblActiveColorSmall);
+}
+
 std::string RemoteMain::InfoText() const {
     const RemoteWindow bar = window_.Child(IDC_stbarMain);
     const RemoteMemory memory(bar.Handle());

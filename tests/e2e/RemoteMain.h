@@ -29,15 +29,18 @@ public:
     [[nodiscard]] std::string ColorName() const;
     [[nodiscard]] std::string SwatchCaption() const;
     [[nodiscard]] bool IsLargeEditorShown() const;
+    // The large one, or the small one while the large one is not shown.
+    [[nodiscard]] RemoteWindow Swatch() const;
     [[nodiscard]] std::string InfoText() const; // status bar
     void ClearInfoText() const;                 // so that the next text is known to be a new one
 
     void TypeValue(std::size_t index, const std::string& digits) const;
     void DragSlider(std::size_t index, int pixels) const;
 
-private:
     [[nodiscard]] RemoteWindow ValueBox(std::size_t index) const;
     [[nodiscard]] RemoteWindow Slider(std::size_t index) const;
+
+private:
     [[nodiscard]] WORD AccessKey(const std::string& menuName) const;
 
     RemoteWindow window_;

@@ -14,3 +14,7 @@ void RemoteToolbar::Click(int command) const {
         throw std::runtime_error("No toolbar button " + std::to_string(command));
     RealInput::Click(window_.ToScreen({bounds.left + 8, (bounds.top + bounds.bottom) / 2}));
 }
+
+bool RemoteToolbar::IsPressed(int command) const {
+    return SendMessageW(window_.Handle(), TB_ISBUTTONCHECKED, static_cast<WPARAM>(command), 0) != 0;
+}

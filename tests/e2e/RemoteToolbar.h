@@ -10,6 +10,7 @@ public:
     // With the mouse on the left part of the button, which is not the arrow of its menu; throws
     // std::runtime_error when there is no such button on the screen.
     void Click(int command) const;
+    [[nodiscard]] bool IsPressed(int command) const;
 
 private:
     RemoteWindow window_;

@@ -89,3 +89,8 @@ void RemoteTree::Click(HTREEITEM item) const {
     memory.Send(TVM_GETITEMRECT, TRUE, bounds);
     RealInput::Click(window_.ToScreen(CentreOf(bounds)));
 }
+
+RemoteWindow RemoteTree::LabelEdit() const {
+    return RemoteWindow(
+        reinterpret_cast<HWND>(SendMessageW(window_.Handle(), TVM_GETEDITCONTROL, 0, 0)));
+}

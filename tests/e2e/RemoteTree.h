@@ -21,6 +21,8 @@ public:
     void ClickRoot(std::size_t root) const;
     void ClickChild(std::size_t root, const std::string& text) const;
 
+    [[nodiscard]] RemoteWindow LabelEdit() const; // without a handle while no label is edited
+
 private:
     [[nodiscard]] HTREEITEM Next(WPARAM relation, HTREEITEM item) const;
     [[nodiscard]] std::vector<HTREEITEM> Siblings(HTREEITEM first) const;

@@ -1,5 +1,7 @@
 #include "tests/e2e/FilesJob.h"
+#include "tests/e2e/EditorJob.h"
 #include "tests/e2e/MainJob.h"
+#include "tests/e2e/ViewsJob.h"
 
 #include "platform/Utf16.h"
 
@@ -35,7 +37,9 @@ JobMaker Maker() {
 const std::map<std::string, JobMaker>& Jobs() {
     static const std::map<std::string, JobMaker> jobs = {
         {"files", Maker<FilesJob>()},
+        {"editor", Maker<EditorJob>()},
         {"main", Maker<MainJob>()},
+        {"views", Maker<ViewsJob>()},
     };
     return jobs;
 }

@@ -5,7 +5,10 @@
 
 class FakeCollation : public TextCollation {
 public:
-    int Compare(const std::string& left, const std::string& right) const override {
-        return ToLowerAscii(left).compare(ToLowerAscii(right));
+    std::string SortKey(const std::string& text) const override {
+        ++keysMade;
+        return ToLowerAscii(text);
     }
+
+    mutable int keysMade = 0;
 };

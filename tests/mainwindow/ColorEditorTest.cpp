@@ -43,6 +43,19 @@ TEST_F(ColorEditorTest, SmallSwatchIsCaptionedWithNameAndNumbers) {
     EXPECT_EQ(view.smallCaption, "Blue (R:0 G:0 B:255)");
 }
 
+TEST_F(ColorEditorTest, ColorBeyondTheRangeIsClampedInBoxesAndSwatchesAndNamedByItsOwnNumbers) {
+    ColorRecord color = kBlue;
+    color.values = {300, -5, 32767, 101, 20, 30, 40, 50, 60};
+    editor.ShowColor(color);
+    EXPECT_EQ(view.valueTexts,
+              (std::array<std::string, 9>{"255", "0", "255", "100", "20", "30", "40", "50", "60"}));
+    EXPECT_EQ(view.largeSwatch, 0xFF00FFU);
+    EXPECT_EQ(view.smallSwatch, 0xFF00FFU);
+    EXPECT_EQ(view.smallCaption, "Blue (R:300 G:-5 B:32767)");
+    editor.Rename("Azure");
+    EXPECT_EQ(view.smallCaption, "Azure (R:300 G:-5 B:32767)");
+}
+
 TEST_F(ColorEditorTest, ShownColorsTextIsTheFullComplement) {
     editor.ShowColor(kBlue);
     EXPECT_EQ(view.smallSwatchText, 0x00FFFFU);

@@ -123,6 +123,16 @@ TEST_F(EditingCommandsTest, PasteSelectsTheNewColorInAnEmptyGroup) {
     EXPECT_EQ(program.view.selectedRow, 0);
 }
 
+TEST_F(EditingCommandsTest, PasteSortsTheListOnceAndWithThePastedValues) {
+    Run(IDM_mnuColorCopy); // a, red 1
+    program.Main().ColumnClicked(2);
+    program.Main().ColumnClicked(2); // b, a
+    program.collation.keysMade = 0;
+    Run(IDM_mnuColorPaste);
+    EXPECT_EQ(program.collation.keysMade, 3);
+    EXPECT_EQ(program.view.selectedRow, 2) << "behind the other colour with red 1";
+}
+
 TEST_F(EditingCommandsTest, PasteIgnoresForeignTextSilently) {
     for (const char* text : {"", "hello", "e#a=0DG1:a,1"}) {
         program.clipboard.text = text;

@@ -199,6 +199,24 @@ TEST_F(LibraryPanesTest, SortingStaysSwitchedOnForTheNextGroup) {
     EXPECT_EQ(ShownNames(), (Names{"A", "b", "c"}));
 }
 
+TEST_F(LibraryPanesTest, EachTextIsPreparedForSortingOnce) {
+    for (int color = 0; color < 97; ++color)
+        AddColor("n" + std::to_string(color * 37 % 97), 1);
+    panes.NodeClicked("0DG1");
+    list.ColumnClicked(2);
+    EXPECT_EQ(collation.keysMade, 100);
+}
+
+TEST_F(LibraryPanesTest, RowsWithEqualTextsKeepTheirOrderInBothDirections) {
+    AddColor("d", 20);
+    AddColor("e", 20);
+    panes.NodeClicked("0DG1");
+    list.ColumnClicked(2);
+    EXPECT_EQ(ShownNames(), (Names{"A", "b", "d", "e", "c"}));
+    list.ColumnClicked(2);
+    EXPECT_EQ(ShownNames(), (Names{"c", "b", "d", "e", "A"}));
+}
+
 TEST_F(LibraryPanesTest, ColumnsAreSharesOfTheListsWidth) {
     view.listWidth = 6000;
     list.AddColumns();

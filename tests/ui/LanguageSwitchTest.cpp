@@ -72,6 +72,11 @@ protected:
         };
         const HWND main = program->main.Handle();
         const HWND about = program->about.Handle();
+        expectText(main, IDC_tlbarMain, "frmMain", "nameToolbar.Caption");
+        expectText(main, IDC_tvColor, "frmMain", "nameTree.Caption");
+        expectText(main, IDC_lvColor, "frmMain", "nameList.Caption");
+        expectText(main, IDC_sldActiveColor, "frmMain", "lblRed.ToolTipText");
+        expectText(main, IDC_sldActiveColor + 7, "frmMain", "lblTransparency.ToolTipText");
         expectText(main, IDC_fraShowColor, "frmMain", "fraShowColor.Caption");
         expectText(main, IDC_lblAmbient, "frmMain", "lblAmbient.Caption");
         expectText(main, IDC_lblSpecular, "frmMain", "lblSpecular.Caption");

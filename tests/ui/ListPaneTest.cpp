@@ -16,6 +16,9 @@ protected:
     }
 
     [[nodiscard]] HWND List() const { return Child(IDC_lvColor); }
+    [[nodiscard]] HWND LabelBox() const {
+        return reinterpret_cast<HWND>(SendMessageW(List(), LVM_GETEDITCONTROL, 0, 0));
+    }
     [[nodiscard]] int Selected() const {
         return static_cast<int>(
             SendMessageW(List(), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
@@ -123,6 +126,30 @@ TEST_F(MainList, EditedLabelIsReportedAlsoWhenItIsEmpty) {
     EXPECT_EQ(events.lines, (std::vector<std::string>{"row label 2=Grün", "row label 2="}));
 }
 
+TEST_F(MainList, EmptiedLabelThatIsGivenUpIsNoRename) {
+    form.ShowWindow();
+    form.EditRowLabel(2);
+    SetWindowTextW(LabelBox(), L"");
+    SendMessageW(LabelBox(), WM_KEYDOWN, VK_ESCAPE, 0);
+    form.EditRowLabel(2);
+    SetWindowTextW(LabelBox(), L"");
+    form.RowsChanged(10); // the program ends the edit
+    PumpMessages();
+    EXPECT_EQ(LabelBox(), nullptr);
+    EXPECT_TRUE(events.lines.empty());
+}
+
+TEST_F(MainList, LongNameIsEditedAsAWhole) {
+    form.ShowWindow();
+    events.longCell = std::string(700, 'n');
+    form.EditRowLabel(2);
+    EXPECT_EQ(ToUtf8(TextOf(LabelBox())), events.longCell);
+    SetWindowTextW(LabelBox(), std::wstring(600, L'm').c_str());
+    SendMessageW(LabelBox(), WM_KEYDOWN, VK_RETURN, 0);
+    PumpMessages();
+    EXPECT_EQ(events.lines, std::vector<std::string>{"row label 2=" + std::string(600, 'm')});
+}
+
 TEST_F(MainList, RefusedEditDoesNotStart) {
     form.ShowWindow();
     events.mayEdit = false;
@@ -155,6 +182,71 @@ TEST_F(MainList, FourModesChangeOnlyThePresentation) {
         EXPECT_EQ(Selected(), 4);
         EXPECT_EQ(SendMessageW(List(), LVM_GETITEMCOUNT, 0, 0), 10);
     }
+}
+
+// With 100,000 rows the list asks for the texts that are seen, and for no others.
+class BigList : public MainList {
+protected:
+    BigList() {
+        form.ShowWindow();
+        form.RowsChanged(kRows);
+        form.SelectRow(0);
+        CellsAskedBy([] {});
+    }
+
+    // From the work to the painted list.
+    template <typename Work>
+    int CellsAskedBy(const Work& work) {
+        events.cellsAsked = 0;
+        work();
+        PumpMessages();
+        UpdateWindow(List());
+        return events.cellsAsked;
+    }
+
+    static constexpr int kRows = 100000;
+    static constexpr int kFewCells = 2000;
+};
+
+TEST_F(BigList, EachOfTheFourModesAsksOnlyForTheTextsThatAreSeen) {
+    for (const ListViewMode mode : {ListViewMode::LargeIcons, ListViewMode::SmallIcons,
+                                    ListViewMode::List, ListViewMode::Details}) {
+        EXPECT_LT(CellsAskedBy([&] { form.SetListViewMode(mode); }), kFewCells)
+            << static_cast<int>(mode);
+        EXPECT_LT(CellsAskedBy([&] { form.EnsureRowVisible(kRows - 1); }), kFewCells)
+            << static_cast<int>(mode);
+        EXPECT_LT(CellsAskedBy([&] { form.EnsureRowVisible(0); }), kFewCells)
+            << static_cast<int>(mode);
+    }
+}
+
+TEST_F(BigList, ScrollingByAPageAsksOnlyForTheTextsThatAreSeen) {
+    for (int page = 0; page < 5; ++page) {
+        const int asked = CellsAskedBy([&] { SendMessageW(List(), WM_VSCROLL, SB_PAGEDOWN, 0); });
+        EXPECT_GT(asked, 0);
+        EXPECT_LT(asked, kFewCells);
+    }
+    EXPECT_GT(SendMessageW(List(), LVM_GETTOPINDEX, 0, 0), 0);
+}
+
+TEST_F(BigList, TypedLetterIsOneSearchInTheLibraryAndNoneInTheRows) {
+    const int asked = CellsAskedBy([&] { SendMessageW(List(), WM_CHAR, 'x', 1); });
+    EXPECT_EQ(events.searches, 1);
+    EXPECT_EQ(Selected(), 3);
+    EXPECT_LT(asked, kFewCells);
+}
+
+TEST_F(BigList, LastRowIsRenamedWithoutALookAtTheOthers) {
+    form.SelectRow(kRows - 1);
+    form.EnsureRowVisible(kRows - 1);
+    const int asked = CellsAskedBy([&] {
+        form.EditRowLabel(kRows - 1);
+        ASSERT_NE(LabelBox(), nullptr);
+        SetWindowTextW(LabelBox(), L"last");
+        SendMessageW(LabelBox(), WM_KEYDOWN, VK_RETURN, 0);
+    });
+    EXPECT_EQ(events.lines, std::vector<std::string>{"row label 99999=last"});
+    EXPECT_LT(asked, kFewCells);
 }
 
 TEST_F(MainList, HundredThousandRowsAreSetAtOnce) {

@@ -35,7 +35,7 @@ std::wstring ClassOf(HWND window) {
 }
 
 std::wstring TextOf(HWND window) {
-    std::array<wchar_t, 256> text{};
+    std::array<wchar_t, 1024> text{};
     GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
     return text.data();
 }

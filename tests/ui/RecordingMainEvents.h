@@ -25,9 +25,13 @@ public:
     void NodeEditRequested() override { Note("node edit"); }
 
     [[nodiscard]] std::string CellText(int row, int column) const override {
+        ++cellsAsked;
+        if (!longCell.empty())
+            return longCell;
         return "cell " + std::to_string(row) + "," + std::to_string(column);
     }
     [[nodiscard]] int FindRow(const std::string& text, int) const override {
+        ++searches;
         return text == "x" ? 3 : -1;
     }
     void RowClicked(int row) override { Note("row " + std::to_string(row)); }
@@ -94,6 +98,9 @@ public:
     int repainted = 0;
     int presses = 0;
     std::vector<std::string> ticks;
+    mutable int cellsAsked = 0;
+    mutable int searches = 0;
+    std::string longCell; // of every cell; empty: "cell row,column"
     bool mayEdit = true;
     bool mayDrag = true;
     std::function<void(int)> onCommand;

@@ -119,6 +119,19 @@ TEST_F(MainTree, EditedLabelIsReportedOnce) {
     EXPECT_EQ(Text(Next(TVGN_CHILD, Next(TVGN_ROOT))), "Stähle");
 }
 
+TEST_F(MainTree, LongNameIsEditedAsAWhole) {
+    form.ShowWindow();
+    const std::string name(700, 'n');
+    form.NodeTextChanged("1DG1", name);
+    form.EditNodeLabel("1DG1");
+    EXPECT_EQ(
+        ToUtf8(TextOf(reinterpret_cast<HWND>(SendMessageW(Tree(), TVM_GETEDITCONTROL, 0, 0)))),
+        name);
+    TypeLabel(std::wstring(600, L'm').c_str(), VK_RETURN);
+    PumpMessages();
+    EXPECT_EQ(events.lines, std::vector<std::string>{"node label 1DG1=" + std::string(600, 'm')});
+}
+
 TEST_F(MainTree, EscapeGivesUpTheEdit) {
     form.ShowWindow();
     form.EditNodeLabel("1DG1");

@@ -1,4 +1,4 @@
-#include "platform/controls/KeyCaption.h"
+#include "platform/controls/HiddenCaption.h"
 
 namespace {
 
@@ -6,11 +6,11 @@ constexpr const char* kCaption = "Caption";
 
 } // namespace
 
-std::string KeyCaption::Property(const std::string& property) const {
+std::string HiddenCaption::Property(const std::string& property) const {
     return property == kCaption ? caption_ : DesignComponent::Property(property);
 }
 
-void KeyCaption::SetProperty(const std::string& property, const std::string& text) {
+void HiddenCaption::SetProperty(const std::string& property, const std::string& text) {
     if (property != kCaption)
         DesignComponent::SetProperty(property, text);
     if (text == caption_)

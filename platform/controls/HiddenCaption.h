@@ -5,12 +5,13 @@
 #include <functional>
 #include <string>
 
-// What a key is called in the shortcuts of a menu.
-class KeyCaption : public DesignComponent {
+// A text of a form that has no place of its own: the name of a key in the shortcuts of a menu, the
+// name by which a screen reader announces a control.
+class HiddenCaption : public DesignComponent {
 public:
     // onChange: called with each new caption.
-    KeyCaption(const std::string& name, std::string caption,
-               std::function<void(const std::string& caption)> onChange)
+    HiddenCaption(const std::string& name, std::string caption,
+                  std::function<void(const std::string& caption)> onChange)
         : DesignComponent(name, "Menu"), caption_(std::move(caption)),
           onChange_(std::move(onChange)) {}
 

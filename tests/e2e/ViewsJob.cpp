@@ -1,0 +1,62 @@
+#include "tests/e2e/ViewsJob.h"
+
+#include "resources/controls.h"
+
+#include <algorithm>
+#include <commctrl.h>
+
+namespace {
+
+// At 96 dots per inch.
+constexpr int kWidth = 880;
+constexpr int kHeight = 640;
+
+} // namespace
+
+void ViewsJob::Work() {
+    Report().Step("start the program", [this] { Start(); });
+    if (!IsMainShown())
+        return;
+    Report().Step("large icons", [this] { ShowMode(IDM_mnuViewColorLargeIcons, LVS_ICON); });
+    Report().Step("small icons", [this] { ShowMode(IDM_mnuViewColorSmallIcons, LVS_SMALLICON); });
+    Report().Step("list", [this] { ShowMode(IDM_mnuViewColorList, LVS_LIST); });
+    Report().Step("details", [this] { ShowMode(IDM_mnuViewColorDetails, LVS_REPORT); });
+    Report().Step("large editor", [this] { ShowEditor(true); });
+    Report().Step("large editor in German", [this] { SpeakGerman(); });
+    Report().Step("small swatch in German", [this] { ShowEditor(false); });
+    Report().Step("end the program", [this] { EndMain(); });
+}
+
+void ViewsJob::Start() {
+    CopySample("materials.tnt");
+    StartMain();
+    const auto dpi = static_cast<int>(GetDpiForSystem());
+    Main().Window().Place(0, 0, std::min(kWidth * dpi / 96, GetSystemMetrics(SM_CXSCREEN)),
+                          std::min(kHeight * dpi / 96, GetSystemMetrics(SM_CYSCREEN)));
+    OpenFromMenu(File("materials.tnt"));
+    Main().Tree().ClickChild(0, "Metals");
+    Report().CheckBecomes(
+        "rows", [this] { return Main().List().RowCount(); }, 11);
+    Main().List().ClickRow("Gold");
+    ShowEditor(false);
+}
+
+void ViewsJob::ShowMode(int command, DWORD style) {
+    Main().ClickButton(command);
+    Report().CheckBecomes(
+        "view", [this] { return Main().List().ViewStyle(); }, style);
+}
+
+void ViewsJob::ShowEditor(bool large) {
+    if (Main().IsLargeEditorShown() != large)
+        Main().ClickButton(IDM_mnuViewHugeColorDialog);
+    Report().CheckBecomes(
+        "the large editor is shown", [this] { return Main().IsLargeEditorShown(); }, large);
+}
+
+void ViewsJob::SpeakGerman() {
+    PostMessageW(Main().Window().Handle(), WM_COMMAND, IDM_mnuOptionsLngGerman, 0);
+    Report().CheckBecomes(
+        "caption of the editor", [this] { return Main().Window().Child(IDC_fraShowColor).Text(); },
+        std::string("Aktive Farbe"));
+}

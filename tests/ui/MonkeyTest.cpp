@@ -1,0 +1,379 @@
+#include "common/ProgramNames.h"
+#include "mainwindow/CommandTable.h"
+#include "platform/Utf16.h"
+#include "tests/platform/ScratchFolder.h"
+#include "tests/platform/ScratchRegistry.h"
+#include "tests/platform/SourceFile.h"
+#include "tests/ui/GuiObjects.h"
+#include "tests/ui/MainFormTest.h"
+#include "tests/ui/RealProgram.h"
+
+#include <algorithm>
+#include <iostream>
+#include <psapi.h>
+#include <random>
+#include <sstream>
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+constexpr unsigned kSeed = 20;
+constexpr int kSteps = 100000;
+constexpr int kStepsBetweenChecks = 5000;
+constexpr int kWarmUp = 40000; // what is made when it is first wanted is there then
+
+// What the process holds of the system.
+struct Holdings {
+    GuiObjects objects;
+    DWORD handles = 0;
+    std::size_t bytes = 0;
+
+    static Holdings Count() {
+        Holdings held;
+        held.objects = CountGuiObjects();
+        GetProcessHandleCount(GetCurrentProcess(), &held.handles);
+        PROCESS_MEMORY_COUNTERS counters{};
+        GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
+        held.bytes = counters.PagefileUsage;
+        return held;
+    }
+};
+
+std::ostream& operator<<(std::ostream& out, const Holdings& held) {
+    return out << "graphics objects " << held.objects.gdi << ", window objects "
+               << held.objects.user << ", handles " << held.handles << ", memory "
+               << held.bytes / 1024 << " KiB";
+}
+
+// Somebody who presses, types, clicks, turns and commands without a plan in the real main window.
+// Questions are answered at once, with any answer.
+class Monkey : public testing::Test {
+protected:
+    Monkey() {
+        for (const char* name : {"tntlng_de.ini", "tntlng_us.ini"})
+            folder.Write(name,
+                         *files.ReadWhole(SourceFile(std::string("resources/language/") + name)));
+        folder.Write("a.tnt", *files.ReadWhole(SourceFile("resources/samples/materials.tnt")));
+        registry.PutText(std::string(ProgramNames::RegistryPath), "DefaultColorFile",
+                         folder.File("a.tnt"));
+        program = std::make_unique<RealProgram>(registry, folder.Path(), codePage);
+        program->application.Start();
+        PumpMessages();
+        for (const MenuRow& row : kMenuRows)
+            if (IsForMonkeys(row))
+                commands.push_back(row.command);
+    }
+
+    // The end of the program and the About window, which waits for a person.
+    static bool IsForMonkeys(const MenuRow& row) {
+        return (row.kind == MenuKind::Entry || row.kind == MenuKind::SubmenuEntry) &&
+               row.command != IDM_mnuQuit && row.command != IDM_mnuHlpAbout;
+    }
+
+    [[nodiscard]] HWND Child(int id) const { return FindChild(program->main.Handle(), id); }
+    [[nodiscard]] HWND Tree() const { return Child(IDC_tvColor); }
+    [[nodiscard]] HWND List() const { return Child(IDC_lvColor); }
+    int Below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
+    template <typename Value, std::size_t count>
+    Value OneOf(const Value (&values)[count]) {
+        return values[static_cast<std::size_t>(Below(count))];
+    }
+
+    HWND AnyPane();
+    HWND AnyTarget();
+    POINT AnyPointIn(HWND window);
+
+    void Step();
+    void TypeCharacter();
+    void PressKey();
+    void MoveMouse();
+    void TurnWheel();
+    void ClickSomewhere();
+    void PressRightButton();
+    void DragSomething();
+    void RunCommand();
+    void Resize();
+    void Repaint();
+    void PrepareAnswers();
+    void KeepSmall();
+
+    void ComeToRest();
+    void ExpectAgreement();
+    void ExpectAgreementOf(HTREEITEM root);
+    void ExpectListShows(const Texts& colors);
+    [[nodiscard]] HTREEITEM Next(WPARAM relation, HTREEITEM item = nullptr) const;
+    [[nodiscard]] std::string TextOfNode(HTREEITEM node) const;
+    void Select(HTREEITEM node);
+    [[nodiscard]] std::vector<std::string> SavedLines();
+
+    std::mt19937 random{kSeed};
+    Win32Files files;
+    ScratchFolder folder;
+    ScratchRegistry registry;
+    Win32AnsiCodePage codePage{1252};
+    std::unique_ptr<RealProgram> program;
+    std::vector<int> commands;
+};
+
+HWND Monkey::AnyPane() {
+    return Child(OneOf({IDC_tvColor, IDC_lvColor, IDC_lvColor}));
+}
+
+// Where keys go: mostly to what has the focus, as a label that is edited has it.
+HWND Monkey::AnyTarget() {
+    const HWND focus = GetFocus();
+    if (focus != nullptr && Below(2) == 0)
+        return focus;
+    switch (Below(3)) {
+    case 0:
+        return AnyPane();
+    case 1:
+        return Child(IDC_txtActiveColor + Below(9));
+    default:
+        return Child(IDC_sldActiveColor + Below(9));
+    }
+}
+
+POINT Monkey::AnyPointIn(HWND window) {
+    RECT area{};
+    GetClientRect(window, &area);
+    return {Below(std::max(1, WidthOf(area))), Below(std::max(1, HeightOf(area)))};
+}
+
+void Monkey::TypeCharacter() {
+    constexpr wchar_t kCharacters[] = {L'0', L'1', L'2', L'5', L'9', L'.', L'-',
+                                       L'a', L'b', L'G', L'ü', L' ', L'\b'};
+    SendMessageW(AnyTarget(), WM_CHAR, OneOf(kCharacters), 1);
+}
+
+void Monkey::PressKey() {
+    constexpr WORD kKeys[] = {VK_UP,   VK_DOWN, VK_LEFT,   VK_RIGHT,  VK_HOME,   VK_END,  VK_PRIOR,
+                              VK_NEXT, VK_F2,   VK_RETURN, VK_ESCAPE, VK_DELETE, VK_SPACE};
+    const HWND target = AnyTarget();
+    const WORD key = OneOf(kKeys);
+    SendMessageW(target, WM_KEYDOWN, key, 1);
+    if (IsWindow(target) != FALSE)
+        SendMessageW(target, WM_KEYUP, key, 1);
+}
+
+void Monkey::MoveMouse() {
+    const HWND target = AnyTarget();
+    const POINT to = AnyPointIn(target);
+    SendMessageW(target, WM_MOUSEMOVE, 0, MAKELPARAM(to.x, to.y));
+}
+
+void Monkey::TurnWheel() {
+    const int turn = Below(2) == 0 ? WHEEL_DELTA : -WHEEL_DELTA;
+    SendMessageW(AnyTarget(), WM_MOUSEWHEEL, static_cast<WPARAM>(MAKELONG(0, turn)), 0);
+}
+
+void Monkey::ClickSomewhere() {
+    constexpr int kPlaces[] = {IDC_tvColor,        IDC_lvColor,        IDC_imgSplitter,
+                               IDC_txtActiveColor, IDC_sldActiveColor, IDC_fraShowColor};
+    const HWND target = Child(OneOf(kPlaces));
+    Click(target, AnyPointIn(target));
+    const int swatch = OneOf({IDC_lblActiveColor, IDC_lblActiveColorSmall});
+    SendMessageW(Child(swatch), WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(2, 2));
+}
+
+// The menu that it opens is left by Escape, which waits for it already.
+void Monkey::PressRightButton() {
+    PostMessageW(program->main.Handle(), WM_KEYDOWN, VK_ESCAPE, 0);
+    const HWND pane = AnyPane();
+    const POINT at = AnyPointIn(pane);
+    SendMessageW(pane, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(at.x, at.y));
+    SendMessageW(pane, WM_RBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+}
+
+void Monkey::DragSomething() {
+    const HWND pane = AnyPane();
+    for (int move = 0; move < 3; ++move) {
+        const POINT to = AnyPointIn(pane);
+        PostMessageW(pane, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to.x, to.y));
+    }
+    Click(pane, AnyPointIn(pane));
+}
+
+void Monkey::PrepareAnswers() {
+    FakePrompts& prompts = program->prompts;
+    constexpr Answer kAnswers[] = {Answer::Yes, Answer::No, Answer::Cancel, Answer::Ok};
+    prompts.answers.assign(3, OneOf(kAnswers));
+    prompts.typed.assign(3, Below(4) == 0 ? "" : "name " + std::to_string(Below(1000)));
+    prompts.chosenColors.assign(1, static_cast<ColorNumber>(Below(0x1000000)));
+    prompts.chosenFiles.assign(1, folder.File(Below(2) == 0 ? "a.tnt" : "b.tnt"));
+}
+
+// A change of the language reads whole files: it comes seldom.
+void Monkey::RunCommand() {
+    const int command =
+        commands[static_cast<std::size_t>(Below(static_cast<int>(commands.size())))];
+    const bool isLanguage =
+        command == IDM_mnuOptionsLngGerman || command == IDM_mnuOptionsLngEnglish;
+    if (isLanguage && Below(20) != 0)
+        return;
+    PrepareAnswers();
+    program->Run(command);
+    KeepSmall();
+}
+
+// What the test's own fakes keep is not the program's.
+void Monkey::KeepSmall() {
+    FakePrompts& prompts = program->prompts;
+    prompts.messages.clear();
+    prompts.questions.clear();
+    prompts.fileRequests.clear();
+    prompts.colorRequests.clear();
+    while (SendMessageW(Tree(), TVM_GETCOUNT, 0, 0) > 40) {
+        prompts.answers.assign(1, Answer::Yes);
+        program->Run(IDM_mnuFileClose);
+    }
+}
+
+void Monkey::Resize() {
+    SetWindowPos(program->main.Handle(), nullptr, 0, 0, 100 + Below(1000), 100 + Below(700),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Monkey::Repaint() {
+    RedrawWindow(program->main.Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+    PumpMessages();
+}
+
+void Monkey::Step() {
+    const int chance = Below(1000);
+    if (chance < 420)
+        TypeCharacter();
+    else if (chance < 780)
+        PressKey();
+    else if (chance < 860)
+        MoveMouse();
+    else if (chance < 920)
+        TurnWheel();
+    else if (chance < 945)
+        ClickSomewhere();
+    else if (chance < 950)
+        PressRightButton();
+    else if (chance < 960)
+        DragSomething();
+    else if (chance < 990)
+        RunCommand();
+    else if (chance < 995)
+        Resize();
+    else
+        Repaint();
+}
+
+// What is under way ends.
+void Monkey::ComeToRest() {
+    SendMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 1);
+    ReleaseCapture();
+    SetFocus(Tree());
+    PumpMessages();
+    KeepSmall();
+}
+
+HTREEITEM Monkey::Next(WPARAM relation, HTREEITEM item) const {
+    return reinterpret_cast<HTREEITEM>(
+        SendMessageW(Tree(), TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
+}
+
+std::string Monkey::TextOfNode(HTREEITEM node) const {
+    std::array<wchar_t, 1024> text{};
+    TVITEMW item{};
+    item.mask = TVIF_HANDLE | TVIF_TEXT;
+    item.hItem = node;
+    item.pszText = text.data();
+    item.cchTextMax = static_cast<int>(text.size());
+    SendMessageW(Tree(), TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    return ToUtf8(text.data());
+}
+
+void Monkey::Select(HTREEITEM node) {
+    SendMessageW(Tree(), TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(node));
+}
+
+// The selected library as the program writes it.
+std::vector<std::string> Monkey::SavedLines() {
+    program->prompts.answers.assign(3, Answer::Yes);
+    program->prompts.chosenFiles.assign(1, folder.File("check.tnt"));
+    program->Run(IDM_mnuFileSaveAs);
+    std::istringstream text(
+        codePage.Decode(files.ReadWhole(folder.File("check.tnt")).value_or("")));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(text, line);)
+        if (line.starts_with('"'))
+            lines.push_back(line.substr(1, line.rfind('"') - 1));
+    return lines;
+}
+
+// Names and values of a group's colors, in any order, as the list shows them.
+void Monkey::ExpectListShows(const Texts& colors) {
+    Texts shown;
+    const auto rows = static_cast<int>(SendMessageW(List(), LVM_GETITEMCOUNT, 0, 0));
+    for (int row = 0; row < rows; ++row) {
+        std::string text = program->application.MainEvents().CellText(row, 1);
+        for (int column = 2; column <= 10; ++column)
+            text += "\xC3\xB7" + program->application.MainEvents().CellText(row, column);
+        shown.push_back(text);
+    }
+    std::ranges::sort(shown);
+    EXPECT_EQ(shown, colors);
+}
+
+void Monkey::ExpectAgreementOf(HTREEITEM root) {
+    HTREEITEM group = Next(TVGN_CHILD, root);
+    if (group == nullptr)
+        return; // there is nothing to save
+    Select(root);
+    const std::vector<std::string> lines = SavedLines();
+    std::map<std::string, Texts> colors; // by the group's key
+    for (const std::string& line : lines)
+        if (line.starts_with("E#")) {
+            const std::size_t key = line.find('=');
+            const std::size_t colon = line.find(':', key);
+            colors[line.substr(key + 1, colon - key - 1)].push_back(
+                line.substr(2, key - 2) + line.substr(line.find("\xC3\xB7", colon)));
+        }
+    for (const std::string& line : lines) {
+        if (!line.starts_with("G#"))
+            continue;
+        ASSERT_NE(group, nullptr) << line;
+        const std::size_t key = line.find('=');
+        EXPECT_EQ(TextOfNode(group), line.substr(2, key - 2));
+        Select(group);
+        Texts expected = colors[line.substr(key + 1)];
+        std::ranges::sort(expected);
+        ExpectListShows(expected);
+        group = Next(TVGN_NEXT, group);
+    }
+    EXPECT_EQ(group, nullptr) << "a group that is not in the library";
+}
+
+void Monkey::ExpectAgreement() {
+    for (HTREEITEM root = Next(TVGN_ROOT); root != nullptr; root = Next(TVGN_NEXT, root))
+        ExpectAgreementOf(root);
+}
+
+} // namespace
+
+TEST_F(Monkey, AnyInputLeavesTheProgramWholeAndTreeListAndLibraryInAgreement) {
+    std::cout << "seed " << kSeed << ", " << kSteps << " steps\n";
+    Holdings before;
+    for (int step = 1; step <= kSteps; ++step) {
+        Step();
+        if (step % kStepsBetweenChecks != 0)
+            continue;
+        ComeToRest();
+        ASSERT_NO_FATAL_FAILURE(ExpectAgreement()) << "after step " << step;
+        if (step == kWarmUp)
+            std::cout << "after " << step << ": " << (before = Holdings::Count()) << '\n';
+    }
+    const Holdings after = Holdings::Count();
+    std::cout << "at the end: " << after << '\n';
+    EXPECT_LE(after.objects.gdi, before.objects.gdi + 10);
+    EXPECT_LE(after.objects.user, before.objects.user + 10);
+    EXPECT_LE(after.handles, before.handles + 10);
+    EXPECT_LE(after.bytes, before.bytes + 4 * 1024 * 1024);
+    EXPECT_NE(IsWindowVisible(program->main.Handle()), FALSE);
+}
