@@ -41,8 +41,8 @@ public:
     std::string NewGroupNode(const std::string& mainKey, const std::string& name);
 
     // Appends a colour with these values, else the editor's, to the group (of the tree's selection
-    // when none is named) and selects it in the list.  False when the user cancelled or when a library or group
-    // had to be made first (which asks for its first colour itself).
+    // when none is named) and selects it in the list.  False when the user cancelled or when a
+    // library or group had to be made first (which asks for its first colour itself).
     bool NewColorNode(const std::optional<std::string>& groupKey = {},
                       const std::optional<std::string>& name = {},
                       const std::optional<ColorValueArray>& values = {});

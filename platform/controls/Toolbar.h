@@ -34,7 +34,7 @@ public:
     void FollowForm();                             // after the form's width changed
     [[nodiscard]] int Height() const noexcept;     // pixels
     [[nodiscard]] int RightmostButtonEdge() const; // pixels, 0 without buttons
-    std::function<void(int command)> onCommand; // a button or an entry of its menu
+    std::function<void(int command)> onCommand;    // a button or an entry of its menu
 
     [[nodiscard]] ToolbarButtons* Buttons() override { return this; }
     [[nodiscard]] std::int32_t ButtonCount() const override;
