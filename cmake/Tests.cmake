@@ -31,6 +31,20 @@ set(portable_test_folders tests/common tests/library tests/solidworks tests/supp
 tnt_test_program(portable_tests FOLDERS ${portable_test_folders}
     LIBRARIES standin_model tnt_portable gmock gtest gtest_main)
 
+# Measures the library and its files; its numbers stand in docs/performance.md.
+tnt_sources(bench_sources tests/bench/library)
+if(WIN32)
+    list(FILTER bench_sources EXCLUDE REGEX "Portable\\.cpp$")
+else()
+    list(FILTER bench_sources EXCLUDE REGEX "Windows\\.cpp$")
+endif()
+add_executable(library_bench ${bench_sources})
+target_link_libraries(library_bench PRIVATE $<IF:$<BOOL:${WIN32}>,tnt_forms,tnt_portable>)
+tnt_target_options(library_bench)
+if(WIN32 AND NOT MSVC)
+    target_link_options(library_bench PRIVATE -static)
+endif()
+
 if(WIN32)
     tnt_test_program(windows_tests FOLDERS tests/platform tests/ui
         LIBRARIES standin_com standin_model tnt_forms tnt_version gmock gtest gtest_main)

@@ -1,0 +1,100 @@
+#include "common/SingleByteTable.h"
+#include "tests/bench/library/BenchPlatform.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <stdexcept>
+
+namespace {
+
+struct CloseFile {
+    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
+};
+using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
+
+class StandardOutputFile : public OutputFile {
+public:
+    explicit StandardOutputFile(OpenFile file) : file_(std::move(file)) {}
+    bool Write(std::string_view bytes) override {
+        return std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) == bytes.size();
+    }
+    bool Flush() override { return std::fflush(file_.get()) == 0; }
+    bool Close() override { return std::fclose(file_.release()) == 0; }
+
+private:
+    OpenFile file_;
+};
+
+class StandardFiles : public Files {
+public:
+    std::string FindNormalFile(const std::string& path) override {
+        return Exists(path) ? std::filesystem::path(path).filename().string() : std::string();
+    }
+    bool Exists(const std::string& path) override { return std::filesystem::exists(path); }
+    std::optional<std::string> ReadWhole(const std::string& path) override {
+        const OpenFile file(std::fopen(path.c_str(), "rb"));
+        if (!file)
+            return {};
+        std::string content(std::filesystem::file_size(path), '\0');
+        content.resize(std::fread(content.data(), 1, content.size(), file.get()));
+        return content;
+    }
+    std::unique_ptr<OutputFile> Create(const std::string& path) override {
+        OpenFile file(std::fopen(path.c_str(), "wb"));
+        if (!file)
+            return nullptr;
+        return std::make_unique<StandardOutputFile>(std::move(file));
+    }
+    bool Replace(const std::string& from, const std::string& to) override {
+        std::error_code error;
+        std::filesystem::rename(from, to, error);
+        return !error;
+    }
+    bool Remove(const std::string& path) override {
+        std::error_code error;
+        return std::filesystem::remove(path, error);
+    }
+};
+
+std::string CharacterOf(unsigned char byte) {
+    if (byte < 0x80)
+        return std::string(1, static_cast<char>(byte));
+    return {static_cast<char>(0xC0 | byte >> 6), static_cast<char>(0x80 | (byte & 0x3F))};
+}
+
+class WesternPage : public AnsiCodePage {
+public:
+    std::string Decode(std::string_view bytes) const override { return table_.Decode(bytes); }
+    Encoded Encode(std::string_view utf8) const override {
+        std::optional<std::string> bytes = table_.Encode(utf8);
+        if (!bytes)
+            throw std::runtime_error("Not in the code page");
+        return {std::move(*bytes), {}};
+    }
+
+private:
+    SingleByteTable table_{CharacterOf, [](unsigned char) { return true; }};
+};
+
+} // namespace
+
+struct BenchPlatform::Parts {
+    StandardFiles files;
+    WesternPage codePage;
+};
+
+BenchPlatform::BenchPlatform() : parts_(std::make_unique<Parts>()) {}
+BenchPlatform::~BenchPlatform() = default;
+
+Files& BenchPlatform::FileSystem() {
+    return parts_->files;
+}
+const AnsiCodePage& BenchPlatform::CodePage() const {
+    return parts_->codePage;
+}
+ProgressView* BenchPlatform::ProgressWindow() {
+    return nullptr;
+}
+std::string BenchPlatform::Folder() const {
+    return (std::filesystem::temp_directory_path() / "").string();
+}

@@ -1,0 +1,38 @@
+#include "mainwindow/frmMain.h"
+#include "platform/BannerPictures.h"
+#include "platform/Utf16.h"
+#include "platform/Win32AnsiCodePage.h"
+#include "platform/Win32Files.h"
+#include "support/frmProgress.h"
+#include "tests/bench/library/BenchPlatform.h"
+#include "tests/ui/RecordingErrorSink.h"
+
+namespace {
+
+constexpr std::chrono::milliseconds kPatience(150); // as in the program
+
+} // namespace
+
+struct BenchPlatform::Parts {
+    Win32Files files;
+    Win32AnsiCodePage codePage{1252};
+    RecordingErrorSink errors;
+    frmProgress progress{nullptr, errors, kPatience};
+};
+
+BenchPlatform::BenchPlatform() : parts_(std::make_unique<Parts>()) {}
+BenchPlatform::~BenchPlatform() = default;
+
+Files& BenchPlatform::FileSystem() {
+    return parts_->files;
+}
+const AnsiCodePage& BenchPlatform::CodePage() const {
+    return parts_->codePage;
+}
+ProgressView* BenchPlatform::ProgressWindow() {
+    return &parts_->progress;
+}
+std::string BenchPlatform::Folder() const {
+    wchar_t folder[MAX_PATH + 1] = {};
+    return ToUtf8({folder, GetTempPathW(MAX_PATH, folder)});
+}

@@ -1,0 +1,37 @@
+#include "tests/bench/library/BenchFile.h"
+#include "tests/bench/library/MeasuredLibrary.h"
+#include "tests/bench/library/Reports.h"
+#include "tests/bench/library/Timing.h"
+
+#include <cstdio>
+
+namespace {
+
+// Without and with the window in turn.
+void MeasureProgress(BenchPlatform& platform, int colors, int repetitions) {
+    const BenchFile file(platform, "progress.tnt", MakePlainLibrary(colors, (colors + 999) / 1000));
+    Times without;
+    Times with;
+    long long calls = 0;
+    for (int repetition = 0; repetition <= repetitions; ++repetition) {
+        MeasuredLibrary plain(platform);
+        without.Measure([&] { plain.libraryFiles.FileReadColorValues(file.Path()); });
+        calls = plain.progress.calls;
+        MeasuredLibrary shown(platform, platform.ProgressWindow());
+        with.Measure([&] { shown.libraryFiles.FileReadColorValues(file.Path()); });
+    }
+    std::printf("| %d | %lld | %.1f | %.1f | %.1f %% |\n", colors, calls, without.Median(),
+                with.Median(), (with.Median() - without.Median()) / without.Median() * 100);
+}
+
+} // namespace
+
+void ReportProgress(BenchPlatform& platform, const BenchSizes& sizes) {
+    if (platform.ProgressWindow() == nullptr)
+        return;
+    std::printf("| colors | calls | without the window, ms | with it, ms | cost |\n"
+                "| --- | --- | --- | --- | --- |\n");
+    for (int colors = 1000; colors <= sizes.largest; colors *= 10)
+        MeasureProgress(platform, colors, sizes.repetitions);
+    std::printf("\n");
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "tests/bench/library/BenchPlatform.h"
+
+struct BenchSizes {
+    int largest = 1000000; // colours
+    int repetitions = 5;
+};
+
+// Each measures one side of the library and prints its table.
+void ReportFiles(BenchPlatform& platform, const BenchSizes& sizes);    // beside the floors; memory
+void ReportGrowth(BenchPlatform& platform, const BenchSizes& sizes);   // from a thousand colours
+void ReportList(BenchPlatform& platform, const BenchSizes& sizes);     // showing a group
+void ReportProgress(BenchPlatform& platform, const BenchSizes& sizes); // cost of the window
