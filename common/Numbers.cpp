@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace {
 
@@ -51,6 +52,21 @@ Integer RoundTo(double number) {
     return static_cast<Integer>(rounded);
 }
 
+// A number of at most four plain digits: nearly every one that is read, and it always fits.
+std::optional<std::int16_t> ShortWholeNumber(std::string_view text) noexcept {
+    const bool isNegative = text.starts_with('-');
+    const std::string_view digits = text.substr(isNegative ? 1 : 0);
+    if (digits.empty() || digits.size() > 4)
+        return {};
+    int value = 0;
+    for (const char digit : digits) {
+        if (digit < '0' || digit > '9')
+            return {};
+        value = value * 10 + (digit - '0');
+    }
+    return static_cast<std::int16_t>(isNegative ? -value : value);
+}
+
 } // namespace
 
 double LeadingNumber(std::string_view text) noexcept {
@@ -86,7 +102,8 @@ double TextToDouble(std::string_view text) {
 }
 
 std::int16_t TextToInt16(std::string_view text) {
-    return RoundToInt16(TextToDouble(text));
+    const std::optional<std::int16_t> number = ShortWholeNumber(text);
+    return number ? *number : RoundToInt16(TextToDouble(text));
 }
 
 std::int32_t TextToInt32(std::string_view text) {

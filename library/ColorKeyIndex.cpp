@@ -1,7 +1,7 @@
 #include "library/ColorKeyIndex.h"
 
+#include <algorithm>
 #include <bit>
-#include <string>
 #include <utility>
 
 namespace {
@@ -25,40 +25,34 @@ void ColorKeyIndex::Reserve(std::size_t count) {
         Resize(PlacesFor(count));
 }
 
-std::size_t ColorKeyIndex::HomeOf(std::string_view key) const noexcept {
-    return std::hash<std::string_view>()(key) & (places_.size() - 1);
-}
-
-std::size_t ColorKeyIndex::PlaceOf(std::string_view key) const {
-    std::size_t place = HomeOf(key);
-    while (places_[place] != 0 && keyOf_(places_[place]) != key)
-        place = (place + 1) & (places_.size() - 1);
+std::size_t ColorKeyIndex::PlaceOf(Hash hash, const IsWanted& isWanted) const {
+    std::size_t place = HomeOf(hash);
+    while (places_[place].id != 0 && (places_[place].hash != hash || !isWanted(places_[place].id)))
+        place = After(place);
     return place;
 }
 
-bool ColorKeyIndex::Add(ColorId id) {
+bool ColorKeyIndex::Add(ColorId id, Hash hash, const IsWanted& isSame) {
     Reserve(count_ + 1);
-    const std::string key(keyOf_(id));
-    const std::size_t place = PlaceOf(key);
-    if (places_[place] != 0)
+    Place& place = places_[PlaceOf(hash, isSame)];
+    if (place.id != 0)
         return false;
-    places_[place] = id;
+    place = {hash, id};
     ++count_;
     return true;
 }
 
-ColorId ColorKeyIndex::Find(std::string_view key) const {
-    return places_.empty() ? 0 : places_[PlaceOf(key)];
+ColorId ColorKeyIndex::Find(Hash hash, const IsWanted& isWanted) const {
+    return places_.empty() ? 0 : places_[PlaceOf(hash, isWanted)].id;
 }
 
-void ColorKeyIndex::Remove(ColorId id) {
+void ColorKeyIndex::Remove(ColorId id, Hash hash) {
     if (places_.empty())
         return;
-    const std::string key(keyOf_(id));
-    const std::size_t place = PlaceOf(key);
-    if (places_[place] != id)
+    const std::size_t place = PlaceOf(hash, [id](ColorId other) { return other == id; });
+    if (places_[place].id == 0)
         return;
-    places_[place] = 0;
+    places_[place] = {};
     --count_;
     CloseGap(place);
 }
@@ -66,23 +60,23 @@ void ColorKeyIndex::Remove(ColorId id) {
 // Colours behind the gap that a search would not reach any more move up.
 void ColorKeyIndex::CloseGap(std::size_t gap) {
     const std::size_t mask = places_.size() - 1;
-    for (std::size_t place = (gap + 1) & mask; places_[place] != 0; place = (place + 1) & mask) {
-        const std::size_t home = HomeOf(keyOf_(places_[place]));
+    for (std::size_t place = After(gap); places_[place].id != 0; place = After(place)) {
+        const std::size_t home = HomeOf(places_[place].hash);
         if (((place - home) & mask) < ((place - gap) & mask))
             continue;
-        places_[gap] = std::exchange(places_[place], 0);
+        places_[gap] = std::exchange(places_[place], {});
         gap = place;
     }
 }
 
 void ColorKeyIndex::Resize(std::size_t places) {
-    const std::vector<ColorId> before = std::exchange(places_, std::vector<ColorId>(places));
-    for (const ColorId id : before) {
-        if (id == 0)
+    const std::vector<Place> before = std::exchange(places_, std::vector<Place>(places));
+    for (const Place& moved : before) {
+        if (moved.id == 0)
             continue;
-        std::size_t place = HomeOf(keyOf_(id));
-        while (places_[place] != 0)
-            place = (place + 1) & (places - 1);
-        places_[place] = id;
+        std::size_t place = HomeOf(moved.hash);
+        while (places_[place].id != 0)
+            place = After(place);
+        places_[place] = moved;
     }
 }

@@ -8,7 +8,7 @@ void ColorStore::Clear() {
     gone_ = 0;
 }
 
-ColorId ColorStore::Add(StoredColor color) {
+ColorId ColorStore::Add(StoredColor&& color) {
     const ColorId id = next_++;
     if (BlockOf(id) == blocks_.size())
         blocks_.push_back(nullptr);

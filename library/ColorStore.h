@@ -33,7 +33,7 @@ class ColorStore {
 public:
     void Clear();
 
-    ColorId Add(StoredColor color);
+    ColorId Add(StoredColor&& color);
     void Remove(ColorId id); // of a colour that is there
 
     // The colour must be there.

@@ -3,9 +3,7 @@
 #include "common/RuntimeError.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
-#include <limits>
 #include <optional>
 #include <utility>
 
@@ -13,26 +11,39 @@ namespace {
 
 constexpr char kKeyLetter = 'E';
 
-// The digits of the longest number.
-constexpr std::size_t kLongestNumber = std::numeric_limits<std::uint32_t>::digits10 + 1;
+struct KeyParts {
+    std::string_view group;
+    std::uint32_t number = 0;
+};
 
-void AppendKey(std::string& text, const std::string& groupKey, std::uint32_t number) {
-    std::array<char, kLongestNumber> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    text.append(groupKey).append(1, kKeyLetter).append(digits.data(), end);
+// The parts of a key that is just "group key, E, number"; nothing for any other text.
+std::optional<KeyParts> PartsOf(std::string_view key) {
+    const std::size_t letter = key.rfind(kKeyLetter);
+    if (letter == std::string_view::npos)
+        return {};
+    const std::string_view digits = key.substr(letter + 1);
+    const char* const end = digits.data() + digits.size();
+    KeyParts parts{key.substr(0, letter)};
+    const auto [stop, error] = std::from_chars(digits.data(), end, parts.number);
+    const bool isAsWritten = digits == "0" || !digits.starts_with('0');
+    return error == std::errc() && stop == end && isAsWritten ? std::optional(parts) : std::nullopt;
 }
 
-// The number of a key that is just "group key, E, number"; nothing for any other key.
-std::optional<std::uint32_t> NumberInKey(const std::string& key, const std::string& groupKey) {
-    if (!key.starts_with(groupKey))
-        return {};
-    const std::size_t digits = groupKey.size() + 1;
-    std::uint32_t number = 0;
-    if (digits < key.size())
-        std::from_chars(key.data() + digits, key.data() + key.size(), number);
-    std::string composed;
-    AppendKey(composed, groupKey, number);
-    return composed == key ? std::optional(number) : std::nullopt;
+std::size_t HashOfText(std::string_view text) {
+    return std::hash<std::string_view>()(text);
+}
+
+ColorKeyIndex::Hash HashOfParts(std::size_t groupHash, std::uint32_t number) {
+    std::uint64_t mixed = groupHash + number * 0x9E3779B97F4A7C15U;
+    mixed = (mixed ^ mixed >> 32U) * 0xD6E8FEB86659FD93U;
+    return static_cast<ColorKeyIndex::Hash>(mixed >> 32U);
+}
+
+// Equal for equal keys, whichever way they are kept.
+ColorKeyIndex::Hash HashOfKey(std::string_view key) {
+    const std::optional<KeyParts> parts = PartsOf(key);
+    return parts ? HashOfParts(HashOfText(parts->group), parts->number)
+                 : static_cast<ColorKeyIndex::Hash>(HashOfText(key));
 }
 
 [[noreturn]] void ThrowOutOfRange() {
@@ -40,8 +51,6 @@ std::optional<std::uint32_t> NumberInKey(const std::string& key, const std::stri
 }
 
 } // namespace
-
-ColorTable::ColorTable() : keys_([this](ColorId id) { return KeyOf(id); }) {}
 
 void ColorTable::Reset() {
     store_.Clear();
@@ -77,18 +86,29 @@ ColorRecord ColorTable::At(int index) const {
         return {};
     const ColorId id = IdAt(index);
     const StoredColor& color = store_.At(id);
-    return {color.name,  std::string(KeyOf(id)), groups_[color.group].key,
-            color.isNew, color.values,           color.AltName()};
+    return {color.name,  KeyOf(id),    groups_[color.group].key,
+            color.isNew, color.values, color.AltName()};
 }
 
-// The text lives until the next call.
-std::string_view ColorTable::KeyOf(ColorId id) const {
+std::string ColorTable::KeyOf(ColorId id) const {
     const StoredColor& color = store_.At(id);
     if (color.otherKey)
         return *color.otherKey;
-    composedKey_.clear();
-    AppendKey(composedKey_, groups_[color.group].key, color.number);
-    return composedKey_;
+    return groups_[color.group].key + kKeyLetter + std::to_string(color.number);
+}
+
+ColorKeyIndex::Hash ColorTable::HashOf(ColorId id) const {
+    const StoredColor& color = store_.At(id);
+    return color.otherKey ? HashOfKey(*color.otherKey)
+                          : HashOfParts(groups_[color.group].hash, color.number);
+}
+
+bool ColorTable::HaveSameKey(ColorId left, ColorId right) const {
+    const StoredColor& one = store_.At(left);
+    const StoredColor& other = store_.At(right);
+    if (one.otherKey || other.otherKey)
+        return KeyOf(left) == KeyOf(right);
+    return one.number == other.number && one.group == other.group;
 }
 
 bool ColorTable::KeyBeginsWith(int index, std::string_view start) const {
@@ -102,15 +122,16 @@ ColorTable::GroupNumber ColorTable::NumberOfGroup(const std::string& groupKey) {
     const auto [place, added] =
         numberOfGroup_.try_emplace(groupKey, static_cast<GroupNumber>(groups_.size()));
     if (added)
-        groups_.push_back({groupKey, {}});
+        groups_.push_back({groupKey, HashOfText(groupKey), {}});
     return place->second;
 }
 
 void ColorTable::Append(ColorRecord record) {
     StoredColor color;
     color.group = NumberOfGroup(record.groupKey);
-    if (const auto number = NumberInKey(record.key, record.groupKey))
-        color.number = *number;
+    const std::optional<KeyParts> parts = PartsOf(record.key);
+    if (parts && parts->group == record.groupKey)
+        color.number = parts->number;
     else
         color.otherKey = std::make_unique<std::string>(std::move(record.key));
     if (record.altName != record.name)
@@ -133,12 +154,12 @@ void ColorTable::Append(GroupNumber group, std::uint32_t number, std::string nam
     Insert(std::move(color));
 }
 
-void ColorTable::Insert(StoredColor color) {
+void ColorTable::Insert(StoredColor&& color) {
     const GroupNumber group = color.group;
     const ColorId id = store_.Add(std::move(color));
     order_.push_back(id);
     groups_[group].ids.push_back(id);
-    if (keysIndexed_ && !keys_.Add(id))
+    if (keysIndexed_ && !IndexKey(id))
         keysAreUnique_ = false;
 }
 
@@ -162,7 +183,7 @@ void ColorTable::SetValues(int index, const ColorValueArray& values) {
 void ColorTable::Erase(int index) {
     const ColorId id = IdAt(index);
     if (keysIndexed_ && keysAreUnique_)
-        keys_.Remove(id);
+        keys_.Remove(id, HashOf(id));
     else
         keysIndexed_ = false; // the next one with its key is the first then
     std::vector<ColorId>& ids = groups_[store_.At(id).group].ids;
@@ -173,11 +194,18 @@ void ColorTable::Erase(int index) {
 
 void ColorTable::EraseGroups(const std::vector<std::string>& groupKeys) {
     std::vector<bool> goes(groups_.size());
+    std::size_t count = 0;
     for (const std::string& key : groupKeys)
-        if (const Group* group = FindGroup(key))
+        if (const Group* group = FindGroup(key)) {
             goes[static_cast<std::size_t>(group - groups_.data())] = true;
+            count += group->ids.size();
+        }
+    // Where much goes, the index is made anew when it is needed.
+    keysIndexed_ = keysIndexed_ && keysAreUnique_ && count < order_.size() / 4;
     std::erase_if(order_, [&](ColorId id) {
         const bool isGone = goes[store_.At(id).group];
+        if (isGone && keysIndexed_)
+            keys_.Remove(id, HashOf(id));
         if (isGone)
             store_.Remove(id);
         return isGone;
@@ -185,7 +213,8 @@ void ColorTable::EraseGroups(const std::vector<std::string>& groupKeys) {
     for (std::size_t number = 0; number < groups_.size(); ++number)
         if (goes[number])
             groups_[number].ids = {};
-    keysIndexed_ = false;
+    if (!keysIndexed_)
+        keys_.Clear();
 }
 
 void ColorTable::IndexKeys() const {
@@ -194,14 +223,24 @@ void ColorTable::IndexKeys() const {
     keysIndexed_ = true;
     keysAreUnique_ = true;
     for (const ColorId id : order_)
-        if (!keys_.Add(id))
+        if (!IndexKey(id))
             keysAreUnique_ = false;
+}
+
+bool ColorTable::IndexKey(ColorId id) const {
+    return keys_.Add(id, HashOf(id), [this, id](ColorId other) { return HaveSameKey(id, other); });
 }
 
 int ColorTable::IndexOfKey(const std::string& key) const {
     if (!keysIndexed_)
         IndexKeys();
-    const ColorId id = keys_.Find(key);
+    const std::optional<KeyParts> parts = PartsOf(key);
+    const ColorId id = keys_.Find(HashOfKey(key), [&](ColorId other) {
+        const StoredColor& color = store_.At(other);
+        if (color.otherKey)
+            return *color.otherKey == key;
+        return parts && color.number == parts->number && groups_[color.group].key == parts->group;
+    });
     return id == 0 ? 0 : IndexOfId(id);
 }
 

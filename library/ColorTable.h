@@ -16,7 +16,7 @@
 // through indexes.
 class ColorTable {
 public:
-    ColorTable();
+    ColorTable() = default;
     ColorTable(const ColorTable&) = delete;
     ColorTable& operator=(const ColorTable&) = delete;
 
@@ -72,14 +72,18 @@ public:
 private:
     struct Group {
         std::string key;
+        std::size_t hash = 0;     // of the key
         std::vector<ColorId> ids; // ascending
     };
 
     [[nodiscard]] StoredColor& ColorAt(int index);
-    void Insert(StoredColor color);
+    void Insert(StoredColor&& color);
     [[nodiscard]] const Group* FindGroup(const std::string& groupKey) const;
-    [[nodiscard]] std::string_view KeyOf(ColorId id) const;
+    [[nodiscard]] std::string KeyOf(ColorId id) const;
+    [[nodiscard]] ColorKeyIndex::Hash HashOf(ColorId id) const;
+    [[nodiscard]] bool HaveSameKey(ColorId left, ColorId right) const;
     void IndexKeys() const;
+    bool IndexKey(ColorId id) const; // false: there was a colour with its key
 
     ColorStore store_;
     std::vector<ColorId> order_; // ascending
@@ -90,5 +94,4 @@ private:
     mutable ColorKeyIndex keys_;
     mutable bool keysIndexed_ = false;
     mutable bool keysAreUnique_ = true;
-    mutable std::string composedKey_;
 };

@@ -4,14 +4,18 @@
 #include "common/Text.h"
 
 #include <algorithm>
+#include <charconv>
 #include <limits>
+#include <tuple>
+#include <utility>
 
 namespace LibraryFileFormat {
 
 namespace {
 
 constexpr std::size_t kTagLength = 2;
-constexpr const char* kDivisionSign = "\xC3\xB7"; // U+00F7 in UTF-8
+constexpr std::size_t kLongestNumber = std::numeric_limits<int>::digits10 + 2; // with its sign
+constexpr const char* kDivisionSign = "\xC3\xB7";                              // U+00F7 in UTF-8
 constexpr const char* kDivisionByte = "\xF7";
 
 bool HasTag(std::string_view record, std::string_view tag) {
@@ -22,8 +26,50 @@ bool IsContinuationByte(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-std::string Quoted(const std::string& record) {
-    return '"' + record + '"' + kLineBreak;
+void AppendNumber(std::string& text, int number) {
+    std::array<char, kLongestNumber> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    text.append(digits.data(), end);
+}
+
+void AppendLineEnd(std::string& text) {
+    text.append("\"").append(kLineBreak);
+}
+
+bool StandsAt(std::string_view text, std::size_t place, std::string_view part) {
+    if (part.size() > text.size() - place)
+        return false;
+    for (std::size_t index = 0; index < part.size(); ++index)
+        if (text[place + index] != part[index])
+            return false;
+    return true;
+}
+
+// Fields are short: a search that is quick to start beats one that is quick over a long way.
+std::size_t FindSeparator(std::string_view text, std::string_view separator) {
+    const char first = separator.front();
+    for (std::size_t place = 0; place < text.size(); ++place)
+        if (text[place] == first && StandsAt(text, place, separator))
+            return place;
+    return std::string_view::npos;
+}
+
+// The fields behind the colon; false when there are not exactly ten of them.
+bool SplitColorFields(std::string_view text, std::string_view separator, Color& color) {
+    const auto nextField = [&] {
+        const std::size_t end = FindSeparator(text, separator);
+        const std::string_view field = text.substr(0, end);
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + separator.size());
+        return std::pair(field, end != std::string_view::npos);
+    };
+    auto [field, more] = nextField();
+    color.altName = field;
+    for (std::string_view& value : color.values) {
+        if (!more)
+            return false;
+        std::tie(value, more) = nextField();
+    }
+    return !more;
 }
 
 // What follows the first colon, read as a number; the bar copes with any range.
@@ -36,18 +82,6 @@ std::int32_t CountOf(std::string_view record) {
 }
 
 } // namespace
-
-std::vector<std::string_view> SplitLines(std::string_view content) {
-    std::vector<std::string_view> lines;
-    while (!content.empty()) {
-        const std::size_t end = content.find_first_of("\r\n");
-        lines.push_back(content.substr(0, end));
-        if (end == std::string_view::npos)
-            break;
-        content.remove_prefix(end + (content.substr(end, 2) == kLineBreak ? 2 : 1));
-    }
-    return lines;
-}
 
 std::string_view WithoutFirstCharacter(std::string_view line) {
     std::size_t length = std::min<std::size_t>(1, line.size());
@@ -92,41 +126,40 @@ std::optional<Color> ParseColor(std::string_view record, std::string_view separa
     const std::size_t colon = record.find(':', equals + 1);
     if (colon == std::string_view::npos)
         return {};
-    const std::vector<std::string> fields = SplitFields(record.substr(colon + 1), separator);
-    if (fields.size() != 1 + kColorValueCount)
+    Color color;
+    color.name = record.substr(kTagLength, equals - kTagLength);
+    color.groupKey = record.substr(equals + 1, colon - equals - 1);
+    if (!SplitColorFields(record.substr(colon + 1), separator, color))
         return {};
-    Color color{std::string(record.substr(kTagLength, equals - kTagLength)),
-                std::string(record.substr(equals + 1, colon - equals - 1)),
-                fields.front(),
-                {}};
-    std::copy(fields.begin() + 1, fields.end(), color.values.begin());
     return color;
 }
 
 ColorValueArray ValuesOf(const Color& color) {
     ColorValueArray values{};
     std::ranges::transform(color.values, values.begin(),
-                           [](const std::string& text) { return TextToInt16(text); });
+                           [](std::string_view text) { return TextToInt16(text); });
     return values;
 }
 
-std::string FormatHeader(std::string_view name, std::string_view mainKey, int count) {
-    std::string record = "D#";
-    record.append(name).append("=").append(mainKey).append(":").append(std::to_string(count));
-    return Quoted(record);
+void AppendHeader(std::string& text, std::string_view name, std::string_view mainKey, int count) {
+    text.append("\"D#").append(name).append("=").append(mainKey).append(":");
+    AppendNumber(text, count);
+    AppendLineEnd(text);
 }
 
-std::string FormatGroup(std::string_view name, std::string_view key) {
-    std::string record = "G#";
-    record.append(name).append("=").append(key);
-    return Quoted(record);
+void AppendGroup(std::string& text, std::string_view name, std::string_view key) {
+    text.append("\"G#").append(name).append("=").append(key);
+    AppendLineEnd(text);
 }
 
-std::string FormatColor(const ColorRecord& color, std::string_view separator) {
-    std::string record = "E#" + color.name + "=" + color.groupKey + ":" + color.altName;
-    for (const std::int16_t value : color.values)
-        record.append(separator).append(std::to_string(value));
-    return Quoted(record);
+void AppendColor(std::string& text, const ColorTable::View& color, std::string_view separator) {
+    text.append("\"E#").append(color.color.name).append("=").append(color.groupKey);
+    text.append(":").append(color.color.AltName());
+    for (const std::int16_t value : color.color.values) {
+        text.append(separator);
+        AppendNumber(text, value);
+    }
+    AppendLineEnd(text);
 }
 
 } // namespace LibraryFileFormat

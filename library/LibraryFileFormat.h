@@ -2,13 +2,13 @@
 
 #include "common/ColorRecord.h"
 #include "common/ports/AnsiCodePage.h"
+#include "library/ColorTable.h"
 
 #include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 // The records of a library file, one per line:
 //   "D#name=main key:count"
@@ -28,15 +28,13 @@ struct Group {
     std::string key; // as saved
 };
 
+// Parts of the record that it was read from.
 struct Color {
-    std::string name;
-    std::string groupKey; // as saved
-    std::string altName;
-    std::array<std::string, kColorValueCount> values;
+    std::string_view name;
+    std::string_view groupKey; // as saved
+    std::string_view altName;
+    std::array<std::string_view, kColorValueCount> values;
 };
-
-// The lines of a file's content, without their ends (CR LF, LF or CR).
-[[nodiscard]] std::vector<std::string_view> SplitLines(std::string_view content);
 
 // A line without its first character (header), or without its first and last character (all
 // others).  line: UTF-8.
@@ -55,9 +53,9 @@ struct Color {
 // Throws RuntimeError TypeMismatch or Overflow for a value that is no 16-bit number.
 [[nodiscard]] ColorValueArray ValuesOf(const Color& color);
 
-// Lines ready for the file, with quotes and CR LF, in UTF-8.
-[[nodiscard]] std::string FormatHeader(std::string_view name, std::string_view mainKey, int count);
-[[nodiscard]] std::string FormatGroup(std::string_view name, std::string_view key);
-[[nodiscard]] std::string FormatColor(const ColorRecord& color, std::string_view separator);
+// Each adds a line to a text for the file, with quotes and CR LF, in UTF-8.
+void AppendHeader(std::string& text, std::string_view name, std::string_view mainKey, int count);
+void AppendGroup(std::string& text, std::string_view name, std::string_view key);
+void AppendColor(std::string& text, const ColorTable::View& color, std::string_view separator);
 
 } // namespace LibraryFileFormat

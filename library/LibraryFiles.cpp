@@ -7,24 +7,15 @@
 #include "library/LibraryFileFormat.h"
 #include "library/SafeFileWriter.h"
 
-namespace {
-
-bool StartsWith(std::string_view text, std::string_view start) {
-    return text.substr(0, start.size()) == start;
-}
-
-} // namespace
-
 bool LibraryFiles::FileReadColorValues(const std::string& fileName) {
     if (fileName.empty() || !ports_.files.Exists(fileName))
         return false;
     const std::optional<std::string> bytes = ports_.files.ReadWhole(fileName);
     if (!bytes)
         throw RuntimeError(ErrorNumber::PermissionDenied, "The file cannot be read: " + fileName);
-    const std::string content = ports_.codePage.Decode(*bytes);
     bool complete = false;
     try {
-        complete = ReadRecords(LibraryFileFormat::SplitLines(content), fileName);
+        complete = ReadContent(*bytes, fileName);
     } catch (const RuntimeError&) {
         host_->ShowColorNodes({}, {});
         throw;
@@ -32,13 +23,13 @@ bool LibraryFiles::FileReadColorValues(const std::string& fileName) {
     return complete;
 }
 
-bool LibraryFiles::ReadRecords(const std::vector<std::string_view>& lines,
-                               const std::string& fileName) {
+bool LibraryFiles::ReadContent(std::string_view bytes, const std::string& fileName) {
     using namespace LibraryFileFormat;
-    const auto header = lines.empty() ? std::nullopt : ParseHeader(WithoutFirstCharacter(lines[0]));
+    DecodedLines lines(bytes, ports_.codePage);
+    const auto header = ParseHeader(WithoutFirstCharacter(lines.Next().value_or("")));
     if (!header)
         return RefuseInvalidFile(fileName);
-    bool complete = true;
+    bool complete = false;
     {
         const ShownProgress progress(ports_.progress,
                                      ports_.texts.GetInfoText(InfoTextNumber::ReadingLibrary),
@@ -46,18 +37,7 @@ bool LibraryFiles::ReadRecords(const std::vector<std::string_view>& lines,
         library_.NewMainNode(header->name);
         const std::string mainKey = library_.Tree().Selected();
         library_.Tree().SetTag(mainKey, fileName);
-        const std::string separator = FieldSeparator(ports_.codePage);
-        GroupKeys groups;
-        // One counter for the whole file, on purpose: colour keys are unique without a look-up.
-        int colorNumber = 0;
-        for (std::size_t line = 1; line < lines.size() && complete; ++line) {
-            const std::string_view record = WithoutQuotes(lines[line]);
-            if (StartsWith(record, "G#"))
-                complete = ReadGroup(record, mainKey, groups);
-            else if (StartsWith(record, "E#"))
-                complete = ReadColor(record, separator, groups, ++colorNumber);
-            ports_.progress.SetProgress(static_cast<std::int32_t>(line));
-        }
+        complete = ReadRecords(lines, mainKey);
     }
     if (!complete)
         RefuseInvalidFile(fileName);
@@ -65,27 +45,48 @@ bool LibraryFiles::ReadRecords(const std::vector<std::string_view>& lines,
     return complete;
 }
 
+bool LibraryFiles::ReadRecords(DecodedLines& lines, const std::string& mainKey) {
+    const std::string separator = LibraryFileFormat::FieldSeparator(ports_.codePage);
+    SavedGroups groups;
+    // One counter for the whole file, on purpose: colour keys are unique without a look-up.
+    std::uint32_t colorNumber = 0;
+    std::int32_t lineNumber = 0;
+    bool complete = true;
+    while (complete) {
+        const std::optional<std::string_view> line = lines.Next();
+        if (!line)
+            break;
+        const std::string_view record = LibraryFileFormat::WithoutQuotes(*line);
+        if (record.starts_with("G#"))
+            complete = ReadGroup(record, mainKey, groups);
+        else if (record.starts_with("E#"))
+            complete = ReadColor(record, separator, groups, ++colorNumber);
+        ports_.progress.SetProgress(++lineNumber);
+    }
+    return complete;
+}
+
 bool LibraryFiles::ReadGroup(std::string_view record, const std::string& mainKey,
-                             GroupKeys& groups) {
+                             SavedGroups& groups) {
     const auto group = LibraryFileFormat::ParseGroup(record);
     if (!group)
         return false;
+    const std::string key = library_.NewGroupNode(mainKey, group->name);
     // The first group with a key keeps it, as the first match in a list would.
-    groups.try_emplace(group->key, library_.NewGroupNode(mainKey, group->name));
+    groups.try_emplace(group->key, library_.Colors().NumberOfGroup(key));
     return true;
 }
 
 bool LibraryFiles::ReadColor(std::string_view record, std::string_view separator,
-                             const GroupKeys& groups, int number) {
+                             const SavedGroups& groups, std::uint32_t number) {
     const auto color = LibraryFileFormat::ParseColor(record, separator);
     if (!color)
         return false;
     const auto group = groups.find(color->groupKey);
     if (group == groups.end())
         return false;
-    library_.Colors().Append({color->name, group->second + "E" + std::to_string(number),
-                              group->second, false, LibraryFileFormat::ValuesOf(*color),
-                              color->altName});
+    library_.Colors().Append(group->second, number, std::string(color->name), color->altName,
+                             LibraryFileFormat::ValuesOf(*color));
     return true;
 }
 
@@ -99,7 +100,7 @@ bool LibraryFiles::RefuseInvalidFile(const std::string& fileName) {
 bool LibraryFiles::FileWriteColorValues(const std::string& fileName, const std::string& mainKey) {
     if (library_.GetGroupInMainnode(mainKey).empty())
         return RefuseWithoutGroups(fileName);
-    const Content content = Compose(mainKey);
+    const AnsiCodePage::Encoded content = Compose(mainKey);
     if (!content.unstored.empty() && !AcceptUnstored(content.unstored))
         return false;
     return SafeFileWriter(ports_.files).Write(fileName, content.bytes, settings_.createBackups);
@@ -116,46 +117,40 @@ bool LibraryFiles::RefuseWithoutGroups(const std::string& fileName) {
     return false;
 }
 
-LibraryFiles::Content LibraryFiles::Compose(const std::string& mainKey) {
+AnsiCodePage::Encoded LibraryFiles::Compose(const std::string& mainKey) {
     const std::vector<std::string> groups = library_.GetGroupInMainnode(mainKey);
     int count = static_cast<int>(groups.size());
     for (const std::string& group : groups)
         count += library_.GetColorCountInGroup(group);
     const ShownProgress progress(ports_.progress,
                                  ports_.texts.GetInfoText(InfoTextNumber::WritingLibrary), count);
-    Content content;
-    AppendLine(content,
-               LibraryFileFormat::FormatHeader(library_.Tree().At(mainKey).text, mainKey, count));
+    EncodedText text(ports_.codePage);
+    LibraryFileFormat::AppendHeader(text.Line(), library_.Tree().At(mainKey).text, mainKey, count);
+    text.EndLine();
     int progressValue = 0;
-    AppendGroups(content, mainKey, progressValue);
-    AppendColors(content, mainKey, progressValue);
-    return content;
+    AppendGroups(text, mainKey, progressValue);
+    AppendColors(text, mainKey, progressValue);
+    return text.Take();
 }
 
-void LibraryFiles::AppendGroups(Content& content, const std::string& mainKey, int& progressValue) {
+void LibraryFiles::AppendGroups(EncodedText& text, const std::string& mainKey, int& progressValue) {
     for (const std::string& group : library_.GetGroupInMainnode(mainKey)) {
-        AppendLine(content, LibraryFileFormat::FormatGroup(library_.Tree().At(group).text, group));
+        LibraryFileFormat::AppendGroup(text.Line(), library_.Tree().At(group).text, group);
+        text.EndLine();
         ports_.progress.SetProgress(++progressValue);
     }
 }
 
-void LibraryFiles::AppendColors(Content& content, const std::string& mainKey, int progressValue) {
+void LibraryFiles::AppendColors(EncodedText& text, const std::string& mainKey, int progressValue) {
     const std::string separator = LibraryFileFormat::FieldSeparator(ports_.codePage);
     const ColorTable& colors = library_.Colors();
     for (int index = 1; index <= colors.UpperBound(); ++index) {
-        if (!StartsWith(colors.At(index).key, mainKey))
+        if (!colors.KeyBeginsWith(index, mainKey))
             continue;
-        AppendLine(content, LibraryFileFormat::FormatColor(colors.At(index), separator));
+        LibraryFileFormat::AppendColor(text.Line(), colors.ViewAt(index), separator);
+        text.EndLine();
         ports_.progress.SetProgress(++progressValue);
     }
-}
-
-void LibraryFiles::AppendLine(Content& content, const std::string& line) const {
-    const AnsiCodePage::Encoded encoded = ports_.codePage.Encode(line);
-    content.bytes += encoded.bytes;
-    for (const std::string& character : CharactersOf(encoded.unstored))
-        if (content.unstored.find(character) == std::string::npos)
-            content.unstored += character;
 }
 
 bool LibraryFiles::AcceptUnstored(const std::string& unstored) {

@@ -7,12 +7,15 @@
 #include "common/ports/ProgressView.h"
 #include "common/ports/Prompts.h"
 #include "library/ColorLibrary.h"
+#include "library/DecodedLines.h"
+#include "library/EncodedText.h"
 #include "library/LibraryHost.h"
 
+#include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 // Reads a library file into a new main node, and writes a main node to a library file.  Both show
 // the progress window while they work.
@@ -42,23 +45,27 @@ public:
     bool FileWriteColorValues(const std::string& fileName, const std::string& mainKey);
 
 private:
-    using GroupKeys = std::unordered_map<std::string, std::string>; // as saved -> as made
+    struct TextHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view text) const noexcept {
+            return std::hash<std::string_view>()(text);
+        }
+    };
+    // The groups of a file by their keys as saved.
+    using SavedGroups =
+        std::unordered_map<std::string, ColorTable::GroupNumber, TextHash, std::equal_to<>>;
 
-    bool ReadRecords(const std::vector<std::string_view>& lines, const std::string& fileName);
-    bool ReadGroup(std::string_view record, const std::string& mainKey, GroupKeys& groups);
-    bool ReadColor(std::string_view record, std::string_view separator, const GroupKeys& groups,
-                   int number);
+    bool ReadContent(std::string_view bytes, const std::string& fileName);
+    bool ReadRecords(DecodedLines& lines, const std::string& mainKey);
+    bool ReadGroup(std::string_view record, const std::string& mainKey, SavedGroups& groups);
+    bool ReadColor(std::string_view record, std::string_view separator, const SavedGroups& groups,
+                   std::uint32_t number);
     bool RefuseInvalidFile(const std::string& fileName);
     bool RefuseWithoutGroups(const std::string& fileName);
 
-    struct Content {
-        std::string bytes;
-        std::string unstored; // characters that the code page cannot hold
-    };
-    Content Compose(const std::string& mainKey);
-    void AppendGroups(Content& content, const std::string& mainKey, int& progressValue);
-    void AppendColors(Content& content, const std::string& mainKey, int progressValue);
-    void AppendLine(Content& content, const std::string& line) const;
+    [[nodiscard]] AnsiCodePage::Encoded Compose(const std::string& mainKey);
+    void AppendGroups(EncodedText& text, const std::string& mainKey, int& progressValue);
+    void AppendColors(EncodedText& text, const std::string& mainKey, int progressValue);
     bool AcceptUnstored(const std::string& unstored);
 
     ColorLibrary& library_;

@@ -33,11 +33,8 @@ void ColorList::AddColumns() {
 }
 
 void ColorList::Fill(const std::string& groupKey) {
-    const std::vector<int> indexes = library_.GetColorIndexInGroup(groupKey);
-    keys_.clear();
-    keys_.reserve(indexes.size());
-    for (const int index : indexes)
-        keys_.push_back(library_.Colors().At(index).key);
+    rows_ = library_.Colors().IdsOfGroup(groupKey);
+    keysOfGone_.clear();
     selected_.reset();
     if (sorted_)
         Sort();
@@ -45,20 +42,32 @@ void ColorList::Fill(const std::string& groupKey) {
 }
 
 void ColorList::Clear() {
-    keys_.clear();
+    rows_.clear();
+    keysOfGone_.clear();
     selected_.reset();
     pane_.RowsChanged(0);
 }
 
 std::string ColorList::KeyOfRow(int row) const {
-    return row >= 0 && row < RowCount() ? keys_[static_cast<std::size_t>(row)] : std::string();
+    if (row < 0 || row >= RowCount())
+        return {};
+    const ColorId color = rows_[static_cast<std::size_t>(row)];
+    const auto gone = keysOfGone_.find(color);
+    if (gone != keysOfGone_.end())
+        return gone->second;
+    return library_.Colors().At(library_.Colors().IndexOfId(color)).key;
 }
 
 std::optional<int> ColorList::RowOfKey(const std::string& key) const {
-    const auto found = std::ranges::find(keys_, key);
-    if (found == keys_.end())
+    const int index = library_.GetColornodeIndex(key);
+    return index > 0 ? RowOfColor(library_.Colors().IdAt(index)) : std::nullopt;
+}
+
+std::optional<int> ColorList::RowOfColor(ColorId color) const {
+    const auto found = std::ranges::find(rows_, color);
+    if (found == rows_.end())
         return {};
-    return static_cast<int>(found - keys_.begin());
+    return static_cast<int>(found - rows_.begin());
 }
 
 void ColorList::Select(int row) {
@@ -75,11 +84,15 @@ void ColorList::ShowSelected() {
         pane_.EnsureRowVisible(*selected_);
 }
 
+void ColorList::ColorLeaves(int index) {
+    keysOfGone_[library_.Colors().IdAt(index)] = library_.Colors().At(index).key;
+}
+
 void ColorList::RemoveSelected() {
     if (!selected_)
         return;
     const int row = *selected_;
-    keys_.erase(keys_.begin() + row);
+    rows_.erase(rows_.begin() + row);
     selected_.reset();
     pane_.RowsChanged(RowCount());
     if (RowCount() > 0)
@@ -90,11 +103,11 @@ void ColorList::ColumnClicked(int column) {
     descending_ = sortKey_ == column - 1 && !descending_;
     sortKey_ = column - 1;
     sorted_ = true;
-    const std::string selectedKey = SelectedKey();
+    const ColorId selectedColor = selected_ ? rows_[static_cast<std::size_t>(*selected_)] : 0;
     Sort();
     selected_.reset();
     pane_.RowsChanged(RowCount());
-    if (const auto row = RowOfKey(selectedKey)) {
+    if (const auto row = RowOfColor(selectedColor)) {
         Select(*row);
         ShowSelected();
     }
@@ -102,30 +115,31 @@ void ColorList::ColumnClicked(int column) {
 
 // As text, the numbers too, on purpose: "100" comes before "20".
 void ColorList::Sort() {
-    std::vector<std::pair<std::string, std::string>> rows; // sort key of the cell, color's key
-    rows.reserve(keys_.size());
-    for (std::string& key : keys_) {
-        std::string sortKey = collation_.SortKey(TextOfKey(key, sortKey_ + 1));
-        rows.emplace_back(std::move(sortKey), std::move(key));
-    }
+    std::vector<std::pair<std::string, ColorId>> rows; // sort key of the cell, color
+    rows.reserve(rows_.size());
+    for (const ColorId color : rows_)
+        rows.emplace_back(collation_.SortKey(TextOfColor(color, sortKey_ + 1)), color);
     std::ranges::stable_sort(rows, [this](const auto& left, const auto& right) {
         return descending_ ? left.first > right.first : left.first < right.first;
     });
-    std::ranges::transform(rows, keys_.begin(), [](auto& row) { return std::move(row.second); });
+    std::ranges::transform(rows, rows_.begin(), [](const auto& row) { return row.second; });
 }
 
 std::string ColorList::CellText(int row, int column) const {
-    return TextOfKey(KeyOfRow(row), column);
+    if (row < 0 || row >= RowCount())
+        return {};
+    return TextOfColor(rows_[static_cast<std::size_t>(row)], column);
 }
 
-std::string ColorList::TextOfKey(const std::string& key, int column) const {
-    const int index = library_.GetColornodeIndex(key);
+std::string ColorList::TextOfColor(ColorId color, int column) const {
+    const ColorTable& colors = library_.Colors();
+    const int index = colors.IndexOfId(color);
     if (index == 0 || column < kNameColumn || column > kColumnCount)
         return {};
-    const StoredColor& color = library_.Colors().ViewAt(index).color;
+    const StoredColor& stored = colors.ViewAt(index).color;
     if (column == kNameColumn)
-        return color.name;
-    return std::to_string(color.values[static_cast<std::size_t>(column - kNameColumn - 1)]);
+        return stored.name;
+    return std::to_string(stored.values[static_cast<std::size_t>(column - kNameColumn - 1)]);
 }
 
 int ColorList::FindRow(const std::string& text, int start) const {

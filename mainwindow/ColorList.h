@@ -4,6 +4,7 @@
 #include "library/ColorLibrary.h"
 #include "mainwindow/MainView.h"
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,10 +23,10 @@ public:
     void Fill(const std::string& groupKey);
     void Clear();
 
-    [[nodiscard]] int RowCount() const noexcept { return static_cast<int>(keys_.size()); }
+    [[nodiscard]] int RowCount() const noexcept { return static_cast<int>(rows_.size()); }
     [[nodiscard]] std::string KeyOfRow(int row) const; // empty when there is no such row
     [[nodiscard]] std::optional<int> RowOfKey(const std::string& key) const;
-    [[nodiscard]] const std::vector<std::string>& Keys() const noexcept { return keys_; }
+    [[nodiscard]] const std::vector<ColorId>& Rows() const noexcept { return rows_; }
 
     // Selects a row by program; the view follows.
     void Select(int row);
@@ -34,6 +35,9 @@ public:
     [[nodiscard]] std::optional<int> SelectedRow() const noexcept { return selected_; }
     [[nodiscard]] std::string SelectedKey() const; // empty: none
     void ShowSelected();
+
+    // A colour is about to leave the library: a row that it has keeps its key, and shows nothing.
+    void ColorLeaves(int index);
 
     // Takes the selected row out; the row after it (else the last one) is selected then.
     void RemoveSelected();
@@ -48,12 +52,14 @@ public:
 
 private:
     void Sort();
-    [[nodiscard]] std::string TextOfKey(const std::string& key, int column) const;
+    [[nodiscard]] std::optional<int> RowOfColor(ColorId color) const;
+    [[nodiscard]] std::string TextOfColor(ColorId color, int column) const;
 
     const ColorLibrary& library_;
     ListPane& pane_;
     const TextCollation& collation_;
-    std::vector<std::string> keys_; // of the colours, in the order of the rows
+    std::vector<ColorId> rows_; // taken over from the table as a whole, whatever a group's size
+    std::map<ColorId, std::string> keysOfGone_; // of rows without a colour
     std::optional<int> selected_;
     bool sorted_ = false;
     int sortKey_ = 0; // column - 1

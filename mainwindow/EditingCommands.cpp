@@ -24,6 +24,7 @@ void EditingCommands::DeleteColor(const std::optional<std::string>& colorKey) {
         !IsConfirmed(InfoTextNumber::ColorLabel, parts_.library.Colors().At(index).altName))
         return;
     // Whichever colour is deleted, it is the selected row that leaves the list, on purpose.
+    parts_.list.ColorLeaves(index);
     parts_.library.Colors().Erase(index);
     parts_.list.RemoveSelected();
     parts_.panes.ShowColorPreview();

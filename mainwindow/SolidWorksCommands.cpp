@@ -133,8 +133,9 @@ void SolidWorksCommands::ImportStandardColor(const ColorRecord& color, int index
 }
 
 void SolidWorksCommands::mnuSWXSetStandardColor_Click() {
+    const ColorTable& table = parts_.library.Colors();
     std::vector<ColorRecord> colors;
-    for (const std::string& key : parts_.list.Keys())
-        colors.push_back(parts_.library.Colors().At(parts_.library.GetColornodeIndex(key)));
+    for (const ColorId color : parts_.list.Rows())
+        colors.push_back(table.At(table.IndexOfId(color)));
     ReportRefusal(parts_.tools.SWXSetStandardColors(colors));
 }

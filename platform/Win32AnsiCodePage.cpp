@@ -71,15 +71,35 @@ AnsiCodePage::Encoded EncodeEachCharacter(unsigned codePage, std::wstring_view t
     return result;
 }
 
+// A character that the platform stores comes back from its byte, so that the bytes tell which these
+// are.
+std::unique_ptr<SingleByteCodePage> TableOf(unsigned codePage) {
+    CPINFO info{};
+    if (GetCPInfo(codePage, &info) == FALSE || info.MaxCharSize != 1)
+        return nullptr;
+    const auto decoded = [codePage](unsigned char byte) {
+        return DecodeEachCharacter(codePage, {reinterpret_cast<const char*>(&byte), 1});
+    };
+    return std::make_unique<SingleByteCodePage>(
+        [&](unsigned char byte) { return ToUtf8(decoded(byte)); },
+        [&](unsigned char byte) {
+            const AnsiText encoded = EncodePlainly(codePage, decoded(byte));
+            return encoded.complete && encoded.bytes == std::string(1, static_cast<char>(byte));
+        });
+}
+
 } // namespace
 
 Win32AnsiCodePage::Win32AnsiCodePage() : Win32AnsiCodePage(GetACP()) {}
 
-Win32AnsiCodePage::Win32AnsiCodePage(unsigned codePage) : codePage_(codePage) {}
+Win32AnsiCodePage::Win32AnsiCodePage(unsigned codePage)
+    : codePage_(codePage), table_(TableOf(codePage)) {}
 
 std::string Win32AnsiCodePage::Decode(std::string_view bytes) const {
     if (bytes.empty())
         return {};
+    if (table_)
+        return table_->Decode(bytes);
     if (codePage_ == CP_UTF8)
         return ToUtf8(ToUtf16(bytes)); // replaces what is broken
     if (const std::optional<std::wstring> text = DecodeStrictly(codePage_, bytes))
@@ -88,6 +108,8 @@ std::string Win32AnsiCodePage::Decode(std::string_view bytes) const {
 }
 
 AnsiCodePage::Encoded Win32AnsiCodePage::Encode(std::string_view utf8) const {
+    if (table_)
+        return table_->Encode(utf8);
     const std::wstring text = ToUtf16(utf8);
     if (text.empty() || codePage_ == CP_UTF8) // holds every character
         return {ToUtf8(text), {}};

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "common/SingleByteCodePage.h"
 #include "common/ports/AnsiCodePage.h"
+
+#include <memory>
 
 // MultiByteToWideChar and WideCharToMultiByte.
 class Win32AnsiCodePage : public AnsiCodePage {
@@ -15,4 +18,5 @@ public:
 
 private:
     unsigned codePage_;
+    std::unique_ptr<SingleByteCodePage> table_; // null: characters of several bytes
 };

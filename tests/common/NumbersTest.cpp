@@ -44,10 +44,15 @@ TEST(TextToInt16, ConvertsAndRoundsTheWholeText) {
     EXPECT_EQ(TextToInt16(" -32768 "), -32768);
     EXPECT_EQ(TextToInt16("1.5"), 2);
     EXPECT_EQ(TextToInt16("7\r\n"), 7);
+    EXPECT_EQ(TextToInt16("-9999"), -9999);
+    EXPECT_EQ(TextToInt16("0012"), 12);
+    EXPECT_EQ(TextToInt16("00012"), 12);
+    EXPECT_EQ(TextToInt16("-0"), 0);
+    EXPECT_EQ(TextToInt16("1e2"), 100);
 }
 
 TEST(TextToInt16, RefusesWhatIsNoNumberOrDoesNotFit) {
-    for (const char* text : {"", ".", "abc", "1 2", "12x", "1,5"})
+    for (const char* text : {"", ".", "abc", "1 2", "12x", "1,5", "-", "--1"})
         EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(TextToInt16(text)); }),
                   ErrorNumber::TypeMismatch)
             << text;

@@ -1,9 +1,10 @@
-#include "common/SingleByteTable.h"
+#include "common/SingleByteCodePage.h"
 #include "tests/bench/library/BenchPlatform.h"
+#include "tests/bench/library/Timing.h"
 
 #include <cstdio>
+#include <ctime>
 #include <filesystem>
-#include <stdexcept>
 
 namespace {
 
@@ -62,25 +63,11 @@ std::string CharacterOf(unsigned char byte) {
     return {static_cast<char>(0xC0 | byte >> 6), static_cast<char>(0x80 | (byte & 0x3F))};
 }
 
-class WesternPage : public AnsiCodePage {
-public:
-    std::string Decode(std::string_view bytes) const override { return table_.Decode(bytes); }
-    Encoded Encode(std::string_view utf8) const override {
-        std::optional<std::string> bytes = table_.Encode(utf8);
-        if (!bytes)
-            throw std::runtime_error("Not in the code page");
-        return {std::move(*bytes), {}};
-    }
-
-private:
-    SingleByteTable table_{CharacterOf, [](unsigned char) { return true; }};
-};
-
 } // namespace
 
 struct BenchPlatform::Parts {
     StandardFiles files;
-    WesternPage codePage;
+    SingleByteCodePage codePage{CharacterOf, [](unsigned char) { return true; }};
 };
 
 BenchPlatform::BenchPlatform() : parts_(std::make_unique<Parts>()) {}
@@ -97,4 +84,8 @@ ProgressView* BenchPlatform::ProgressWindow() {
 }
 std::string BenchPlatform::Folder() const {
     return (std::filesystem::temp_directory_path() / "").string();
+}
+
+double ProcessorMilliseconds() {
+    return static_cast<double>(std::clock()) * 1000 / CLOCKS_PER_SEC;
 }

@@ -5,11 +5,17 @@
 #include "platform/Win32Files.h"
 #include "support/frmProgress.h"
 #include "tests/bench/library/BenchPlatform.h"
+#include "tests/bench/library/Timing.h"
 #include "tests/ui/RecordingErrorSink.h"
 
 namespace {
 
 constexpr std::chrono::milliseconds kPatience(150); // as in the program
+
+double Milliseconds(const FILETIME& time) {
+    return static_cast<double>(ULARGE_INTEGER{{time.dwLowDateTime, time.dwHighDateTime}}.QuadPart) /
+           10000;
+}
 
 } // namespace
 
@@ -35,4 +41,13 @@ ProgressView* BenchPlatform::ProgressWindow() {
 std::string BenchPlatform::Folder() const {
     wchar_t folder[MAX_PATH + 1] = {};
     return ToUtf8({folder, GetTempPathW(MAX_PATH, folder)});
+}
+
+double ProcessorMilliseconds() {
+    FILETIME made{};
+    FILETIME ended{};
+    FILETIME kernel{};
+    FILETIME user{};
+    GetProcessTimes(GetCurrentProcess(), &made, &ended, &kernel, &user);
+    return Milliseconds(kernel) + Milliseconds(user);
 }

@@ -4,23 +4,28 @@
 #include <chrono>
 #include <vector>
 
-// How long a step takes, in milliseconds.
-template <typename Step>
-double MillisecondsOf(const Step& step) {
-    const auto start = std::chrono::steady_clock::now();
-    step();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+// The processor time of this process in milliseconds: other programs on the machine do not count.
+[[nodiscard]] double ProcessorMilliseconds();
+
+// The time that passes, in milliseconds.
+[[nodiscard]] inline double WallMilliseconds() {
+    return std::chrono::duration<double, std::milli>(
+               std::chrono::steady_clock::now().time_since_epoch())
         .count();
 }
 
-// The times of one step in several repetitions.
+// The times of one step in several repetitions, in milliseconds.
 class Times {
 public:
+    using Clock = double (*)();
+    explicit Times(Clock clock = ProcessorMilliseconds) : clock_(clock) {}
+
     template <typename Step>
     void Measure(const Step& step) {
-        times_.push_back(MillisecondsOf(step));
+        const double start = clock_();
+        step();
+        times_.push_back(clock_() - start);
     }
-    void Add(double milliseconds) { times_.push_back(milliseconds); }
 
     [[nodiscard]] double Median() const {
         std::vector<double> sorted = times_;
@@ -29,5 +34,6 @@ public:
     }
 
 private:
+    Clock clock_;
     std::vector<double> times_;
 };
