@@ -2,6 +2,8 @@
 
 #include "platform/Form.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr UINT kTick = 100; // milliseconds
@@ -92,7 +94,7 @@ TreeEdge MainDrag::EdgeAt(POINT screen) const {
     RECT area{};
     GetClientRect(controls_.tree.Handle(), &area);
     ScreenToClient(controls_.tree.Handle(), &screen);
-    const LONG margin = controls_.tree.LineHeight();
+    const LONG margin = std::min(LONG{controls_.tree.LineHeight()}, area.bottom / 3);
     if (screen.y < margin)
         return TreeEdge::Top;
     return screen.y >= area.bottom - margin ? TreeEdge::Bottom : TreeEdge::None;

@@ -174,6 +174,9 @@ MessageResult ListView::OnMessage(const WindowMessage& message) {
     case WM_LBUTTONDOWN:
         Raise(onPress);
         return PressLeft(message);
+    case WM_LBUTTONDBLCLK:
+        Raise(onPress);
+        return {};
     case WM_RBUTTONDOWN:
         Raise(onPress);
         PressRight(message);
@@ -183,6 +186,13 @@ MessageResult ListView::OnMessage(const WindowMessage& message) {
     case LVM_CANCELEDITLABEL:
         label_.GiveUp();
         return {};
+    case WM_SIZE: {
+        // A scrolled list that gets room for its first rows does not repaint all of them
+        // everywhere.
+        const LRESULT result = Default(message);
+        InvalidateRect(message.window, nullptr, TRUE);
+        return result;
+    }
     case WM_CONTEXTMENU:
         if (message.lParam == -1) // the keyboard's menu key
             OpenContextMenu(message);

@@ -65,6 +65,10 @@ void Job::OpenFromMenu(const std::string& path) {
         "Okay " + path.substr(path.rfind('\\') + 1));
 }
 
+bool Job::IsPainted() const {
+    return (!main_ || main_->Window().IsPainted()) && (!standIn_ || standIn_->Window().IsPainted());
+}
+
 void Job::EndMain() {
     main_->Window().Close();
     AwaitEndOfMain();
@@ -95,6 +99,7 @@ std::filesystem::path Job::PathOf(const std::string& utf8) {
 }
 
 void Job::SavePicture(int step, const std::string& name) {
+    static_cast<void>(PollUntil([this] { return IsPainted(); }, std::chrono::seconds(3)));
     const std::string file = PictureName(step, name);
     if (!screenshot_.Save(pictureFolder_ + "\\" + file))
         report_.Check(false, "picture " + file);

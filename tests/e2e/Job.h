@@ -56,6 +56,7 @@ protected:
 
 private:
     void AwaitEndOfMain();
+    [[nodiscard]] bool IsPainted() const;
     void SavePicture(int step, const std::string& name);
 
     std::string programFolder_;

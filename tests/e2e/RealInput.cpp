@@ -2,8 +2,11 @@
 
 #include "tests/platform/PollUntil.h"
 
+#include <algorithm>
 #include <array>
 #include <commctrl.h>
+#include <cstdlib>
+#include <stdexcept>
 #include <vector>
 
 namespace {
@@ -38,6 +41,12 @@ INPUT MouseButton(DWORD flags) {
     return input;
 }
 
+// The pointer stops at the edges of the screen.
+POINT OnScreen(POINT at) {
+    return {std::clamp(at.x, 0L, static_cast<LONG>(GetSystemMetrics(SM_CXSCREEN) - 1)),
+            std::clamp(at.y, 0L, static_cast<LONG>(GetSystemMetrics(SM_CYSCREEN) - 1))};
+}
+
 // Absolute positions count from 0 to 65535 over the screen.
 LONG Normalised(LONG pixel, int extent) {
     return (pixel * 65535 + (extent - 1) / 2) / (extent - 1);
@@ -64,6 +73,29 @@ void UncoverFromToolTip(POINT at) {
     static_cast<void>(PollUntil([at] { return !IsToolTipAt(at); }));
 }
 
+void PressWith(WORD held, WORD virtualKey) {
+    Send(
+        {Key(held), Key(virtualKey), Key(virtualKey, KEYEVENTF_KEYUP), Key(held, KEYEVENTF_KEYUP)});
+}
+
+// On a busy machine the display tells the positions that the pointer had a moment ago, and takes it
+// back there: it is moved again until it stays.
+void Settle(POINT to) {
+    constexpr int kSteadyLooks = 20;
+    int steady = 0;
+    const bool stays = PollUntil([&] {
+        POINT at{};
+        GetCursorPos(&at);
+        const bool isThere = std::abs(at.x - to.x) <= 1 && std::abs(at.y - to.y) <= 1;
+        steady = isThere ? steady + 1 : 0;
+        if (!isThere)
+            Send({MouseMove(to)});
+        return steady > kSteadyLooks;
+    });
+    if (!stays)
+        throw std::runtime_error("The pointer does not stay where it is put");
+}
+
 } // namespace
 
 void RealInput::Click(POINT at) {
@@ -81,13 +113,35 @@ void RealInput::ClickWithCtrl(POINT at) {
           MouseButton(MOUSEEVENTF_LEFTUP), Key(VK_CONTROL, KEYEVENTF_KEYUP)});
 }
 
+void RealInput::ClickRight(POINT at) {
+    UncoverFromToolTip(at);
+    Send({MouseMove(at), MouseButton(MOUSEEVENTF_RIGHTDOWN), MouseButton(MOUSEEVENTF_RIGHTUP)});
+}
+
 void RealInput::Drag(POINT from, POINT to) {
-    std::vector<INPUT> inputs = {MouseMove(from), MouseButton(MOUSEEVENTF_LEFTDOWN)};
+    MoveTo(from);
+    PressLeft();
+    Glide(from, to);
+    ReleaseLeft();
+}
+
+void RealInput::MoveTo(POINT at) {
+    Send({MouseMove(at)});
+}
+
+void RealInput::PressLeft() {
+    Send({MouseButton(MOUSEEVENTF_LEFTDOWN)});
+}
+
+void RealInput::Glide(POINT from, POINT to) {
     for (int step = 1; step <= kDragSteps; ++step)
-        inputs.push_back(MouseMove({from.x + (to.x - from.x) * step / kDragSteps,
-                                    from.y + (to.y - from.y) * step / kDragSteps}));
-    inputs.push_back(MouseButton(MOUSEEVENTF_LEFTUP));
-    Send(inputs);
+        MoveTo(OnScreen({from.x + (to.x - from.x) * step / kDragSteps,
+                         from.y + (to.y - from.y) * step / kDragSteps}));
+    Settle(OnScreen(to));
+}
+
+void RealInput::ReleaseLeft() {
+    Send({MouseButton(MOUSEEVENTF_LEFTUP)});
 }
 
 void RealInput::TurnWheel(POINT at, int notches) {
@@ -101,8 +155,19 @@ void RealInput::PressKey(WORD virtualKey) {
 }
 
 void RealInput::PressWithAlt(WORD virtualKey) {
-    Send({Key(VK_MENU), Key(virtualKey), Key(virtualKey, KEYEVENTF_KEYUP),
-          Key(VK_MENU, KEYEVENTF_KEYUP)});
+    PressWith(VK_MENU, virtualKey);
+}
+
+void RealInput::PressWithShift(WORD virtualKey) {
+    PressWith(VK_SHIFT, virtualKey);
+}
+
+void RealInput::HoldKey(WORD virtualKey) {
+    Send({Key(virtualKey)});
+}
+
+void RealInput::ReleaseKey(WORD virtualKey) {
+    Send({Key(virtualKey, KEYEVENTF_KEYUP)});
 }
 
 void RealInput::TypeText(std::wstring_view text) {

@@ -107,6 +107,11 @@ std::vector<std::string> KindsOf(const RemoteWindow& dialog) {
 
 } // namespace
 
+RemoteDialogs::Message RemoteDialogs::ReadMessageBox(const RemoteWindow& owner) {
+    const RemoteWindow dialog = WaitForPopup(owner, L"#32770", kMessageText);
+    return {dialog.Title(), dialog.Child(kMessageText).Text()};
+}
+
 // A click can come before the window manager has put the box where it stays: then it is made again.
 RemoteDialogs::Message RemoteDialogs::AnswerMessageBox(const RemoteWindow& owner, int button) {
     const RemoteWindow dialog = WaitForPopup(owner, L"#32770", kMessageText);
@@ -161,6 +166,16 @@ std::string RemoteDialogs::AnswerColorDialog(const RemoteWindow& owner,
     Press(dialog, color ? IDOK : IDCANCEL);
     WaitUntilGone(dialog, kFirstColorPart);
     return title;
+}
+
+std::string RemoteDialogs::CancelInputBox(const RemoteWindow& owner) {
+    const RemoteWindow dialog = WaitForPopup(owner, L"InputBox", IDC_txtInput);
+    std::string prompt = dialog.Child(IDC_lblPrompt).Text();
+    if (!PollUntil([&] { return dialog.FocusedChild() == dialog.Child(IDC_txtInput).Handle(); }))
+        throw std::runtime_error("The input box has no focus");
+    RealInput::PressKey(VK_ESCAPE);
+    WaitUntilGone(dialog, IDC_txtInput);
+    return prompt;
 }
 
 RemoteDialogs::Question RemoteDialogs::AnswerInputBox(const RemoteWindow& owner,

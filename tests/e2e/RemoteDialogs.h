@@ -14,6 +14,9 @@ struct Message {
     std::string text;
 };
 
+// Waits for a message box and leaves it open.
+Message ReadMessageBox(const RemoteWindow& owner);
+
 // Presses a button (IDYES, IDNO, IDOK, ...) of a message box.
 Message AnswerMessageBox(const RemoteWindow& owner, int button);
 
@@ -43,6 +46,9 @@ struct RedGreenBlue {
 
 // Enters a color and presses OK, or Cancel without a color; gives the dialog's title.
 std::string AnswerColorDialog(const RemoteWindow& owner, const std::optional<RedGreenBlue>& color);
+
+// Gives an input box up, by Escape.
+std::string CancelInputBox(const RemoteWindow& owner); // its prompt
 
 struct Question {
     std::string prompt;

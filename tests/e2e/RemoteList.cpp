@@ -80,11 +80,22 @@ int RemoteList::FindRow(const std::string& name) const {
 }
 
 void RemoteList::ClickRow(const std::string& name) const {
+    RealInput::Click(PointOfRow(name));
+}
+
+POINT RemoteList::PointOfRow(const std::string& name) const {
     const auto row = static_cast<WPARAM>(FindRow(name));
     SendMessageW(window_.Handle(), LVM_ENSUREVISIBLE, row, FALSE);
     const RemoteMemory memory(window_.Handle());
     RECT bounds{};
     bounds.left = LVIR_LABEL; // which part: the message takes it there
     memory.Send(LVM_GETITEMRECT, row, bounds);
-    RealInput::Click(window_.ToScreen({bounds.left + 8, (bounds.top + bounds.bottom) / 2}));
+    return window_.ToScreen({bounds.left + 8, (bounds.top + bounds.bottom) / 2});
+}
+
+std::vector<std::string> RemoteList::Names() const {
+    std::vector<std::string> names;
+    for (int row = 0; row < RowCount(); ++row)
+        names.push_back(Cell(row, 0));
+    return names;
 }

@@ -26,6 +26,9 @@ public:
     [[nodiscard]] DWORD ViewStyle() const;        // LVS_ICON, LVS_SMALLICON, LVS_LIST or LVS_REPORT
     [[nodiscard]] RemoteWindow LabelEdit() const; // without a handle while no label is edited
     [[nodiscard]] POINT Centre() const { return window_.Centre(); }
+    // Of the screen, on the text of column 0; the row is scrolled into view.
+    [[nodiscard]] POINT PointOfRow(const std::string& name) const;
+    [[nodiscard]] std::vector<std::string> Names() const; // column 0 of every row
 
 private:
     [[nodiscard]] std::string Cell(int row, int column) const;

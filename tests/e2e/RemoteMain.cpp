@@ -19,8 +19,12 @@ RemoteList RemoteMain::List() const {
     return RemoteList(window_.Child(IDC_lvColor));
 }
 
+RemoteToolbar RemoteMain::Toolbar() const {
+    return RemoteToolbar(window_.Child(IDC_tlbarMain));
+}
+
 void RemoteMain::ClickButton(int command) const {
-    RemoteToolbar(window_.Child(IDC_tlbarMain)).Click(command);
+    Toolbar().Click(command);
 }
 
 void RemoteMain::ChooseFromMenu(const std::string& menu, const std::string& entry) const {

@@ -18,6 +18,8 @@ public:
     [[nodiscard]] const RemoteWindow& Window() const noexcept { return window_; }
     [[nodiscard]] RemoteTree Tree() const;
     [[nodiscard]] RemoteList List() const;
+    [[nodiscard]] RemoteToolbar Toolbar() const;
+    [[nodiscard]] RemoteWindow Control(int id) const { return window_.Child(id); }
     void ClickButton(int command) const; // toolbar
 
     // By keyboard, with the access keys of menu and entry ("mnuFile", "mnuFileSave").

@@ -21,8 +21,7 @@ std::vector<HTREEITEM> RemoteTree::Siblings(HTREEITEM first) const {
 }
 
 std::vector<HTREEITEM> RemoteTree::ChildItems(std::size_t root) const {
-    const std::vector<HTREEITEM> roots = Siblings(Next(TVGN_ROOT, nullptr));
-    return Siblings(Next(TVGN_CHILD, roots.at(root)));
+    return Siblings(Next(TVGN_CHILD, RootItem(root)));
 }
 
 std::vector<std::string> RemoteTree::Roots() const {
@@ -66,28 +65,70 @@ std::string RemoteTree::TextOf(HTREEITEM item) const {
 }
 
 void RemoteTree::ClickRoot(std::size_t root) const {
-    const std::vector<HTREEITEM> roots = Siblings(Next(TVGN_ROOT, nullptr));
-    if (root >= roots.size())
-        throw std::runtime_error("No main node " + std::to_string(root));
-    Click(roots[root]);
+    RealInput::Click(PointOfRoot(root));
 }
 
-void RemoteTree::ClickChild(std::size_t root, const std::string& text) const {
+HTREEITEM RemoteTree::RootItem(std::size_t root) const {
+    return Siblings(Next(TVGN_ROOT, nullptr)).at(root);
+}
+
+HTREEITEM RemoteTree::ChildItem(std::size_t root, const std::string& text) const {
     for (HTREEITEM item : ChildItems(root))
-        if (TextOf(item) == text) {
-            Click(item);
-            return;
-        }
+        if (TextOf(item) == text)
+            return item;
     throw std::runtime_error("No node " + text);
 }
 
-void RemoteTree::Click(HTREEITEM item) const {
-    SendMessageW(window_.Handle(), TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item));
+void RemoteTree::ClickChild(std::size_t root, const std::string& text) const {
+    RealInput::Click(PointOfChild(root, text));
+}
+
+POINT RemoteTree::PointOfRoot(std::size_t root) const {
+    return PointOf(RootItem(root));
+}
+
+POINT RemoteTree::PointOfChild(std::size_t root, const std::string& text) const {
+    return PointOf(ChildItem(root, text));
+}
+
+POINT RemoteTree::PointBelowTheNodes() const {
+    const RECT last = BoundsOf(Next(TVGN_LASTVISIBLE, nullptr));
+    RECT area{};
+    GetClientRect(window_.Handle(), &area);
+    return window_.ToScreen({area.right / 2, (last.bottom + area.bottom) / 2});
+}
+
+std::string RemoteTree::DropTarget() const {
+    HTREEITEM marked = Next(TVGN_DROPHILITE, nullptr);
+    return marked != nullptr ? TextOf(marked) : std::string();
+}
+
+std::string RemoteTree::FirstVisible() const {
+    return TextOf(Next(TVGN_FIRSTVISIBLE, nullptr));
+}
+
+bool RemoteTree::IsExpanded(std::size_t root) const {
+    const LRESULT state = SendMessageW(window_.Handle(), TVM_GETITEMSTATE,
+                                       reinterpret_cast<WPARAM>(RootItem(root)), TVIS_EXPANDED);
+    return (state & TVIS_EXPANDED) != 0;
+}
+
+void RemoteTree::Collapse(std::size_t root) const {
+    SendMessageW(window_.Handle(), TVM_EXPAND, TVE_COLLAPSE,
+                 reinterpret_cast<LPARAM>(RootItem(root)));
+}
+
+RECT RemoteTree::BoundsOf(HTREEITEM item) const {
     const RemoteMemory memory(window_.Handle());
     RECT bounds{};
     std::memcpy(&bounds, &item, sizeof item); // the message takes the item in the rectangle's place
     memory.Send(TVM_GETITEMRECT, TRUE, bounds);
-    RealInput::Click(window_.ToScreen(CentreOf(bounds)));
+    return bounds;
+}
+
+POINT RemoteTree::PointOf(HTREEITEM item) const {
+    SendMessageW(window_.Handle(), TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item));
+    return window_.ToScreen(CentreOf(BoundsOf(item)));
 }
 
 RemoteWindow RemoteTree::LabelEdit() const {

@@ -39,6 +39,18 @@ RemoteWindow RemoteWindow::WaitFor(const wchar_t* className, DWORD process) {
     return RemoteWindow(search.found);
 }
 
+bool RemoteWindow::IsPainted() const {
+    const auto lookAt = [](HWND window, LPARAM parameter) -> BOOL {
+        auto& painted = *reinterpret_cast<bool*>(parameter);
+        painted = painted && GetUpdateRect(window, nullptr, FALSE) == FALSE;
+        return painted ? TRUE : FALSE;
+    };
+    bool painted = true;
+    if (lookAt(handle_, reinterpret_cast<LPARAM>(&painted)) != FALSE)
+        EnumChildWindows(handle_, lookAt, reinterpret_cast<LPARAM>(&painted));
+    return painted;
+}
+
 std::wstring RemoteWindow::ClassName() const {
     std::array<wchar_t, 256> name{};
     GetClassNameW(handle_, name.data(), static_cast<int>(name.size()));
@@ -85,10 +97,22 @@ POINT RemoteWindow::ToScreen(POINT client) const {
     return client;
 }
 
-POINT RemoteWindow::Centre() const {
+RECT RemoteWindow::Bounds() const {
     RECT bounds{};
     GetWindowRect(handle_, &bounds);
-    return CentreOf(bounds);
+    return bounds;
+}
+
+void RemoteWindow::Maximise() const {
+    PostMessageW(handle_, WM_SYSCOMMAND, SC_MAXIMIZE, 0);
+}
+
+void RemoteWindow::Restore() const {
+    PostMessageW(handle_, WM_SYSCOMMAND, SC_RESTORE, 0);
+}
+
+POINT RemoteWindow::Centre() const {
+    return CentreOf(Bounds());
 }
 
 void RemoteWindow::Click() const {

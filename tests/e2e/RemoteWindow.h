@@ -16,6 +16,7 @@ public:
     [[nodiscard]] HWND Handle() const noexcept { return handle_; }
     [[nodiscard]] bool Exists() const { return IsWindow(handle_) != FALSE; }
     [[nodiscard]] bool IsVisible() const { return IsWindowVisible(handle_) != FALSE; }
+    [[nodiscard]] bool IsPainted() const; // with everything in it
     [[nodiscard]] std::wstring ClassName() const;
     [[nodiscard]] std::string Text() const; // WM_GETTEXT
     [[nodiscard]] std::string Title() const;
@@ -24,6 +25,10 @@ public:
     [[nodiscard]] RemoteWindow Child(int id) const;
 
     void Place(int left, int top, int width, int height) const;
+    [[nodiscard]] RECT Bounds() const; // on the screen
+    void Maximise() const;             // as its button does
+    void Restore() const;
+    [[nodiscard]] bool IsMaximised() const { return IsZoomed(handle_) != FALSE; }
     [[nodiscard]] POINT ToScreen(POINT client) const;
     [[nodiscard]] POINT Centre() const; // on the screen
     void Click() const;                 // into the middle, with the mouse

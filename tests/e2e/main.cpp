@@ -2,6 +2,7 @@
 #include "tests/e2e/EditorJob.h"
 #include "tests/e2e/MainJob.h"
 #include "tests/e2e/ViewsJob.h"
+#include "tests/e2e/MouseJob.h"
 
 #include "platform/Utf16.h"
 
@@ -40,6 +41,7 @@ const std::map<std::string, JobMaker>& Jobs() {
         {"editor", Maker<EditorJob>()},
         {"main", Maker<MainJob>()},
         {"views", Maker<ViewsJob>()},
+        {"mouse", Maker<MouseJob>()},
     };
     return jobs;
 }

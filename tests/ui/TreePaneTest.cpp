@@ -6,6 +6,14 @@
 
 namespace {
 
+// Presses or releases Shift for this thread.
+void SetShift(bool down) {
+    std::array<BYTE, 256> keys{};
+    GetKeyboardState(keys.data());
+    keys[VK_SHIFT] = down ? 0x80 : 0;
+    SetKeyboardState(keys.data());
+}
+
 class MainTree : public MainFormTest {
 protected:
     MainTree() {
@@ -100,6 +108,30 @@ TEST_F(MainTree, RightButtonSelectsTheNodeAndOpensTheColorMenu) {
     SendMessageW(Tree(), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(place.x, place.y));
     PumpMessages();
     EXPECT_EQ(events.lines, std::vector<std::string>{"node 1DG1"});
+    EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuColorNewMainNode});
+}
+
+TEST_F(MainTree, MenuKeyOpensTheColorMenuForTheSelectedNode) {
+    form.ShowWindow();
+    form.NodeSelected("1DG1");
+    PostMessageW(form.Handle(), WM_KEYDOWN, VK_DOWN, 0);
+    PostMessageW(form.Handle(), WM_KEYDOWN, VK_RETURN, 0);
+    SendMessageW(Tree(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Tree()), -1);
+    PumpMessages();
+    EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuColorNewMainNode});
+    EXPECT_TRUE(events.lines.empty());
+}
+
+TEST_F(MainTree, ShiftF10OpensItToo) {
+    form.ShowWindow();
+    form.NodeSelected("1DG1");
+    SetFocus(Tree());
+    PostMessageW(form.Handle(), WM_KEYDOWN, VK_DOWN, 0);
+    PostMessageW(form.Handle(), WM_KEYDOWN, VK_RETURN, 0);
+    SetShift(true);
+    SendMessageW(Tree(), WM_SYSKEYDOWN, VK_F10, 1);
+    SetShift(false);
+    PumpMessages();
     EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuColorNewMainNode});
 }
 
