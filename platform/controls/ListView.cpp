@@ -136,7 +136,12 @@ void ListView::FillItem(LVITEMW& item) const {
         lstrcpynW(item.pszText, ToUtf16(text).c_str(), item.cchTextMax);
     }
     if ((item.mask & LVIF_IMAGE) != 0)
-        item.iImage = item.iSubItem == 0 ? images_.small.IndexOf(images_.key) : -1;
+        item.iImage = item.iSubItem == 0 ? ShownImages().IndexOf(images_.key) : -1;
+}
+
+const IconList& ListView::ShownImages() const {
+    const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
+    return (style & LVS_TYPEMASK) == LVS_ICON ? images_.large : images_.small;
 }
 
 void ListView::SelectionChanged(const NMLISTVIEW& change) {

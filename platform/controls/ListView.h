@@ -49,6 +49,7 @@ protected:
 
 private:
     void FillItem(LVITEMW& item) const;
+    [[nodiscard]] const IconList& ShownImages() const;
     void SelectionChanged(const NMLISTVIEW& change);
     [[nodiscard]] bool BeginLabelEdit(int row);
     void EndLabelEdit(const NMLVDISPINFOW& info);

@@ -47,7 +47,22 @@ void TextBox::OnCommand(WPARAM wParam) {
         Raise(onFocus);
 }
 
+// A text that was set while the box was narrower would stay scrolled out of it.
+void TextBox::ShowFromItsStart() {
+    DWORD start = 0;
+    DWORD end = 0;
+    Send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), &end);
+    Send(EM_SETSEL);
+    Send(EM_SCROLLCARET);
+    Send(EM_SETSEL, start, static_cast<LPARAM>(end));
+}
+
 MessageResult TextBox::OnMessage(const WindowMessage& message) {
+    if (message.id == WM_SIZE) {
+        const LRESULT result = Default(message);
+        ShowFromItsStart();
+        return result;
+    }
     if (message.id == WM_CHAR && mayType && !IsEditingKey(message.wParam) &&
         !mayType(static_cast<char32_t>(message.wParam)))
         return 0;

@@ -23,5 +23,7 @@ protected:
     MessageResult OnMessage(const WindowMessage& message) override;
 
 private:
+    void ShowFromItsStart();
+
     bool setting_ = false;
 };

@@ -37,11 +37,8 @@ JobMaker Maker() {
 
 const std::map<std::string, JobMaker>& Jobs() {
     static const std::map<std::string, JobMaker> jobs = {
-        {"files", Maker<FilesJob>()},
-        {"editor", Maker<EditorJob>()},
-        {"main", Maker<MainJob>()},
-        {"views", Maker<ViewsJob>()},
-        {"mouse", Maker<MouseJob>()},
+        {"files", Maker<FilesJob>()}, {"editor", Maker<EditorJob>()}, {"main", Maker<MainJob>()},
+        {"views", Maker<ViewsJob>()}, {"mouse", Maker<MouseJob>()},
     };
     return jobs;
 }

@@ -31,6 +31,20 @@ TEST_F(MainEditorPane, TextSetByTheProgramIsNotReported) {
     EXPECT_TRUE(events.lines.empty());
 }
 
+TEST_F(MainEditorPane, TextThatWasSetWhileTheEditorWasHiddenIsShownWhole) {
+    form.ShowWindow();
+    form.SetValueText(0, "255");
+    events.layout.SetHugeFrame(true);
+    const HWND box = Child(IDC_txtActiveColor);
+    RECT area{};
+    GetClientRect(box, &area);
+    const auto leftOf = [box](WPARAM character) {
+        return static_cast<short>(LOWORD(SendMessageW(box, EM_POSFROMCHAR, character, 0)));
+    };
+    EXPECT_GE(leftOf(0), 0);
+    EXPECT_LT(leftOf(2), area.right);
+}
+
 TEST_F(MainEditorPane, EachTypedCharacterIsReportedWithTheWholeText) {
     form.SelectWholeValueText(1);
     Type(1, L"12");

@@ -1,5 +1,6 @@
 #include "platform/Utf16.h"
 #include "tests/ui/MainFormTest.h"
+#include "tests/ui/MessageCounter.h"
 
 #include <array>
 #include <chrono>
@@ -247,6 +248,42 @@ TEST_F(BigList, LastRowIsRenamedWithoutALookAtTheOthers) {
     });
     EXPECT_EQ(events.lines, std::vector<std::string>{"row label 99999=last"});
     EXPECT_LT(asked, kFewCells);
+}
+
+TEST_F(MainList, EveryModeHasThePictureOfARow) {
+    for (int mode = 0; mode < 4; ++mode) {
+        form.SetListViewMode(static_cast<ListViewMode>(mode));
+        LVITEMW item{};
+        item.mask = LVIF_IMAGE;
+        SendMessageW(List(), LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        const auto images = reinterpret_cast<HIMAGELIST>(
+            SendMessageW(List(), LVM_GETIMAGELIST, mode == 0 ? LVSIL_NORMAL : LVSIL_SMALL, 0));
+        EXPECT_GE(item.iImage, 0);
+        EXPECT_LT(item.iImage, ImageList_GetImageCount(images)) << mode;
+    }
+}
+
+// Showing a group as the program does, until it is painted.
+TEST_F(MainList, RowsOfAnyNumberAreShownWithTheSameMessagesAndTextsOfTheVisibleRowsAlone) {
+    form.ShowWindow();
+    const auto messagesFor = [this](int rows) {
+        PumpMessages();
+        events.cellsAsked = 0;
+        const MessageCounter counter(List());
+        form.RowsChanged(rows);
+        form.SelectRow(0);
+        form.EnsureRowVisible(0);
+        UpdateWindow(List());
+        return counter.Counts();
+    };
+    messagesFor(1000);
+    const std::map<UINT, int> messages = messagesFor(1000);
+    const int cells = events.cellsAsked;
+    EXPECT_EQ(messagesFor(1'000'000), messages);
+    EXPECT_EQ(events.cellsAsked, cells);
+    EXPECT_GT(cells, 0);
+    const auto visible = static_cast<int>(SendMessageW(List(), LVM_GETCOUNTPERPAGE, 0, 0)) + 1;
+    EXPECT_LE(cells, 3 * visible * 2) << "three columns; once more for the focus";
 }
 
 TEST_F(MainList, HundredThousandRowsAreSetAtOnce) {

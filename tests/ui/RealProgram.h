@@ -25,9 +25,11 @@
 class RealProgram {
 public:
     // programFolder: holds the language files.  codePage: that of the language files.
+    // solidWorksService: what stands for SolidWorks instead of the model in this object.
     RealProgram(RegistryAccess& registryAccess, std::string programFolder,
-                const AnsiCodePage& codePage)
-        : registry(registryAccess), folder(std::move(programFolder)), page(codePage) {
+                const AnsiCodePage& codePage, AutomationService* solidWorksService = nullptr)
+        : registry(registryAccess), folder(std::move(programFolder)), page(codePage),
+          automation(solidWorksService != nullptr ? *solidWorksService : service) {
         main.Attach(application.MainEvents());
         about.Attach(application.AboutWindowEvents());
         textViewer.Attach(application.TextViewerWindowEvents());
@@ -58,6 +60,7 @@ public:
     FakeEventPump events;
     StandInModel solidWorks{"default"};
     StandInService service{solidWorks};
+    AutomationService& automation;
     FakeWaitingClock clock;
     BusyRetry retry{clock};
     clsMultiLanguage language{profile, files, page};
@@ -68,7 +71,7 @@ public:
     frmTxtView textViewer{main.Handle(), errors, banners};
     frmProgress progress{main.Handle(), errors};
     Application application{{files, page, registry, prompts, clipboard, collation, shell, events,
-                             service, retry, language, errors},
+                             automation, retry, language, errors},
                             {main, main, main, about, textViewer, progress, progress, progress},
                             {folder, "1.0.0", {}}};
 };

@@ -1,0 +1,157 @@
+#include "common/BusyRetry.h"
+#include "platform/ComApartment.h"
+#include "platform/RunningObjects.h"
+#include "platform/Win32WaitingClock.h"
+#include "tests/platform/ScratchFolder.h"
+#include "tests/platform/ScratchRegistry.h"
+#include "tests/platform/SourceFile.h"
+#include "tests/platform/StandInProcess.h"
+#include "tests/ui/HeldResources.h"
+#include "tests/ui/MainFormTest.h"
+#include "tests/ui/RealProgram.h"
+
+#include <algorithm>
+#include <commctrl.h>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr int kSamples = 10; // after the warm-up
+
+// Texts, fonts, caches and the pools of the allocator are there after a few rounds.
+constexpr int kWarmUp = 20;
+
+// A leak of one block in every hundredth round would already be more.
+constexpr std::size_t kHeapSlack = 16U * 1024U;
+constexpr std::size_t kMemorySlack = 2048U * 1024U; // the allocator's pages come and go
+
+// How many rounds: TNT_ENDURANCE, else few enough for every run of the tests.
+int Rounds() {
+    const char* number = std::getenv("TNT_ENDURANCE");
+    return std::max(kSamples, number != nullptr ? std::atoi(number) : 100);
+}
+
+void PrintRow(const char* what, int round, const HeldResources& held) {
+    std::printf("| %s | %d | %lu | %lu | %lu | %zu | %zu |\n", what, round, held.handles, held.gdi,
+                held.user, held.heapBytes / 1024, held.memory / 1024);
+    std::fflush(stdout);
+}
+
+// What is held after the warm-up is held at every later moment, and no more.
+class FlatLine {
+public:
+    explicit FlatLine(const char* what) : what_(what) {}
+
+    void Add(int round, const HeldResources& held) {
+        PrintRow(what_, round, held);
+        if (round == 0) {
+            first_ = held;
+            return;
+        }
+        EXPECT_LE(held.handles, first_.handles) << what_ << " after " << round;
+        EXPECT_LE(held.gdi, first_.gdi) << what_ << " after " << round;
+        EXPECT_LE(held.user, first_.user) << what_ << " after " << round;
+        EXPECT_LE(held.heapBytes, first_.heapBytes + kHeapSlack) << what_ << " after " << round;
+        EXPECT_LE(held.memory, first_.memory + kMemorySlack) << what_ << " after " << round;
+    }
+
+private:
+    const char* what_;
+    HeldResources first_;
+};
+
+class Endurance : public testing::Test {
+protected:
+    Endurance() {
+        for (const char* name : {"tntlng_de.ini", "tntlng_us.ini"})
+            CopyFromSources("language", name);
+        CopyFromSources("samples", "materials.tnt");
+    }
+    void CopyFromSources(const std::string& from, const std::string& name) {
+        folder.Write(name, *files.ReadWhole(SourceFile("resources/" + from + "/" + name)));
+    }
+    RealProgram& Start(AutomationService* solidWorks = nullptr) {
+        program = std::make_unique<RealProgram>(registry, folder.Path(), codePage, solidWorks);
+        program->application.Start();
+        PumpMessages();
+        return *program;
+    }
+    [[nodiscard]] HWND Tree() const { return FindChild(program->main.Handle(), IDC_tvColor); }
+    [[nodiscard]] LRESULT NodeCount() const { return SendMessageW(Tree(), TVM_GETCOUNT, 0, 0); }
+
+    void OpenSaveAndClose() const {
+        program->prompts.chosenFiles.emplace_back(folder.File("materials.tnt"));
+        program->prompts.answers.push_back(Answer::No); // not at every start
+        program->Run(IDM_mnuFileOpen);
+        ASSERT_GT(NodeCount(), 1);
+        SendMessageW(Tree(), TVM_SELECTITEM, TVGN_CARET,
+                     SendMessageW(Tree(), TVM_GETNEXTITEM, TVGN_ROOT, 0));
+        program->Run(IDM_mnuFileSave);
+        program->Run(IDM_mnuFileClose);
+        ASSERT_EQ(NodeCount(), 0);
+        ASSERT_EQ(program->prompts.messages.size(), 1U); // the question alone
+        program->prompts.messages.clear();
+        program->prompts.fileRequests.clear();
+        PumpMessages();
+    }
+
+    // One after the other, each as the menu does.
+    void WorkWithSolidWorks(int round) const {
+        constexpr std::array kCommands = {IDM_mnuSWXGetColor, IDM_mnuSWXSetColor,
+                                          IDM_mnuSWXClearColorFromSelection,
+                                          IDM_mnuSWXClearColorPart};
+        program->Run(kCommands.at(static_cast<std::size_t>(round) % kCommands.size()));
+        ASSERT_EQ(program->prompts.messages.size(), 0U) << program->prompts.messages[0].prompt;
+        PumpMessages();
+    }
+
+    Win32Files files;
+    ScratchFolder folder;
+    ScratchRegistry registry;
+    Win32AnsiCodePage codePage{1252};
+    std::unique_ptr<RealProgram> program;
+};
+
+TEST_F(Endurance, LoadingSavingAndClosingHoldsNoMoreAfterManyRounds) {
+    Start();
+    for (int round = 0; round < kWarmUp; ++round)
+        ASSERT_NO_FATAL_FAILURE(OpenSaveAndClose());
+    FlatLine client("load, save, close");
+    client.Add(0, HeldByThisProcess());
+    const int rounds = Rounds();
+    for (int round = 1; round <= rounds; ++round) {
+        ASSERT_NO_FATAL_FAILURE(OpenSaveAndClose());
+        if (round % (rounds / kSamples) == 0)
+            client.Add(round, HeldByThisProcess());
+    }
+}
+
+TEST_F(Endurance, WorkWithSolidWorksHoldsNoMoreAfterManyOperationsOnEitherSide) {
+    const ComApartment apartment;
+    const StandInProcess standIn;
+    ASSERT_TRUE(standIn.IsReady());
+    Win32WaitingClock clock;
+    BusyRetry retry(clock);
+    RunningObjects running(retry);
+    Start(&running);
+    // The stand-in keeps the last calls for its list; it holds all of them that it will ever hold.
+    for (int round = 0; round < 10 * kWarmUp; ++round)
+        ASSERT_NO_FATAL_FAILURE(WorkWithSolidWorks(round));
+    const LRESULT calls = standIn.Ask(StandInContract::Question::CallCount);
+    FlatLine client("SolidWorks operations, program");
+    FlatLine server("SolidWorks operations, stand-in");
+    client.Add(0, HeldByThisProcess());
+    server.Add(0, HeldByProcessOf(standIn.Window()));
+    const int rounds = Rounds();
+    for (int round = 1; round <= rounds; ++round) {
+        ASSERT_NO_FATAL_FAILURE(WorkWithSolidWorks(round));
+        if (round % (rounds / kSamples) == 0) {
+            client.Add(round, HeldByThisProcess());
+            server.Add(round, HeldByProcessOf(standIn.Window()));
+        }
+    }
+    EXPECT_GE(standIn.Ask(StandInContract::Question::CallCount), calls + rounds);
+}
+
+} // namespace
