@@ -48,7 +48,8 @@ public:
 // Random operations on both tables, from a small choice of keys so that they meet.
 class TwoTables {
 public:
-    explicit TwoTables(unsigned seed) : random_(seed) {}
+    enum class Keys { Any, Unique };
+    TwoTables(unsigned seed, Keys keys) : random_(seed), keys_(keys) {}
 
     void Step() {
         switch (Number(10)) {
@@ -98,6 +99,8 @@ private:
         record.altName = Number(3) == 0 ? "other" : record.name;
         record.isNew = Number(2) == 0;
         record.values[3] = static_cast<std::int16_t>(Number(100));
+        if (keys_ == Keys::Unique && scanned_.IndexOfKey(record.key) != 0)
+            return;
         table_.Append(record);
         scanned_.Append(record);
     }
@@ -129,6 +132,7 @@ private:
     }
 
     std::mt19937 random_;
+    Keys keys_;
     ColorTable table_;
     ScannedTable scanned_;
 };
@@ -205,10 +209,10 @@ TEST(ColorTable, IdStaysWhileColorsBeforeItGo) {
     EXPECT_THROW(static_cast<void>(table.IdAt(0)), RuntimeError);
 }
 
-TEST(ColorTable, RandomOperationsGiveWhatAScannedListGives) {
+void CompareAfterRandomOperations(TwoTables::Keys keys) {
     for (unsigned seed = 1; seed <= 6; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
-        TwoTables tables(seed);
+        TwoTables tables(seed, keys);
         for (int step = 0; step < 600; ++step) {
             tables.Step();
             if (step % 30 != 0)
@@ -216,6 +220,14 @@ TEST(ColorTable, RandomOperationsGiveWhatAScannedListGives) {
             ASSERT_NO_FATAL_FAILURE(tables.Compare()) << "step " << step;
         }
     }
+}
+
+TEST(ColorTable, RandomOperationsGiveWhatAScannedListGives) {
+    CompareAfterRandomOperations(TwoTables::Keys::Any);
+}
+
+TEST(ColorTable, RandomOperationsOnUniqueKeysGiveWhatAScannedListGives) {
+    CompareAfterRandomOperations(TwoTables::Keys::Unique);
 }
 
 } // namespace

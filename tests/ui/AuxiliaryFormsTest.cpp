@@ -6,6 +6,7 @@
 #include "support/frmTxtView.h"
 #include "tests/ui/GuiObjects.h"
 #include "tests/ui/MainFormTest.h"
+#include "tests/ui/MessageCounter.h"
 
 #include <algorithm>
 
@@ -89,6 +90,16 @@ TEST_F(AuxiliaryForms, ProgressValuesThatLookAlikeAreNotSentToTheBar) {
     progress.SetProgress(999'999);
     progress.SetProgress(1'000'000);
     EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 1'000'000);
+}
+
+TEST_F(AuxiliaryForms, ProgressOfAMillionStepsTellsItsBarAThousandTimesAtMost) {
+    frmProgress progress(form.Handle(), errors);
+    progress.ShowProgress("x", 0, 1'000'000);
+    const MessageCounter bar(FindChild(progress.Handle(), IDC_prbMain));
+    for (std::int32_t value = 1; value <= 1'000'000; ++value)
+        progress.SetProgress(value);
+    EXPECT_GT(bar.Count(PBM_SETPOS), 100);
+    EXPECT_LE(bar.Count(PBM_SETPOS), 1000);
 }
 
 TEST_F(AuxiliaryForms, ProgressGivesTheHourGlassUntilTheOperationIsOver) {
