@@ -1,7 +1,6 @@
 #include "mainwindow/ColorList.h"
 
 #include "common/Numbers.h"
-#include "common/Text.h"
 
 #include <algorithm>
 #include <utility>
@@ -13,6 +12,15 @@ constexpr int kColumnCount = 1 + static_cast<int>(kColorValueCount);
 
 float WholeWidth(double width) {
     return static_cast<float>(RoundHalfToEven(width));
+}
+
+constexpr bool IsPlain(char character) noexcept {
+    return static_cast<unsigned char>(character) < 0x80;
+}
+
+constexpr bool IsSamePlainLetter(char letter, char lowerCase) noexcept {
+    return letter == lowerCase ||
+           (letter >= 'A' && letter <= 'Z' && letter - 'A' + 'a' == lowerCase);
 }
 
 } // namespace
@@ -119,8 +127,11 @@ void ColorList::Sort() {
     rows.reserve(rows_.size());
     for (const ColorId color : rows_)
         rows.emplace_back(collation_.SortKey(TextOfColor(color, sortKey_ + 1)), color);
-    std::ranges::stable_sort(rows, [this](const auto& left, const auto& right) {
-        return descending_ ? left.first > right.first : left.first < right.first;
+    std::ranges::sort(rows, [this](const auto& left, const auto& right) {
+        const int order = left.first.compare(right.first);
+        if (order == 0)
+            return left.second < right.second; // as in the library, in both directions
+        return descending_ ? order > 0 : order < 0;
     });
     std::ranges::transform(rows, rows_.begin(), [](const auto& row) { return row.second; });
 }
@@ -143,11 +154,26 @@ std::string ColorList::TextOfColor(ColorId color, int column) const {
 }
 
 int ColorList::FindRow(const std::string& text, int start) const {
-    const std::string wanted = ToLowerAscii(text);
+    const std::string wanted = collation_.LowerCase(text);
     for (int step = 0; step < RowCount(); ++step) {
         const int row = (start + step) % RowCount();
-        if (ToLowerAscii(CellText(row, kNameColumn).substr(0, wanted.size())) == wanted)
+        if (NameBeginsWith(rows_[static_cast<std::size_t>(row)], wanted))
             return row;
     }
     return -1;
+}
+
+// Most names differ in a plain letter, so that few need the platform's own lower case.
+bool ColorList::NameBeginsWith(ColorId color, const std::string& lowerCase) const {
+    const ColorTable& colors = library_.Colors();
+    const int index = colors.IndexOfId(color);
+    if (index == 0)
+        return false;
+    const std::string& name = colors.ViewAt(index).color.name;
+    const auto [inName, inWanted] = std::ranges::mismatch(name, lowerCase, IsSamePlainLetter);
+    if (inWanted == lowerCase.end())
+        return true;
+    if (inName == name.end() || (IsPlain(*inName) && IsPlain(*inWanted)))
+        return false;
+    return collation_.LowerCase(name).starts_with(lowerCase);
 }

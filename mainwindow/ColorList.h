@@ -54,6 +54,7 @@ private:
     void Sort();
     [[nodiscard]] std::optional<int> RowOfColor(ColorId color) const;
     [[nodiscard]] std::string TextOfColor(ColorId color, int column) const;
+    [[nodiscard]] bool NameBeginsWith(ColorId color, const std::string& lowerCase) const;
 
     const ColorLibrary& library_;
     ListPane& pane_;

@@ -69,16 +69,16 @@ FontHandle UnderlinedFont(HFONT font) {
 }
 
 SIZE MeasureText(HFONT font, std::wstring_view text, int maximumWidth) {
-    const FontDevice device(font);
+    const FontDevice selected(font);
     RECT box{0, 0, maximumWidth, 0};
     const UINT format = DT_CALCRECT | (maximumWidth > 0 ? DT_WORDBREAK : 0U);
-    DrawTextW(device.Device(), text.data(), static_cast<int>(text.size()), &box, format);
+    DrawTextW(FontDevice::Device(), text.data(), static_cast<int>(text.size()), &box, format);
     return {WidthOf(box), HeightOf(box)};
 }
 
 int LineHeight(HFONT font) {
-    const FontDevice device(font);
+    const FontDevice selected(font);
     TEXTMETRICW metrics{};
-    GetTextMetricsW(device.Device(), &metrics);
+    GetTextMetricsW(FontDevice::Device(), &metrics);
     return metrics.tmHeight;
 }

@@ -25,3 +25,9 @@ std::string Win32TextCollation::SortKey(const std::string& text) const {
     MapToSortKey(wide, key.data(), size);
     return key;
 }
+
+std::string Win32TextCollation::LowerCase(const std::string& text) const {
+    std::wstring wide = ToUtf16(text);
+    CharLowerBuffW(wide.data(), static_cast<DWORD>(wide.size()));
+    return ToUtf8(wide);
+}

@@ -7,4 +7,5 @@
 class Win32TextCollation : public TextCollation {
 public:
     [[nodiscard]] std::string SortKey(const std::string& text) const override;
+    [[nodiscard]] std::string LowerCase(const std::string& text) const override;
 };

@@ -64,7 +64,8 @@ def files_below(folder):
 
 
 def zip_entry(name, moment):
-    entry = zipfile.ZipInfo(name, time.gmtime(max(moment, OLDEST_ZIP_TIME))[:6])
+    whole = max(moment, OLDEST_ZIP_TIME) // 2 * 2  # an archive keeps every other second
+    entry = zipfile.ZipInfo(name, time.gmtime(whole)[:6])
     entry.create_system = 3  # the mode bits below mean something
     entry.external_attr = (0o100755 if name.endswith(".exe") else 0o100644) << 16
     entry.compress_type = zipfile.ZIP_DEFLATED

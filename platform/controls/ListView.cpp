@@ -101,11 +101,8 @@ MessageResult ListView::OnNotify(NMHDR& header) {
     case LVN_GETDISPINFOW:
         FillItem(reinterpret_cast<NMLVDISPINFOW&>(header).item);
         return 0;
-    case LVN_ODFINDITEMW: {
-        const auto& search = reinterpret_cast<const NMLVFINDITEMW&>(header);
-        const bool byText = (search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) != 0;
-        return byText && findRow ? findRow(ToUtf8(search.lvfi.psz), search.iStart) : -1;
-    }
+    case LVN_ODFINDITEMW:
+        return FindText(reinterpret_cast<const NMLVFINDITEMW&>(header));
     case LVN_ITEMCHANGED:
         SelectionChanged(reinterpret_cast<const NMLISTVIEW&>(header));
         return 0;
@@ -128,6 +125,22 @@ MessageResult ListView::OnNotify(NMHDR& header) {
     default:
         return {};
     }
+}
+
+// Typed letters ask for the start of a text, programs that read the screen also for a whole one.
+int ListView::FindText(const NMLVFINDITEMW& search) const {
+    const UINT flags = search.lvfi.flags;
+    if ((flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || !findRow || !cellText)
+        return -1;
+    if ((flags & LVFI_PARTIAL) != 0)
+        return findRow(ToUtf8(search.lvfi.psz), search.iStart);
+    const auto rows = static_cast<int>(SendMessageW(Handle(), LVM_GETITEMCOUNT, 0, 0));
+    for (int step = 0; step < rows; ++step) {
+        const int row = (search.iStart + step) % rows;
+        if (lstrcmpiW(ToUtf16(cellText(row, 1)).c_str(), search.lvfi.psz) == 0)
+            return row;
+    }
+    return -1;
 }
 
 void ListView::FillItem(LVITEMW& item) const {

@@ -53,6 +53,7 @@ private:
     void SelectionChanged(const NMLISTVIEW& change);
     [[nodiscard]] bool BeginLabelEdit(int row);
     void EndLabelEdit(const NMLVDISPINFOW& info);
+    [[nodiscard]] int FindText(const NMLVFINDITEMW& search) const;
     [[nodiscard]] int RowAt(POINT point) const; // -1: none
     void ShowSelection(int row);                // without a report
     LRESULT KeepSelection(const WindowMessage& message);

@@ -217,6 +217,18 @@ TEST_F(LibraryPanesTest, RowsWithEqualTextsKeepTheirOrderInBothDirections) {
     EXPECT_EQ(ShownNames(), (Names{"c", "b", "d", "e", "A"}));
 }
 
+TEST_F(LibraryPanesTest, RowsWithEqualTextsStandAsInTheLibraryWhateverSortedThemBefore) {
+    AddColor("e", 20);
+    AddColor("d", 20);
+    panes.NodeClicked("0DG1");
+    list.ColumnClicked(1);
+    list.ColumnClicked(2);
+    const Names names = ShownNames();
+    EXPECT_EQ(names, (Names{"A", "b", "e", "d", "c"}));
+    panes.NodeClicked("0DG1");
+    EXPECT_EQ(ShownNames(), names);
+}
+
 TEST_F(LibraryPanesTest, ColumnsAreSharesOfTheListsWidth) {
     view.listWidth = 6000;
     list.AddColumns();
@@ -239,6 +251,22 @@ TEST_F(LibraryPanesTest, TypedLettersFindTheNextNameFromTheStartRowOnwards) {
     EXPECT_EQ(list.FindRow("a", 0), 1);
     EXPECT_EQ(list.FindRow("B", 1), 0) << "wraps at the end";
     EXPECT_EQ(list.FindRow("x", 0), -1);
+}
+
+TEST_F(LibraryPanesTest, TypedLettersFindNamesInAnyLetterCaseAccentsIncluded) {
+    AddColor("\xC3\x84rmel", 1);
+    AddColor("S\xC3\x84ule", 2);
+    panes.NodeClicked("0DG1");
+    EXPECT_EQ(list.FindRow("\xC3\xA4r", 0), 3);
+    EXPECT_EQ(list.FindRow("\xC3\x84RM", 0), 3);
+    EXPECT_EQ(list.FindRow("s\xC3\xA4U", 0), 4);
+    EXPECT_EQ(list.FindRow("s\xC3\xB6", 0), -1);
+}
+
+TEST_F(LibraryPanesTest, NamesThatDifferInAPlainLetterAreFoundOutWithoutThePlatform) {
+    panes.NodeClicked("0DG1");
+    EXPECT_EQ(list.FindRow("bx", 0), -1);
+    EXPECT_EQ(collation.textsLowered, 1) << "what was typed";
 }
 
 } // namespace

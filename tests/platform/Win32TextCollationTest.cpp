@@ -112,3 +112,11 @@ TEST(Win32TextCollation, TextsWithAZeroInsideAreComparedAsAWhole) {
     using namespace std::string_literals;
     ExpectThePlatformsOrder({"a"s, "a\0"s, "a\0b"s, "a\0c"s, "ab"s, "\0"s, "b\0a"s});
 }
+
+TEST(Win32TextCollation, LowerCaseKnowsAccentsAndLeavesTheRest) {
+    const Win32TextCollation collation;
+    EXPECT_EQ(collation.LowerCase("Gold 24K"), "gold 24k");
+    EXPECT_EQ(collation.LowerCase("\xC3\x84RMEL \xC3\x89\xC3\x98\xD0\x96"),
+              "\xC3\xA4rmel \xC3\xA9\xC3\xB8\xD0\xB6");
+    EXPECT_EQ(collation.LowerCase(""), "");
+}
