@@ -156,7 +156,7 @@ std::string ColorList::TextOfColor(ColorId color, int column) const {
 int ColorList::FindRow(const std::string& text, int start) const {
     const std::string wanted = collation_.LowerCase(text);
     for (int step = 0; step < RowCount(); ++step) {
-        const int row = (start + step) % RowCount();
+        const int row = (std::max(start, 0) + step) % RowCount();
         if (NameBeginsWith(rows_[static_cast<std::size_t>(row)], wanted))
             return row;
     }

@@ -4,6 +4,7 @@
 #include "platform/Form.h"
 #include "platform/Utf16.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -59,6 +60,18 @@ void ListView::SetRowCount(int count) {
     Send(LVM_CANCELEDITLABEL);
     ShowSelection(-1);
     Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(count), LPARAM{0});
+    Arrange();
+}
+
+// Icons get their places, which not every version of the control does by itself; undrawn, for
+// otherwise each row is measured to be painted at once.
+void ListView::Arrange() {
+    const LONG_PTR view = GetWindowLongPtrW(Handle(), GWL_STYLE) & LONG_PTR{LVS_TYPEMASK};
+    if (view == LVS_ICON || view == LVS_SMALLICON) {
+        Send(WM_SETREDRAW, FALSE);
+        Send(LVM_ARRANGE, LVA_DEFAULT);
+        Send(WM_SETREDRAW, TRUE);
+    }
     InvalidateRect(Handle(), nullptr, TRUE);
 }
 
@@ -88,12 +101,20 @@ void ListView::EditLabel(int row) {
     Send(LVM_EDITLABELW, static_cast<WPARAM>(row));
 }
 
-// The four modes are the control's styles 0 to 3, in another order.
+// The four modes are the control's styles 0 to 3, in another order.  The control may measure every
+// row that it has at that moment: a sample gives the width of its cells as well.
 void ListView::SetMode(int mode) {
     constexpr LONG_PTR kStyles[] = {LVS_ICON, LVS_SMALLICON, LVS_LIST, LVS_REPORT};
+    constexpr LRESULT kSample = 200;
+    const LRESULT rows = Send(LVM_GETITEMCOUNT);
+    const int selected = selected_;
+    ShowSelection(-1);
+    Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(std::min(rows, kSample)), LPARAM{0});
     const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
     SetWindowLongPtrW(Handle(), GWL_STYLE, (style & ~LONG_PTR{LVS_TYPEMASK}) | kStyles[mode]);
-    InvalidateRect(Handle(), nullptr, TRUE);
+    Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(rows), LPARAM{0});
+    Arrange();
+    ShowSelection(selected);
 }
 
 MessageResult ListView::OnNotify(NMHDR& header) {
@@ -132,11 +153,12 @@ int ListView::FindText(const NMLVFINDITEMW& search) const {
     const UINT flags = search.lvfi.flags;
     if ((flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || !findRow || !cellText)
         return -1;
+    const int start = std::max(search.iStart, 0); // -1: from the first row
     if ((flags & LVFI_PARTIAL) != 0)
-        return findRow(ToUtf8(search.lvfi.psz), search.iStart);
+        return findRow(ToUtf8(search.lvfi.psz), start);
     const auto rows = static_cast<int>(SendMessageW(Handle(), LVM_GETITEMCOUNT, 0, 0));
     for (int step = 0; step < rows; ++step) {
-        const int row = (search.iStart + step) % rows;
+        const int row = (start + step) % rows;
         if (lstrcmpiW(ToUtf16(cellText(row, 1)).c_str(), search.lvfi.psz) == 0)
             return row;
     }

@@ -50,6 +50,7 @@ protected:
 private:
     void FillItem(LVITEMW& item) const;
     [[nodiscard]] const IconList& ShownImages() const;
+    void Arrange();
     void SelectionChanged(const NMLISTVIEW& change);
     [[nodiscard]] bool BeginLabelEdit(int row);
     void EndLabelEdit(const NMLVDISPINFOW& info);

@@ -37,6 +37,7 @@ void RemoteList::ClickColumn(int column) const {
     RECT bounds{};
     memory.Send(HDM_GETITEMRECT, static_cast<WPARAM>(column), bounds);
     RealInput::Click(RemoteWindow(Header()).ToScreen(CentreOf(bounds)));
+    Sleep(GetDoubleClickTime()); // a click right after it would be the second of a double click
 }
 
 std::string RemoteList::Cell(int row, int column) const {

@@ -250,6 +250,7 @@ TEST_F(LibraryPanesTest, TypedLettersFindTheNextNameFromTheStartRowOnwards) {
     panes.NodeClicked("0DG1");
     EXPECT_EQ(list.FindRow("a", 0), 1);
     EXPECT_EQ(list.FindRow("B", 1), 0) << "wraps at the end";
+    EXPECT_EQ(list.FindRow("A", -1), 1) << "from the first row";
     EXPECT_EQ(list.FindRow("x", 0), -1);
 }
 

@@ -3,6 +3,8 @@
 #include "tests/ui/MessageCounter.h"
 
 #include <array>
+#include <set>
+#include <utility>
 
 namespace {
 
@@ -128,6 +130,7 @@ TEST_F(MainList, EditedLabelIsReportedAlsoWhenItIsEmpty) {
 
 TEST_F(MainList, EmptiedLabelThatIsGivenUpIsNoRename) {
     form.ShowWindow();
+    form.SelectRow(2);
     form.EditRowLabel(2);
     SetWindowTextW(LabelBox(), L"");
     SendMessageW(LabelBox(), WM_KEYDOWN, VK_ESCAPE, 0);
@@ -142,6 +145,7 @@ TEST_F(MainList, EmptiedLabelThatIsGivenUpIsNoRename) {
 TEST_F(MainList, LongNameIsEditedAsAWhole) {
     form.ShowWindow();
     events.longCell = std::string(700, 'n');
+    form.SelectRow(2);
     form.EditRowLabel(2);
     EXPECT_EQ(ToUtf8(TextOf(LabelBox())), events.longCell);
     SetWindowTextW(LabelBox(), std::wstring(600, L'm').c_str());
@@ -182,6 +186,52 @@ TEST_F(MainList, FourModesChangeOnlyThePresentation) {
         EXPECT_EQ(Selected(), 4);
         EXPECT_EQ(SendMessageW(List(), LVM_GETITEMCOUNT, 0, 0), 10);
     }
+}
+
+TEST_F(MainList, EveryRowHasAPlaceOfItsOwnInTheIconViewsAlsoAfterAnotherGroupIsShown) {
+    form.ShowWindow();
+    for (const ListViewMode mode : {ListViewMode::LargeIcons, ListViewMode::SmallIcons}) {
+        form.RowsChanged(3);
+        form.SetListViewMode(mode);
+        form.RowsChanged(300);
+        std::set<std::pair<LONG, LONG>> places;
+        for (WPARAM row = 0; row < 300; ++row) {
+            POINT place{};
+            SendMessageW(List(), LVM_GETITEMPOSITION, row, reinterpret_cast<LPARAM>(&place));
+            places.emplace(place.x, place.y);
+        }
+        EXPECT_EQ(places.size(), 300U) << static_cast<int>(mode);
+    }
+}
+
+TEST_F(MainList, SelectedRowStaysSelectedWhenTheViewChangesAndNobodyHearsOfIt) {
+    form.ShowWindow();
+    form.RowsChanged(500);
+    form.SelectRow(450);
+    for (const ListViewMode mode : {ListViewMode::LargeIcons, ListViewMode::SmallIcons,
+                                    ListViewMode::List, ListViewMode::Details}) {
+        form.SetListViewMode(mode);
+        EXPECT_EQ(Selected(), 450) << static_cast<int>(mode);
+        EXPECT_EQ(SendMessageW(List(), LVM_GETITEMCOUNT, 0, 0), 500);
+    }
+    EXPECT_TRUE(events.lines.empty());
+}
+
+TEST_F(MainList, WholeTextIsFoundOnlyWhereARowHasJustThat) {
+    events.longCell = "Gold";
+    LVFINDINFOW search{};
+    search.flags = LVFI_STRING;
+    search.psz = L"gold";
+    const auto find = [&] {
+        return SendMessageW(List(), LVM_FINDITEMW, static_cast<WPARAM>(-1),
+                            reinterpret_cast<LPARAM>(&search));
+    };
+    EXPECT_EQ(find(), 0);
+    search.psz = L"gol";
+    EXPECT_EQ(find(), -1);
+    search.flags |= LVFI_PARTIAL;
+    search.psz = L"x"; // what the fake knows the start of
+    EXPECT_EQ(find(), 3);
 }
 
 // With 100,000 rows the list asks for the texts that are seen, and for no others.
