@@ -32,6 +32,7 @@ void EditorJob::Start() {
     StartMain();
     Main().Window().Place(kMargin, kMargin, GetSystemMetrics(SM_CXSCREEN) - 2 * kMargin,
                           GetSystemMetrics(SM_CYSCREEN) - 2 * kMargin);
+    ShowHiddenBars();
     OpenFromMenu(File("materials.tnt"));
 }
 

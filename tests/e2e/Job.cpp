@@ -65,6 +65,11 @@ void Job::OpenFromMenu(const std::string& path) {
         "Okay " + path.substr(path.rfind('\\') + 1));
 }
 
+void Job::ShowHiddenBars() const {
+    for (const char* entry : {"mnuViewBarStandards", "mnuViewBarListview", "mnuViewStatusBar"})
+        main_->ChooseFromMenu("mnuView", entry);
+}
+
 bool Job::IsPainted() const {
     return (!main_ || main_->Window().IsPainted()) && (!standIn_ || standIn_->Window().IsPainted());
 }

@@ -46,6 +46,9 @@ protected:
     // Opens a library by the menu and does not want it at every start.
     void OpenFromMenu(const std::string& path);
 
+    // Shows the bars that a first start hides.
+    void ShowHiddenBars() const;
+
     // Closes the window as its close box does and checks the exit code.
     void EndMain();
     // Quits by the menu and checks the exit code.

@@ -65,14 +65,6 @@ bool IsToolTipAt(POINT at) {
     return std::wstring_view(name.data()) == TOOLTIPS_CLASSW;
 }
 
-// A tool tip that covers the place goes when the pointer leaves for the corner of the screen.
-void UncoverFromToolTip(POINT at) {
-    if (!IsToolTipAt(at))
-        return;
-    Send({MouseMove({0, 0})});
-    static_cast<void>(PollUntil([at] { return !IsToolTipAt(at); }));
-}
-
 void PressWith(WORD held, WORD virtualKey) {
     Send(
         {Key(held), Key(virtualKey), Key(virtualKey, KEYEVENTF_KEYUP), Key(held, KEYEVENTF_KEYUP)});
@@ -94,6 +86,15 @@ void Settle(POINT to) {
     });
     if (!stays)
         throw std::runtime_error("The pointer does not stay where it is put");
+}
+
+// A tool tip that covers the place goes when the pointer leaves for the corner of the screen.
+void UncoverFromToolTip(POINT at) {
+    if (!IsToolTipAt(at))
+        return;
+    Send({MouseMove({0, 0})});
+    static_cast<void>(PollUntil([at] { return !IsToolTipAt(at); }));
+    Settle(at);
 }
 
 } // namespace

@@ -107,8 +107,12 @@ void RemoteMain::ClearInfoText() const {
 
 void RemoteMain::TypeValue(std::size_t index, const std::string& digits) const {
     const RemoteWindow box = ValueBox(index);
+    const auto hasFocus = [&] { return box.FocusedChild() == box.Handle(); };
     box.Click();
-    if (!PollUntil([&] { return box.FocusedChild() == box.Handle(); }))
+    // A click into a layout that is just changing is made again, as a person does.
+    for (int attempt = 0; attempt < 3 && !PollUntil(hasFocus, std::chrono::seconds(3)); ++attempt)
+        box.Click();
+    if (!PollUntil(hasFocus))
         throw std::runtime_error("The value box takes no focus");
     RealInput::TypeText(ToUtf16(digits));
 }

@@ -33,6 +33,7 @@ void ViewsJob::Start() {
     const auto dpi = static_cast<int>(GetDpiForSystem());
     Main().Window().Place(0, 0, std::min(kWidth * dpi / 96, GetSystemMetrics(SM_CXSCREEN)),
                           std::min(kHeight * dpi / 96, GetSystemMetrics(SM_CYSCREEN)));
+    ShowHiddenBars();
     OpenFromMenu(File("materials.tnt"));
     Main().Tree().ClickChild(0, "Metals");
     Report().CheckBecomes(
