@@ -42,16 +42,22 @@ bool ColorLibrary::NewGroupNode(const std::optional<std::string>& mainKey) {
         NewMainNode();
         return false;
     }
+    const std::string shownGroup = SelectedGroup();
     const std::string mainNode = SelectMainNodeUpwards();
+    // The library is selected now, so the list shows what is selected there; where that is what it
+    // shows already, list and editor stay as they are, with what was typed there.
+    const auto followSelection = [&] {
+        if (SelectedGroup() != shownGroup)
+            host_->ShowColorNodes({}, {});
+    };
     try {
         if (AskAndAddGroup(mainNode))
             return true;
     } catch (const RuntimeError&) {
-        host_->ShowColorNodes({}, {});
+        followSelection();
         throw;
     }
-    // The library is selected now, so the list shows what is selected there.
-    host_->ShowColorNodes({}, {});
+    followSelection();
     return false;
 }
 

@@ -49,6 +49,7 @@ void EditingCommands::DeleteMainNode(const std::optional<std::string>& mainKey) 
     const std::string key = mainKey ? *mainKey : parts_.library.GetActiveMainnode();
     if (key.empty())
         return;
+    const std::string shownGroup = parts_.library.SelectedGroup();
     if (!mainKey && parts_.library.Tree().Selected() != key)
         parts_.library.Tree().Select(key);
     if (!parts_.settings.confirmDel ||
@@ -56,6 +57,8 @@ void EditingCommands::DeleteMainNode(const std::optional<std::string>& mainKey) 
                     parts_.library.Tree().At(key).text + kLineBreak)) {
         parts_.library.Colors().EraseGroups(parts_.library.GetGroupInMainnode(key));
         parts_.library.Tree().Remove(key);
+    } else if (parts_.library.SelectedGroup() == shownGroup) {
+        return; // list and editor stay as they are, with what was typed there
     }
     parts_.panes.ShowSelectedGroup();
 }
@@ -121,6 +124,10 @@ void EditingCommands::PasteInto(const std::string& groupKey,
                                 const std::optional<std::string>& line) {
     if (!line)
         return;
+    if (!ClipboardLine::Parse(*line)) { // so that tree and list stay where they are
+        ShowInvalidFormat();
+        return;
+    }
     parts_.library.Tree().Select(groupKey);
     PasteLine(*line);
 }
@@ -137,8 +144,15 @@ void EditingCommands::PasteLine(const std::string& line) {
         ShowInvalidFormat();
         return;
     }
-    // A pasted colour always lands in the current group.
-    parts_.library.NewColorNode({}, pasted->name, pasted->values);
+    // A pasted colour always lands in the current group.  Where there is none yet, the user is
+    // asked for library, group and colour, and that colour takes the values.
+    const int before = parts_.library.Colors().UpperBound();
+    if (parts_.library.NewColorNode({}, pasted->name, pasted->values) ||
+        parts_.library.Colors().UpperBound() == before)
+        return;
+    const std::string made = parts_.list.SelectedKey();
+    parts_.library.Colors().SetValues(parts_.library.GetColornodeIndex(made), pasted->values);
+    parts_.panes.ShowColorNodes({}, made);
 }
 
 void EditingCommands::ShowInvalidFormat() {

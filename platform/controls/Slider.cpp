@@ -8,6 +8,7 @@ namespace {
 
 constexpr ControlKind kSlider{"Slider", TRACKBAR_CLASSW, ""};
 constexpr int kPageStep = 10;
+constexpr int kWheelStep = 3;
 
 } // namespace
 
@@ -30,6 +31,20 @@ int Slider::Position() const {
 
 MessageResult Slider::OnScroll(unsigned code) {
     if (code != TB_ENDTRACK) // the last position has been reported already
+        Raise(onMove, Position());
+    return 0;
+}
+
+// Not every version of the control answers the wheel, and those that do turn it either way.
+MessageResult Slider::OnMessage(const WindowMessage& message) {
+    if (message.id != WM_MOUSEWHEEL)
+        return {};
+    wheel_ += GET_WHEEL_DELTA_WPARAM(message.wParam);
+    const int notches = wheel_ / WHEEL_DELTA;
+    wheel_ %= WHEEL_DELTA;
+    const int before = Position();
+    SetPosition(before + notches * kWheelStep);
+    if (Position() != before)
         Raise(onMove, Position());
     return 0;
 }

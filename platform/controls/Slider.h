@@ -4,7 +4,8 @@
 
 #include <functional>
 
-// A slider from 0 to a maximum: arrow keys move by 1, page keys by 10.
+// A slider from 0 to a maximum: arrow keys move by 1, page keys by 10, a notch of the wheel by 3,
+// upwards to greater values.
 class Slider : public Control {
 public:
     Slider(Form& form, const ControlPlace& place, int maximum);
@@ -15,4 +16,10 @@ public:
 
     MessageResult OnScroll(unsigned code) override;
     void ApplyScale() override;
+
+protected:
+    MessageResult OnMessage(const WindowMessage& message) override;
+
+private:
+    int wheel_ = 0; // turned since the last whole notch
 };

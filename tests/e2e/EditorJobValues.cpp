@@ -100,8 +100,8 @@ void EditorJob::TurnWheel() {
     RealInput::PressKey(VK_TAB);
     RealInput::TurnWheel(Main().Slider(kGreen).Centre(), 1);
     Report().CheckBecomes(
-        "the wheel has moved the slider",
-        [this] { return Main().SliderPositions()[kGreen] != "100"; }, true);
+        "the wheel has moved the slider", [this] { return Main().SliderPositions()[kGreen]; },
+        std::string("103"));
     Report().CheckBecomes(
         "its box", [this] { return Main().ValueTexts()[kGreen]; },
         Main().SliderPositions()[kGreen]);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/RuntimeError.h"
 #include "mainwindow/MainView.h"
 
 #include <array>
@@ -28,6 +29,8 @@ public:
     float ListWidth() const override { return listWidth; }
     void AddColumns(const std::vector<ListColumn>& added) override { columns = added; }
     void RowsChanged(int count) override {
+        if (rowsChangeFails)
+            throw RuntimeError(ErrorNumber::Overflow, "Overflow");
         rowCount = count;
         selectedRow = -1;
     }
@@ -59,7 +62,10 @@ public:
     }
     void SetToolbarVisible(bool visible) override { toolbarVisible = visible; }
     void SetStatusBarVisible(bool visible) override { statusBarVisible = visible; }
-    void ArrangeBars() override { ++barArrangements; }
+    void ArrangeBars() override {
+        ++barArrangements;
+        layoutsBeforeBars = layouts;
+    }
     void SetInfoPanelText(const std::string& text) override { infoPanel = text; }
 
     // Layout
@@ -98,6 +104,7 @@ public:
     float listWidth = 6000;
     std::vector<ListColumn> columns;
     int rowCount = 0;
+    bool rowsChangeFails = false;
     int selectedRow = -1;
     int visibleRow = -1;
     int editedRow = -1;
@@ -116,6 +123,7 @@ public:
     bool toolbarVisible = true;
     bool statusBarVisible = true;
     int barArrangements = 0;
+    int layoutsBeforeBars = 0; // when the bars were arranged last
     std::string infoPanel;
     LayoutMetrics metrics{WindowState::Normal, 12000, 11760, 8000, 400, 300, 2400, 360};
     MainLayout layout;

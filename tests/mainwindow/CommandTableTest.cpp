@@ -1,6 +1,7 @@
 #include "mainwindow/CommandTable.h"
 
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,21 @@ TEST(CommandTable, ToolbarHasItsButtonsInTheirOrderWithTheirCommands) {
     for (const ToolbarRow& row : kToolbarRows)
         actual.push_back({row.key, row.group, row.toolTip, row.command});
     EXPECT_EQ(actual, expected);
+}
+
+TEST(CommandTable, EveryButtonHasAPictureOfItsOwnThatSaysWhatItDoes) {
+    std::set<std::string> pictures;
+    for (const ToolbarRow& row : kToolbarRows) {
+        if (row.command == 0) {
+            EXPECT_STREQ(row.icon, "");
+            continue;
+        }
+        EXPECT_STRNE(row.icon, "") << row.key;
+        EXPECT_TRUE(pictures.insert(row.icon).second) << row.key;
+        if (row.key == std::string("ToggleColorFrame")) {
+            EXPECT_STREQ(row.icon, "HugeSmall");
+        }
+    }
 }
 
 TEST(CommandTable, NewAndDeleteHaveTheirButtonMenus) {

@@ -32,6 +32,11 @@ protected:
                "9\"\r\n";
     }
     void Run(int command) { program.Main().RunCommand(command); }
+    // Into the first box, as the box itself reports it.
+    void Type(const std::string& text) {
+        program.view.valueTexts[0] = text;
+        program.Main().ValueTextChanged(0, text);
+    }
 
     FakeProgram program;
 };
@@ -187,6 +192,140 @@ TEST_F(EditingCommandsTest, CancelledDeletionsChangeNothing) {
     }
 }
 
+TEST_F(EditingCommandsTest, CancelledDeletionsKeepWhatWasTypedInTheEditor) {
+    program.view.selectedRow = 1;
+    program.Main().RowClicked(1);
+    Type("77");
+    const auto nodes = program.view.nodes;
+    for (const int command :
+         {IDM_mnuColorDelColor, IDM_mnuColorDelGroup, IDM_mnuColorDelMainNode}) {
+        program.prompts.answers = {Answer::Cancel};
+        Run(command);
+        EXPECT_EQ(program.view.nodes.size(), nodes.size());
+        EXPECT_EQ(program.view.rowCount, 2);
+        EXPECT_EQ(program.view.selectedRow, 1);
+        EXPECT_EQ(program.view.valueTexts[0], "77");
+    }
+}
+
+TEST_F(EditingCommandsTest, GroupThatIsGivenUpKeepsWhatWasTypedInTheEditor) {
+    Type("77");
+    program.prompts.typed = {""};
+    Run(IDM_mnuColorNewGroup);
+    EXPECT_EQ(program.view.valueTexts[0], "77");
+    EXPECT_EQ(program.view.selectedNode, "0D");
+}
+
+TEST_F(EditingCommandsTest, PasteIntoAnEmptyTreeGivesItsValuesToTheColorThatIsAskedFor) {
+    Run(IDM_mnuColorCopy);
+    Run(IDM_mnuColorDelMainNode);
+    program.prompts.typed = {"New library", "New group", "New color"};
+    Run(IDM_mnuColorPaste);
+    ASSERT_EQ(program.view.rowCount, 1);
+    EXPECT_EQ(program.Main().CellText(0, 1), "New color");
+    EXPECT_EQ(program.Main().CellText(0, 2), "1");
+    EXPECT_EQ(program.Main().CellText(0, 10), "9");
+    EXPECT_EQ(program.view.valueTexts[8], "9");
+}
+
+TEST_F(EditingCommandsTest, PasteIntoALibraryWithoutGroupsGivesItsValuesToTheColorThatIsAskedFor) {
+    Run(IDM_mnuColorCopy);
+    Run(IDM_mnuColorDelMainNode);
+    program.prompts.typed = {"New library", ""};
+    Run(IDM_mnuColorNewMainNode);
+    program.prompts.typed = {"New group", "New color"};
+    Run(IDM_mnuColorPaste);
+    ASSERT_EQ(program.view.rowCount, 1);
+    EXPECT_EQ(program.Main().CellText(0, 2), "1");
+}
+
+TEST_F(EditingCommandsTest, PasteThatIsGivenUpAtAnyQuestionSetsNothing) {
+    Run(IDM_mnuColorCopy);
+    Run(IDM_mnuColorDelMainNode);
+    using Inputs = decltype(program.prompts.typed);
+    for (const Inputs& inputs : {Inputs{""}, Inputs{"L1", ""}, Inputs{"L2", "G", ""}}) {
+        program.prompts.typed = inputs;
+        Run(IDM_mnuColorPaste);
+        EXPECT_EQ(program.view.rowCount, 0);
+        if (!program.view.nodes.empty())
+            Run(IDM_mnuColorDelMainNode);
+    }
+}
+
+TEST_F(EditingCommandsTest, RefusedCopyOntoAGroupLeavesTreeAndListInAgreement) {
+    program.Main().NodeClicked("0DG1");
+    program.Main().RowLabelEdited(0, "with, comma");
+    DragPoint list;
+    list.isOverList = true;
+    DragPoint group;
+    group.node = "0DG2";
+    HeldKeys keys;
+    keys.ctrl = true;
+    program.Main().ListPressed();
+    ASSERT_TRUE(program.Main().DragStarted(keys, list));
+    program.Main().DragDropped(group);
+    EXPECT_EQ(program.view.selectedNode, "0DG1");
+    EXPECT_EQ(program.view.rowCount, 2);
+    EXPECT_EQ(program.prompts.messages.size(), 1U);
+}
+
+TEST_F(EditingCommandsTest, PasteTakesNameAndValuesAndNeitherSecondNameNorGroup) {
+    program.clipboard.text = "E#a=b:c,d:x,1,2,3,4,5,6,7,8,9"; // the first colon stands in the name
+    Run(IDM_mnuColorPaste);
+    ASSERT_EQ(program.view.rowCount, 3);
+    Run(IDM_mnuColorCopy);
+    EXPECT_EQ(program.clipboard.text, "E#a=0DG1:a,1,2,3,4,5,6,7,8,9");
+}
+
+TEST_F(EditingCommandsTest, ColonBeforeTheThirdCharacterBehindTheNameIsNotTheOneOfTheGroup) {
+    program.clipboard.text = "E#a=1:x,1,2,3,4,5,6,7,8,9";
+    Run(IDM_mnuColorPaste);
+    EXPECT_EQ(program.prompts.messages, (std::vector<Message>{{"<5> CLIPBOARD", 48, "<98>"}}));
+    EXPECT_EQ(program.view.rowCount, 2);
+}
+
+TEST_F(EditingCommandsTest, ColorMayBePastedWithAnEmptyName) {
+    program.clipboard.text = "E#=0DG1:x,1,2,3,4,5,6,7,8,9";
+    Run(IDM_mnuColorPaste);
+    Run(IDM_mnuColorCopy);
+    EXPECT_EQ(program.clipboard.text, "E#=0DG1:,1,2,3,4,5,6,7,8,9");
+}
+
+TEST_F(EditingCommandsTest, MovedColorGetsANewKeyInItsGroup) {
+    Run(IDM_mnuColorCut);
+    program.Main().NodeClicked("0DG2");
+    Run(IDM_mnuColorPaste);
+    Run(IDM_mnuColorDelGroup);
+    EXPECT_EQ(program.prompts.messages,
+              (std::vector<Message>{{"<99>\r\n<101>\r\nh\r\na (0DG2E1)\r\n", 289, "<98>"}}));
+}
+
+TEST_F(EditingCommandsTest, WhateverWasChangedClosingAndQuittingAskNothing) {
+    Run(IDM_mnuColorCopy);
+    Run(IDM_mnuColorPaste);
+    program.Main().RowLabelEdited(0, "renamed");
+    Run(IDM_mnuColorCut);
+    program.prompts.typed = {"New color"};
+    Run(IDM_mnuColorNewColor);
+    program.prompts.messages.clear();
+    program.prompts.questions.clear();
+    program.Main().NodeClicked("0D");
+    Run(IDM_mnuFileClose);
+    EXPECT_TRUE(program.view.nodes.empty());
+    Run(IDM_mnuQuit);
+    EXPECT_TRUE(program.view.isEnded);
+    EXPECT_TRUE(program.prompts.messages.empty());
+    EXPECT_TRUE(program.prompts.questions.empty());
+}
+
+TEST_F(EditingCommandsTest, PastedColorBelongsToTheGroupThatIsSelected) {
+    program.clipboard.text = kLineOfA;
+    program.Main().NodeClicked("0DG2");
+    Run(IDM_mnuColorPaste);
+    Run(IDM_mnuColorCopy);
+    EXPECT_EQ(program.clipboard.text, "E#a=0DG2:a,1,2,3,4,5,6,7,8,9");
+}
+
 TEST_F(EditingCommandsTest, DeletingAGroupAsksOnceAndListsItsColors) {
     Run(IDM_mnuColorDelGroup);
     EXPECT_EQ(program.prompts.messages,
@@ -294,6 +433,22 @@ TEST_F(EditingCommandsTest, CutRestoresConfirmDelAlsoWhenTheClipboardIsBusy) {
     program.clipboard.isBusy = false;
     Run(IDM_mnuColorDelColor);
     EXPECT_EQ(program.prompts.messages.size(), 1U);
+}
+
+TEST_F(EditingCommandsTest, CutRestoresConfirmDelAlsoWhenTheDeletionFails) {
+    program.view.rowsChangeFails = true;
+    EXPECT_THROW(Run(IDM_mnuColorCut), RuntimeError);
+    program.view.rowsChangeFails = false;
+    EXPECT_TRUE(program.prompts.messages.empty());
+    program.Main().NodeClicked("0DG1");
+    Run(IDM_mnuColorDelColor);
+    EXPECT_EQ(program.prompts.messages.size(), 1U) << "deleting asks again";
+}
+
+TEST_F(EditingCommandsTest, RepaintOfTheWindowGivesTheSwatchItsColorOfText) {
+    program.view.smallSwatchText = 0x123456;
+    program.Main().Repainted();
+    EXPECT_NE(program.view.smallSwatchText, 0x123456U);
 }
 
 } // namespace

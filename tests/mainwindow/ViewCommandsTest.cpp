@@ -95,6 +95,25 @@ TEST_F(ViewCommandsTest, EverySwitchRunsTheLayoutPassAndItsSettingFollowsTheMark
         }
 }
 
+TEST_F(ViewCommandsTest, BarsAreArrangedBeforeTheLayoutThatTakesTheirHeight) {
+    for (const int command : {IDM_mnuViewToolbar, IDM_mnuViewBarStandards, IDM_mnuViewBarColor,
+                              IDM_mnuViewBarListview, IDM_mnuViewBarSolidWorks}) {
+        const int arrangements = view.barArrangements;
+        views.Toggle(command);
+        EXPECT_EQ(view.barArrangements, arrangements + 1) << command;
+        EXPECT_LT(view.layoutsBeforeBars, view.layouts) << command;
+    }
+}
+
+TEST_F(ViewCommandsTest, LargeEditorTakesItsHeightFromThePanes) {
+    layout.Resize();
+    const float before = view.layout.tree.height;
+    views.Toggle(IDM_mnuViewHugeColorDialog);
+    EXPECT_LT(view.layout.tree.height, before);
+    views.Toggle(IDM_mnuViewHugeColorDialog);
+    EXPECT_EQ(view.layout.tree.height, before);
+}
+
 TEST_F(ViewCommandsTest, OneOfTheFourViewsIsMarkedAndPressed) {
     struct View {
         ListViewMode mode;

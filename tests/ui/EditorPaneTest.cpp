@@ -105,6 +105,21 @@ TEST_F(MainEditorPane, SlidersHaveTheRangesAndStepsOfTheirValues) {
     }
 }
 
+TEST_F(MainEditorPane, WheelTurnsUpToGreaterValuesAndReportsThem) {
+    form.SetSlider(7, 40);
+    const auto turn = [this](int delta) {
+        SendMessageW(Slide(7), WM_MOUSEWHEEL, static_cast<WPARAM>(MAKELONG(0, delta)), 0);
+    };
+    turn(WHEEL_DELTA);
+    turn(-2 * WHEEL_DELTA);
+    turn(WHEEL_DELTA / 2);
+    turn(WHEEL_DELTA / 2);
+    turn(100 * WHEEL_DELTA);
+    turn(WHEEL_DELTA); // at the end already
+    EXPECT_EQ(events.lines, (std::vector<std::string>{"slider 7=43", "slider 7=37", "slider 7=40",
+                                                      "slider 7=100"}));
+}
+
 TEST_F(MainEditorPane, SliderKeysReportEachPositionOnce) {
     form.SetSlider(7, 40);
     EXPECT_TRUE(events.lines.empty());
