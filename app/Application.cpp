@@ -27,7 +27,7 @@ Application::Application(const Platform& platform, const Windows& windows, const
       banner_(links_, data.bannerAddresses, [this](int index) { ShowBanner(index); }),
       systemInformation_(
           {platform.registry, platform.codePage, platform.files, platform.shell, platform.prompts}),
-      localisation_(language_, data.programFolder,
+      localisation_(language_, data.languageFolder,
                     {&windows.mainForm, &windows.about, &windows.progressForm}),
       options_({settings_, localisation_, windows.mainView, windows.mainWindow,
                 [this] { settingsStore_.Save(settings_); }}),
@@ -62,7 +62,7 @@ void Application::SetFormDefaults() {
 
 void Application::Quit() {
     windows_.mainView.StopBannerTimer();
-    settingsStore_.SaveLastSponsorShown(banner_.Index());
+    settingsStore_.SaveLastSponsorShown(banner_.IndexToStore());
     windows_.mainView.EndProgram();
 }
 

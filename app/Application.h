@@ -70,6 +70,7 @@ public:
         std::string programFolder; // without a backslash at its end
         std::string version;       // major, minor and revision joined by "."
         std::vector<std::string> bannerAddresses;
+        std::string languageFolder; // the program's, as functions of the code page know it
     };
 
     Application(const Platform& platform, const Windows& windows, const Data& data);

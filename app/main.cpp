@@ -72,11 +72,11 @@ int RunProgram() {
     TextViewerOnDemand textViewer(mainWindow, errors, banners);
     frmProgress progress(mainWindow, errors, kProgressPatience);
 
-    Application application(
-        {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
-         language, errors},
-        {main, main, main, about, textViewer, progress, progress, progress},
-        {programFolder, kVersion, BannerAddresses(files, bannerFolder, banners)});
+    Application application({files, codePage, registry, prompts, clipboard, collation, shell,
+                             events, automation, retry, language, errors},
+                            {main, main, main, about, textViewer, progress, progress, progress},
+                            {programFolder, kVersion, BannerAddresses(files, bannerFolder, banners),
+                             FolderForCodePage(programFolder, codePage)});
     main.Attach(application.MainEvents());
     about.Attach(application.AboutWindowEvents());
     textViewer.Attach(application.TextViewerWindowEvents());

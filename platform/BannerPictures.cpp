@@ -31,10 +31,9 @@ BannerPictures::BannerPictures(const std::string& folder) {
     const std::wstring path = ToUtf16(folder);
     for (const std::wstring& name : BitmapFiles(path)) {
         const std::wstring file = std::wstring(path).append(L"\\").append(name);
-        BitmapHandle picture(static_cast<HBITMAP>(LoadImageW(
+        // One that cannot be loaded keeps its place, so that the others keep their addresses.
+        pictures_.emplace_back(static_cast<HBITMAP>(LoadImageW(
             nullptr, file.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION)));
-        if (picture)
-            pictures_.push_back(std::move(picture));
     }
 }
 

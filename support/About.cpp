@@ -15,8 +15,8 @@ void About::ShowModal() {
     parts_.view.SetWindowCaption(std::string(ProgramNames::Title) + " - Info ");
     parts_.view.SetVersion("Version " + parts_.version);
     parts_.view.SetTitle(ProgramNames::Title);
-    parts_.view.SetBanner(parts_.banner.Index());
     parts_.language.SetAllControlText(parts_.view);
+    parts_.view.SetBanner(parts_.banner.Index()); // the window has its size from here on
     position_.CenterForm();
     SetFormOnTop(parts_.view, parts_.settings.alwaysOnTop);
     parts_.view.ShowModal();

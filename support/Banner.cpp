@@ -30,9 +30,9 @@ std::vector<std::string> ParseBannerAddresses(const std::string& text) {
 }
 
 void Banner::Start(const std::string& storedIndex) {
-    const int stored = NumberOrFirst(storedIndex);
-    const bool isPicture = stored >= 1 && stored <= Count();
-    Show(addresses_.empty() ? 0 : (isPicture ? stored : 1));
+    stored_ = NumberOrFirst(storedIndex);
+    const bool isPicture = stored_ >= 1 && stored_ <= Count();
+    Show(addresses_.empty() ? 0 : (isPicture ? stored_ : 1));
 }
 
 void Banner::Tick() {

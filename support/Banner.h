@@ -29,6 +29,9 @@ public:
     // From 1; 0: there are no pictures.
     [[nodiscard]] int Index() const noexcept { return index_; }
 
+    // What Quit stores; without pictures the number that was stored before.
+    [[nodiscard]] int IndexToStore() const noexcept { return index_ > 0 ? index_ : stored_; }
+
 private:
     [[nodiscard]] int Count() const noexcept { return static_cast<int>(addresses_.size()); }
     void Show(int index);
@@ -37,5 +40,6 @@ private:
     std::vector<std::string> addresses_;
     std::function<void(int)> show_;
     int index_ = 0;
+    int stored_ = 1;
     int counter_ = 0; // of the timer; starts from the index
 };

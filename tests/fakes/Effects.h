@@ -141,5 +141,5 @@ public:
                              language, errors},
                             {view, window, form, rest.about, rest.textViewer, rest.progress,
                              rest.progressWindow, rest.progressForm},
-                            {"C:\\prog", "1.2.7", {"https://www.example.org/1"}}};
+                            {"C:\\prog", "1.2.7", {"https://www.example.org/1"}, "C:\\prog"}};
 };

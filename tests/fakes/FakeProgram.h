@@ -124,5 +124,6 @@ public:
         {view, mainWindow, mainForm, about, textViewer, progress, progressWindow, progressForm},
         {"C:\\prog",
          "1.2.7",
-         {"https://www.example.org/1", "https://www.example.org/2", "https://www.example.org/3"}}};
+         {"https://www.example.org/1", "https://www.example.org/2", "https://www.example.org/3"},
+         "C:\\prog"}};
 };

@@ -201,6 +201,19 @@ TEST_F(ProgramStart, FilesThatCannotBeReadLeaveAUsableWindow) {
     EXPECT_EQ(program.Quit(), 0U);
 }
 
+// Greek letters, which no code page of Western or Cyrillic systems has together with its own.
+TEST_F(ProgramStart, FolderThatTheCodePageCannotHoldStillGivesItsLanguages) {
+    const std::filesystem::path target =
+        std::filesystem::path(ToUtf16(folder.Path())) / L"\x03C7\x03C1\x03CE\x03BC\x03B1 \x0436";
+    std::filesystem::create_directory(target);
+    for (const wchar_t* name : {L"tnt4swx.exe", L"tntlng_us.ini"})
+        std::filesystem::copy_file(BuiltProgram().parent_path() / name, target / name);
+    const RunningTnt program(target / L"tnt4swx.exe");
+    EXPECT_TRUE(program.IsUsable());
+    EXPECT_EQ(program.Main().Child(IDC_fraShowColor).Text(), "Active color");
+    EXPECT_EQ(program.Quit(), 0U);
+}
+
 TEST_F(ProgramStart, SecondCopyRunsBesideTheFirst) {
     const RunningTnt first;
     EXPECT_TRUE(first.IsUsable());

@@ -270,6 +270,18 @@ TEST(Banner, WithoutPicturesNothingIsShownAndAClickDoesNothing) {
     EXPECT_TRUE(shell.requests.empty());
 }
 
+TEST(Banner, WithoutPicturesTheStoredNumberIsStoredAgain) {
+    FakeShell shell;
+    const modinternet links(shell);
+    Banner none(links, {}, [](int) {});
+    none.Start("2");
+    EXPECT_EQ(none.IndexToStore(), 2);
+    Banner three(links, {"a", "b", "c"}, [](int) {});
+    three.Start("2");
+    three.Tick();
+    EXPECT_EQ(three.IndexToStore(), 3);
+}
+
 TEST(Banner, AddressesAreTheLinesThatAreNotEmpty) {
     EXPECT_EQ(ParseBannerAddresses("a\r\n\r\nb \nc"), (std::vector<std::string>{"a", "b", "c"}));
     EXPECT_TRUE(ParseBannerAddresses("").empty());

@@ -6,6 +6,9 @@
 #include "tests/ui/MainFormTest.h"
 #include "tests/ui/RealProgram.h"
 
+#include <functional>
+#include <utility>
+
 namespace {
 
 bool IsTopmost(HWND window) {
@@ -71,7 +74,6 @@ protected:
             EXPECT_EQ(ToUtf8(TextOf(FindChild(form, id))), InFile(code, section, key));
         };
         const HWND main = program->main.Handle();
-        const HWND about = program->about.Handle();
         expectText(main, IDC_tlbarMain, "frmMain", "nameToolbar.Caption");
         expectText(main, IDC_tvColor, "frmMain", "nameTree.Caption");
         expectText(main, IDC_lvColor, "frmMain", "nameList.Caption");
@@ -80,9 +82,19 @@ protected:
         expectText(main, IDC_fraShowColor, "frmMain", "fraShowColor.Caption");
         expectText(main, IDC_lblAmbient, "frmMain", "lblAmbient.Caption");
         expectText(main, IDC_lblSpecular, "frmMain", "lblSpecular.Caption");
-        expectText(about, IDC_lblDescription, "frmAbout", "lblDescription.Caption");
-        expectText(about, IDC_lblLinkHomepage, "frmAbout", "lblLinkHomepage.Caption");
         expectText(program->progress.Handle(), IDC_cmdCancel, "frmProgress", "cmdCancel.Caption");
+    }
+    // Opens the About window, looks at it while it is shown, and closes it.
+    void LookAtAbout(std::function<void(HWND)> look) const {
+        static std::function<void(HWND)> pending;
+        pending = std::move(look);
+        SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR timer, DWORD) {
+            KillTimer(nullptr, timer);
+            const HWND about = FindWindowW(L"frmAbout", nullptr);
+            pending(about);
+            PostMessageW(about, WM_CLOSE, 0, 0);
+        });
+        program->Run(IDM_mnuHlpAbout);
     }
     [[nodiscard]] bool IsChecked(int command) const {
         return (GetMenuState(GetMenu(program->main.Handle()), static_cast<UINT>(command),
@@ -110,6 +122,28 @@ TEST_F(LanguageSwitch, EveryTextOfTheFormsFollowsBackAndForth) {
         ExpectLabels(code);
     }
     EXPECT_TRUE(program->prompts.messages.empty());
+}
+
+TEST_F(LanguageSwitch, AboutHasItsTextsAndStandsInTheMiddleWheneverItOpens) {
+    Start();
+    for (const auto& [command, code] :
+         {std::pair{IDM_mnuOptionsLngEnglish, "us"}, std::pair{IDM_mnuOptionsLngGerman, "de"}}) {
+        SCOPED_TRACE(code);
+        program->Run(command);
+        bool isShown = false;
+        LookAtAbout([&, code = std::string(code)](HWND about) {
+            isShown = IsWindowVisible(about) != FALSE;
+            for (const auto& [id, key] : {std::pair{IDC_lblDisclaimer, "lblDisclaimer.Caption"},
+                                          std::pair{IDC_lblDescription, "lblDescription.Caption"},
+                                          std::pair{IDC_cmdSysInfo, "cmdSysInfo.Caption"}})
+                EXPECT_EQ(ToUtf8(TextOf(FindChild(about, id))), InFile(code, "frmAbout", key));
+            RECT bounds{};
+            GetWindowRect(about, &bounds);
+            EXPECT_NEAR(bounds.left + bounds.right, GetSystemMetrics(SM_CXSCREEN), 2);
+            EXPECT_NEAR(bounds.top + bounds.bottom, GetSystemMetrics(SM_CYSCREEN), 2);
+        });
+        EXPECT_TRUE(isShown);
+    }
 }
 
 TEST_F(LanguageSwitch, ShortcutsInTheMenusAreNamedAsTheKeyboardsOfTheLanguageNameThem) {

@@ -67,11 +67,11 @@ public:
     ErrorReporter errors{prompts, language};
     BannerPictures banners;
     frmMain main{errors, banners};
-    frmAbout about{main.Handle(), errors, banners};
+    AboutOnDemand about{main.Handle(), errors, banners};
     frmTxtView textViewer{main.Handle(), errors, banners};
     frmProgress progress{main.Handle(), errors};
     Application application{{files, page, registry, prompts, clipboard, collation, shell, events,
                              automation, retry, language, errors},
                             {main, main, main, about, textViewer, progress, progress, progress},
-                            {folder, "1.0.0", {}}};
+                            {folder, "1.0.0", {}, folder}};
 };

@@ -1,0 +1,45 @@
+#include "platform/BannerPictures.h"
+
+#include "tests/platform/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// A picture of one white pixel.
+std::string Bitmap() {
+    constexpr unsigned char kBytes[] = {'B', 'M', 58, 0, 0, 0, 0, 0, 0, 0,   54,  0,   0, 0,  40,
+                                        0,   0,   0,  1, 0, 0, 0, 1, 0, 0,   0,   1,   0, 24, 0,
+                                        0,   0,   0,  0, 4, 0, 0, 0, 0, 0,   0,   0,   0, 0,  0,
+                                        0,   0,   0,  0, 0, 0, 0, 0, 0, 255, 255, 255, 0};
+    return {std::begin(kBytes), std::end(kBytes)};
+}
+
+TEST(BannerPictures, AreTheBitmapsOfTheFolderInTheOrderOfTheirNames) {
+    const ScratchFolder folder;
+    for (const char* name : {"b.bmp", "a.bmp", "banners.txt"})
+        folder.Write(name, Bitmap());
+    const BannerPictures pictures(folder.Path());
+    EXPECT_EQ(pictures.Count(), 2);
+    EXPECT_NE(pictures.Picture(1), nullptr);
+    EXPECT_NE(pictures.Picture(2), nullptr);
+    EXPECT_EQ(pictures.Picture(0), nullptr);
+    EXPECT_EQ(pictures.Picture(3), nullptr);
+}
+
+TEST(BannerPictures, OneThatCannotBeLoadedKeepsItsPlace) {
+    const ScratchFolder folder;
+    folder.Write("1.bmp", Bitmap());
+    folder.Write("2.bmp", "no picture");
+    folder.Write("3.bmp", Bitmap());
+    const BannerPictures pictures(folder.Path());
+    EXPECT_EQ(pictures.Count(), 3);
+    EXPECT_EQ(pictures.Picture(2), nullptr);
+    EXPECT_NE(pictures.Picture(3), nullptr);
+}
+
+TEST(BannerPictures, FolderThatIsNotThereHasNone) {
+    EXPECT_EQ(BannerPictures("C:\\no\\such\\folder").Count(), 0);
+}
+
+} // namespace
