@@ -1,8 +1,9 @@
-#include "tests/e2e/FilesJob.h"
 #include "tests/e2e/EditorJob.h"
+#include "tests/e2e/FilesJob.h"
 #include "tests/e2e/MainJob.h"
-#include "tests/e2e/ViewsJob.h"
 #include "tests/e2e/MouseJob.h"
+#include "tests/e2e/ViewsJob.h"
+#include "tests/e2e/WindowsJob.h"
 
 #include "platform/Utf16.h"
 
@@ -37,8 +38,9 @@ JobMaker Maker() {
 
 const std::map<std::string, JobMaker>& Jobs() {
     static const std::map<std::string, JobMaker> jobs = {
-        {"files", Maker<FilesJob>()}, {"editor", Maker<EditorJob>()}, {"main", Maker<MainJob>()},
-        {"views", Maker<ViewsJob>()}, {"mouse", Maker<MouseJob>()},
+        {"editor", Maker<EditorJob>()}, {"files", Maker<FilesJob>()},
+        {"main", Maker<MainJob>()},     {"mouse", Maker<MouseJob>()},
+        {"views", Maker<ViewsJob>()},   {"windows", Maker<WindowsJob>()},
     };
     return jobs;
 }
