@@ -31,6 +31,7 @@ void ColorEditor::ShowInitialColor() {
 
 void ColorEditor::ShowColor(const ColorRecord& color) {
     Load(color, kFullComplementMask);
+    isNameOfLibrary_ = true;
 }
 
 void ColorEditor::ShowColorFromSolidWorks(const ColorRecord& color) {
@@ -52,6 +53,7 @@ void ColorEditor::Load(const ColorRecord& color, ColorNumber complementMask) {
 
 void ColorEditor::Rename(const std::string& name) {
     SetName(name);
+    isNameOfLibrary_ = true;
     ShowCaption();
 }
 
@@ -61,6 +63,7 @@ void ColorEditor::ShowCaption() {
 
 void ColorEditor::SetName(const std::string& name) {
     name_ = name;
+    isNameOfLibrary_ = false;
     pane_.SetColorName(name);
 }
 

@@ -28,6 +28,9 @@ public:
 
     void SetName(const std::string& name);
 
+    // Whether the name is that of a colour of the library, not one of SolidWorks or of the start.
+    [[nodiscard]] bool IsNameOfLibrary() const noexcept { return isNameOfLibrary_; }
+
     // The shown colour was renamed in the library: also the small swatch follows while it carries
     // the name.
     void Rename(const std::string& name);
@@ -70,5 +73,6 @@ private:
     std::array<std::string, kColorValueCount> texts_;
     ColorNumber swatch_ = 0;      // background of both swatches
     bool captionHasName_ = false; // of the small swatch
+    bool isNameOfLibrary_ = false;
     std::string captionNumbers_;
 };

@@ -74,6 +74,6 @@ void LibraryPanes::RowLabelEdited(int row, const std::string& text) {
     if (index == 0)
         return;
     library_.Colors().SetNames(index, text);
-    if (list_.SelectedRow() == row)
+    if (list_.SelectedRow() == row && editor_.IsNameOfLibrary())
         editor_.Rename(text);
 }

@@ -214,9 +214,9 @@ MessageResult ListView::OnMessage(const WindowMessage& message) {
     case WM_LBUTTONDOWN:
         Raise(onPress);
         return PressLeft(message);
-    case WM_LBUTTONDBLCLK:
+    case WM_LBUTTONDBLCLK: // no command of its own
         Raise(onPress);
-        return {};
+        return RowAt(PointOf(message)) < 0 ? 0 : KeepSelection(message);
     case WM_RBUTTONDOWN:
         Raise(onPress);
         PressRight(message);

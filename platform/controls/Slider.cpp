@@ -3,6 +3,7 @@
 #include "platform/DpiScale.h"
 
 #include <commctrl.h>
+#include <utility>
 
 namespace {
 
@@ -23,6 +24,7 @@ Slider::Slider(Form& form, const ControlPlace& place, int maximum)
 
 void Slider::SetPosition(int position) {
     Send(TBM_SETPOS, TRUE, position);
+    known_ = Position();
 }
 
 int Slider::Position() const {
@@ -31,8 +33,15 @@ int Slider::Position() const {
 
 MessageResult Slider::OnScroll(unsigned code) {
     if (code != TB_ENDTRACK) // the last position has been reported already
-        Raise(onMove, Position());
+        ReportMove();
     return 0;
+}
+
+// A press, or a step at the end of the range, moves nothing.
+void Slider::ReportMove() {
+    const int position = Position();
+    if (std::exchange(known_, position) != position)
+        Raise(onMove, position);
 }
 
 // Not every version of the control answers the wheel, and those that do turn it either way.
@@ -42,10 +51,8 @@ MessageResult Slider::OnMessage(const WindowMessage& message) {
     wheel_ += GET_WHEEL_DELTA_WPARAM(message.wParam);
     const int notches = wheel_ / WHEEL_DELTA;
     wheel_ %= WHEEL_DELTA;
-    const int before = Position();
-    SetPosition(before + notches * kWheelStep);
-    if (Position() != before)
-        Raise(onMove, Position());
+    Send(TBM_SETPOS, TRUE, Position() + notches * kWheelStep);
+    ReportMove();
     return 0;
 }
 

@@ -21,5 +21,8 @@ protected:
     MessageResult OnMessage(const WindowMessage& message) override;
 
 private:
+    void ReportMove();
+
+    int known_ = 0; // position that was set or reported last
     int wheel_ = 0; // turned since the last whole notch
 };

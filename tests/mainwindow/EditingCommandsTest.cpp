@@ -448,7 +448,7 @@ TEST_F(EditingCommandsTest, CutRestoresConfirmDelAlsoWhenTheDeletionFails) {
 TEST_F(EditingCommandsTest, RepaintOfTheWindowGivesTheSwatchItsColorOfText) {
     program.view.smallSwatchText = 0x123456;
     program.Main().Repainted();
-    EXPECT_NE(program.view.smallSwatchText, 0x123456U);
+    EXPECT_EQ(program.view.smallSwatchText, program.view.smallSwatch ^ 0xFFFFFU);
 }
 
 } // namespace

@@ -110,6 +110,8 @@ TEST_F(LibraryPanesTest, LibraryWithoutGroupsShowsAnEmptyList) {
 }
 
 TEST_F(LibraryPanesTest, WithoutASelectedNodeANewLibraryIsAskedForAndTheListIsEmpty) {
+    panes.NodeClicked("0DG1");
+    ASSERT_EQ(view.rowCount, 3);
     library.Tree().Remove("0D");
     panes.ShowColorNodes({}, {});
     ASSERT_EQ(prompts.questions.size(), 1U);
@@ -118,6 +120,8 @@ TEST_F(LibraryPanesTest, WithoutASelectedNodeANewLibraryIsAskedForAndTheListIsEm
 }
 
 TEST_F(LibraryPanesTest, RefreshAfterADeletionNeverAsks) {
+    panes.NodeClicked("0DG1");
+    ASSERT_EQ(view.rowCount, 3);
     library.Tree().Remove("0D");
     panes.ShowSelectedGroup();
     EXPECT_TRUE(prompts.questions.empty());
@@ -130,6 +134,31 @@ TEST_F(LibraryPanesTest, RenamedColorTakesTheTextAsTypedInBothNames) {
     EXPECT_EQ(library.Colors().At(1).name, "");
     EXPECT_EQ(library.Colors().At(1).altName, "");
     EXPECT_EQ(view.colorName, "") << "the editor's name label follows";
+}
+
+TEST_F(LibraryPanesTest, RenamedColorLeavesTheNameOfAnotherColorInTheEditor) {
+    panes.NodeClicked("0DG1");
+    ColorRecord picked;
+    picked.name = "Neuer Farbwert";
+    editor.ShowColorFromSolidWorks(picked);
+    panes.RowLabelEdited(0, "renamed");
+    EXPECT_EQ(view.colorName, "Neuer Farbwert");
+    EXPECT_EQ(library.Colors().At(1).name, "renamed");
+}
+
+TEST_F(LibraryPanesTest, SelectKeyIsNotRememberedInAGroupWithoutColors) {
+    panes.ShowColorNodes("0DG2", "0DG2E1");
+    EXPECT_EQ(library.Tree().At("0DG2").tag, "");
+}
+
+TEST_F(LibraryPanesTest, UpdateWithATextThatIsNoNumberChangesNothing) {
+    panes.NodeClicked("0DG1");
+    editor.SetName("other");
+    EXPECT_THROW(editor.SetText(4, "."), RuntimeError);
+    EXPECT_THROW(panes.UpdateFromColorPreview(), RuntimeError);
+    EXPECT_EQ(library.Colors().At(1).name, "b");
+    EXPECT_EQ(library.Colors().At(1).values[0], 20);
+    EXPECT_EQ(list.CellText(0, 1), "b");
 }
 
 TEST_F(LibraryPanesTest, RenamedNodeIsWhatIsSaved) {
@@ -244,6 +273,21 @@ TEST_F(LibraryPanesTest, ColumnsAreSharesOfTheListsWidth) {
         EXPECT_EQ(view.columns[column + 1].key, keys[column]);
         EXPECT_EQ(view.columns[column + 1].width, 500);
     }
+}
+
+TEST_F(LibraryPanesTest, WidthsOfColumnsAreRoundedToWholeNumbers) {
+    view.listWidth = 6010;
+    list.AddColumns();
+    EXPECT_EQ(view.columns[0].width, 1442);
+    EXPECT_EQ(view.columns[1].width, 501);
+}
+
+TEST_F(LibraryPanesTest, FirstRowOfASortedListIsSelectedWhereNothingIsRemembered) {
+    list.ColumnClicked(2);
+    panes.NodeClicked("0DG1");
+    EXPECT_EQ(ShownNames(), (Names{"A", "b", "c"}));
+    EXPECT_EQ(view.selectedRow, 0);
+    EXPECT_EQ(view.colorName, "A");
 }
 
 TEST_F(LibraryPanesTest, TypedLettersFindTheNextNameFromTheStartRowOnwards) {

@@ -105,6 +105,19 @@ TEST_F(MainEditorPane, SlidersHaveTheRangesAndStepsOfTheirValues) {
     }
 }
 
+TEST_F(MainEditorPane, SliderThatDoesNotMoveReportsNothing) {
+    form.SetSlider(7, 0);
+    SendMessageW(Slide(7), WM_KEYDOWN, VK_LEFT, 0);
+    SendMessageW(GetParent(Slide(7)), WM_HSCROLL, MAKEWPARAM(TB_THUMBPOSITION, 0),
+                 reinterpret_cast<LPARAM>(Slide(7)));
+    EXPECT_TRUE(events.lines.empty());
+    form.SetSlider(7, 100);
+    SendMessageW(Slide(7), WM_KEYDOWN, VK_RIGHT, 0);
+    EXPECT_TRUE(events.lines.empty());
+    SendMessageW(Slide(7), WM_KEYDOWN, VK_LEFT, 0);
+    EXPECT_EQ(events.lines, std::vector<std::string>{"slider 7=99"});
+}
+
 TEST_F(MainEditorPane, WheelTurnsUpToGreaterValuesAndReportsThem) {
     form.SetSlider(7, 40);
     const auto turn = [this](int delta) {

@@ -97,6 +97,39 @@ TEST_F(MainList, ClickBesideTheRowsKeepsTheSelection) {
     EXPECT_TRUE(events.lines.empty());
 }
 
+TEST_F(MainList, DoubleClickDoesNothingAndKeepsTheSelection) {
+    form.ShowWindow();
+    form.SelectRow(2);
+    RECT area{};
+    GetClientRect(List(), &area);
+    const POINT beside{area.right - 4, area.bottom - 4};
+    for (const auto& [at, keys] :
+         {std::pair{PlaceOf(2), 0}, std::pair{beside, 0}, std::pair{PlaceOf(2), MK_CONTROL}}) {
+        Click(List(), at);
+        SendMessageW(List(), WM_LBUTTONDBLCLK, static_cast<WPARAM>(MK_LBUTTON | keys),
+                     MAKELPARAM(at.x, at.y));
+        SendMessageW(List(), WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+        PumpMessages();
+        EXPECT_EQ(Selected(), 2);
+        EXPECT_EQ(LabelBox(), nullptr);
+    }
+    EXPECT_TRUE(events.commands.empty());
+}
+
+TEST_F(MainList, RightButtonBesideTheRowsOpensTheMenuAndKeepsTheSelection) {
+    form.ShowWindow();
+    form.SelectRow(2);
+    RECT area{};
+    GetClientRect(List(), &area);
+    PostMessageW(form.Handle(), WM_KEYDOWN, VK_UP, 0);
+    PostMessageW(form.Handle(), WM_KEYDOWN, VK_RETURN, 0);
+    SendMessageW(List(), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(area.right - 4, area.bottom - 4));
+    PumpMessages();
+    EXPECT_EQ(Selected(), 2);
+    EXPECT_TRUE(events.lines.empty());
+    EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuColorUpdateColor});
+}
+
 TEST_F(MainList, RightButtonSelectsTheRowAndOpensTheColorMenu) {
     form.ShowWindow();
     form.SelectRow(0);

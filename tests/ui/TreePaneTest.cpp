@@ -66,6 +66,34 @@ TEST_F(MainTree, MirrorsTheNodesItIsTold) {
     EXPECT_TRUE(events.lines.empty());
 }
 
+TEST_F(MainTree, LibrariesAndGroupsHaveTheirOwnPictures) {
+    const auto picture = [this](HTREEITEM item) {
+        TVITEMW info{};
+        info.mask = TVIF_HANDLE | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+        info.hItem = item;
+        SendMessageW(Tree(), TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&info));
+        EXPECT_EQ(info.iImage, info.iSelectedImage);
+        return info.iImage;
+    };
+    const HTREEITEM library = Next(TVGN_ROOT);
+    const HTREEITEM group = Next(TVGN_CHILD, library);
+    EXPECT_NE(picture(library), picture(group));
+    EXPECT_EQ(picture(group), picture(Next(TVGN_NEXT, group)));
+}
+
+TEST_F(MainTree, EmptyNameIsReportedAndAnEmptiedOneThatIsGivenUpIsNot) {
+    form.ShowWindow();
+    form.NodeSelected("1DG1");
+    form.EditNodeLabel("1DG1");
+    TypeLabel(L"", VK_ESCAPE);
+    PumpMessages();
+    EXPECT_TRUE(events.lines.empty());
+    form.EditNodeLabel("1DG1");
+    TypeLabel(L"", VK_RETURN);
+    PumpMessages();
+    EXPECT_EQ(events.lines, std::vector<std::string>{"node label 1DG1="});
+}
+
 TEST_F(MainTree, RemovedNodeTakesItsGroupsWithIt) {
     form.NodeSelected("1DG1");
     form.NodeRemoved("1D");
