@@ -29,7 +29,8 @@
 namespace {
 
 constexpr const char* kVersion = TNT_VERSION;
-constexpr std::chrono::milliseconds kProgressPatience(150);
+// To make and paint the window takes longer than most of what it could tell of.
+constexpr std::chrono::milliseconds kProgressPatience(1000);
 
 // An address for each picture; pictures beyond the addresses, and addresses beyond the pictures,
 // are not shown.

@@ -28,30 +28,39 @@ frmProgress::frmProgress(HWND owner, ErrorSink& errors, std::chrono::millisecond
     frmProgress::OnLayout();
 }
 
+// Nothing is done for a window that may never appear: most operations are over at once.
 void frmProgress::ShowProgress(const std::string& label, std::int32_t minimum,
                                std::int32_t maximum) {
-    if (events_ != nullptr)
-        events_->ProgressLoading();
-    lblInfo_.SetText(label);
-    prbMain_.SetRange(minimum, maximum);
-    OnLayout();
-    due_ = std::chrono::steady_clock::now() + patience_;
+    label_ = label;
+    minimum_ = minimum;
+    maximum_ = maximum;
+    value_ = minimum;
+    due_ = GetTickCount64() + static_cast<ULONGLONG>(patience_.count());
     waiting_ = true;
-    if (!cursor_)
-        cursor_.emplace();
     // An operation that lets the window handle events is seen by the timer, any other by its steps.
     SetTimer(Handle(), kPatienceTimer, static_cast<UINT>(patience_.count()), nullptr);
-    AppearWhenDue();
+    if (IsWindowVisible(Handle()) != FALSE)
+        Appear();
+    else
+        AppearWhenDue();
 }
 
 void frmProgress::AppearWhenDue() {
-    if (waiting_ && std::chrono::steady_clock::now() >= due_)
+    if (waiting_ && GetTickCount64() >= due_)
         Appear();
 }
 
 void frmProgress::Appear() {
     waiting_ = false;
     KillTimer(Handle(), kPatienceTimer);
+    if (!cursor_)
+        cursor_.emplace();
+    if (events_ != nullptr)
+        events_->ProgressLoading();
+    lblInfo_.SetText(label_);
+    prbMain_.SetRange(minimum_, maximum_);
+    prbMain_.SetValue(value_);
+    OnLayout();
     if (IsWindowVisible(Handle()) == FALSE)
         CentreOnOwner(Handle());
     Show();
@@ -66,8 +75,11 @@ MessageResult frmProgress::OnMessage(const WindowMessage& message) {
 }
 
 void frmProgress::SetProgress(std::int32_t value) {
-    prbMain_.SetValue(value);
-    AppearWhenDue();
+    value_ = value;
+    if (waiting_)
+        AppearWhenDue();
+    else
+        prbMain_.SetValue(value);
 }
 
 // UpdateWindow paints the window itself only; its parts are painted as well.

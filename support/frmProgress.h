@@ -38,9 +38,13 @@ private:
     [[nodiscard]] ControlPlace At(const char* name, int id) const { return {name, id, Handle()}; }
 
     const std::chrono::milliseconds patience_;
-    std::chrono::steady_clock::time_point due_; // of the appearance, while it is waited for
+    ULONGLONG due_ = 0; // when it appears, on the clock of GetTickCount64
     bool waiting_ = false;
-    std::optional<WaitCursor> cursor_; // while the operation runs
+    std::string label_;
+    std::int32_t minimum_ = 0;
+    std::int32_t maximum_ = 0;
+    std::int32_t value_ = 0;
+    std::optional<WaitCursor> cursor_; // while the window is shown
     ProgressEvents* events_ = nullptr;
     Label& lblInfo_;
     ProgressBar& prbMain_;

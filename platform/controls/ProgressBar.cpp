@@ -8,7 +8,7 @@ namespace {
 
 constexpr ControlKind kProgressBar{"ProgressBar", PROGRESS_CLASSW, ""};
 
-constexpr int kSteps = 1000; // more than a bar has pixels
+constexpr int kSteps = 200; // finer ones are hardly seen, and each is painted
 
 } // namespace
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds kPatience(150); // as in the program
+constexpr std::chrono::milliseconds kPatience(1000); // as in the program
 
 double Milliseconds(const FILETIME& time) {
     return static_cast<double>(ULARGE_INTEGER{{time.dwLowDateTime, time.dwHighDateTime}}.QuadPart) /
