@@ -19,8 +19,8 @@ Application::Application(const Platform& platform, const Windows& windows, const
       libraryFiles_(
           library_, settings_,
           {platform.files, platform.codePage, platform.prompts, language_, windows.progressView}),
-      fileCommands_(
-          {library_, libraryFiles_, settings_, platform.prompts, language_, data.programFolder}),
+      fileCommands_({library_, libraryFiles_, settings_, platform.prompts, language_,
+                     platform.codePage, data.programFolder}),
       solidWorks_({platform.automation, platform.retry, platform.prompts, language_,
                    windows.progressView, platform.events, stopFlag_}),
       links_(platform.shell),

@@ -40,4 +40,5 @@ inline constexpr std::int32_t GroupLabel = 101;
 inline constexpr std::int32_t ColorLabel = 102;
 inline constexpr std::int32_t LibraryWithoutGroups = 103;
 inline constexpr std::int32_t CharactersNotStorable = 104;
+inline constexpr std::int32_t PathNotStorable = 105;
 } // namespace InfoTextNumber

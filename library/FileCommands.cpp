@@ -2,8 +2,11 @@
 
 #include "common/FileNames.h"
 #include "common/InfoTextNumber.h"
+#include "common/RuntimeError.h"
 #include "common/Text.h"
 #include "common/ValueRestorer.h"
+
+#include <exception>
 
 namespace {
 
@@ -34,9 +37,19 @@ void FileCommands::mnuFileOpen_Click() {
 }
 
 void FileCommands::OpenDropped(const std::vector<std::string>& paths) {
-    for (const std::string& path : paths)
-        if (HasExtension(path, kLibraryExtension))
+    std::exception_ptr firstError;
+    for (const std::string& path : paths) {
+        if (!HasExtension(path, kLibraryExtension))
+            continue;
+        try {
             OpenLibrary(path);
+        } catch (const RuntimeError&) {
+            if (!firstError)
+                firstError = std::current_exception();
+        }
+    }
+    if (firstError)
+        std::rethrow_exception(firstError);
 }
 
 void FileCommands::OpenLibrary(const std::string& path) {
@@ -54,8 +67,14 @@ void FileCommands::AskAutoload(const std::string& path) {
     const Answer answer = parts_.prompts.ShowMessage(
         Text(InfoTextNumber::AskAutoload) + kLineBreak + path, MessageStyle::YesNoQuestion,
         Text(InfoTextNumber::ColorLibraries));
-    if (answer == Answer::Yes)
-        parts_.settings.defaultColorFile = path;
+    if (answer != Answer::Yes)
+        return;
+    if (!parts_.codePage.Encode(path).unstored.empty()) {
+        parts_.prompts.ShowMessage(Text(InfoTextNumber::PathNotStorable) + kLineBreak + path,
+                                   MessageStyle::Exclamation, Text(InfoTextNumber::Attention));
+        return;
+    }
+    parts_.settings.defaultColorFile = path;
 }
 
 void FileCommands::mnuFileSave_Click() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/Settings.h"
+#include "common/ports/AnsiCodePage.h"
 #include "common/ports/InfoTexts.h"
 #include "common/ports/Prompts.h"
 #include "library/ColorLibrary.h"
@@ -31,7 +32,8 @@ public:
         Settings& settings;
         Prompts& prompts;
         InfoTexts& texts;
-        std::string programFolder; // without a backslash at its end
+        const AnsiCodePage& codePage; // of the settings
+        std::string programFolder;    // without a backslash at its end
     };
 
     explicit FileCommands(Parts parts) : parts_(std::move(parts)) {}

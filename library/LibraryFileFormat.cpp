@@ -54,16 +54,34 @@ std::size_t FindSeparator(std::string_view text, std::string_view separator) {
     return std::string_view::npos;
 }
 
+// Where the nine values begin: at the first separator.  A letter that stands in for the division
+// sign may also stand in the name, so then it is the ninth from the end.
+std::size_t FindValues(std::string_view text, std::string_view separator) {
+    if (separator == kDivisionSign)
+        return FindSeparator(text, separator);
+    std::size_t place = text.size();
+    for (std::size_t value = 0; value < kColorValueCount; ++value) {
+        place = place == 0 ? std::string_view::npos : text.rfind(separator, place - 1);
+        if (place == std::string_view::npos)
+            break;
+    }
+    return place;
+}
+
 // The fields behind the colon; false when there are not exactly ten of them.
 bool SplitColorFields(std::string_view text, std::string_view separator, Color& color) {
+    const std::size_t nameEnd = FindValues(text, separator);
+    if (nameEnd == std::string_view::npos)
+        return false;
+    color.altName = text.substr(0, nameEnd);
+    text.remove_prefix(nameEnd + separator.size());
     const auto nextField = [&] {
         const std::size_t end = FindSeparator(text, separator);
         const std::string_view field = text.substr(0, end);
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + separator.size());
         return std::pair(field, end != std::string_view::npos);
     };
-    auto [field, more] = nextField();
-    color.altName = field;
+    bool more = true;
     for (std::string_view& value : color.values) {
         if (!more)
             return false;

@@ -38,6 +38,8 @@ std::optional<PastedColor> Parse(std::string_view text) {
     if (fields.size() != 1 + kColorValueCount)
         return {};
     PastedColor color{std::string(text.substr(kTag.size(), equals - kTag.size())), {}};
+    if (color.name.find_first_of("\r\n") != std::string::npos) // it would break the library file
+        return {};
     for (std::size_t index = 0; index < kColorValueCount; ++index)
         color.values[index] = TextToInt16(fields[index + 1]);
     return color;

@@ -13,7 +13,7 @@
 struct RealLibrary {
     explicit RealLibrary(Files& files)
         : libraryFiles(library, settings, {files, codePage, prompts, texts, progress}),
-          commands({library, libraryFiles, settings, prompts, texts, "C:\\prog"}) {
+          commands({library, libraryFiles, settings, prompts, texts, codePage, "C:\\prog"}) {
         library.SetHost(libraryHost);
         libraryFiles.SetHost(libraryHost);
         commands.SetHost(host);

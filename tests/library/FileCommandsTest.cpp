@@ -1,5 +1,7 @@
 #include "library/FileCommands.h"
 
+#include "common/RuntimeError.h"
+
 #include "tests/fakes/FakeCodePage.h"
 #include "tests/fakes/FakeFiles.h"
 #include "tests/fakes/FakeLibraryHost.h"
@@ -44,7 +46,7 @@ protected:
     FakeCodePage codePage = FakeCodePage::Western();
     ColorLibrary library{prompts, texts};
     LibraryFiles libraryFiles{library, settings, {files, codePage, prompts, texts, progress}};
-    FileCommands commands{{library, libraryFiles, settings, prompts, texts, "C:\\prog"}};
+    FileCommands commands{{library, libraryFiles, settings, prompts, texts, codePage, "C:\\prog"}};
 };
 
 TEST_F(FileCommandsTest, OpenAsksWithTitleFilterAndFlags) {
@@ -61,6 +63,27 @@ TEST_F(FileCommandsTest, DroppedLibrariesOpenInTheirOrderEachWithItsQuestion) {
     EXPECT_EQ(host.status, (std::vector<std::string>{"Okay b.tnt", "Okay a.tnt"}));
     EXPECT_EQ(settings.defaultColorFile, kA);
     EXPECT_TRUE(prompts.fileRequests.empty());
+}
+
+TEST_F(FileCommandsTest, DroppedLibraryWithAnErrorLetsTheOthersOpen) {
+    std::string color = "\"E#a=0DG1:a\xF7"
+                        "99999";
+    for (int value = 2; value <= 9; ++value)
+        color += "\xF7" + std::to_string(value);
+    files.contents[kB] += color + "\"\r\n";
+    EXPECT_THROW(commands.OpenDropped({kB, kA}), RuntimeError);
+    EXPECT_EQ(host.status, std::vector<std::string>{"Okay a.tnt"});
+}
+
+TEST_F(FileCommandsTest, PathThatTheSettingsCannotHoldIsNotLoadedAtEveryStartAndTheUserIsTold) {
+    const std::string path = "C:\\lib\\\xE8\x89\xB2.tnt";
+    files.contents[path] = files.contents.at(kA);
+    prompts.chosenFiles = {path};
+    prompts.answers = {Answer::Yes};
+    commands.mnuFileOpen_Click();
+    EXPECT_EQ(settings.defaultColorFile, "");
+    ASSERT_EQ(prompts.messages.size(), 2U);
+    EXPECT_EQ(prompts.messages[1], (FakePrompts::Message{"<105>\r\n" + path, 48, "<98>"}));
 }
 
 TEST_F(FileCommandsTest, DroppedFilesOfOtherKindsAreLeftAlone) {

@@ -286,6 +286,35 @@ TEST_F(LibraryFilesTest, CodePageWithoutDivisionSignSeparatesWithTheSameByte) {
     EXPECT_EQ(library.Colors().UpperBound(), 4);
 }
 
+// The letter of byte F7 in Cyrillic, in names of everyday colors.
+TEST_F(LibraryFilesTest, LetterThatStandsInForTheDivisionSignMayStandInNames) {
+    codePage = FakeCodePage::Cyrillic();
+    const std::string letter = "\xD1\x87";
+    MakeLibrary();
+    library.Colors().SetNames(1, letter + "\xD0\xB5" + letter);
+    library.Colors().SetNames(2, letter);
+    ASSERT_TRUE(Write());
+    ASSERT_TRUE(libraryFiles.FileReadColorValues(kFile));
+    ASSERT_EQ(library.Colors().UpperBound(), 4);
+    for (const int index : {1, 2}) {
+        const ColorRecord written = library.Colors().At(index);
+        const ColorRecord read = library.Colors().At(index + 2);
+        EXPECT_EQ(read.name, written.name);
+        EXPECT_EQ(read.altName, written.altName);
+        EXPECT_EQ(read.values, written.values);
+    }
+}
+
+TEST_F(LibraryFilesTest, TooFewValuesAreInvalidAlsoWhereALetterSeparates) {
+    codePage = FakeCodePage::Cyrillic();
+    MakeLibrary();
+    ASSERT_TRUE(Write());
+    std::string& content = files.contents.at(kFile);
+    const std::size_t separator = content.find('\xF7');
+    content.erase(separator, 1);
+    EXPECT_FALSE(libraryFiles.FileReadColorValues(kFile));
+}
+
 TEST_F(LibraryFilesTest, WritingCountsGroupsThenColorsInTheProgressWindow) {
     MakeLibrary();
     progress.calls.clear();

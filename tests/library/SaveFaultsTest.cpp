@@ -41,7 +41,7 @@ struct ChangedLibrary : LibraryOnFakes {
     [[nodiscard]] bool IsWhole() const { return Kept() == kOld || Kept() == kNew; }
 
     FakeFileCommandsHost commandsHost;
-    FileCommands commands{{library, libraryFiles, settings, prompts, texts, "C:\\prog"}};
+    FileCommands commands{{library, libraryFiles, settings, prompts, texts, codePage, "C:\\prog"}};
 };
 
 // With backups on or off.

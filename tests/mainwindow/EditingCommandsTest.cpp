@@ -284,6 +284,13 @@ TEST_F(EditingCommandsTest, ColonBeforeTheThirdCharacterBehindTheNameIsNotTheOne
     EXPECT_EQ(program.view.rowCount, 2);
 }
 
+TEST_F(EditingCommandsTest, NameWithALineBreakIsRefused) {
+    program.clipboard.text = "E#a\r\nb=0DG1:x,1,2,3,4,5,6,7,8,9";
+    Run(IDM_mnuColorPaste);
+    EXPECT_EQ(program.prompts.messages, (std::vector<Message>{{"<5> CLIPBOARD", 48, "<98>"}}));
+    EXPECT_EQ(program.view.rowCount, 2);
+}
+
 TEST_F(EditingCommandsTest, ColorMayBePastedWithAnEmptyName) {
     program.clipboard.text = "E#=0DG1:x,1,2,3,4,5,6,7,8,9";
     Run(IDM_mnuColorPaste);
