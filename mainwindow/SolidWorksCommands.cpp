@@ -110,9 +110,9 @@ void SolidWorksCommands::ImportStandardColors(const std::vector<ColorRecord>& co
     const std::string mainKey = parts_.library.GetActiveMainnode();
     if (mainKey.empty())
         return;
-    tree.SetTag(mainKey, kUnsavedTag);
     const std::string groupKey = parts_.library.NewGroupNode(
         mainKey, parts_.texts.GetInfoText(InfoTextNumber::StandardColors));
+    tree.SetTag(mainKey, kUnsavedTag); // not when there is no group: then all is as it was
     tree.Expand(mainKey);
     tree.Select(groupKey);
     parts_.panes.ShowSelectedGroup();

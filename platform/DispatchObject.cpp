@@ -9,9 +9,18 @@ namespace {
 
 // True when the program that owns the object is gone, or was busy until patience ended.
 bool IsConnectionLost(HRESULT result) noexcept {
-    return IsBusy(result) || result == RPC_E_DISCONNECTED || result == RPC_E_SERVER_DIED ||
-           result == HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE) ||
-           result == HRESULT_FROM_WIN32(RPC_S_CALL_FAILED);
+    switch (result) {
+    case RPC_E_DISCONNECTED:
+    case RPC_E_SERVER_DIED:
+    case RPC_E_SERVER_DIED_DNE:
+    case RPC_E_CONNECTION_TERMINATED:
+    case CO_E_OBJNOTCONNECTED:
+        return true;
+    default:
+        return IsBusy(result) || result == HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE) ||
+               result == HRESULT_FROM_WIN32(RPC_S_CALL_FAILED) ||
+               result == HRESULT_FROM_WIN32(RPC_S_CALL_FAILED_DNE);
+    }
 }
 
 [[noreturn]] void ThrowCallFailed(HRESULT result, ExceptionInfo& exception,

@@ -11,6 +11,7 @@ constexpr int kMargin = 12;
 constexpr int kBarHeight = 18;
 
 constexpr UINT_PTR kPatienceTimer = 1;
+constexpr unsigned kFewSteps = 64;
 
 FormDesign DesignFor(HWND owner) {
     return {L"frmProgress", L"TNT4SWX", kDialogStyle, WS_EX_DLGMODALFRAME, owner, {380, 140}, {}};
@@ -37,6 +38,7 @@ void frmProgress::ShowProgress(const std::string& label, std::int32_t minimum,
     value_ = minimum;
     due_ = GetTickCount64() + static_cast<ULONGLONG>(patience_.count());
     waiting_ = true;
+    steps_ = 0;
     // An operation that lets the window handle events is seen by the timer, any other by its steps.
     SetTimer(Handle(), kPatienceTimer, static_cast<UINT>(patience_.count()), nullptr);
     if (IsWindowVisible(Handle()) != FALSE)
@@ -76,10 +78,10 @@ MessageResult frmProgress::OnMessage(const WindowMessage& message) {
 
 void frmProgress::SetProgress(std::int32_t value) {
     value_ = value;
-    if (waiting_)
-        AppearWhenDue();
-    else
+    if (!waiting_)
         prbMain_.SetValue(value);
+    else if (++steps_ < kFewSteps || steps_ % kFewSteps == 0) // many steps are short ones
+        AppearWhenDue();
 }
 
 // UpdateWindow paints the window itself only; its parts are painted as well.

@@ -40,6 +40,7 @@ private:
     const std::chrono::milliseconds patience_;
     ULONGLONG due_ = 0; // when it appears, on the clock of GetTickCount64
     bool waiting_ = false;
+    unsigned steps_ = 0; // while it waits
     std::string label_;
     std::int32_t minimum_ = 0;
     std::int32_t maximum_ = 0;

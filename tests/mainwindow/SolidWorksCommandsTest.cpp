@@ -289,6 +289,40 @@ TEST_F(SolidWorksCommandsTest, StandardColorsMarkTheLibraryOfTheSelectedNodeAsCh
     EXPECT_TRUE(program->view.nodes.contains("0DG2"));
 }
 
+TEST_F(SolidWorksCommandsTest, StandardColorsWhoseGroupCannotBeMadeLeaveTheLibraryItsFile) {
+    program->prompts.typed = {"h", ""};
+    Run(IDM_mnuColorNewGroup); // 0DG2
+    program->Main().NodeClicked("0DG1");
+    Run(IDM_mnuColorDelGroup);
+    program->Main().NodeClicked("0D"); // the next group would be 0DG2 again
+    const auto nodes = program->view.nodes;
+    program->prompts.messages.clear();
+    EXPECT_THROW(Run(IDM_mnuSWXGetStandardColor), RuntimeError);
+    EXPECT_EQ(program->view.nodes, nodes);
+    EXPECT_FALSE(IsMarkedAsChanged());
+}
+
+TEST_F(SolidWorksCommandsTest, ColorOfAFaceWithoutAnyColorIsNoNameAndZerosWithoutAMessage) {
+    for (const char* language : {"de", "us"}) {
+        Start("no-colors");
+        Run(language == std::string("de") ? IDM_mnuOptionsLngGerman : IDM_mnuOptionsLngEnglish);
+        Select(Client().Face(0));
+        Run(IDM_mnuSWXGetColor);
+        EXPECT_EQ(program->view.colorName, "");
+        for (const std::string& text : program->view.valueTexts)
+            EXPECT_EQ(text, "0");
+        EXPECT_EQ(program->view.smallCaption, " (R:0 G:0 B:0)");
+        EXPECT_TRUE(program->prompts.messages.empty());
+    }
+}
+
+TEST_F(SolidWorksCommandsTest, NameOfAPickedColorIsGermanInEveryLanguage) {
+    Run(IDM_mnuOptionsLngEnglish);
+    Select(Client().Face(2));
+    Run(IDM_mnuSWXGetColor);
+    EXPECT_EQ(program->view.colorName, "Neuer Farbwert");
+}
+
 TEST_F(SolidWorksCommandsTest, StandardColorsWithoutALibraryMakeOneFirst) {
     Run(IDM_mnuColorDelMainNode);
     ASSERT_TRUE(program->view.nodes.empty());
@@ -367,8 +401,12 @@ TEST_F(SolidWorksCommandsTest, StandardColorsSetWithoutEditsAreWrittenBackUnchan
     for (std::int32_t index = 0; index < 12; ++index)
         before.push_back(table->Invoke("GetColorRefAtIndex", {index}).AsInt32());
     Run(IDM_mnuSWXGetStandardColor);
+    program->solidWorks.Log().Clear();
     Run(IDM_mnuSWXSetStandardColor);
     EXPECT_TRUE(program->prompts.messages.empty());
+    EXPECT_EQ(std::ranges::count(program->solidWorks.Log().Records(), "SetColorRefAtIndex",
+                                 &CallRecord::member),
+              12);
     for (std::int32_t index = 0; index < 12; ++index)
         EXPECT_EQ(table->Invoke("GetColorRefAtIndex", {index}).AsInt32(),
                   before[static_cast<std::size_t>(index)]);

@@ -45,6 +45,20 @@ TEST_F(DispatchObjectTest, PropertyIsReadAsMethodOrProperty) {
     EXPECT_TRUE(fake.calls.at(0).namedArguments.empty());
 }
 
+TEST_F(DispatchObjectTest, EveryResultOfAProgramThatIsGoneIsALostConnection) {
+    for (const HRESULT result :
+         {RPC_E_DISCONNECTED, RPC_E_SERVER_DIED, RPC_E_SERVER_DIED_DNE, RPC_E_CONNECTION_TERMINATED,
+          CO_E_OBJNOTCONNECTED, HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE),
+          HRESULT_FROM_WIN32(RPC_S_CALL_FAILED), HRESULT_FROM_WIN32(RPC_S_CALL_FAILED_DNE)}) {
+        fake.members[L"GetType"] = Fails(result);
+        EXPECT_EQ(ErrorOf("GetType").Number(), ErrorNumber::ConnectionLost) << std::hex << result;
+    }
+    for (const HRESULT result : {E_FAIL, E_POINTER, DISP_E_TYPEMISMATCH}) {
+        fake.members[L"GetType"] = Fails(result);
+        EXPECT_EQ(ErrorOf("GetType").Number(), ErrorNumber::Automation) << std::hex << result;
+    }
+}
+
 TEST_F(DispatchObjectTest, ArgumentsArePassedLastOneFirst) {
     fake.members[L"Select"] = {};
     object->Invoke("Select", {std::int32_t{1}, "two", 3.0});
