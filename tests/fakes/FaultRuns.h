@@ -2,6 +2,7 @@
 
 #include "resources/controls.h"
 #include "tests/fakes/FakeProgram.h"
+#include "tests/standin/StandInClient.h"
 
 #include <functional>
 #include <string>
@@ -11,10 +12,10 @@
 struct FaultyCommand {
     const char* name;
     const char* scenario;
-    int number;                                     // of the command
-    std::function<void(StandInModel&)> select = {}; // what is selected in SolidWorks
-    std::function<void(FakeProgram&)> prepare = {}; // what the user has done before
-    std::string typed = {};                         // what the user answers when asked for a text
+    int number;                                            // of the command
+    std::function<void(const StandInClient&)> select = {}; // what is selected in SolidWorks
+    std::function<void(FakeProgram&)> prepare = {};        // what the user has done before
+    std::string typed = {}; // what the user answers when asked for a text
 };
 
 // The whole program on fakes with a library of one group, worked through its commands.  Errors are
@@ -33,7 +34,8 @@ public:
         if (command.prepare)
             command.prepare(program);
         if (command.select)
-            command.select(program.solidWorks);
+            command.select(StandInClient(
+                program.automation.GetRunningObject(ProgramNames::SolidWorksClass)));
     }
 
     // Runs the command; what the user sees of its end: "status" (the text of success), a message
@@ -81,3 +83,12 @@ private:
 
     FaultyCommand command_;
 };
+
+// What the user has when the command was refused: the library and the editor as they were, and for
+// a new colour what was made of the name before SolidWorks was asked.
+[[nodiscard]] inline std::vector<std::string> StateOfRefusal(const FaultyCommand& command) {
+    FaultyProgram faulty(command);
+    faulty.program.service.SetRunning(false);
+    faulty.Run();
+    return faulty.State();
+}

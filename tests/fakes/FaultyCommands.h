@@ -2,36 +2,79 @@
 
 #include "tests/fakes/FaultRuns.h"
 
+#include <stdexcept>
+#include <string_view>
+
+// What is selected in SolidWorks before a command.
+namespace FaultySelection {
+
+inline void AFace(const StandInClient& client) {
+    client.Face(0)->Invoke("Select", {true});
+}
+inline void AFeature(const StandInClient& client) {
+    client.Feature(0)->Invoke("Select", {true});
+}
+inline void AFaceAndAFeature(const StandInClient& client) {
+    AFace(client);
+    AFeature(client);
+}
+inline void AComponent(const StandInClient& client) {
+    client.Child(0)->Invoke("Select", {true});
+}
+
+} // namespace FaultySelection
+
+// What the user has done before a command: the table as a group, as it is, and then changed.
+namespace FaultyGroup {
+
+inline void AsTheTable(FakeProgram& program) {
+    program.Main().RunCommand(IDM_mnuSWXGetStandardColor);
+}
+inline void WithAnotherName(FakeProgram& program) {
+    AsTheTable(program);
+    program.Main().RowLabelEdited(0, "another");
+}
+inline void WithOneMore(FakeProgram& program) {
+    AsTheTable(program);
+    program.prompts.typed = {"one more"};
+    program.Main().RunCommand(IDM_mnuColorNewColor);
+}
+
+} // namespace FaultyGroup
+
 // The ten commands, with what makes each of them do all that it does.
 [[nodiscard]] inline std::vector<FaultyCommand> FaultyCommands() {
-    const auto selectFace = [](StandInModel& model) { model.Part().FaceAt(0)->Select(true); };
-    const auto selectFaceAndFeature = [](StandInModel& model) {
-        model.Part().FaceAt(0)->Select(true);
-        model.Part().FeatureAt(0)->Select(true);
-    };
-    const auto selectComponent = [](StandInModel& model) {
-        model.Assembly().Root()->Children().front()->Select(true);
-    };
-    const auto readStandardColors = [](FakeProgram& program) {
-        program.Main().RunCommand(IDM_mnuSWXGetStandardColor);
-    };
+    using namespace FaultySelection;
+    using namespace FaultyGroup;
+    const char* const table = "standard-colors=1";
     return {
-        {"GetColor", "default", IDM_mnuSWXGetColor, selectFace},
-        {"GetColorOfAComponent", "assembly", IDM_mnuSWXGetColor, selectComponent},
-        {"NewColorUpdate", "default", IDM_mnuSWXNewColorUpdate, selectFace, {}, "picked"},
-        {"SetColor", "default", IDM_mnuSWXSetColor, selectFaceAndFeature},
-        {"SetColorComponent", "assembly", IDM_mnuSWXSetColorComponent, selectComponent},
-        {"ClearColorFromSelection", "default", IDM_mnuSWXClearColorFromSelection,
-         selectFaceAndFeature},
+        {"GetColor", "default", IDM_mnuSWXGetColor, AFace},
+        {"GetColorOfTheDocument", "default", IDM_mnuSWXGetColor},
+        {"GetColorOfAFeature", "default", IDM_mnuSWXGetColor, AFeature},
+        {"GetColorOfAComponent", "assembly", IDM_mnuSWXGetColor, AComponent},
+        {"NewColorUpdate", "default", IDM_mnuSWXNewColorUpdate, AFace, {}, "picked"},
+        {"SetColor", "default", IDM_mnuSWXSetColor, AFaceAndAFeature},
+        {"SetColorOfTheDocument", "default", IDM_mnuSWXSetColor},
+        {"SetColorOfAComponent", "assembly", IDM_mnuSWXSetColor, AComponent},
+        {"SetColorComponent", "assembly", IDM_mnuSWXSetColorComponent, AComponent},
+        {"ClearColorFromSelection", "default", IDM_mnuSWXClearColorFromSelection, AFaceAndAFeature},
+        {"ClearColorOfAComponent", "assembly", IDM_mnuSWXClearColorFromSelection, AComponent},
         {"ClearComponentColorFromSelection", "assembly", IDM_mnuSWXClearComponentColorFromSelection,
-         selectComponent},
+         AComponent},
+        {"ClearComponentColorOfAnOldRevision", "assembly,old-revision",
+         IDM_mnuSWXClearComponentColorFromSelection, AComponent},
         {"ClearColorPart", "features=1,faces=1", IDM_mnuSWXClearColorPart},
         {"ClearColorAssembly", "components=2", IDM_mnuSWXClearColorAssembly},
-        {"GetStandardColor", "standard-colors=1", IDM_mnuSWXGetStandardColor},
-        {"SetStandardColor",
-         "standard-colors=1",
-         IDM_mnuSWXSetStandardColor,
-         {},
-         readStandardColors},
+        {"GetStandardColor", table, IDM_mnuSWXGetStandardColor},
+        {"SetStandardColor", table, IDM_mnuSWXSetStandardColor, {}, AsTheTable},
+        {"SetStandardColorOfAnotherName", table, IDM_mnuSWXSetStandardColor, {}, WithAnotherName},
+        {"SetStandardColorOfAnotherSize", table, IDM_mnuSWXSetStandardColor, {}, WithOneMore},
     };
+}
+
+[[nodiscard]] inline FaultyCommand FaultyCommandNamed(std::string_view name) {
+    for (const FaultyCommand& command : FaultyCommands())
+        if (command.name == name)
+            return command;
+    throw std::out_of_range(std::string(name));
 }

@@ -1,5 +1,6 @@
 #include "tests/fakes/FaultyCommands.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -38,8 +39,9 @@ constexpr std::array kWays{kFails, kDies,       kBusy,      kBusyForEver, kNothi
 using Names = std::set<std::string, std::less<>>;
 
 // In which of the ways a call ends its command with an error; in the others the command goes on or
-// finds that something is not there.
-Names ErrorsOf(const CallRecord& call) {
+// finds that something is not there.  withSelection: the sources of a colour are probed one after
+// the other; with nothing selected there is the document alone, whose colour must be readable.
+Names ErrorsOf(const CallRecord& call, bool withSelection) {
     static const Names objects{"ActiveDoc",    "GetSelectedObject3", "GetSelectedObjectsComponent",
                                "Body",         "FirstFeature",       "GetNextFeature",
                                "GetFirstFace", "GetNextFace",        "GetRootComponent",
@@ -61,7 +63,8 @@ Names ErrorsOf(const CallRecord& call) {
     add(kBusyForEver);
     if (probedObjects.contains(call.member))
         return errors;
-    const bool isProbed = call.kind == CallKind::Call && probed.contains(call.member);
+    const bool isProbed =
+        withSelection && call.kind == CallKind::Call && probed.contains(call.member);
     if (!isProbed)
         add(kFails);
     if (call.kind == CallKind::Put || withoutAnswer.contains(call.member))
@@ -88,22 +91,16 @@ struct CleanRun {
         state = program.State();
         calls = program.program.solidWorks.Log().Lines();
         records = program.program.solidWorks.Log().Records();
+        withSelection = std::ranges::find(records, "GetSelectedObject3", &CallRecord::member) !=
+                        records.end();
     }
 
     std::string seen;
     State state;
     std::vector<std::string> calls;
     std::vector<CallRecord> records;
+    bool withSelection = false;
 };
-
-// What the user has when the command was refused: the library and the editor as they were, and for
-// a new colour what was made of the name before SolidWorks was asked.
-State StateOfRefusal(const FaultyCommand& command) {
-    FaultyProgram program(command);
-    program.program.service.SetRunning(false);
-    EXPECT_EQ(program.Run(), "note: <0>");
-    return program.State();
-}
 
 std::string OnOneLine(std::string text) {
     for (std::size_t at = 0; (at = text.find("\r\n", at)) != std::string::npos;)
@@ -141,7 +138,7 @@ private:
         if (seen == clean.seen)
             return state == clean.state ? "done" : "other end";
         EXPECT_EQ(state, refused) << "library and editor keep their state";
-        const bool isError = seen.starts_with("error: ");
+        const bool isError = seen.find("error: ") != std::string::npos; // perhaps after a question
         EXPECT_TRUE(!isError || seen.ends_with("(" + member + ")")) << seen;
         return isError ? "error" : OnOneLine(seen);
     }
@@ -189,7 +186,7 @@ TEST_P(SolidWorksFaults, EveryCallInEveryWay) {
             if (outcome == "error")
                 errors.emplace(way.name);
         }
-        EXPECT_EQ(errors, ErrorsOf(clean.records[call - 1])) << clean.calls[call - 1];
+        EXPECT_EQ(errors, ErrorsOf(clean.records[call - 1], clean.withSelection)) << clean.calls[call - 1];
         table += "\n" + std::to_string(call) + " " + clean.records[call - 1].member + "\n";
         for (const auto& [outcome, list] : columns)
             table += "    " + Padded(outcome + ":", 11) + list + "\n";

@@ -8,7 +8,9 @@
 // A late-bound client of the stand-in: short ways to what the tests need again and again.
 class StandInClient {
 public:
-    explicit StandInClient(StandInModel& model) : application_(model.ApplicationObject()) {}
+    explicit StandInClient(StandInModel& model) : StandInClient(model.ApplicationObject()) {}
+    explicit StandInClient(AutomationObjectPtr application)
+        : application_(std::move(application)) {}
 
     [[nodiscard]] AutomationObjectPtr Application() const { return application_; }
     [[nodiscard]] AutomationObjectPtr Document() const {
