@@ -14,18 +14,25 @@
 #include "tests/ui/RecordingErrorSink.h"
 
 #include <algorithm>
+#include <charconv>
 #include <chrono>
 #include <comdef.h>
 #include <cstdio>
 #include <numeric>
+#include <optional>
 #include <stdexcept>
+#include <string_view>
 #include <vector>
 #include <wrl/client.h>
 
-// Measures the walks over a whole part and a whole assembly, in a stand-in of its own process,
-// beside a bare loop that makes the same calls and nothing else; the two take turns:
+// Measures the walks over a whole part and a whole assembly of so many faces or components, in a
+// stand-in of its own process, beside a bare loop that makes the same calls and nothing else; the
+// two take turns:
 //
-//     walk_bench.exe [ITEMS] [REPETITIONS]
+//     walk_bench.exe ITEMS
+//
+// Ends with 0 when the walks make as many calls and look up as many names for an item as their bare
+// loops do, with 1 when they do not, and with 2 when nothing could be measured.
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -148,10 +155,29 @@ private:
     ULONG next_ = 0;
 };
 
+// What the stand-in was asked for.
+struct Counts {
+    LRESULT calls = 0;
+    LRESULT names = 0;
+
+    [[nodiscard]] static Counts OfBareObjects() { return {BareObject::calls, BareObject::names}; }
+    // By all clients of the stand-in but the bare objects.
+    [[nodiscard]] static Counts OfProgram(const StandInProcess& standIn) {
+        return Counts{standIn.Ask(Question::CallCount), standIn.Ask(Question::NameLookups)} -
+               OfBareObjects();
+    }
+    Counts operator-(const Counts& other) const {
+        return {calls - other.calls, names - other.names};
+    }
+    Counts operator*(LRESULT times) const { return {calls * times, names * times}; }
+    bool operator==(const Counts&) const = default;
+};
+
 // The program's event loop, which it runs before every item; the bare loop has its turn after it.
 class TakingTurns final : public EventPump {
 public:
-    explicit TakingTurns(BareLoop& loop) : loop_(loop) {}
+    TakingTurns(BareLoop& loop, const StandInProcess& standIn, int items)
+        : loop_(loop), standIn_(standIn), items_(items) {}
 
     void ProcessPendingEvents() override {
         events_.ProcessPendingEvents();
@@ -159,11 +185,21 @@ public:
         const bool hasStepped = loop_.Step();
         const Clock::time_point bareEnd = Clock::now();
         // The first turn of the program is what comes before the items.
-        if (turn_++ > 0 && hasStepped) {
+        if (turn_ > 0 && hasStepped) {
             program.push_back(Milliseconds(programEnd - programStart_).count());
             bare.push_back(Milliseconds(bareEnd - programEnd).count());
         }
+        steps_ += hasStepped ? 1 : 0;
+        Count();
+        ++turn_;
         programStart_ = Clock::now();
+    }
+
+    // Whether one item costs the program the same calls and names as one step of the bare loop.
+    // The first item does not count: with it the program looks up the document's member once.
+    [[nodiscard]] bool CostTheSame() const {
+        const Counts stepsCost = Counts::OfBareObjects() - bareBefore_;
+        return turn_ == items_ && (last_ - second_) * steps_ == stepsCost * (items_ - 2);
     }
 
     std::vector<double> program; // milliseconds, one for each item
@@ -172,9 +208,22 @@ public:
 private:
     using Milliseconds = std::chrono::duration<double, std::milli>;
 
+    void Count() {
+        if (turn_ == 1)
+            second_ = Counts::OfProgram(standIn_);
+        if (turn_ == items_ - 1)
+            last_ = Counts::OfProgram(standIn_);
+    }
+
     Win32EventPump events_;
     BareLoop& loop_;
+    const StandInProcess& standIn_;
+    int items_;
     int turn_ = 0;
+    int steps_ = 0;
+    Counts bareBefore_ = Counts::OfBareObjects(); // what the loop needed before its first step
+    Counts second_;                               // before the second item
+    Counts last_;                                 // before the last one
     Clock::time_point programStart_;
 };
 
@@ -209,56 +258,76 @@ double MeanOfFastest(std::vector<double> values) {
     return std::accumulate(values.begin(), values.end(), 0.0) / static_cast<double>(values.size());
 }
 
-void Print(const char* title, const char* way, LRESULT calls, LRESULT names,
+void Print(const char* title, const char* way, const Counts& counts,
            const std::vector<double>& times, int items) {
     std::printf("| %s | %s | %.3f | %.3f | %.3f | %.3f - %.3f | %.3f |\n", title, way,
-                static_cast<double>(calls) / items, static_cast<double>(names) / items,
-                Quantile(times, 0.5), Quantile(times, 0.1), Quantile(times, 0.9),
-                MeanOfFastest(times));
+                static_cast<double>(counts.calls) / items,
+                static_cast<double>(counts.names) / items, Quantile(times, 0.5),
+                Quantile(times, 0.1), Quantile(times, 0.9), MeanOfFastest(times));
 }
 
+// Whether the walk makes no more calls than the bare loop.
 template <class Bare>
-void Compare(const char* title, const std::string& scenario, int items,
-             std::string (modSldTools::*operation)()) {
+[[nodiscard]] bool Compare(const char* title, const std::string& scenario, int items,
+                           std::string (modSldTools::*operation)()) {
     const StandInProcess standIn(L"--scenario " + ToUtf16(scenario), CallLogging::Off);
     if (!standIn.IsReady())
         throw std::runtime_error("The stand-in does not start");
     BareObject::calls = BareObject::names = 0;
     Bare bare;
-    TakingTurns turns(bare);
+    TakingTurns turns(bare, standIn, items);
     const Clock::time_point start = Clock::now();
     Walk(operation, turns);
     const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
-    const LRESULT calls = standIn.Ask(Question::CallCount) - BareObject::calls;
-    const LRESULT names = standIn.Ask(Question::NameLookups) - BareObject::names;
-    Print(title, "program", calls, names, turns.program, items);
-    Print(title, "bare loop", BareObject::calls, BareObject::names, turns.bare, items);
+    Print(title, "program", Counts::OfProgram(standIn), turns.program, items);
+    Print(title, "bare loop", Counts::OfBareObjects(), turns.bare, items);
     std::printf("| %s | program / bare loop | | | %.3f | | %.3f |\n", title,
                 Quantile(turns.program, 0.5) / Quantile(turns.bare, 0.5),
                 MeanOfFastest(turns.program) / MeanOfFastest(turns.bare));
     std::printf("(%zu turns each, both in %.0f s)\n", turns.program.size(), seconds);
+    if (!turns.CostTheSame())
+        std::printf("The walk over the %s and its bare loop differ in calls or names\n", title);
     std::fflush(stdout);
+    return turns.CostTheSame();
 }
 
-void Run(int items) {
+[[nodiscard]] bool Run(int items) {
     const ComApartment apartment;
     const std::string count = std::to_string(items);
     std::printf("| walk | way | calls per item | names per item | ms per item, median | "
                 "tenth - ninth tenth | mean without the slowest tenth |\n"
                 "| --- | --- | --- | --- | --- | --- | --- |\n");
-    Compare<BareFaces>("part", "features=0,faces=" + count, items, &modSldTools::SWXClearColorPart);
-    Compare<BareComponents>("assembly", "components=" + count, items,
-                            &modSldTools::SWXClearColorAssembly);
+    const bool partIsSame = Compare<BareFaces>("part", "features=0,faces=" + count, items,
+                                               &modSldTools::SWXClearColorPart);
+    const bool assemblyIsSame = Compare<BareComponents>("assembly", "components=" + count, items,
+                                                        &modSldTools::SWXClearColorAssembly);
+    return partIsSame && assemblyIsSame;
+}
+
+// Enough for the bare loop that runs ahead; no more than the stand-in makes.
+constexpr int kFewest = 10;
+constexpr int kMost = 1'000'000;
+
+// Nothing for what is no number or one outside the range.
+std::optional<int> ReadItems(std::string_view text) {
+    int items = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), items);
+    if (error != std::errc() || end != text.data() + text.size() || items < kFewest ||
+        items > kMost)
+        return std::nullopt;
+    return items;
 }
 
 } // namespace
 
 int main(int count, char** arguments) {
     try {
-        Run(count > 1 ? std::atoi(arguments[1]) : 10'000);
-        return 0;
+        const std::optional<int> items = count == 2 ? ReadItems(arguments[1]) : std::nullopt;
+        if (items)
+            return Run(*items) ? 0 : 1;
+        std::printf("usage: walk_bench ITEMS    (%d to %d)\n", kFewest, kMost);
     } catch (const std::exception& error) {
         std::printf("%s\n", error.what());
-        return 2;
     }
+    return 2;
 }
