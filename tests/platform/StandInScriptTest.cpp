@@ -73,6 +73,31 @@ WScript.Echo(table.GetColorRefAtIndex(5));
     EXPECT_EQ(output, "Sky blue 16744512\n255\n");
 }
 
+// This script host hands on an array of numbers as it is and does not look into it.
+TEST_F(StandInScriptTest, JScriptReadsAndSetsTheColourOfAFace) {
+    const StandInProcess standIn;
+    ASSERT_TRUE(standIn.IsReady());
+    const std::string output = RunScript("client.js", R"js(
+var document = new ActiveXObject("SldWorks.Application").ActiveDoc;
+var face = document.Body.GetFirstFace();
+WScript.Echo(String(face.MaterialPropertyValues === undefined));
+face.MaterialPropertyValues = face.GetNextFace().GetNextFace().MaterialPropertyValues;
+WScript.Echo(String(face.MaterialPropertyValues === undefined));
+WScript.Echo(String(face.Select(false)));
+WScript.Echo(String(document.SelectedFaceProperties(0x4080FF, 0, 0.5, 0.25, 0, 1, 0, false, "")));
+var next = face.GetNextFace();
+next.MaterialPropertyValues = face.MaterialPropertyValues;
+)js");
+    EXPECT_EQ(output, "true\nfalse\ntrue\ntrue\n");
+    const std::vector<std::string> calls = standIn.LoggedCalls();
+    ASSERT_GT(calls.size(), 7U);
+    EXPECT_EQ(calls.at(7), "put face \"Face 1\" MaterialPropertyValues = [0.80784313725490198, "
+                           "0.22745098039215686, 0.20392156862745098, 0.59999999999999998, 1, "
+                           "0.5, 0.40000000000000002, 0, 0]");
+    EXPECT_EQ(calls.back(), "put face \"Face 2\" MaterialPropertyValues = "
+                            "[1, 0.50196078431372548, 0.25098039215686274, 0, 0.5, 0.25, 0, 1, 0]");
+}
+
 TEST_F(StandInScriptTest, AScriptIsToldWhatWentWrong) {
     const StandInProcess standIn;
     ASSERT_TRUE(standIn.IsReady());

@@ -178,6 +178,32 @@ TEST_F(StandInWindowTest, TheColourTableIsReadable) {
     EXPECT_EQ(TextOf(StandInContract::ColorTable).substr(0, 23), "Signal red: 200, 30, 36");
 }
 
+TEST_F(StandInWindowTest, AnEntryOfTheColourTableThatAClientSetsIsShown) {
+    Document()->Get("GetColorTable").AsObject()->Invoke("SetColorRefAtIndex", {0, 0xFF8040, 0});
+    EXPECT_TRUE(PollUntil([&] {
+        return TextOf(StandInContract::ColorTable).starts_with("Signal red: 64, 128, 255\r\n");
+    })) << TextOf(StandInContract::ColorTable);
+}
+
+TEST_F(StandInWindowTest, AComponentThatLosesItsColourShowsThatOfItsModel) {
+    ASSERT_TRUE(standIn.Order("document assembly"));
+    ASSERT_EQ(list.Text(list.RowOf("Cover-1"), 2), "170, 210, 224");
+    const AutomationObjectPtr root =
+        Document()->Get("GetActiveConfiguration").AsObject()->Get("GetRootComponent").AsObject();
+    const AutomationObjectPtr cover =
+        std::get<AutomationArray>(root->Get("GetChildren").data).at(1).AsObject();
+    cover->Invoke("Select", {false});
+    ASSERT_TRUE(PollUntil([&] { return list.IsSelected(list.RowOf("Cover-1")); }));
+    EXPECT_TRUE(TextOf(StandInContract::Details).starts_with("Cover-1\r\nOwn colour: set."));
+    cover->Get("RemoveMaterialProperty");
+    EXPECT_TRUE(PollUntil([&] { return list.Text(list.RowOf("Cover-1"), 2) == "96, 152, 176"; }))
+        << list.Text(list.RowOf("Cover-1"), 2);
+    EXPECT_TRUE(PollUntil([&] {
+        return TextOf(StandInContract::Details)
+            .starts_with("Cover-1\r\nOwn colour: unset.  Seen: the colour of the part");
+    })) << TextOf(StandInContract::Details);
+}
+
 TEST_F(StandInWindowTest, AnotherDocumentIsChosenInTheComboBox) {
     const HWND choice = standIn.Control(StandInContract::DocumentChoice);
     SendMessageW(choice, CB_SETCURSEL, 1, 0);
