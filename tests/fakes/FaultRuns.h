@@ -34,8 +34,8 @@ public:
         if (command.prepare)
             command.prepare(program);
         if (command.select)
-            command.select(StandInClient(
-                program.automation.GetRunningObject(ProgramNames::SolidWorksClass)));
+            command.select(
+                StandInClient(program.automation.GetRunningObject(ProgramNames::SolidWorksClass)));
     }
 
     // Runs the command; what the user sees of its end: "status" (the text of success), a message

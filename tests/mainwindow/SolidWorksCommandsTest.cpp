@@ -27,6 +27,13 @@ protected:
     void TypeValue(std::size_t index, const std::string& text) {
         program->Main().ValueTextChanged(index, text);
     }
+    // The texts of a row: name and nine values.
+    [[nodiscard]] std::vector<std::string> Row(int row) {
+        std::vector<std::string> texts;
+        for (int column = 1; column <= 10; ++column)
+            texts.push_back(program->Main().CellText(row, column));
+        return texts;
+    }
     [[nodiscard]] StandInClient Client() const { return StandInClient(program->solidWorks); }
     // A library that is marked as changed has no file: Save asks for one.
     [[nodiscard]] bool IsMarkedAsChanged() {
@@ -234,6 +241,51 @@ TEST_F(SolidWorksCommandsTest, NewColorFromSolidWorksEndsWithTheReadValuesInTheL
     EXPECT_EQ(program->Main().CellText(0, 1), "Neuer Farbwert");
     EXPECT_EQ(program->Main().CellText(0, 2), "51");
     EXPECT_EQ(program->Main().CellText(0, 10), "60");
+}
+
+TEST_F(SolidWorksCommandsTest, NewColorOfAnEdgeBecomesZerosWithoutANameAndWithoutAMessage) {
+    program->solidWorks.Part().Edges().front()->Select(false);
+    program->Main().NodeClicked("0DG1");
+    program->prompts.typed = {"picked"};
+    Run(IDM_mnuSWXNewColorUpdate);
+    ASSERT_EQ(program->view.rowCount, 1);
+    EXPECT_EQ(Row(0), (std::vector<std::string>{"", "0", "0", "0", "0", "0", "0", "0", "0", "0"}));
+    EXPECT_EQ(program->view.colorName, "");
+    EXPECT_TRUE(program->prompts.messages.empty());
+}
+
+TEST_F(SolidWorksCommandsTest, NewColorThatSolidWorksRefusesKeepsItsNameAndTheEditorsValues) {
+    program->Main().NodeClicked("0DG1");
+    program->prompts.typed = {"first"};
+    Run(IDM_mnuColorNewColor);
+    const std::vector<std::string> first = Row(0);
+    const std::vector<std::string> texts{"1", "2", "3", "11", "22", "33", "44", "55", "66"};
+    for (std::size_t index = 0; index < texts.size(); ++index)
+        TypeValue(index, texts[index]);
+    program->solidWorks.Activate(DocumentType::Drawing);
+    program->prompts.typed = {"typed"};
+    Run(IDM_mnuSWXNewColorUpdate);
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<2>", 64, kTitle}}));
+    ASSERT_EQ(program->view.rowCount, 2);
+    EXPECT_EQ(Row(0), first);
+    std::vector<std::string> second{"typed"};
+    second.insert(second.end(), texts.begin(), texts.end());
+    EXPECT_EQ(Row(1), second);
+    EXPECT_EQ(program->view.colorName, "typed");
+}
+
+TEST_F(SolidWorksCommandsTest, CancelledNameAndARefusalWriteTheEditorIntoTheColorThatWasActive) {
+    program->Main().NodeClicked("0DG1");
+    program->prompts.typed = {"first"};
+    Run(IDM_mnuColorNewColor);
+    TypeValue(0, "7");
+    ASSERT_NE(Row(0).at(1), "7");
+    program->service.SetRunning(false);
+    Run(IDM_mnuSWXNewColorUpdate); // cancelled
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<0>", 64, kTitle}}));
+    ASSERT_EQ(program->view.rowCount, 1);
+    EXPECT_EQ(Row(0).at(0), "first");
+    EXPECT_EQ(Row(0).at(1), "7");
 }
 
 TEST_F(SolidWorksCommandsTest, CancelledNameStillReadsAndWritesTheColorThatWasActive) {

@@ -91,8 +91,8 @@ struct CleanRun {
         state = program.State();
         calls = program.program.solidWorks.Log().Lines();
         records = program.program.solidWorks.Log().Records();
-        withSelection = std::ranges::find(records, "GetSelectedObject3", &CallRecord::member) !=
-                        records.end();
+        withSelection =
+            std::ranges::find(records, "GetSelectedObject3", &CallRecord::member) != records.end();
     }
 
     std::string seen;
@@ -186,7 +186,8 @@ TEST_P(SolidWorksFaults, EveryCallInEveryWay) {
             if (outcome == "error")
                 errors.emplace(way.name);
         }
-        EXPECT_EQ(errors, ErrorsOf(clean.records[call - 1], clean.withSelection)) << clean.calls[call - 1];
+        EXPECT_EQ(errors, ErrorsOf(clean.records[call - 1], clean.withSelection))
+            << clean.calls[call - 1];
         table += "\n" + std::to_string(call) + " " + clean.records[call - 1].member + "\n";
         for (const auto& [outcome, list] : columns)
             table += "    " + Padded(outcome + ":", 11) + list + "\n";

@@ -161,7 +161,28 @@ TEST_F(ClearColorPart, StopAmongTheFacesLeavesTheOthersUntouched) {
     FaceAt(0)->SetColor(MaterialValues{});
     FaceAt(1)->SetColor(MaterialValues{});
     StopAtItem(4);
-    EXPECT_EQ(tools->SWXClearColorPart(), "ProgressStopped");
+    EXPECT_EQ(Calls(), R"(
+call application ActiveDoc()
+call document "Generated.SLDPRT" GetType()
+call document "Generated.SLDPRT" Body()
+call document "Generated.SLDPRT" ClearSelection()
+call body GetFaceCount()
+call document "Generated.SLDPRT" GetFeatureCount()
+call document "Generated.SLDPRT" FirstFeature()
+call feature "Feature 1" Select(False)
+call feature "Feature 1" IsSuppressed()
+call document "Generated.SLDPRT" SelectedFeatureProperties(0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, True, False, "")
+call feature "Feature 1" GetNextFeature()
+call feature "Feature 2" Select(False)
+call feature "Feature 2" IsSuppressed()
+call document "Generated.SLDPRT" SelectedFeatureProperties(0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, True, False, "")
+call feature "Feature 2" GetNextFeature()
+call body GetFirstFace()
+call face "Face 1" Select(False)
+call document "Generated.SLDPRT" SelectedFaceProperties(0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, True, "")
+call face "Face 1" GetNextFace()
+= ProgressStopped
+)");
     EXPECT_EQ(FaceAt(0)->Color(), std::nullopt);
     EXPECT_NE(FaceAt(1)->Color(), std::nullopt);
     EXPECT_EQ(model->Part().RebuildCount(), 0);
@@ -257,6 +278,29 @@ call component "Enclosure.SLDASM" GetChildren()
 call document "Enclosure.SLDASM" EditRebuild()
 = okay
 )");
+}
+
+TEST_F(ClearColorAssembly, NothingAmongTheChildrenIsAnErrorThatNamesThem) {
+    automation->onAnswer = [](const std::string& member, AutomationValue& value) {
+        if (member == "GetChildren")
+            std::get<AutomationArray>(value.data).at(2) = AutomationObjectPtr();
+    };
+    model->Log().Clear();
+    EXPECT_EQ(ErrorOf([&] { tools->SWXClearColorAssembly(); }),
+              "SolidWorks gave no object (GetChildren)");
+    EXPECT_EQ(LoggedCalls(), R"(
+call application RevisionNumber()
+call application ActiveDoc()
+call document "Enclosure.SLDASM" GetType()
+call document "Enclosure.SLDASM" ClearSelection()
+call document "Enclosure.SLDASM" GetActiveConfiguration()
+call configuration GetRootComponent()
+call component "Enclosure.SLDASM" GetChildren()
+call component "Housing-1" RemoveMaterialProperty()
+call component "Cover-1" RemoveMaterialProperty()
+)");
+    EXPECT_FALSE(progress.isShown);
+    EXPECT_EQ(model->Gate().LiveObjects(), 0U);
 }
 
 TEST_F(ClearColorAssembly, AssemblyWithoutARootIsRebuilt) {

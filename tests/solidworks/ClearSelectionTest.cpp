@@ -174,6 +174,54 @@ call document "Enclosure.SLDASM" EditRebuild()
     EXPECT_EQ(FaceAt(2)->Color(), std::nullopt);
 }
 
+TEST_F(ClearColor, EdgeInAnAssemblyIsSelectedAndReported) {
+    Start("assembly");
+    AnEdge()->Select(true);
+    ComponentNamed("Screw-2")->Select(true);
+    EXPECT_EQ(Calls(), R"(
+call application ActiveDoc()
+call document "Enclosure.SLDASM" GetType()
+call document "Enclosure.SLDASM" SelectionManager()
+call selection manager GetSelectedObjectCount()
+call selection manager GetSelectedObject3(1)
+call edge "Edge 1" Select(True)
+call selection manager GetSelectedObjectType2(1)
+call selection manager GetSelectedObject3(2)
+call component "Screw-2" Select(True)
+call selection manager GetSelectedObjectType2(2)
+call application RevisionNumber()
+call component "Screw-2" RemoveMaterialProperty()
+call document "Enclosure.SLDASM" EditRebuild()
+= \r\nNoValidSelection: 1
+)");
+    EXPECT_EQ(ComponentNamed("Screw-2")->Color(), std::nullopt);
+}
+
+// Any number but 0 says yes, not only the one that a boolean is.
+TEST_F(ClearColor, SuppressionThatIsToldAsANumberIsKeptAsABoolean) {
+    FeatureAt(0)->Select(true);
+    for (const std::int32_t answer : {1, 2, -1, 0}) {
+        automation->onAnswer = [&](const std::string& member, AutomationValue& value) {
+            if (member == "IsSuppressed")
+                value = answer;
+        };
+        EXPECT_EQ(Calls(), std::string(R"(
+call application ActiveDoc()
+call document "Housing.SLDPRT" GetType()
+call document "Housing.SLDPRT" SelectionManager()
+call selection manager GetSelectedObjectCount()
+call selection manager GetSelectedObject3(1)
+call feature "Base" Select(True)
+call selection manager GetSelectedObjectType2(1)
+call feature "Base" IsSuppressed()
+call document "Housing.SLDPRT" SelectedFeatureProperties(0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, True, )") +
+                               (answer != 0 ? "True" : "False") + R"(, "")
+call document "Housing.SLDPRT" EditRebuild()
+= okay
+)") << answer;
+    }
+}
+
 TEST_F(ClearColor, OldRevisionReportsEachComponentAndStillClearsFaces) {
     Start("assembly,old-revision");
     ComponentNamed("Screw-1")->Select(true);

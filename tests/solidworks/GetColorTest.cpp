@@ -256,6 +256,57 @@ call document "Enclosure.SLDASM" MaterialPropertyValues()
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
+TEST_F(GetColor, LoadedComponentForWhichNothingCarriesAColor) {
+    Start("assembly,no-colors");
+    ComponentNamed("Housing-1")->Select(true);
+    EXPECT_EQ(Calls(), R"(
+call application ActiveDoc()
+call document "Enclosure.SLDASM" GetType()
+call document "Enclosure.SLDASM" SelectionManager()
+call selection manager GetSelectedObjectCount()
+call selection manager GetSelectedObject3(1)
+call selection manager GetSelectedObjectType2(1)
+call component "Housing-1" MaterialPropertyValues()
+call component "Housing-1" GetModelDoc()
+call document "Housing.SLDPRT" MaterialPropertyValues()
+= NoColorValueFound: 20
+)");
+    EXPECT_EQ(color, ColorRecord());
+}
+
+TEST_F(GetColor, ComponentThatCannotTellItsModelHasNoModelToAsk) {
+    Start("assembly");
+    ComponentNamed("Housing-1")->Select(true);
+    EXPECT_EQ(Calls("8:error"), R"(
+call application ActiveDoc()
+call document "Enclosure.SLDASM" GetType()
+call document "Enclosure.SLDASM" SelectionManager()
+call selection manager GetSelectedObjectCount()
+call selection manager GetSelectedObject3(1)
+call selection manager GetSelectedObjectType2(1)
+call component "Housing-1" MaterialPropertyValues()
+call component "Housing-1" GetModelDoc()
+= NoColorValueFound: 20
+)");
+    EXPECT_EQ(color, ColorRecord());
+}
+
+TEST_F(GetColor, FaceThatIsNoObjectAsksTheDocument) {
+    model->Part().SetColor(kOwn);
+    FaceAt(0)->Select(true);
+    EXPECT_EQ(Calls("5:null"), R"(
+call application ActiveDoc()
+call document "Housing.SLDPRT" GetType()
+call document "Housing.SLDPRT" SelectionManager()
+call selection manager GetSelectedObjectCount()
+call selection manager GetSelectedObject3(1)
+call selection manager GetSelectedObjectType2(1)
+call document "Housing.SLDPRT" MaterialPropertyValues()
+= 
+)");
+    EXPECT_TRUE(HasRead(kOwnRead));
+}
+
 TEST_F(GetColor, FeatureThatIsNoObjectAsksTheDocument) {
     model->Part().SetColor(kOwn);
     FeatureAt(0)->Select(true);

@@ -56,13 +56,19 @@ protected:
             model->Gate().AddFault(ParseFault(fault));
         model->Log().Clear();
         const std::string result = operation();
-        std::string text = "\n";
-        for (const std::string& line : model->Log().Lines())
-            text += line + "\n";
-        return text + "= " + OnOneLine(result) + "\n";
+        return LoggedCalls() + "= " + OnOneLine(result) + "\n";
     }
     std::string CallsOf(std::string (modSldTools::*operation)(), const std::string& fault = {}) {
         return CallsOf([&] { return ((*tools).*operation)(); }, fault);
+    }
+
+    // The calls made since the log was cleared, one line for each; also of an operation that
+    // failed.
+    [[nodiscard]] std::string LoggedCalls() const {
+        std::string text = "\n";
+        for (const std::string& line : model->Log().Lines())
+            text += line + "\n";
+        return text;
     }
 
     // The error that the operation raises, as "description (member)".

@@ -115,7 +115,18 @@ call color table GetStandardCount()
 TEST_F(StandardColorsOfTable, DifferingSizeAndOkWritesTheEntriesOfTheTable) {
     ReadAndChange();
     colors.emplace_back();
-    EXPECT_EQ(tools->SWXSetStandardColors(colors), "Okay");
+    EXPECT_EQ(SetCalls(), R"(
+call application ActiveDoc()
+call document "Housing.SLDPRT" GetColorTable()
+call color table GetStandardCount()
+call color table GetNameAtIndex(0)
+call color table SetColorRefAtIndex(0, 197121, 0)
+call color table GetNameAtIndex(1)
+call color table SetColorRefAtIndex(1, 197121, 0)
+call color table GetNameAtIndex(2)
+call color table SetColorRefAtIndex(2, 197121, 0)
+= Okay
+)");
     EXPECT_EQ(Numbers(), std::vector<ColorNumber>(3, 0x030201));
     EXPECT_EQ(prompts.messages, kAskSize);
 }
@@ -181,8 +192,18 @@ TEST_F(StandardColorsOfTable, EveryDifferingNameAsksAnew) {
 TEST_F(StandardColorsOfTable, FewerColorsThanEntriesIsAnErrorAfterThoseWereWritten) {
     ReadAndChange();
     colors.resize(2);
-    EXPECT_EQ(ErrorNumberOf([&] { tools->SWXSetStandardColors(colors); }),
-              ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorNumberOf([&] { SetCalls(); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(LoggedCalls(), R"(
+call application ActiveDoc()
+call document "Housing.SLDPRT" GetColorTable()
+call color table GetStandardCount()
+call color table GetNameAtIndex(0)
+call color table SetColorRefAtIndex(0, 197121, 0)
+call color table GetNameAtIndex(1)
+call color table SetColorRefAtIndex(1, 197121, 0)
+call color table GetNameAtIndex(2)
+)");
+    EXPECT_EQ(prompts.messages, kAskSize);
     EXPECT_EQ(Numbers(), (std::vector<ColorNumber>{0x030201, 0x030201, 0xFFFFFF}));
     EXPECT_EQ(model->Gate().LiveObjects(), 0U);
 }
