@@ -22,9 +22,7 @@ protected:
         return L"--scenario " + ToUtf16(GetParam().scenario);
     }
     [[nodiscard]] static std::unique_ptr<StandInProcess> StartStandIn() {
-        auto standIn = std::make_unique<StandInProcess>(Switches());
-        EXPECT_TRUE(standIn->IsReady());
-        return standIn;
+        return std::make_unique<StandInProcess>(Switches());
     }
     // The members that the command calls, in their order.
     [[nodiscard]] static std::vector<std::string> MembersCalled() {
@@ -68,6 +66,7 @@ TEST_P(StandInFaults, ServerThatDiesInAnyCall) {
     for (std::size_t call = 1; call <= members.size(); ++call) {
         SCOPED_TRACE(members[call - 1]);
         auto standIn = StartStandIn();
+        ASSERT_TRUE(standIn->IsReady());
         FaultyProgram faulty(GetParam(), &objects);
         ASSERT_TRUE(standIn->Order("clear-faults"));
         ASSERT_TRUE(standIn->Order("fault " + std::to_string(call) + ":die"));
@@ -79,6 +78,7 @@ TEST_P(StandInFaults, ServerThatDiesInAnyCall) {
         EXPECT_FALSE(faulty.program.progress.isShown);
         EXPECT_EQ(faulty.Run(), "note: <0>") << "SolidWorks is gone";
         standIn = StartStandIn();
+        ASSERT_TRUE(standIn->IsReady());
         const std::string after = faulty.Run();
         EXPECT_TRUE(after == "status" || after == "nothing") << after;
         CheckNothingIsLeft(faulty, *standIn);
@@ -87,6 +87,7 @@ TEST_P(StandInFaults, ServerThatDiesInAnyCall) {
 
 TEST_P(StandInFaults, EveryCallRejectedThenTakenOrNeverTaken) {
     const auto standIn = StartStandIn();
+    ASSERT_TRUE(standIn->IsReady());
     FaultyProgram faulty(GetParam(), &objects);
     FaultyProgram native(GetParam());
     ASSERT_TRUE(standIn->Order("clear-faults"));
@@ -120,6 +121,7 @@ TEST_P(StandInFaults, EveryCallRejectedThenTakenOrNeverTaken) {
 
 TEST_P(StandInFaults, EveryCallThatFailsOrAnswersWrongly) {
     const auto standIn = StartStandIn();
+    ASSERT_TRUE(standIn->IsReady());
     FaultyProgram faulty(GetParam(), &objects);
     FaultyProgram native(GetParam());
     for (std::size_t call = 1; call <= members.size(); ++call)
