@@ -4,6 +4,7 @@
 #include "tests/platform/PollUntil.h"
 
 #include <array>
+#include <cstdio>
 #include <filesystem>
 #include <sstream>
 
@@ -50,6 +51,16 @@ HWND FindStandIn(DWORD processId) {
     return nullptr;
 }
 
+// For the log of a test that finds no stand-in: whether it ended or is not done yet.
+void TellWhatBecameOf(const KernelHandle& process) {
+    DWORD code = 0;
+    GetExitCodeProcess(process.Get(), &code);
+    if (code == STILL_ACTIVE)
+        std::printf("The stand-in runs and is not ready\n");
+    else
+        std::printf("The stand-in ended with %lu before it was ready\n", code);
+}
+
 std::string ReadAll(HANDLE pipe) {
     std::string text;
     std::array<char, 4096> buffer{};
@@ -91,10 +102,14 @@ StandInProcess::StandInProcess(const std::wstring& switches, CallLogging logging
     process_ = Start(Quoted(program) + L" --hidden --ready-file " + Quoted(readyFile) + logSwitch +
                          L" " + switches,
                      startup);
-    if (!process_)
+    if (!process_) {
+        std::printf("The stand-in was not started: error %lu\n", GetLastError());
         return;
+    }
     ready_ = PollUntil(
         [&] { return std::filesystem::exists(readyFile) && !folder_.Read("ready").empty(); });
+    if (!ready_)
+        TellWhatBecameOf(process_);
     window_ = FindStandIn(GetProcessId(process_.Get()));
 }
 
