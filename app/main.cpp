@@ -8,6 +8,7 @@
 #include "platform/MessageLoop.h"
 #include "platform/ProgramFolder.h"
 #include "platform/RunningObjects.h"
+#include "platform/SilenceAtScopeEnd.h"
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32Clipboard.h"
 #include "platform/Win32Files.h"
@@ -78,6 +79,9 @@ int RunProgram() {
                             {main, main, main, about, textViewer, progress, progress, progress},
                             {programFolder, kVersion, BannerAddresses(files, bannerFolder, banners),
                              FolderForCodePage(programFolder, codePage)});
+    // The application goes first, and the forms after it: the main window still gets messages then,
+    // such as the focus from a text viewer that is destroyed.
+    const SilenceAtScopeEnd silence(main);
     main.Attach(application.MainEvents());
     about.Attach(application.AboutWindowEvents());
     textViewer.Attach(application.TextViewerWindowEvents());

@@ -118,9 +118,13 @@ MessageResult frmMain::OnMessage(const WindowMessage& message) {
         else
             events_->BannerTicked();
         return 0;
-    case WM_DROPFILES:
-        events_->FilesDropped(TakeDroppedFiles(message.wParam));
+    case WM_DROPFILES: {
+        const std::vector<std::string> files = TakeDroppedFiles(message.wParam);
+        // The shell drops them also while a question is open, in the middle of a command.
+        if (IsWindowEnabled(message.window) != FALSE)
+            events_->FilesDropped(files);
         return 0;
+    }
     case WM_ENDSESSION: // the session ends without asking for the close box
         if (message.wParam != FALSE)
             events_->SessionEnding();

@@ -50,10 +50,14 @@ int ButtonForEnter(int defaultButton) {
                                                                      : defaultButton;
 }
 
-void ForwardToChildren(const WindowMessage& message) {
-    for (HWND child = GetWindow(message.window, GW_CHILD); child != nullptr;
-         child = GetWindow(child, GW_HWNDNEXT))
-        SendMessageW(child, message.id, message.wParam, message.lParam);
+// Also to controls that stand in a frame.
+void ForwardToControls(const WindowMessage& message) {
+    const auto forward = [](HWND control, LPARAM parameter) -> BOOL {
+        const auto& forwarded = *reinterpret_cast<const WindowMessage*>(parameter);
+        SendMessageW(control, forwarded.id, forwarded.wParam, forwarded.lParam);
+        return TRUE;
+    };
+    EnumChildWindows(message.window, forward, reinterpret_cast<LPARAM>(&message));
 }
 
 } // namespace
@@ -134,11 +138,13 @@ MessageResult Form::OnMessage(const WindowMessage& message) {
         ChangeScale(LOWORD(message.wParam), reinterpret_cast<const RECT*>(message.lParam));
         return 0;
     case WM_SETTINGCHANGE:
-        if (message.wParam == SPI_SETNONCLIENTMETRICS)
+        if (message.wParam == SPI_SETNONCLIENTMETRICS) { // texts have another size
             ApplyScale();
+            LayOut();
+        }
         return {};
     case WM_SYSCOLORCHANGE:
-        ForwardToChildren(message);
+        ForwardToControls(message);
         return {};
     case WM_GETMINMAXINFO:
         LimitSize(*reinterpret_cast<MINMAXINFO*>(message.lParam));

@@ -61,6 +61,9 @@ public:
     // Shortcuts first, then Tab, Enter, Escape and access keys.  True: the message is done with.
     bool TranslateKeys(MSG& message);
 
+    // From now on nothing is reported, whatever happens to the window.
+    void StopReporting() noexcept { closing_ = true; }
+
     // Lays the form out once after the messages that are waiting.
     void RequestLayout() noexcept;
 

@@ -1,6 +1,7 @@
 #include "platform/Win32Prompts.h"
 
 #include "common/MessageText.h"
+#include "platform/BoxOwner.h"
 #include "platform/DpiScale.h"
 #include "platform/FileDialog.h"
 #include "platform/Fonts.h"
@@ -37,32 +38,30 @@ MessageRoom RoomOnScreen() {
 
 } // namespace
 
-HWND Win32Prompts::ActivePopup() const {
-    HWND owner = owner_();
-    HWND popup = owner != nullptr ? GetLastActivePopup(owner) : nullptr;
-    // One that was hidden meanwhile still counts as the last active.
-    return popup != nullptr && IsWindowVisible(popup) != FALSE ? popup : owner;
-}
-
 Answer Win32Prompts::ShowMessage(const std::string& prompt, int style, const std::string& title) {
-    return ToAnswer(MessageBoxW(ActivePopup(),
+    const BoxOwner owner(mainWindow_());
+    return ToAnswer(MessageBoxW(owner.Handle(),
                                 ToUtf16(FittedMessage(prompt, RoomOnScreen())).c_str(),
                                 ToUtf16(title).c_str(), static_cast<UINT>(style)));
 }
 
 std::string Win32Prompts::AskText(const std::string& prompt, const std::string& title,
                                   const std::string& preset) {
-    return ToUtf8(ShowInputBox(ActivePopup(), ToUtf16(prompt), ToUtf16(title), ToUtf16(preset)));
+    const BoxOwner owner(mainWindow_());
+    return ToUtf8(ShowInputBox(owner.Handle(), ToUtf16(prompt), ToUtf16(title), ToUtf16(preset)));
 }
 
 std::optional<std::string> Win32Prompts::AskOpenFile(const FileDialogRequest& request) {
-    return ShowOpenDialog(ActivePopup(), request);
+    const BoxOwner owner(mainWindow_());
+    return ShowOpenDialog(owner.Handle(), request);
 }
 
 std::optional<std::string> Win32Prompts::AskSaveFile(const FileDialogRequest& request) {
-    return ShowSaveDialog(ActivePopup(), request);
+    const BoxOwner owner(mainWindow_());
+    return ShowSaveDialog(owner.Handle(), request);
 }
 
 std::optional<ColorNumber> Win32Prompts::AskColor(const std::string& title, ColorNumber initial) {
-    return colorDialog_.Show(ActivePopup(), title, initial);
+    const BoxOwner owner(mainWindow_());
+    return colorDialog_.Show(owner.Handle(), title, initial);
 }

@@ -4,11 +4,11 @@
 #include "platform/ColorDialog.h"
 #include "platform/OwnerWindow.h"
 
-// Message box, input box and the system's file and colour dialogs.  Each is owned by the owner's
-// active popup, so that it never opens behind another window of the program.
+// Message box, input box and the system's file and colour dialogs.  Each is owned by the main
+// window's active popup, so that it never opens behind another window of the program.
 class Win32Prompts : public Prompts {
 public:
-    explicit Win32Prompts(OwnerWindow owner) : owner_(std::move(owner)) {}
+    explicit Win32Prompts(OwnerWindow mainWindow) : mainWindow_(std::move(mainWindow)) {}
 
     // MessageBoxW with exactly the style; a box that could not be shown counts as cancelled.  A
     // prompt that the screen has no room for is shown shortened.
@@ -21,8 +21,6 @@ public:
     std::optional<ColorNumber> AskColor(const std::string& title, ColorNumber initial) override;
 
 private:
-    [[nodiscard]] HWND ActivePopup() const;
-
-    OwnerWindow owner_;
+    OwnerWindow mainWindow_;
     ColorDialog colorDialog_;
 };

@@ -26,6 +26,11 @@ COLORREF LinkColor() {
     return std::abs(contrast) >= kSmallestContrast ? link : GetSysColor(COLOR_BTNTEXT);
 }
 
+// A key that is held down repeats its message.
+bool IsFirstOfKey(LPARAM keyMessage) {
+    return (HIWORD(keyMessage) & KF_REPEAT) == 0;
+}
+
 // Enter goes to the link that has the focus, not to the default button.
 bool IsEnter(LPARAM dialogMessage) {
     const auto* message = reinterpret_cast<const MSG*>(dialogMessage);
@@ -71,6 +76,12 @@ LinkLabel::LinkLabel(Form& form, const ControlPlace& place) : Label(form, place,
                       GetWindowLongPtrW(Handle(), GWL_STYLE) | static_cast<LONG_PTR>(WS_TABSTOP));
 }
 
+// The second press of a double click is none of its own.
+void LinkLabel::OnCommand(WPARAM wParam) {
+    if (HIWORD(wParam) == STN_CLICKED)
+        Raise(onClick);
+}
+
 MessageResult LinkLabel::OnMessage(const WindowMessage& message) {
     switch (message.id) {
     case WM_ERASEBKGND:
@@ -88,11 +99,11 @@ MessageResult LinkLabel::OnMessage(const WindowMessage& message) {
     case WM_GETDLGCODE:
         return DLGC_BUTTON | (IsEnter(message.lParam) ? DLGC_WANTMESSAGE : 0);
     case BM_CLICK:
-    case WM_LBUTTONUP:
         Raise(onClick);
         return 0;
     case WM_KEYDOWN:
-        if (message.wParam == VK_SPACE || message.wParam == VK_RETURN)
+        if (IsFirstOfKey(message.lParam) &&
+            (message.wParam == VK_SPACE || message.wParam == VK_RETURN))
             Raise(onClick);
         return 0;
     default:

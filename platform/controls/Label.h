@@ -40,6 +40,8 @@ public:
 
     std::function<void()> onClick;
 
+    void OnCommand(WPARAM wParam) override;
+
 protected:
     MessageResult OnMessage(const WindowMessage& message) override;
 

@@ -22,7 +22,7 @@ RichEdit::RichEdit(Form& form, const ControlPlace& place)
     : Control(form, kRichEdit, place, kRichEditStyle, WS_EX_CLIENTEDGE) {
     Send(EM_SETTEXTMODE, TM_PLAINTEXT); // a text that looks like marked-up text stays as it is
     Send(EM_EXLIMITTEXT, 0, kLargestText);
-    Send(EM_SETBKGNDCOLOR, 0, static_cast<LPARAM>(GetSysColor(COLOR_WINDOW)));
+    Send(EM_SETBKGNDCOLOR, TRUE); // the system's, also when it changes
     const int margin = Scale().FromDesign(6);
     Send(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
 }

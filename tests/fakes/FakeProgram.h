@@ -30,13 +30,14 @@ public:
     void SetState(WindowState) override {}
     TwipsSize ScreenSize() const override { return {15360, 11520}; }
     void SetTopmost(bool onTop) override { topmost.push_back(onTop); }
-    std::vector<FormControl*> Controls() override { return {}; }
+    std::vector<FormControl*> Controls() override { return form.Controls(); }
     void SetWindowCaption(const std::string& text) override { caption = text; }
     void SetTitle(const std::string& text) override { title = text; }
     void SetVersion(const std::string& text) override { version = text; }
     void SetBanner(int index) override { banner = index; }
     void ShowModal() override { ++shown; }
 
+    FakeForm form{"frmAbout"};
     TwipsRect bounds{0, 0, 6000, 4000};
     std::vector<bool> topmost;
     std::string caption;

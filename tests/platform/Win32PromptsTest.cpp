@@ -23,6 +23,7 @@ protected:
         const DialogDriver driver(L"Achtung \u00FC", [=, this](HWND dialog) {
             text = TextOfControl(dialog, kMessageText);
             owner = GetWindow(dialog, GW_OWNER);
+            mainWasDisabled = IsWindowEnabled(window.Handle()) == FALSE;
             EXPECT_TRUE(PollUntil([&] { return (focused = FocusedControl(dialog)) != 0; }));
             Press(dialog, button);
         });
@@ -33,6 +34,7 @@ protected:
     Win32Prompts prompts{[this] { return window.Handle(); }};
     std::wstring text;
     HWND owner = nullptr;
+    bool mainWasDisabled = false;
     int focused = 0;
 };
 
@@ -74,11 +76,23 @@ TEST_F(Win32PromptsTest, BoxWithAHugeTextStaysOnTheScreenWithItsButtons) {
     EXPECT_TRUE(text.ends_with(L"\r\n..."));
 }
 
-TEST_F(Win32PromptsTest, MessageBelongsToAPopupThatIsOpenAlready) {
+TEST_F(Win32PromptsTest, MessageBelongsToAPopupThatIsOpenAndTheMainWindowTakesNoInput) {
     HWND popup = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50,
                                  window.Handle(), nullptr, nullptr, nullptr);
     SetActiveWindow(popup);
     ShowMessage(MessageStyle::Information, IDOK);
     EXPECT_EQ(owner, popup);
+    EXPECT_TRUE(mainWasDisabled);
+    EXPECT_NE(IsWindowEnabled(window.Handle()), FALSE);
+    DestroyWindow(popup);
+}
+
+TEST_F(Win32PromptsTest, MainWindowThatWasDisabledBeforeABoxStaysDisabled) {
+    HWND popup = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50,
+                                 window.Handle(), nullptr, nullptr, nullptr);
+    SetActiveWindow(popup);
+    EnableWindow(window.Handle(), FALSE); // by a modal window that is over it
+    ShowMessage(MessageStyle::Information, IDOK);
+    EXPECT_EQ(IsWindowEnabled(window.Handle()), FALSE);
     DestroyWindow(popup);
 }

@@ -78,6 +78,42 @@ TEST_F(AuxiliaryWindowsTest, AboutIsCaptionedCentredOnTopAndModal) {
     EXPECT_EQ(program.about.shown, 1);
 }
 
+TEST_F(AuxiliaryWindowsTest, AboutAndViewerTakeTheCurrentOnTopStateEachTimeTheyAreShown) {
+    program.Main().RunCommand(IDM_mnuOptionsAlwaysOnTop);
+    program.Main().RunCommand(IDM_mnuHlpAbout);
+    program.Main().RunCommand(IDM_mnuHlpShowReadme);
+    EXPECT_EQ(program.about.topmost, std::vector<bool>{false});
+    EXPECT_EQ(program.textViewer.topmost, std::vector<bool>{false});
+    program.Main().RunCommand(IDM_mnuOptionsAlwaysOnTop);
+    program.Main().RunCommand(IDM_mnuHlpAbout);
+    program.Main().RunCommand(IDM_mnuHlpShowReadme);
+    EXPECT_EQ(program.about.topmost, (std::vector<bool>{false, true}));
+    EXPECT_EQ(program.textViewer.topmost, (std::vector<bool>{false, true}));
+}
+
+TEST_F(AuxiliaryWindowsTest, AboutAndViewerGetTheBannerWhenTheyAreShown) {
+    program.about.banner = -1; // made only now: what was shown before has passed it by
+    program.textViewer.banner = -1;
+    program.Main().RunCommand(IDM_mnuHlpAbout);
+    program.Main().RunCommand(IDM_mnuHlpShowReadme);
+    EXPECT_EQ(program.about.banner, 1);
+    EXPECT_EQ(program.textViewer.banner, 1);
+}
+
+TEST_F(AuxiliaryWindowsTest, LanguageCommandGivesMainWindowAboutAndProgressTheirTextsInThisOrder) {
+    program.mainForm.Add("lbl", "Label");
+    program.about.form.Add("lbl", "Label");
+    program.progressForm.Add("lbl", "Label");
+    program.profile.asked.clear();
+    program.Main().RunCommand(IDM_mnuOptionsLngGerman);
+    std::vector<std::string> captions;
+    for (const std::string& key : program.profile.asked)
+        if (key.ends_with("/lbl.Caption"))
+            captions.push_back(key);
+    EXPECT_EQ(captions, (std::vector<std::string>{"frmMain/lbl.Caption", "frmAbout/lbl.Caption",
+                                                  "frmProgress/lbl.Caption"}));
+}
+
 TEST_F(AuxiliaryWindowsTest, AboutIsNeverRestoredAlthoughItIsStored) {
     program.application.AboutWindowEvents().AboutUnloading();
     EXPECT_EQ(program.registry.Text("SOFTWARE\\Chromixs\\TNT4SWX\\Form Positions|frmAbout"),

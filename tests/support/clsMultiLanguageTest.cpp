@@ -141,10 +141,13 @@ TEST_F(clsMultiLanguageTest, DisabledTextBoxIsEnabledWhileItsTextIsSet) {
 TEST_F(clsMultiLanguageTest, ControlArrayTakesItsTextsFromOnePairOfKeys) {
     FakeControl& first = form.Add("txtActiveColor", "TextBox");
     FakeControl& second = form.Add("txtActiveColor", "TextBox");
+    Put("txtActiveColor.Text", "0");
     Put("txtActiveColor.ToolTipText", "tip");
     language.SetAllControlText(form);
-    EXPECT_EQ(first.properties["ToolTipText"], "tip");
-    EXPECT_EQ(second.properties["ToolTipText"], "tip");
+    for (FakeControl* box : {&first, &second}) {
+        EXPECT_EQ(box->properties["Text"], "0");
+        EXPECT_EQ(box->properties["ToolTipText"], "tip");
+    }
 }
 
 TEST_F(clsMultiLanguageTest, ComboBoxIsClearedAndFilledAndItsDefaultSelected) {
@@ -260,6 +263,35 @@ TEST_F(clsMultiLanguageTest, ListBoxAppearsInATemplate) {
                      "frmMain/lst.AddItem1=b", "frmMain/lst.ToolTipText=built-in ToolTipText"}));
 }
 
+TEST_F(clsMultiLanguageTest, ComboBoxAppearsInATemplate) {
+    FakeControl& box = form.Add("cmb", "ComboBox");
+    box.list.entries = {"a"};
+    language.GetAllControlText(form);
+    EXPECT_EQ(profile.written,
+              (Lines{"frmMain/cmb.Default=-1", "frmMain/cmb.ListCount=1", "frmMain/cmb.AddItem0=a",
+                     "frmMain/cmb.ToolTipText=built-in ToolTipText"}));
+}
+
+TEST_F(clsMultiLanguageTest, OneControlIsLoadedAloneAndOnlyWhileTheLanguageFileIsThere) {
+    FakeControl& label = form.Add("lbl", "Label");
+    FakeControl& other = form.Add("other", "Label");
+    Put("lbl.Caption", "Farbe");
+    Put("other.Caption", "Gruppe");
+    language.SetControlText(form, label);
+    EXPECT_EQ(label.properties["Caption"], "Farbe");
+    EXPECT_EQ(other.properties["Caption"], "built-in Caption");
+    files.contents.clear();
+    language.SetControlText(form, other);
+    EXPECT_EQ(other.properties["Caption"], "built-in Caption");
+}
+
+TEST_F(clsMultiLanguageTest, OneControlIsWrittenAlone) {
+    FakeControl& menu = form.Add("mnuFile", "Menu");
+    form.Add("other", "Menu");
+    language.GetControlText(form, menu);
+    EXPECT_EQ(profile.written, Lines{"frmMain/mnuFile.Caption=built-in Caption"});
+}
+
 TEST_F(clsMultiLanguageTest, TemplateHasTheToolbarsButtonsAndMenus) {
     FakeControl& bar = form.Add("tlbarMain", "Toolbar");
     bar.toolbar.buttons = {{"sep", ToolbarButtonStyle::Separator, {}, {}},
@@ -275,8 +307,14 @@ TEST_F(clsMultiLanguageTest, IntegerOutsideSixteenBitsIsTheEmptyValue) {
     Put("n", "123");
     EXPECT_EQ(language.INIGetSettingInteger("frmMain", "n", kIni, 7), 123);
     EXPECT_EQ(language.INIGetSettingInteger("frmMain", "missing", kIni, 7), 7);
-    Put("n", "40000");
-    EXPECT_EQ(language.INIGetSettingInteger("frmMain", "n", kIni, 7), 0);
+    for (const char* outside : {"40000", "32768", "-32769"}) {
+        Put("n", outside);
+        EXPECT_EQ(language.INIGetSettingInteger("frmMain", "n", kIni, 7), 0) << outside;
+    }
+    Put("n", "32767");
+    EXPECT_EQ(language.INIGetSettingInteger("frmMain", "n", kIni, 7), 32767);
+    Put("n", "-32768");
+    EXPECT_EQ(language.INIGetSettingInteger("frmMain", "n", kIni, 7), -32768);
 }
 
 TEST_F(clsMultiLanguageTest, PathHasAFolderPartWithItsBackslashAndANamePart) {

@@ -184,6 +184,22 @@ TEST_F(AuxiliaryForms, AboutReportsItsLinksAndButtons) {
     EXPECT_EQ(recorded.lines, (std::vector<std::string>{"system", "home", "mail"}));
 }
 
+TEST_F(AuxiliaryForms, LinkIsFollowedOnceByADoubleClickAndByAKeyThatIsHeldDown) {
+    frmAbout about(form.Handle(), errors, banners);
+    about.Attach(recorded);
+    const HWND link = FindChild(about.Handle(), IDC_lblLinkHomepage);
+    SendMessageW(link, WM_LBUTTONUP, 0, 0); // pressed elsewhere
+    EXPECT_TRUE(recorded.lines.empty());
+    Click(link, {2, 2});
+    SendMessageW(link, WM_LBUTTONDBLCLK, MK_LBUTTON, 0);
+    SendMessageW(link, WM_LBUTTONUP, 0, 0);
+    EXPECT_EQ(recorded.lines, std::vector<std::string>{"home"});
+    constexpr LPARAM isRepeated = LPARAM{KF_REPEAT} << 16U;
+    SendMessageW(link, WM_KEYDOWN, VK_SPACE, 0);
+    SendMessageW(link, WM_KEYDOWN, VK_SPACE, isRepeated);
+    EXPECT_EQ(recorded.lines, (std::vector<std::string>{"home", "home"}));
+}
+
 TEST_F(AuxiliaryForms, AboutWindowIsMadeWhenItIsFirstWanted) {
     AboutOnDemand about(form.Handle(), errors, banners);
     about.Attach(recorded);
@@ -231,6 +247,18 @@ TEST_F(AuxiliaryForms, ViewerTakesTextThatLooksLikeMarkupAsItIs) {
     frmTxtView viewer(form.Handle(), errors, banners);
     viewer.SetText("{\\rtf1 Prüfung}");
     EXPECT_EQ(TextOf(FindChild(viewer.Handle(), IDC_rtbShowtext)), L"{\\rtf1 Prüfung}");
+}
+
+TEST_F(AuxiliaryForms, ViewerIsArrangedAgainWhenTheSystemsTextsChangeTheirSize) {
+    frmTxtView viewer(form.Handle(), errors, banners);
+    const HWND button = FindChild(viewer.Handle(), IDC_cmdOkay);
+    RECT before{};
+    GetWindowRect(button, &before);
+    SetWindowPos(button, nullptr, 0, 0, 5, 5, SWP_NOZORDER);
+    SendMessageW(viewer.Handle(), WM_SETTINGCHANGE, SPI_SETNONCLIENTMETRICS, 0);
+    RECT after{};
+    GetWindowRect(button, &after);
+    EXPECT_NE(EqualRect(&before, &after), FALSE);
 }
 
 TEST_F(AuxiliaryForms, ViewerHoldsALongText) {

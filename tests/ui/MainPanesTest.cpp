@@ -1,6 +1,7 @@
 #include "tests/ui/MainFormTest.h"
 
 #include "platform/GlobalMemory.h"
+#include "platform/SilenceAtScopeEnd.h"
 #include "platform/Utf16.h"
 
 #include <cstring>
@@ -39,6 +40,26 @@ TEST_F(MainPanes, FilesCanBeDroppedAndAreReportedInTheirOrder) {
     EXPECT_NE(GetWindowLongPtrW(form.Handle(), GWL_EXSTYLE) & WS_EX_ACCEPTFILES, 0);
     SendMessageW(form.Handle(), WM_DROPFILES, DropOf({L"C:\\Ü b.tnt", L"C:\\a.tnt"}), 0);
     EXPECT_EQ(events.lines, (std::vector<std::string>{"dropped C:\\Ü b.tnt", "dropped C:\\a.tnt"}));
+}
+
+TEST_F(MainPanes, FilesDroppedWhileAQuestionIsOpenAreLeft) {
+    EnableWindow(form.Handle(), FALSE); // as the question's box does
+    SendMessageW(form.Handle(), WM_DROPFILES, DropOf({L"C:\\a.tnt"}), 0);
+    EXPECT_TRUE(events.lines.empty());
+    EnableWindow(form.Handle(), TRUE);
+    SendMessageW(form.Handle(), WM_DROPFILES, DropOf({L"C:\\a.tnt"}), 0);
+    EXPECT_EQ(events.lines, std::vector<std::string>{"dropped C:\\a.tnt"});
+}
+
+TEST_F(MainPanes, FormReportsNothingAfterItsScopeHasEnded) {
+    form.ShowWindow();
+    events.layout.SetHugeFrame(true);
+    { const SilenceAtScopeEnd silence(form); }
+    events.lines.clear();
+    SetFocus(Child(IDC_txtActiveColor));
+    SetWindowTextW(Child(IDC_txtActiveColor), L"7");
+    SendMessageW(form.Handle(), WM_CLOSE, 0, 0);
+    EXPECT_TRUE(events.lines.empty());
 }
 
 TEST_F(MainPanes, F6GoesFromTreeToListToTheLargeEditorAndRound) {

@@ -3,6 +3,7 @@
 #include "app/Application.h"
 #include "mainwindow/frmMain.h"
 #include "platform/BannerPictures.h"
+#include "platform/SilenceAtScopeEnd.h"
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32Files.h"
 #include "platform/Win32PrivateProfile.h"
@@ -74,4 +75,5 @@ public:
                              automation, retry, language, errors},
                             {main, main, main, about, textViewer, progress, progress, progress},
                             {folder, "1.0.0", {}, folder}};
+    SilenceAtScopeEnd silence{main};
 };
