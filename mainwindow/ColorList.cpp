@@ -105,6 +105,7 @@ void ColorList::RemoveSelected() {
     pane_.RowsChanged(RowCount());
     if (RowCount() > 0)
         Select(std::min(row, RowCount() - 1));
+    ShowSelected();
 }
 
 void ColorList::ColumnClicked(int column) {

@@ -39,6 +39,8 @@ public:
     virtual void SelectRow(int row) = 0; // from 0
     virtual void EnsureRowVisible(int row) = 0;
     virtual void EditRowLabel(int row) = 0;
+    // An open edit of a label, here or in the tree, ends and reports its text.
+    virtual void FinishLabelEdit() = 0;
     virtual void SetListViewMode(ListViewMode mode) = 0;
 };
 
@@ -162,6 +164,7 @@ public:
     [[nodiscard]] virtual int FindRow(const std::string& text, int start) const = 0;
     virtual void RowClicked(int row) = 0; // selected by mouse or keyboard
     virtual void RowEditRequested() = 0;  // F2 in the list
+    [[nodiscard]] virtual bool MayEditNode() const = 0;
     [[nodiscard]] virtual bool MayEditRow() const = 0;
     virtual void RowLabelEdited(int row, const std::string& text) = 0;
     virtual void ColumnClicked(int column) = 0;

@@ -69,6 +69,8 @@ void MainWindow::RunCommand(int command) {
         return;
     drag_.Cancel();
     if (!operationRuns_) {
+        // What stands in the box is meant: a menu, a button or a shortcut leaves the focus there.
+        parts_.view.FinishLabelEdit();
         handler->second();
         return;
     }
@@ -172,8 +174,10 @@ void MainWindow::AddOptionAndHelpHandlers() {
 }
 
 void MainWindow::FilesDropped(const std::vector<std::string>& paths) {
-    if (!operationRuns_)
-        parts_.fileCommands.OpenDropped(paths);
+    if (operationRuns_)
+        return;
+    parts_.view.FinishLabelEdit();
+    parts_.fileCommands.OpenDropped(paths);
 }
 
 // The position is stored only here: Quit in the file menu does not pass, on purpose.
@@ -222,6 +226,10 @@ void MainWindow::RowClicked(int row) {
 void MainWindow::RowEditRequested() {
     if (const auto row = list_.SelectedRow(); row && MayEditRow())
         parts_.view.EditRowLabel(*row);
+}
+
+bool MainWindow::MayEditNode() const {
+    return !operationRuns_;
 }
 
 bool MainWindow::MayEditRow() const {

@@ -72,6 +72,7 @@ public:
     int FindRow(const std::string& text, int start) const override;
     void RowClicked(int row) override;
     void RowEditRequested() override;
+    bool MayEditNode() const override;
     bool MayEditRow() const override;
     void RowLabelEdited(int row, const std::string& text) override;
     void ColumnClicked(int column) override;

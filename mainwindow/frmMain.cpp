@@ -76,6 +76,7 @@ void frmMain::Attach(MainViewEvents& events) {
 void frmMain::ConnectTree(MainViewEvents& events) {
     tvColor_.onClick = [&events](const std::string& key) { events.NodeClicked(key); };
     tvColor_.onEditRequested = [&events] { events.NodeEditRequested(); };
+    tvColor_.mayEdit = [&events] { return events.MayEditNode(); };
     tvColor_.onLabelEdited = [&events](const std::string& key, const std::string& text) {
         events.NodeLabelEdited(key, text);
     };
@@ -249,6 +250,11 @@ void frmMain::EnsureRowVisible(int row) {
 
 void frmMain::EditRowLabel(int row) {
     lvColor_.EditLabel(row);
+}
+
+void frmMain::FinishLabelEdit() {
+    tvColor_.FinishEdit();
+    lvColor_.FinishEdit();
 }
 
 void frmMain::SetListViewMode(ListViewMode mode) {

@@ -42,6 +42,7 @@ public:
     void SelectRow(int row) override;
     void EnsureRowVisible(int row) override;
     void EditRowLabel(int row) override;
+    void FinishLabelEdit() override;
     void SetListViewMode(ListViewMode mode) override;
 
     // EditorPane

@@ -82,7 +82,8 @@ DragPoint MainDrag::PointAt(POINT screen) const {
     DragPoint at;
     at.left = form_.Scale().ToTwips(static_cast<int>(inForm.x));
     at.top = form_.Scale().ToTwips(static_cast<int>(inForm.y));
-    at.isOverList = under == controls_.list.Handle();
+    at.isOverList = under == controls_.list.Handle() ||
+                    IsChild(controls_.list.Handle(), under) != FALSE; // its header
     if (under == controls_.tree.Handle()) {
         at.node = controls_.tree.KeyAtLine(screen);
         at.edge = EdgeAt(screen);

@@ -38,11 +38,22 @@ void ListView::ApplyScale() {
     images_.small.Fit(Scale().FromDesign(kSmallIcon));
     Send(LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.large.Handle()));
     Send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images_.small.Handle()));
+    FitColumns();
+}
+
+// Only the details know the widths of the columns; the other views wait until these are shown.
+void ListView::FitColumns() {
+    if (View() != LVS_REPORT)
+        return;
     const int before = std::exchange(dpi_, Scale().Dpi());
     for (int column = 0; column < columns_ && before != dpi_; ++column) {
         const auto width = static_cast<int>(Send(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column)));
         Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), MulDiv(width, dpi_, before));
     }
+}
+
+LONG_PTR ListView::View() const noexcept {
+    return GetWindowLongPtrW(Handle(), GWL_STYLE) & LONG_PTR{LVS_TYPEMASK};
 }
 
 void ListView::AddColumn(const std::string& caption, int width) {
@@ -66,8 +77,7 @@ void ListView::SetRowCount(int count) {
 // Icons get their places, which not every version of the control does by itself; undrawn, for
 // otherwise each row is measured to be painted at once.
 void ListView::Arrange() {
-    const LONG_PTR view = GetWindowLongPtrW(Handle(), GWL_STYLE) & LONG_PTR{LVS_TYPEMASK};
-    if (view == LVS_ICON || view == LVS_SMALLICON) {
+    if (View() == LVS_ICON || View() == LVS_SMALLICON) {
         Send(WM_SETREDRAW, FALSE);
         Send(LVM_ARRANGE, LVA_DEFAULT);
         Send(WM_SETREDRAW, TRUE);
@@ -101,6 +111,12 @@ void ListView::EditLabel(int row) {
     Send(LVM_EDITLABELW, static_cast<WPARAM>(row));
 }
 
+// The box keeps its text when it loses the focus.
+void ListView::FinishEdit() {
+    if (Send(LVM_GETEDITCONTROL) != 0)
+        Focus();
+}
+
 // The four modes are the control's styles 0 to 3, in another order.  The control may measure every
 // row that it has at that moment: a sample gives the width of its cells as well.
 void ListView::SetMode(int mode) {
@@ -113,6 +129,7 @@ void ListView::SetMode(int mode) {
     const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
     SetWindowLongPtrW(Handle(), GWL_STYLE, (style & ~LONG_PTR{LVS_TYPEMASK}) | kStyles[mode]);
     Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(rows), LPARAM{0});
+    FitColumns();
     Arrange();
     ShowSelection(selected);
 }
@@ -175,8 +192,7 @@ void ListView::FillItem(LVITEMW& item) const {
 }
 
 const IconList& ListView::ShownImages() const {
-    const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
-    return (style & LVS_TYPEMASK) == LVS_ICON ? images_.large : images_.small;
+    return View() == LVS_ICON ? images_.large : images_.small;
 }
 
 void ListView::SelectionChanged(const NMLISTVIEW& change) {

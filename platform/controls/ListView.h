@@ -25,6 +25,7 @@ public:
     void SelectRow(int row);
     void EnsureVisible(int row);
     void EditLabel(int row);
+    void FinishEdit();      // an open one ends, with its text
     void SetMode(int mode); // 0 large icons, 1 small icons, 2 list, 3 details
     [[nodiscard]] int SelectedRow() const noexcept { return selected_; } // -1: none
 
@@ -50,6 +51,8 @@ protected:
 private:
     void FillItem(LVITEMW& item) const;
     [[nodiscard]] const IconList& ShownImages() const;
+    void FitColumns();
+    [[nodiscard]] LONG_PTR View() const noexcept; // LVS_ICON ... LVS_REPORT
     void Arrange();
     void SelectionChanged(const NMLISTVIEW& change);
     [[nodiscard]] bool BeginLabelEdit(int row);

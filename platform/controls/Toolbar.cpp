@@ -196,8 +196,9 @@ void Toolbar::OpenMenu(const Button& button) {
     const int command =
         TrackPopupMenuEx(menu.Get(), TPM_LEFTALIGN | TPM_VERTICAL | TPM_LEFTBUTTON | TPM_RETURNCMD,
                          around.rcExclude.left, around.rcExclude.bottom, Owner().Handle(), &around);
+    // Later: the toolbar still handles the press of its button.
     if (command != 0)
-        Raise(onCommand, command);
+        PostMessageW(Owner().Handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
 }
 
 void Toolbar::ApplyScale() {

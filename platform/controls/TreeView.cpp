@@ -102,6 +102,10 @@ void TreeView::EditLabel(const std::string& key) {
     Send(TVM_EDITLABELW, 0, reinterpret_cast<LPARAM>(Find(key)));
 }
 
+void TreeView::FinishEdit() {
+    Send(TVM_ENDEDITLABELNOW, FALSE);
+}
+
 std::string TreeView::SelectedKey() const {
     return KeyOf(Selected());
 }
@@ -163,8 +167,10 @@ MessageResult TreeView::OnNotify(NMHDR& header) {
             Raise(onEditRequested);
         return 0;
     case TVN_BEGINLABELEDITW:
+        if (mayEdit && !mayEdit())
+            return TRUE; // no edit
         BeginLabelEdit(reinterpret_cast<const NMTVDISPINFOW&>(header).item.hItem);
-        return FALSE; // go on
+        return FALSE;
     case TVN_ENDLABELEDITW:
         EndLabelEdit(reinterpret_cast<const NMTVDISPINFOW&>(header));
         return FALSE; // the text is shown when the program sets it

@@ -22,6 +22,7 @@ public:
     void ExpandNode(const std::string& key);
     void SelectNode(const std::string& key); // empty: none
     void EditLabel(const std::string& key);
+    void FinishEdit(); // an open one ends, with its text
     [[nodiscard]] std::string SelectedKey() const;
 
     // For a drag: points are pixels of the screen.
@@ -32,7 +33,8 @@ public:
 
     std::function<void(const std::string& key)> onClick; // a node was selected or clicked again
     std::function<void(const std::string& key, const std::string& text)> onLabelEdited;
-    std::function<void()> onEditRequested;           // F2
+    std::function<void()> onEditRequested; // F2
+    std::function<bool()> mayEdit;
     std::function<void(POINT screen)> onContextMenu; // the node under it is selected
 
     MessageResult OnNotify(NMHDR& header) override;

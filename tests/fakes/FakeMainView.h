@@ -4,8 +4,10 @@
 #include "mainwindow/MainView.h"
 
 #include <array>
+#include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 // A main window in memory: keeps what it is told as a person would see it.
@@ -37,7 +39,13 @@ public:
     void SelectRow(int row) override { selectedRow = row; }
     void EnsureRowVisible(int row) override { visibleRow = row; }
     void EditRowLabel(int row) override { editedRow = row; }
+    void FinishLabelEdit() override {
+        if (const auto finish = std::exchange(openEdit, {}))
+            finish();
+    }
     void SetListViewMode(ListViewMode mode) override { listMode = mode; }
+
+    std::function<void()> openEdit; // reports its text when it ends
 
     // Editor
     void SetColorName(const std::string& name) override { colorName = name; }

@@ -113,6 +113,13 @@ TEST_F(EditingCommandsTest, PasteWithTheClipboardHeldDoesNothing) {
     EXPECT_TRUE(program.prompts.messages.empty());
 }
 
+TEST_F(EditingCommandsTest, ColorThatIsSelectedAfterADeleteIsScrolledIntoView) {
+    program.Main().RowClicked(1);
+    program.view.visibleRow = -1;
+    Run(IDM_mnuColorDelColor);
+    EXPECT_EQ(program.view.visibleRow, 0);
+}
+
 TEST_F(EditingCommandsTest, GroupWhoseRememberedColorWasDeletedShowsItsFirst) {
     program.Main().RowClicked(1);
     Run(IDM_mnuColorDelColor);

@@ -646,11 +646,13 @@ TEST_F(SolidWorksCommandsTest, NothingElseIsEditedDuringAWalk) {
     program->events.onEvents = [&] {
         program->Main().SwatchDoubleClicked();
         program->Main().NodeEditRequested();
+        EXPECT_FALSE(program->Main().MayEditNode());
         EXPECT_FALSE(program->Main().MayEditRow());
     };
     Run(IDM_mnuSWXClearColorPart);
     EXPECT_TRUE(program->prompts.colorRequests.empty());
     EXPECT_EQ(program->view.editedNode, "");
+    EXPECT_TRUE(program->Main().MayEditNode());
     EXPECT_TRUE(program->Main().MayEditRow());
 }
 

@@ -187,6 +187,16 @@ TEST_F(MainList, LongNameIsEditedAsAWhole) {
     EXPECT_EQ(events.lines, std::vector<std::string>{"row label 2=" + std::string(600, 'm')});
 }
 
+TEST_F(MainList, EditThatIsOpenWhenACommandComesIsReportedWithItsText) {
+    form.ShowWindow();
+    form.SelectRow(2);
+    form.EditRowLabel(2);
+    SetWindowTextW(LabelBox(), L"y");
+    form.FinishLabelEdit();
+    EXPECT_EQ(events.lines, std::vector<std::string>{"row label 2=y"});
+    EXPECT_EQ(LabelBox(), nullptr);
+}
+
 TEST_F(MainList, RefusedEditDoesNotStart) {
     form.ShowWindow();
     events.mayEdit = false;

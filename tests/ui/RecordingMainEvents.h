@@ -36,6 +36,7 @@ public:
     }
     void RowClicked(int row) override { Note("row " + std::to_string(row)); }
     void RowEditRequested() override { Note("row edit"); }
+    [[nodiscard]] bool MayEditNode() const override { return mayEdit; }
     [[nodiscard]] bool MayEditRow() const override { return mayEdit; }
     void RowLabelEdited(int row, const std::string& text) override {
         Note("row label " + std::to_string(row) + "=" + text);

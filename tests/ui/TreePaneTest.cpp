@@ -208,6 +208,22 @@ TEST_F(MainTree, EndOfTheEditByMessageIsReportedOnce) {
     EXPECT_EQ(events.lines, std::vector<std::string>{"node label 1DG1=y"});
 }
 
+TEST_F(MainTree, EditThatIsOpenWhenACommandComesIsReportedWithItsText) {
+    form.ShowWindow();
+    form.FinishLabelEdit(); // none is open
+    form.EditNodeLabel("1DG1");
+    SetWindowTextW(reinterpret_cast<HWND>(SendMessageW(Tree(), TVM_GETEDITCONTROL, 0, 0)), L"y");
+    form.FinishLabelEdit();
+    EXPECT_EQ(events.lines, std::vector<std::string>{"node label 1DG1=y"});
+}
+
+TEST_F(MainTree, RefusedEditDoesNotStart) {
+    form.ShowWindow();
+    events.mayEdit = false;
+    form.EditNodeLabel("1DG1");
+    EXPECT_EQ(SendMessageW(Tree(), TVM_GETEDITCONTROL, 0, 0), 0);
+}
+
 TEST_F(MainTree, ShowsItsSelectionAlsoWithoutTheFocus) {
     EXPECT_NE(GetWindowLongPtrW(Tree(), GWL_STYLE) & TVS_SHOWSELALWAYS, 0);
 }

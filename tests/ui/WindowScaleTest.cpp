@@ -70,6 +70,22 @@ TEST_F(MainScale, NewResolutionScalesFontsIconsColumnsAndControls) {
               form.Font());
 }
 
+TEST_F(MainScale, ColumnsTakeTheNewResolutionWhicheverViewIsShown) {
+    form.AddColumns({{"Name", "Name", 1500}, {"R", "red", 600}});
+    for (const ListViewMode mode : {ListViewMode::LargeIcons, ListViewMode::SmallIcons,
+                                    ListViewMode::List, ListViewMode::Details}) {
+        const int dpi = form.Scale().Dpi();
+        form.SetListViewMode(mode);
+        ChangeResolution(dpi == 96 ? 192 : 96);
+        form.SetListViewMode(ListViewMode::Details);
+        for (const auto& [column, width] : {std::pair(0, 1500.0F), std::pair(1, 600.0F)})
+            EXPECT_EQ(SendMessageW(Child(IDC_lvColor), LVM_GETCOLUMNWIDTH,
+                                   static_cast<WPARAM>(column), 0),
+                      form.Scale().ToPixels(width))
+                << static_cast<int>(mode);
+    }
+}
+
 TEST_F(MainScale, WayThereAndBackRestoresTheLayout) {
     const int dpi = form.Scale().Dpi();
     const SIZE list = SizeOf(IDC_lvColor);
@@ -110,6 +126,17 @@ TEST_F(MainScale, MaximisedWindowKeepsThePanesOfItsNormalSize) {
     EXPECT_EQ(SizeOf(IDC_lvColor).cx, list.cx);
     form.SetState(WindowState::Normal);
     EXPECT_EQ(SizeOf(IDC_lvColor).cx, list.cx);
+}
+
+TEST_F(MainScale, WhatWasSwitchedWhileMaximisedIsLaidOutWhenTheWindowIsRestored) {
+    form.ShowWindow();
+    const SIZE list = SizeOf(IDC_lvColor);
+    form.SetState(WindowState::Maximised);
+    form.SetToolbarVisible(false);
+    form.ArrangeBars();
+    form.SetState(WindowState::Normal);
+    PumpMessages();
+    EXPECT_GT(SizeOf(IDC_lvColor).cy, list.cy);
 }
 
 TEST_F(MainScale, PanesTakeANewResolutionAlsoWhileMaximised) {
