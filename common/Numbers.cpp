@@ -3,6 +3,7 @@
 #include "common/RuntimeError.h"
 #include "common/Text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -11,6 +12,40 @@
 namespace {
 
 constexpr const char* kBlanks = " \t\r\n\v\f";
+
+constexpr std::int64_t kHugeExponent = 1'000'000'000'000;
+
+// "e-400" of the whole number; 0 without one.  Beyond 64 bits: huge, of the same sign.
+std::int64_t ExponentOf(std::string_view number) noexcept {
+    std::size_t start = number.find_first_of("eE");
+    if (start == std::string_view::npos)
+        return 0;
+    ++start;
+    if (start < number.size() && number[start] == '+')
+        ++start;
+    std::int64_t exponent = 0;
+    const auto parsed =
+        std::from_chars(number.data() + start, number.data() + number.size(), exponent);
+    if (parsed.ec == std::errc::result_out_of_range)
+        return number[start] == '-' ? -kHugeExponent : kHugeExponent;
+    return exponent;
+}
+
+// Of a number that no double holds: true when it is too near to 0, false when it is too large.
+bool IsTooSmall(std::string_view number) noexcept {
+    const std::string_view digits = number.substr(0, number.find_first_of("eE"));
+    const auto point = static_cast<std::int64_t>(std::min(digits.find('.'), digits.size()));
+    const auto first = static_cast<std::int64_t>(digits.find_first_of("123456789"));
+    return point - first + ExponentOf(number) < 0;
+}
+
+// What stands for a number that no double holds.
+double OutOfRangeValue(std::string_view number) noexcept {
+    if (IsTooSmall(number))
+        return 0;
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    return number.starts_with('-') ? -kInfinity : kInfinity;
+}
 
 struct ParsedNumber {
     double value = 0;
@@ -34,8 +69,7 @@ ParsedNumber ParseNumber(std::string_view text) noexcept {
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data() + digits, end, parsed.value);
     if (error == std::errc::result_out_of_range)
-        parsed.value = text[start] == '-' ? -std::numeric_limits<double>::infinity()
-                                          : std::numeric_limits<double>::infinity();
+        parsed.value = OutOfRangeValue({text.data() + digits, stop});
     else if (error != std::errc())
         return {};
     parsed.length = static_cast<std::size_t>(stop - text.data());

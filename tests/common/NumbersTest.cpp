@@ -2,6 +2,7 @@
 
 #include "common/RuntimeError.h"
 
+#include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -60,6 +61,28 @@ TEST(TextToInt16, RefusesWhatIsNoNumberOrDoesNotFit) {
               ErrorNumber::Overflow);
     EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(TextToInt32("1e99999")); }),
               ErrorNumber::Overflow);
+}
+
+TEST(TextToDouble, NumberTooNearToZeroIsZero) {
+    for (const char* text :
+         {"1e-400", "-1e-400", "+1E-400", "0.1e-99999999999", "123456789012345678901e-420"})
+        EXPECT_EQ(TextToDouble(text), 0) << text;
+    EXPECT_EQ(TextToDouble("0." + std::string(400, '0') + "1"), 0);
+    EXPECT_EQ(TextToInt16("1e-400"), 0);
+    EXPECT_EQ(LeadingNumber("1e-400;"), 0);
+    EXPECT_FALSE(TextToBoolean("1e-400"));
+}
+
+TEST(TextToDouble, NumberBeyondTheFormatIsInfiniteAndFitsNoInteger) {
+    for (const std::string& text : {std::string("1e400"), std::string("-1e+400"),
+                                    std::string("0.001e99999999999"), std::string(400, '9'),
+                                    "1" + std::string(400, '0') + "e-2"}) {
+        EXPECT_TRUE(std::isinf(TextToDouble(text))) << text;
+        EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(TextToInt32(text)); }),
+                  ErrorNumber::Overflow)
+            << text;
+    }
+    EXPECT_LT(TextToDouble("-1e400"), 0);
 }
 
 TEST(TextToBoolean, TakesTheWordsInAnyLetterCaseAndNumbers) {

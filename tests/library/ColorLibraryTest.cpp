@@ -5,6 +5,7 @@
 #include "tests/fakes/FakePrompts.h"
 #include "tests/fakes/FakeTexts.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace {
@@ -134,6 +135,24 @@ TEST_F(ColorLibraryTest, NewGroupAndNewColorWithoutSelectionStartANewLibrary) {
     EXPECT_FALSE(library.NewColorNode());
     EXPECT_EQ(prompts.questions, (std::vector<Question>{{"<50>", kTitle, "New Node0"},
                                                         {"<50>", kTitle, "New Node0"}}));
+}
+
+TEST_F(ColorLibraryTest, NewGroupOrColorWithoutSelectionAsksThreeNamesAndNoMore) {
+    const std::vector<Question> three = {{"<50>", kTitle, "New Node0"},
+                                         {"<51>", kTitle, "New Group1"},
+                                         {"<52>", kTitle, "New Color1"}};
+    const std::function<bool()> starts[] = {[&] { return library.NewGroupNode(); },
+                                            [&] { return library.NewColorNode(); }};
+    for (const auto& start : starts) {
+        prompts.questions.clear();
+        prompts.typed = {"Lib", "Grp", "Col", "one too many"};
+        start();
+        EXPECT_EQ(prompts.questions, three);
+        EXPECT_EQ(library.GetGroupInMainnode("0D"), std::vector<std::string>{"0DG1"});
+        EXPECT_EQ(library.Colors().UpperBound(), 1);
+        library.Colors().Erase(1);
+        library.Tree().Remove("0D");
+    }
 }
 
 TEST_F(ColorLibraryTest, NewColorInALibraryWithGroupsGoesToTheFirstGroup) {

@@ -189,6 +189,53 @@ TEST_F(FileCommandsTest, FailedSaveNamesTheDialogsFileAndKeepsTheTag) {
     EXPECT_EQ(files.contents.at(kA), kContent);
 }
 
+TEST_F(FileCommandsTest, FailedSaveAsTellsTheChosenFileAndKeepsTheOldTarget) {
+    Open(kA);
+    files.locked[kB] = true;
+    prompts.messages.clear();
+    host.status.clear();
+    prompts.chosenFiles.emplace_back(kB);
+    commands.mnuFileSaveAs_Click();
+    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<4>C:\\lib\\b.tnt", 16, "<98>"}}));
+    EXPECT_EQ(library.Tree().At("0D").tag, kA);
+    EXPECT_TRUE(host.status.empty());
+    EXPECT_EQ(files.contents.at(kB), kContent);
+}
+
+TEST_F(FileCommandsTest, FailedSaveAsOfANewLibraryLeavesItUnsaved) {
+    prompts.typed = {"Lib", "Grp", "Col"};
+    commands.mnuFileNew_Click();
+    files.FailAtStep(1, FakeFiles::FailureKind::Reported);
+    prompts.chosenFiles.emplace_back("C:\\lib\\new.tnt");
+    commands.mnuFileSaveAs_Click();
+    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<4>C:\\lib\\new.tnt", 16, "<98>"}}));
+    EXPECT_EQ(library.Tree().At("0D").tag, "unsaved");
+    EXPECT_FALSE(files.contents.contains("C:\\lib\\new.tnt"));
+    commands.mnuFileSave_Click();
+    EXPECT_EQ(prompts.fileRequests.back().fileName, "C:\\prog\\newtnt.tnt")
+        << "Save is still Save As";
+}
+
+TEST_F(FileCommandsTest, DialogStartsWithTheFileThatWasChosenLast) {
+    Open(kA);
+    EXPECT_EQ(prompts.fileRequests.back().fileName, "");
+    Open(kB);
+    EXPECT_EQ(prompts.fileRequests.back().fileName, kA);
+    prompts.chosenFiles.emplace_back("D:\\other\\c.tnt");
+    commands.mnuFileSaveAs_Click();
+    prompts.chosenFiles.emplace_back(); // cancelled
+    commands.mnuFileOpen_Click();
+    EXPECT_EQ(prompts.fileRequests.back().fileName, "D:\\other\\c.tnt");
+    commands.mnuFileOpen_Click(); // also after one that was cancelled
+    EXPECT_EQ(prompts.fileRequests.back().fileName, "D:\\other\\c.tnt");
+}
+
+TEST_F(FileCommandsTest, DialogKeepsTheNameOfAFileThatCouldNotBeOpened) {
+    Open("C:\\lib\\gone.tnt");
+    commands.mnuFileOpen_Click();
+    EXPECT_EQ(prompts.fileRequests.back().fileName, "C:\\lib\\gone.tnt");
+}
+
 TEST_F(FileCommandsTest, SaveAsOntoAnExistingFileKeepsItsContentUnderBak) {
     const std::string other = "\"D#Other=0D:0\"\r\n";
     Open(kA);

@@ -135,6 +135,12 @@ TEST_F(ColorEditorTest, NumberBeyondTheConversionIsAnOverflow) {
     EXPECT_THROW(editor.TextChanged(0, "99999999999"), RuntimeError);
 }
 
+TEST_F(ColorEditorTest, NumberTooNearToZeroIsZeroAndNoError) {
+    editor.TextChanged(0, "12");
+    editor.TextChanged(0, "1e-400");
+    EXPECT_EQ(view.valueTexts[0], "0");
+}
+
 TEST_F(ColorEditorTest, OnlyDigitsBackspaceAndFullStopCanBeTyped) {
     for (char32_t character = 1; character < 0x180; ++character) {
         const bool expected =

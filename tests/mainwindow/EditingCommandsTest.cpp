@@ -32,6 +32,15 @@ protected:
                "9\"\r\n";
     }
     void Run(int command) { program.Main().RunCommand(command); }
+    // Of the error that the command ends with; 0: none.
+    int ErrorNumberOf(int command) {
+        try {
+            Run(command);
+            return 0;
+        } catch (const RuntimeError& error) {
+            return error.Number();
+        }
+    }
     // Into the first box, as the box itself reports it.
     void Type(const std::string& text) {
         program.view.valueTexts[0] = text;
@@ -439,6 +448,34 @@ TEST_F(EditingCommandsTest, CancelledGroupShowsWhatIsSelectedThen) {
     Run(IDM_mnuColorNewGroup); // cancelled
     EXPECT_EQ(program.view.selectedNode, "0D");
     EXPECT_EQ(program.view.rowCount, 2);
+}
+
+TEST_F(EditingCommandsTest, NewColorInAnEmptyTreeAsksLibraryGroupAndColorAndNothingElse) {
+    Run(IDM_mnuColorDelMainNode);
+    program.prompts.messages.clear();
+    program.prompts.typed = {"L", "G", "C", "one too many"};
+    Run(IDM_mnuColorNewColor);
+    std::vector<std::string> asked;
+    for (const FakePrompts::Question& question : program.prompts.questions)
+        asked.push_back(question.prompt + question.preset);
+    EXPECT_EQ(asked,
+              (std::vector<std::string>{"<50>New Node0", "<51>New Group1", "<52>New Color1"}));
+    EXPECT_TRUE(program.prompts.messages.empty());
+    EXPECT_EQ(program.view.rowCount, 1);
+}
+
+TEST_F(EditingCommandsTest, GroupWhoseNumberIsTakenIsRefusedAndNothingChanges) {
+    Run(IDM_mnuColorDelGroup); // of two groups the second stays, so the next number is its own
+    program.Main().NodeClicked("0DG2");
+    const auto nodes = program.view.nodes;
+    program.prompts.typed = {"again", "a color"};
+    EXPECT_EQ(ErrorNumberOf(IDM_mnuColorNewGroup), ErrorNumber::DuplicateKey);
+    EXPECT_EQ(program.prompts.questions.size(), 1U) << "no color is asked for";
+    EXPECT_EQ(program.view.nodes, nodes);
+    EXPECT_EQ(program.view.selectedNode, "0D");
+    EXPECT_EQ(program.view.rowCount, 0);
+    Run(IDM_mnuFileSave);
+    EXPECT_EQ(program.files.contents.at("C:\\a.tnt"), "\"D#Lib=0D:1\"\r\n\"G#h=0DG2\"\r\n");
 }
 
 TEST_F(EditingCommandsTest, CutRestoresConfirmDelAlsoWhenTheClipboardIsBusy) {

@@ -39,6 +39,31 @@ TEST_F(MainWindowTest, NameThatIsBeingTypedIsTakenBeforeADroppedLibraryOpens) {
     EXPECT_EQ(program.view.nodes.at("0D"), "Dropped");
 }
 
+// One value of the second color is out of range; the form tells what the command throws.
+TEST_F(MainWindowTest, OpenedFileWithOneBrokenValueKeepsWhatStoodBeforeItAndTells) {
+    const auto color = [](const std::string& name, const std::string& red) {
+        std::string line = "\"E#" + name + "=0DG1:" + name + "\xF7" + red;
+        for (int value = 2; value <= 9; ++value)
+            line += "\xF7" + std::to_string(value);
+        return line + "\"\r\n";
+    };
+    program.files.contents[kFile] = "\"D#Broken=0D:4\"\r\n\"G#g=0DG1\"\r\n" + color("a", "1") +
+                                    color("b", "99999") + color("c", "3");
+    program.prompts.chosenFiles = {kFile};
+    try {
+        program.Main().RunCommand(IDM_mnuFileOpen);
+        FAIL() << "nothing is told";
+    } catch (const RuntimeError& error) {
+        program.errors.ReportError(error.Description(), error.Member());
+    }
+    ASSERT_EQ(program.prompts.messages.size(), 1U) << "and no question about every start";
+    EXPECT_EQ(program.prompts.messages[0].prompt, "<3>\r\nOverflow");
+    EXPECT_EQ(program.view.nodes.at("0D"), "Broken");
+    ASSERT_EQ(program.view.rowCount, 1);
+    EXPECT_EQ(program.Main().CellText(0, 1), "a");
+    EXPECT_EQ(program.view.valueTexts[0], "1");
+}
+
 TEST_F(MainWindowTest, FilesDroppedDuringAWalkAreRefusedSilently) {
     int rounds = 0;
     program.events.onEvents = [&] {
