@@ -1,13 +1,31 @@
 #include "library/SafeFileWriter.h"
 
+#include "common/FileNames.h"
+
 namespace {
+
+bool IsInsideCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; // of UTF-8
+}
 
 std::string BackupOf(const std::string& path) {
     return path + ".bak";
 }
 
+// A name that has no room left for the suffix loses as much of its end; it is never cut inside a
+// character.
 std::string BesideOf(const std::string& path) {
-    return path + ".saving";
+    constexpr std::string_view kSuffix = ".saving";
+    constexpr std::size_t kLongestName = 255; // counted in bytes, which no file system exceeds
+    const std::string folder = FilePathPart(path);
+    std::string name = FileNamePart(path);
+    if (name.size() + kSuffix.size() > kLongestName) {
+        std::size_t kept = kLongestName - kSuffix.size();
+        while (IsInsideCharacter(name[kept]))
+            --kept;
+        name.resize(kept);
+    }
+    return folder + name.append(kSuffix);
 }
 
 } // namespace

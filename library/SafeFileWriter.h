@@ -15,7 +15,8 @@ public:
     explicit SafeFileWriter(Files& files) : files_(files) {}
 
     // keepBackup: the old file first becomes path + ".bak", replacing an older backup.  False when
-    // a step failed; the old content is then still under the path, or under ".bak" at the least.
+    // a step failed, also when the backup's name would be longer than the file system allows; the
+    // old content is then still under the path, or under ".bak" at the least.
     [[nodiscard]] bool Write(const std::string& path, std::string_view content, bool keepBackup);
 
     // The backup step alone.  True when there was nothing to keep or the backup stands.

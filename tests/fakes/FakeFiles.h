@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/FileNames.h"
 #include "common/ports/Files.h"
 
 #include <map>
@@ -36,13 +37,13 @@ public:
         return found->second;
     }
     std::unique_ptr<OutputFile> Create(const std::string& path) override {
-        if (Fails())
+        if (Fails() || IsTooLong(path))
             return nullptr;
         contents[path].clear();
         return std::make_unique<Output>(*this, path);
     }
     bool Replace(const std::string& from, const std::string& to) override {
-        if (Fails() || !contents.contains(from) || locked.contains(from) || locked.contains(to))
+        if (Fails() || IsTooLong(to) || !contents.contains(from) || locked.contains(from) || locked.contains(to))
             return false;
         contents[to] = contents.at(from);
         contents.erase(from);
@@ -71,6 +72,9 @@ private:
         FakeFiles& files_;
         std::string path_;
     };
+
+    // No file system that matters has longer names.
+    static bool IsTooLong(const std::string& path) { return FileNamePart(path).size() > 255; }
 
     bool Fails() {
         ++steps_;

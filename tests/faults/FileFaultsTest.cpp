@@ -35,6 +35,11 @@ std::string Prepared(const char* variable) {
     return value != nullptr ? value : "";
 }
 
+// Set where the surroundings must be able to prepare every place: nothing is left out silently.
+bool MustBePrepared() {
+    return !Prepared("TNT_ALL_FAULTS").empty();
+}
+
 class FileFaults : public testing::Test {
 protected:
     FileFaults() { folder.Write("a.tnt", kOld); }
@@ -198,6 +203,7 @@ TEST_F(FileFaults, PathsOf300CharactersWithUmlautsAndBeyondTheCodePageAreSavedAn
 
 TEST_F(FileFaults, FullDiskKeepsTheOldFileAndSaysSo) {
     const std::string disk = Prepared("TNT_SMALL_DISK");
+    ASSERT_FALSE(disk.empty() && MustBePrepared()) << "no small disk";
     if (disk.empty())
         GTEST_SKIP() << "no small disk could be mounted here";
     const std::string path = disk + "\\a.tnt";
@@ -214,6 +220,7 @@ TEST_F(FileFaults, FullDiskKeepsTheOldFileAndSaysSo) {
 
 TEST_F(FileFaults, LibraryInAReadOnlyFolderOpensAndItsSaveSaysThatItFailed) {
     const std::string readOnly = Prepared("TNT_READ_ONLY_FOLDER"); // holds materials.tnt
+    ASSERT_FALSE(readOnly.empty() && MustBePrepared()) << "no folder that is read-only";
     if (readOnly.empty())
         GTEST_SKIP() << "no folder could be mounted read-only here";
     const std::string path = readOnly + "\\materials.tnt";

@@ -129,4 +129,53 @@ TEST_P(SaveFaults, SaveAfterAKilledOneClearsWhatThatLeftBeside) {
 
 INSTANTIATE_TEST_SUITE_P(WithAndWithoutBackups, SaveFaults, testing::Bool());
 
+// Names up to the longest that a file system takes.
+class LongNames : public LibraryOnFakes, public testing::Test {
+protected:
+    LongNames() {
+        library.NewMainNode("L");
+        library.NewGroupNode("0D", "g");
+    }
+    static std::string PathOf(std::size_t length) {
+        return "C:\\lib\\" + std::string(length - 4, 'x') + ".tnt";
+    }
+    bool Save(const std::string& path) { return libraryFiles.FileWriteColorValues(path, "0D"); }
+};
+
+TEST_F(LongNames, NameWithoutRoomForASuffixIsSavedAndNothingStaysBeside) {
+    settings.createBackups = false;
+    for (std::size_t length = 245; length <= 255; ++length)
+        for (int save = 1; save <= 2; ++save)
+            EXPECT_TRUE(Save(PathOf(length))) << length;
+    EXPECT_EQ(files.contents.size(), 11U);
+    EXPECT_FALSE(Save(PathOf(256)));
+}
+
+TEST_F(LongNames, NameOfLettersOfSeveralBytesIsCutBetweenThem) {
+    for (std::size_t blanks = 0; blanks < 3; ++blanks) {
+        std::string path = "C:\\lib\\" + std::string(blanks, ' ');
+        for (int letter = 0; letter < 83; ++letter)
+            path += "\u8272";
+        files.FailAtStep(2, FailureKind::Killed);
+        EXPECT_THROW(Save(path), FakeFiles::Killed);
+        ASSERT_EQ(files.contents.size(), 1U);
+        const std::string beside = files.contents.begin()->first;
+        const std::size_t kept = beside.rfind(".saving");
+        EXPECT_EQ(beside.substr(0, kept), path.substr(0, kept));
+        EXPECT_EQ((kept - 7 - blanks) % 3, 0U) << "bytes of whole letters";
+        files.contents.clear();
+    }
+}
+
+TEST_F(LongNames, BackupWithoutRoomForItsNameFailsTheSaveAndKeepsTheFile) {
+    settings.createBackups = true;
+    for (std::size_t length = 249; length <= 255; ++length) {
+        files.contents = {{PathOf(length), kOld}};
+        const bool hasRoom = length + 4 <= 255;
+        EXPECT_EQ(Save(PathOf(length)), hasRoom) << length;
+        EXPECT_EQ(files.contents.size(), hasRoom ? 2U : 1U) << length;
+        EXPECT_EQ(files.contents.at(PathOf(length) + (hasRoom ? ".bak" : "")), kOld) << length;
+    }
+}
+
 } // namespace

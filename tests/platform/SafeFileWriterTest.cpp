@@ -58,3 +58,23 @@ TEST_F(SharedFile, SaveWhileAnotherProgramSavesToItFailsAndMixesNothing) {
     EXPECT_EQ(folder.Read("a.tnt"), kNew);
     EXPECT_EQ(folder.Read("a.tnt.bak"), kOld);
 }
+
+TEST_F(SharedFile, LongestNamesAreSavedWithNothingLeftBeside) {
+    for (std::size_t length = 245; length <= 255; ++length) {
+        const std::string path = folder.File(std::string(length - 4, 'x') + ".tnt");
+        for (const std::string_view content : {kOld, kNew}) {
+            EXPECT_TRUE(SafeFileWriter(files).Write(path, content, false)) << length;
+            EXPECT_EQ(files.ReadWhole(path), content) << length;
+        }
+        EXPECT_TRUE(files.Remove(path));
+    }
+    EXPECT_EQ(files.FindNormalFile(folder.File("x*")), "");
+}
+
+TEST_F(SharedFile, BackupThatCannotHaveItsLongNameKeepsTheFile) {
+    const std::string path = folder.File(std::string(248, 'x') + ".tnt");
+    ASSERT_TRUE(SafeFileWriter(files).Write(path, kOld, false));
+    EXPECT_FALSE(SafeFileWriter(files).Write(path, kNew, true));
+    EXPECT_EQ(files.ReadWhole(path), kOld);
+    EXPECT_TRUE(files.Remove(path)); // too long for the folder to clear
+}
