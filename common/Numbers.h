@@ -18,8 +18,8 @@
 [[nodiscard]] std::int32_t RoundToInt32(double number);
 
 // The whole text as a number (blanks around it allowed); whole numbers are rounded as above. Throws
-// RuntimeError TypeMismatch when it is not a number, Overflow when it does not fit.  A number that is
-// too near to 0 for the format is 0.
+// RuntimeError TypeMismatch when it is not a number, Overflow when it does not fit.  A number that
+// is too near to 0 for the format is 0.
 [[nodiscard]] double TextToDouble(std::string_view text);
 [[nodiscard]] std::int16_t TextToInt16(std::string_view text);
 [[nodiscard]] std::int32_t TextToInt32(std::string_view text);

@@ -74,9 +74,9 @@ TEST(TextToDouble, NumberTooNearToZeroIsZero) {
 }
 
 TEST(TextToDouble, NumberBeyondTheFormatIsInfiniteAndFitsNoInteger) {
-    for (const std::string& text : {std::string("1e400"), std::string("-1e+400"),
-                                    std::string("0.001e99999999999"), std::string(400, '9'),
-                                    "1" + std::string(400, '0') + "e-2"}) {
+    for (const std::string& text :
+         {std::string("1e400"), std::string("-1e+400"), std::string("0.001e99999999999"),
+          std::string(400, '9'), "1" + std::string(400, '0') + "e-2"}) {
         EXPECT_TRUE(std::isinf(TextToDouble(text))) << text;
         EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(TextToInt32(text)); }),
                   ErrorNumber::Overflow)

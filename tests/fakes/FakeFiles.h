@@ -43,7 +43,8 @@ public:
         return std::make_unique<Output>(*this, path);
     }
     bool Replace(const std::string& from, const std::string& to) override {
-        if (Fails() || IsTooLong(to) || !contents.contains(from) || locked.contains(from) || locked.contains(to))
+        if (Fails() || IsTooLong(to) || !contents.contains(from) || locked.contains(from) ||
+            locked.contains(to))
             return false;
         contents[to] = contents.at(from);
         contents.erase(from);

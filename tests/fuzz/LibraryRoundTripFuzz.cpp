@@ -73,7 +73,8 @@ void RequireStableAfterOneReading(const LibraryOnFakes& saved) {
     reader.files.contents = saved.files.contents;
     const bool loaded = reader.libraryFiles.FileReadColorValues(kFile);
     Require(loaded == reader.prompts.messages.empty());
-    if (reader.library.Tree().MainNodes().empty() || reader.library.GetGroupInMainnode("0D").empty())
+    if (reader.library.Tree().MainNodes().empty() ||
+        reader.library.GetGroupInMainnode("0D").empty())
         return;
     Require(reader.libraryFiles.FileWriteColorValues(kFile, "0D"));
     RequireSameBytesFromASecondSave(reader);
