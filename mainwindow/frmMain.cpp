@@ -148,8 +148,8 @@ void frmMain::OnCloseBox() {
 bool frmMain::TranslateShortcut(MSG& message) {
     if (drag_.TakeKey(message))
         return true;
-    // In the tree the key would delete a colour that the user is not looking at.
-    if (message.wParam == VK_DELETE && GetFocus() == tvColor_.Handle())
+    // Anywhere but in the list the key would delete a colour that the user is not looking at.
+    if (message.wParam == VK_DELETE && GetFocus() != lvColor_.Handle())
         return false;
     if (message.message == WM_KEYDOWN && message.wParam == VK_F6) {
         FocusNextPane(GetKeyState(VK_SHIFT) < 0);

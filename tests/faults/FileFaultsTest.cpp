@@ -162,6 +162,25 @@ TEST_F(FileFaults, TwoProgramsWithOneLibraryKeepTheLastSaveAndTheOneBefore) {
     EXPECT_EQ(reader.library.Colors().UpperBound(), 3);
 }
 
+TEST_F(FileFaults, ProcessThatHadTheLibraryOpenSavesItLastAndKeepsTheSaveBefore) {
+    const std::string path = folder.File("a.tnt");
+    const RunningProgram other(SecondProcess("--save-on-signal " + Quoted(path)));
+    ASSERT_TRUE(PollUntil([&] { return files.Exists(path + ".open"); }));
+    RealLibrary program(files);
+    program.Open(path);
+    program.AddColors(2);
+    program.Save();
+    EXPECT_TRUE(program.prompts.messages.empty()) << "a file that is open elsewhere is not locked";
+    const auto ofThisProcess = Content(path);
+    folder.Write("a.tnt.go", "");
+    ASSERT_EQ(other.WaitForExitCode(), 0U);
+    EXPECT_EQ(Content(path + ".bak"), ofThisProcess);
+    RealLibrary reader(files);
+    reader.Open(path);
+    ASSERT_EQ(reader.library.Colors().UpperBound(), 2) << "the old color and that of the other";
+    EXPECT_TRUE(reader.library.Colors().At(2).name.starts_with("of the second process"));
+}
+
 TEST_F(FileFaults, ReadOnlyFileIsNeitherReplacedNorMadeABackup) {
     const std::string path = folder.File("a.tnt");
     for (const bool backups : {true, false}) {

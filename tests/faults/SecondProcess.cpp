@@ -23,6 +23,18 @@ int SaveWithOneColorMore(Files& files, const std::string& path) {
     return program.prompts.messages.empty() ? 0 : 1;
 }
 
+int SaveOnSignal(const std::string& path) {
+    Win32Files files;
+    RealLibrary program(files);
+    program.Open(path);
+    const bool isOpen = files.Create(path + ".open") != nullptr;
+    if (!isOpen || !PollUntil([&] { return files.Exists(path + ".go"); }))
+        return 1;
+    program.AddColors(1, "of the second process ");
+    program.Save();
+    return program.prompts.messages.empty() ? 0 : 1;
+}
+
 int Hold(const std::string& path) {
     KernelHandle file;
     // Somebody may be looking into it just now.
@@ -48,6 +60,8 @@ std::optional<int> RunAsSecondProcess(int count, char** arguments) {
         DyingFiles files(kNever);
         return SaveWithOneColorMore(files, arguments[2]);
     }
+    if (task == "--save-on-signal" && count == 3)
+        return SaveOnSignal(arguments[2]);
     if (task == "--hold" && count == 3)
         return Hold(arguments[2]);
     return {};

@@ -245,6 +245,17 @@ TEST_F(LanguageSwitch, WindowThatOpensLaterTakesTheCurrentPlaceAboveOthers) {
     program->progress.HideProgress();
 }
 
+TEST_F(LanguageSwitch, ViewerTakesTheCurrentPlaceAboveOthersEachTimeItIsShown) {
+    Start();
+    for (const bool onTop : {true, false, true}) {
+        program->Run(IDM_mnuHlpShowReadme);
+        EXPECT_NE(IsWindowVisible(program->textViewer.Handle()), FALSE);
+        EXPECT_EQ(IsTopmost(program->textViewer.Handle()), onTop);
+        SendMessageW(FindChild(program->textViewer.Handle(), IDC_cmdOkay), BM_CLICK, 0, 0);
+        program->Run(IDM_mnuOptionsAlwaysOnTop);
+    }
+}
+
 TEST_F(LanguageSwitch, OptionThatIsNotSavedIsGoneAtTheNextStart) {
     const std::string key = "SOFTWARE\\Chromixs\\TNT4SWX";
     Start().Run(IDM_mnuOptionsLngGerman);

@@ -197,6 +197,15 @@ TEST_F(MainList, EditThatIsOpenWhenACommandComesIsReportedWithItsText) {
     EXPECT_EQ(LabelBox(), nullptr);
 }
 
+TEST_F(MainList, SecondClickOnTheSelectedNameStartsItsEdit) {
+    form.ShowWindow();
+    SetFocus(List());
+    Click(List(), PlaceOf(2));
+    EXPECT_FALSE(PumpUntil([&] { return LabelBox() != nullptr; }, 2 * LongestDoubleClick()));
+    Click(List(), PlaceOf(2));
+    EXPECT_TRUE(PumpUntil([&] { return LabelBox() != nullptr; }));
+}
+
 TEST_F(MainList, RefusedEditDoesNotStart) {
     form.ShowWindow();
     events.mayEdit = false;

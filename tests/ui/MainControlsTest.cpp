@@ -137,6 +137,24 @@ TEST_F(MainControls, SplitterDragMovesThePanes) {
     EXPECT_EQ(events.lines, (std::vector<std::string>{"splitter down", "splitter up"}));
 }
 
+TEST_F(MainControls, SplitterThatLosesTheMouseEndsItsDragWhereTheBarStands) {
+    const HWND splitter = Child(IDC_imgSplitter);
+    RECT before{};
+    RECT after{};
+    GetWindowRect(Child(IDC_tvColor), &before);
+    SendMessageW(splitter, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, 10));
+    SendMessageW(splitter, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(41, 10));
+    SetCapture(Child(IDC_lvColor));
+    EXPECT_EQ(events.lines, (std::vector<std::string>{"splitter down", "splitter up"}));
+    EXPECT_EQ(GetWindowLongPtrW(Child(IDC_picSplitter), GWL_STYLE) & WS_VISIBLE, 0);
+    SendMessageW(splitter, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(91, 10));
+    SendMessageW(splitter, WM_LBUTTONUP, 0, MAKELPARAM(91, 10));
+    ReleaseCapture();
+    GetWindowRect(Child(IDC_tvColor), &after);
+    EXPECT_EQ(WidthOf(after), WidthOf(before) + 41);
+    EXPECT_EQ(events.lines.size(), 2U) << "once";
+}
+
 TEST_F(MainControls, StatusPanelShowsItsText) {
     form.SetInfoPanelText("Okay setzen in SolidWorks");
     std::array<wchar_t, 64> text{};

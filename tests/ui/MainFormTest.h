@@ -2,6 +2,7 @@
 
 #include "mainwindow/frmMain.h"
 #include "resources/controls.h"
+#include "tests/platform/PollUntil.h"
 #include "tests/ui/RecordingErrorSink.h"
 #include "tests/ui/RecordingMainEvents.h"
 
@@ -19,6 +20,23 @@
 
 // Handles the messages that are waiting, as the program's loop does.
 void PumpMessages();
+
+// Handles messages until the condition holds; false when it does not within the time.
+template <typename Condition>
+[[nodiscard]] bool PumpUntil(Condition condition,
+                             std::chrono::milliseconds time = std::chrono::seconds(15)) {
+    return PollUntil(
+        [&] {
+            PumpMessages();
+            return condition();
+        },
+        time);
+}
+
+// Two clicks that are farther apart are no double click.
+[[nodiscard]] inline std::chrono::milliseconds LongestDoubleClick() {
+    return std::chrono::milliseconds(GetDoubleClickTime());
+}
 
 // A mouse click of the left button at a point of a window.
 void Click(HWND window, POINT at);

@@ -137,6 +137,33 @@ TEST_F(MainMenu, KeysOfTextEntryAreLeftToTheTextBox) {
     EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuFileSave});
 }
 
+// Anywhere else the key would delete a color that the user is not looking at.
+TEST_F(MainMenu, DeleteKeyDeletesAColorOnlyWhileTheListHasTheFocus) {
+    form.ShowWindow();
+    events.layout.SetHugeFrame(true);
+    for (const int id : {IDC_tvColor, IDC_txtActiveColor, IDC_sldActiveColor, IDC_lvColor}) {
+        SetFocus(Child(id));
+        MSG key{Child(id), WM_KEYDOWN, VK_DELETE, 0, 0, {}};
+        static_cast<void>(form.TranslateKeys(key)); // takes also what it hands to a control
+        EXPECT_EQ(events.commands.size(), id == IDC_lvColor ? 1U : 0U) << id;
+    }
+    EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuColorDelColor});
+}
+
+TEST_F(MainMenu, DeleteKeyBelongsToTheLabelThatIsEdited) {
+    form.ShowWindow();
+    form.RowsChanged(3);
+    form.SelectRow(0);
+    SetFocus(Child(IDC_lvColor));
+    form.EditRowLabel(0);
+    const auto edit =
+        reinterpret_cast<HWND>(SendMessageW(Child(IDC_lvColor), LVM_GETEDITCONTROL, 0, 0));
+    ASSERT_NE(edit, nullptr);
+    MSG key{edit, WM_KEYDOWN, VK_DELETE, 0, 0, {}};
+    static_cast<void>(form.TranslateKeys(key));
+    EXPECT_TRUE(events.commands.empty());
+}
+
 TEST_F(MainMenu, CloseBoxOnlyReports) {
     SendMessageW(form.Handle(), WM_CLOSE, 0, 0);
     EXPECT_EQ(events.lines, std::vector<std::string>{"closing"});

@@ -23,6 +23,14 @@ constexpr int kSteps = 100000;
 constexpr int kStepsBetweenChecks = 5000;
 constexpr int kWarmUp = 40000; // what is made when it is first wanted is there then
 
+constexpr const char* kDivisionSign = "\xC3\xB7";
+
+// The values of a color's line, each behind its sign.
+std::string LineEndOf(const std::string& line, std::size_t colon) {
+    const std::size_t values = line.find(kDivisionSign, colon);
+    return line.substr(values, line.rfind('"') - values);
+}
+
 // What the process holds of the system.
 struct Holdings {
     GuiObjects objects;
@@ -50,6 +58,17 @@ std::ostream& operator<<(std::ostream& out, const Holdings& held) {
 // Questions are answered at once, with any answer.
 class Monkey : public testing::Test {
 protected:
+    // A library as its file has it; each color is its name and its nine values, in the order of
+    // texts.
+    struct SavedGroup {
+        std::string name;
+        Texts colors;
+    };
+    struct Saved {
+        std::string name;
+        std::vector<SavedGroup> groups;
+    };
+
     Monkey() {
         for (const char* name : {"tntlng_de.ini", "tntlng_us.ini"})
             folder.Write(name,
@@ -92,6 +111,8 @@ protected:
     void ClickSomewhere();
     void PressRightButton();
     void DragSomething();
+    void ClickHeader();
+    void ClickToolbar();
     void RunCommand();
     void Resize();
     void Repaint();
@@ -101,11 +122,13 @@ protected:
     void ComeToRest();
     void ExpectAgreement();
     void ExpectAgreementOf(HTREEITEM root);
+    void ExpectListBelongsToTheSelectedNode();
     void ExpectListShows(const Texts& colors);
     [[nodiscard]] HTREEITEM Next(WPARAM relation, HTREEITEM item = nullptr) const;
     [[nodiscard]] std::string TextOfNode(HTREEITEM node) const;
     void Select(HTREEITEM node);
-    [[nodiscard]] std::vector<std::string> SavedLines();
+    [[nodiscard]] std::string CellText(int row, int subItem) const;
+    [[nodiscard]] Saved SaveSelected();
 
     std::mt19937 random{kSeed};
     Win32Files files;
@@ -114,6 +137,7 @@ protected:
     Win32AnsiCodePage codePage{1252};
     std::unique_ptr<RealProgram> program;
     std::vector<int> commands;
+    int rowsCompared = 0;
 };
 
 HWND Monkey::AnyPane() {
@@ -195,6 +219,26 @@ void Monkey::DragSomething() {
     Click(pane, AnyPointIn(pane));
 }
 
+void Monkey::ClickHeader() {
+    const auto header = reinterpret_cast<HWND>(SendMessageW(List(), LVM_GETHEADER, 0, 0));
+    Click(header, AnyPointIn(header));
+}
+
+// A button menu that opens is left by Escape.
+void Monkey::ClickToolbar() {
+    const HWND bar = Child(IDC_tlbarMain);
+    const auto count = static_cast<int>(SendMessageW(bar, TB_BUTTONCOUNT, 0, 0));
+    RECT place{};
+    SendMessageW(bar, TB_GETITEMRECT, static_cast<WPARAM>(Below(count)),
+                 reinterpret_cast<LPARAM>(&place));
+    if (WidthOf(place) == 0)
+        return; // hidden
+    PrepareAnswers();
+    PostMessageW(program->main.Handle(), WM_KEYDOWN, VK_ESCAPE, 0);
+    Click(bar, {place.left + Below(WidthOf(place)), (place.top + place.bottom) / 2});
+    KeepSmall();
+}
+
 void Monkey::PrepareAnswers() {
     FakePrompts& prompts = program->prompts;
     constexpr Answer kAnswers[] = {Answer::Yes, Answer::No, Answer::Cancel, Answer::Ok};
@@ -256,6 +300,10 @@ void Monkey::Step() {
         PressRightButton();
     else if (chance < 960)
         DragSomething();
+    else if (chance < 963)
+        ClickHeader();
+    else if (chance < 968)
+        ClickToolbar();
     else if (chance < 990)
         RunCommand();
     else if (chance < 995)
@@ -294,63 +342,94 @@ void Monkey::Select(HTREEITEM node) {
 }
 
 // The selected library as the program writes it.
-std::vector<std::string> Monkey::SavedLines() {
+Monkey::Saved Monkey::SaveSelected() {
     program->prompts.answers.assign(3, Answer::Yes);
     program->prompts.chosenFiles.assign(1, folder.File("check.tnt"));
     program->Run(IDM_mnuFileSaveAs);
     std::istringstream text(
         codePage.Decode(files.ReadWhole(folder.File("check.tnt")).value_or("")));
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(text, line);)
-        if (line.starts_with('"'))
-            lines.push_back(line.substr(1, line.rfind('"') - 1));
-    return lines;
+    Saved saved;
+    std::map<std::string, std::size_t> groups; // by key
+    for (std::string line; std::getline(text, line);) {
+        const std::size_t key = line.find('=');
+        const std::size_t colon = line.find(':', key);
+        const std::string name = line.substr(3, key - 3);
+        if (line.starts_with("\"D#"))
+            saved.name = name;
+        if (line.starts_with("\"G#")) {
+            groups.emplace(line.substr(key + 1, line.rfind('"') - key - 1), groups.size());
+            saved.groups.push_back({name, {}});
+        }
+        if (line.starts_with("\"E#"))
+            saved.groups.at(groups.at(line.substr(key + 1, colon - key - 1)))
+                .colors.push_back(name + LineEndOf(line, colon));
+    }
+    for (SavedGroup& group : saved.groups)
+        std::ranges::sort(group.colors);
+    return saved;
 }
 
-// Names and values of a group's colors, in any order, as the list shows them.
+std::string Monkey::CellText(int row, int subItem) const {
+    std::array<wchar_t, 1024> text{};
+    LVITEMW item{};
+    item.iSubItem = subItem;
+    item.pszText = text.data();
+    item.cchTextMax = static_cast<int>(text.size());
+    SendMessageW(List(), LVM_GETITEMTEXTW, static_cast<WPARAM>(row),
+                 reinterpret_cast<LPARAM>(&item));
+    return ToUtf8(text.data());
+}
+
+// Names and values of a group's colors, in any order, as the list itself shows them.
 void Monkey::ExpectListShows(const Texts& colors) {
     Texts shown;
     const auto rows = static_cast<int>(SendMessageW(List(), LVM_GETITEMCOUNT, 0, 0));
     for (int row = 0; row < rows; ++row) {
-        std::string text = program->application.MainEvents().CellText(row, 1);
-        for (int column = 2; column <= 10; ++column)
-            text += "\xC3\xB7" + program->application.MainEvents().CellText(row, column);
+        std::string text = CellText(row, 0);
+        for (int column = 1; column <= 9; ++column)
+            text += kDivisionSign + CellText(row, column);
         shown.push_back(text);
     }
     std::ranges::sort(shown);
     EXPECT_EQ(shown, colors);
+    rowsCompared += rows;
+}
+
+// What was left on the screen: the list belongs to what is selected in the tree.
+void Monkey::ExpectListBelongsToTheSelectedNode() {
+    const HTREEITEM selected = Next(TVGN_CARET);
+    const HTREEITEM parent = selected == nullptr ? nullptr : Next(TVGN_PARENT, selected);
+    HTREEITEM group = Next(TVGN_CHILD, parent == nullptr ? selected : parent);
+    if (selected == nullptr || group == nullptr) {
+        ExpectListShows({});
+        return;
+    }
+    const Saved saved = SaveSelected();
+    std::size_t index = 0;
+    for (; parent != nullptr && group != selected; group = Next(TVGN_NEXT, group))
+        ++index;
+    ExpectListShows(saved.groups.at(index).colors);
 }
 
 void Monkey::ExpectAgreementOf(HTREEITEM root) {
-    HTREEITEM group = Next(TVGN_CHILD, root);
-    if (group == nullptr)
+    HTREEITEM node = Next(TVGN_CHILD, root);
+    if (node == nullptr)
         return; // there is nothing to save
     Select(root);
-    const std::vector<std::string> lines = SavedLines();
-    std::map<std::string, Texts> colors; // by the group's key
-    for (const std::string& line : lines)
-        if (line.starts_with("E#")) {
-            const std::size_t key = line.find('=');
-            const std::size_t colon = line.find(':', key);
-            colors[line.substr(key + 1, colon - key - 1)].push_back(
-                line.substr(2, key - 2) + line.substr(line.find("\xC3\xB7", colon)));
-        }
-    for (const std::string& line : lines) {
-        if (!line.starts_with("G#"))
-            continue;
-        ASSERT_NE(group, nullptr) << line;
-        const std::size_t key = line.find('=');
-        EXPECT_EQ(TextOfNode(group), line.substr(2, key - 2));
-        Select(group);
-        Texts expected = colors[line.substr(key + 1)];
-        std::ranges::sort(expected);
-        ExpectListShows(expected);
-        group = Next(TVGN_NEXT, group);
+    const Saved saved = SaveSelected();
+    EXPECT_EQ(TextOfNode(root), saved.name);
+    for (const SavedGroup& group : saved.groups) {
+        ASSERT_NE(node, nullptr) << group.name;
+        EXPECT_EQ(TextOfNode(node), group.name);
+        Select(node);
+        ExpectListShows(group.colors);
+        node = Next(TVGN_NEXT, node);
     }
-    EXPECT_EQ(group, nullptr) << "a group that is not in the library";
+    EXPECT_EQ(node, nullptr) << "a group that is not in the library";
 }
 
 void Monkey::ExpectAgreement() {
+    ExpectListBelongsToTheSelectedNode();
     for (HTREEITEM root = Next(TVGN_ROOT); root != nullptr; root = Next(TVGN_NEXT, root))
         ExpectAgreementOf(root);
 }
@@ -376,4 +455,5 @@ TEST_F(Monkey, AnyInputLeavesTheProgramWholeAndTreeListAndLibraryInAgreement) {
     EXPECT_LE(after.handles, before.handles + 10);
     EXPECT_LE(after.bytes, before.bytes + 4 * 1024 * 1024);
     EXPECT_NE(IsWindowVisible(program->main.Handle()), FALSE);
+    EXPECT_GT(rowsCompared, 1000) << "there was something to compare";
 }

@@ -20,6 +20,7 @@
 #include "tests/fakes/FakeWaitingClock.h"
 
 #include <string>
+#include <vector>
 
 // The whole program with its real forms, real files and the real private-profile functions. Message
 // boxes are kept instead of shown.
@@ -27,14 +28,22 @@ class RealProgram {
 public:
     // programFolder: holds the language files.  codePage: that of the language files.
     // solidWorksService: what stands for SolidWorks instead of the model in this object.
+    // bannerFolder: holds the banner pictures; empty: there are none.
     RealProgram(RegistryAccess& registryAccess, std::string programFolder,
-                const AnsiCodePage& codePage, AutomationService* solidWorksService = nullptr)
+                const AnsiCodePage& codePage, AutomationService* solidWorksService = nullptr,
+                const std::string& bannerFolder = {})
         : registry(registryAccess), folder(std::move(programFolder)), page(codePage),
+          banners(bannerFolder.empty() ? BannerPictures() : BannerPictures(bannerFolder)),
           automation(solidWorksService != nullptr ? *solidWorksService : service) {
         main.Attach(application.MainEvents());
         about.Attach(application.AboutWindowEvents());
         textViewer.Attach(application.TextViewerWindowEvents());
         progress.Attach(application.ProgressWindowEvents());
+    }
+
+    // The address of a banner picture, from 1.
+    static std::string BannerAddress(int index) {
+        return "https://www.example.org/" + std::to_string(index);
     }
 
     // As the menu does.
@@ -52,6 +61,7 @@ public:
     RegistryAccess& registry;
     std::string folder;
     const AnsiCodePage& page;
+    BannerPictures banners;
     FakePrompts prompts;
     Win32Files files;
     Win32PrivateProfile profile;
@@ -66,7 +76,6 @@ public:
     BusyRetry retry{clock};
     clsMultiLanguage language{profile, files, page};
     ErrorReporter errors{prompts, language};
-    BannerPictures banners;
     frmMain main{errors, banners};
     AboutOnDemand about{main.Handle(), errors, banners};
     frmTxtView textViewer{main.Handle(), errors, banners};
@@ -74,6 +83,14 @@ public:
     Application application{{files, page, registry, prompts, clipboard, collation, shell, events,
                              automation, retry, language, errors},
                             {main, main, main, about, textViewer, progress, progress, progress},
-                            {folder, "1.0.0", {}, folder}};
+                            {folder, "1.0.0", BannerAddresses(banners.Count()), folder}};
     SilenceAtScopeEnd silence{main};
+
+private:
+    static std::vector<std::string> BannerAddresses(int count) {
+        std::vector<std::string> addresses;
+        for (int index = 1; index <= count; ++index)
+            addresses.push_back(BannerAddress(index));
+        return addresses;
+    }
 };

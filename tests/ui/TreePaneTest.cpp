@@ -192,6 +192,20 @@ TEST_F(MainTree, LongNameIsEditedAsAWhole) {
     EXPECT_EQ(events.lines, std::vector<std::string>{"node label 1DG1=" + std::string(600, 'm')});
 }
 
+TEST_F(MainTree, SecondClickOnTheSelectedNodesTextStartsItsEdit) {
+    const auto edit = [this] { return SendMessageW(Tree(), TVM_GETEDITCONTROL, 0, 0); };
+    form.ShowWindow();
+    SetFocus(Tree());
+    const POINT at = PlaceOf(Next(TVGN_CHILD, Next(TVGN_ROOT)));
+    Click(Tree(), at);
+    EXPECT_FALSE(PumpUntil([&] { return edit() != 0; }, 2 * LongestDoubleClick()));
+    Click(Tree(), at);
+    EXPECT_TRUE(PumpUntil([&] { return edit() != 0; }));
+    TypeLabel(L"Clicked", VK_RETURN);
+    PumpMessages();
+    EXPECT_EQ(events.lines.back(), "node label 1DG1=Clicked");
+}
+
 TEST_F(MainTree, EscapeGivesUpTheEdit) {
     form.ShowWindow();
     form.EditNodeLabel("1DG1");
