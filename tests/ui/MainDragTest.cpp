@@ -113,6 +113,12 @@ TEST_F(MainDragging, TellsWhatIsUnderThePointer) {
                                    "drag move list", "drag move"}));
 }
 
+TEST_F(MainDragging, HeaderOfTheListBelongsToTheList) {
+    StartDrag();
+    MoveTo({20, 5});
+    EXPECT_EQ(events.lines.back(), "drag move list");
+}
+
 TEST_F(MainDragging, WholeLineOfANodeCounts) {
     StartDrag();
     POINT at = OnNode(Next(TVGN_CHILD, Next(TVGN_ROOT)));
