@@ -73,7 +73,7 @@ public:
 // What the layout pass needs to know, and what it decides.
 struct LayoutMetrics {
     WindowState state = WindowState::Normal;
-    float formWidth = 0;  // outer width, border included
+    float formWidth = 0;  // outer width as it is seen: a line of border on either side
     float innerWidth = 0; // client area
     float innerHeight = 0;
     float toolbarHeight = 0;   // 0 when hidden

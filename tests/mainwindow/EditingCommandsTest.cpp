@@ -422,6 +422,7 @@ TEST_F(EditingCommandsTest, CloseOfTheLastLibraryLeavesAnEmptyTreeAndSaveDoesNot
     EXPECT_TRUE(program.view.nodes.empty());
     Run(IDM_mnuFileSave);
     EXPECT_TRUE(program.prompts.messages.empty());
+    EXPECT_TRUE(program.prompts.fileRequests.empty());
 }
 
 TEST_F(EditingCommandsTest, RenameStartsTheEditOfTheSelectedNode) {

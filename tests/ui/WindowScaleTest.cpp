@@ -166,7 +166,8 @@ TEST_F(MainScale, ListReachesTheRightBorderAndNoFurther) {
     GetClientRect(form.Handle(), &inner);
     MapWindowPoints(form.Handle(), nullptr, reinterpret_cast<POINT*>(&inner), 2);
     GetWindowRect(Child(IDC_lvColor), &list);
-    const float outer = form.Metrics().formWidth;
+    const int border = GetSystemMetrics(SM_CXBORDER);
+    const float outer = form.Scale().ToTwips(WidthOf(inner) + 2 * border);
     EXPECT_EQ(WidthOf(list), form.Scale().ToPixels(outer - 3000 - 140));
     EXPECT_LE(list.right, inner.right);
 }
