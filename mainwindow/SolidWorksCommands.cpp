@@ -61,16 +61,24 @@ ColorRecord SolidWorksCommands::ColorOfEditor() const {
 }
 
 void SolidWorksCommands::mnuSWXGetColor_Click() {
-    ColorRecord color;
-    // No message for the detailed keys, on purpose: the editor then shows the record as handed in.
-    if (!ReportRefusal(parts_.tools.SWXGetColor(color)))
-        parts_.editor.ShowColorFromSolidWorks(color);
+    ShowSelectedColor();
 }
 
+bool SolidWorksCommands::ShowSelectedColor() {
+    ColorRecord color;
+    // No message for the detailed keys, on purpose: the editor then shows the record as handed in.
+    if (ReportRefusal(parts_.tools.SWXGetColor(color)))
+        return false;
+    parts_.editor.ShowColorFromSolidWorks(color);
+    return true;
+}
+
+// A cancelled name goes on with the colour that was active before, on purpose.  A refusal changes
+// nothing: a new colour has the editor's values already.
 void SolidWorksCommands::NewColorNodeFromSWX() {
     parts_.library.NewColorNode();
-    mnuSWXGetColor_Click();
-    parts_.panes.UpdateFromColorPreview();
+    if (ShowSelectedColor())
+        parts_.panes.UpdateFromColorPreview();
 }
 
 void SolidWorksCommands::mnuSWXSetColor_Click() {

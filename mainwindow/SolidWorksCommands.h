@@ -47,6 +47,7 @@ public:
     void NewColorNodeFromSWX();
 
 private:
+    bool ShowSelectedColor(); // in the editor; false: refused, and told so
     void Report(const std::string& resultKey);
     bool ReportRefusal(const std::string& resultKey);
     void ShowMessage(const std::string& text);

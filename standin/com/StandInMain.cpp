@@ -68,7 +68,9 @@ int Run(ErrorSink& errors) {
     if (!line.hidden)
         window.Open();
     WriteReadyFile(line.readyFile);
-    return RunMessageLoop();
+    const int exitCode = RunMessageLoop();
+    model.Log().SetListener({}); // calls may come until the server has gone, after the window
+    return exitCode;
 }
 
 } // namespace

@@ -60,8 +60,14 @@ const std::vector<int> kAllCommands = {IDM_mnuSWXGetColor,
                                        IDM_mnuSWXSetStandardColor};
 
 TEST_F(SolidWorksCommandsTest, EveryCommandShowsTextZeroWithoutSolidWorksAndChangesNothing) {
+    program->Main().NodeClicked("0DG1");
+    program->prompts.typed = {"first"};
+    Run(IDM_mnuColorNewColor);
+    TypeValue(0, "7"); // not written into the colour yet
     program->service.SetRunning(false);
     const auto nodes = program->view.nodes;
+    const std::vector<std::string> row = Row(0);
+    ASSERT_NE(row.at(1), "7");
     for (const int command : kAllCommands) {
         program->prompts.messages.clear();
         Run(command);
@@ -69,7 +75,9 @@ TEST_F(SolidWorksCommandsTest, EveryCommandShowsTextZeroWithoutSolidWorksAndChan
             << command;
     }
     EXPECT_EQ(program->view.nodes, nodes);
-    EXPECT_EQ(program->view.colorName, "New Color");
+    EXPECT_EQ(program->view.rowCount, 1);
+    EXPECT_EQ(Row(0), row);
+    EXPECT_EQ(program->view.colorName, "first");
 }
 
 TEST_F(SolidWorksCommandsTest, EveryCommandShowsTextOneWithoutADocument) {
@@ -222,6 +230,20 @@ TEST_F(SolidWorksCommandsTest, GetColorLoadsTheEditorAndNotTheLibrary) {
     EXPECT_TRUE(program->prompts.messages.empty());
 }
 
+TEST_F(SolidWorksCommandsTest, GetColorLeavesTheSelectedColorAsItIs) {
+    program->Main().NodeClicked("0DG1");
+    program->prompts.typed = {"first"};
+    Run(IDM_mnuColorNewColor);
+    const std::vector<std::string> before = Row(0);
+    Client().Face(0)->Put("MaterialPropertyValues",
+                          std::vector<double>{0.2, 0.4, 0.6, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6});
+    Select(Client().Face(0));
+    Run(IDM_mnuSWXGetColor);
+    EXPECT_EQ(program->view.valueTexts[0], "51");
+    EXPECT_EQ(program->view.rowCount, 1);
+    EXPECT_EQ(Row(0), before);
+}
+
 TEST_F(SolidWorksCommandsTest, GetColorOfAnEdgeShowsZerosAndAnEmptyNameWithoutAMessage) {
     program->solidWorks.Part().Edges().front()->Select(false);
     Run(IDM_mnuSWXGetColor);
@@ -274,28 +296,30 @@ TEST_F(SolidWorksCommandsTest, NewColorThatSolidWorksRefusesKeepsItsNameAndTheEd
     EXPECT_EQ(program->view.colorName, "typed");
 }
 
-TEST_F(SolidWorksCommandsTest, CancelledNameAndARefusalWriteTheEditorIntoTheColorThatWasActive) {
+TEST_F(SolidWorksCommandsTest, CancelledNameAndARefusalLeaveTheColorThatWasActive) {
     program->Main().NodeClicked("0DG1");
     program->prompts.typed = {"first"};
     Run(IDM_mnuColorNewColor);
+    const std::vector<std::string> before = Row(0);
     TypeValue(0, "7");
-    ASSERT_NE(Row(0).at(1), "7");
     program->service.SetRunning(false);
     Run(IDM_mnuSWXNewColorUpdate); // cancelled
     EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<0>", 64, kTitle}}));
     ASSERT_EQ(program->view.rowCount, 1);
-    EXPECT_EQ(Row(0).at(0), "first");
-    EXPECT_EQ(Row(0).at(1), "7");
+    EXPECT_EQ(Row(0), before);
 }
 
 TEST_F(SolidWorksCommandsTest, CancelledNameStillReadsAndWritesTheColorThatWasActive) {
     program->Main().NodeClicked("0DG1");
     program->prompts.typed = {"first"};
     Run(IDM_mnuColorNewColor);
+    Client().Face(0)->Put("MaterialPropertyValues",
+                          std::vector<double>{0.2, 0.4, 0.6, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6});
     Select(Client().Face(0));
     Run(IDM_mnuSWXNewColorUpdate); // cancelled
-    EXPECT_EQ(program->view.rowCount, 1);
-    EXPECT_EQ(program->Main().CellText(0, 1), "Neuer Farbwert");
+    ASSERT_EQ(program->view.rowCount, 1);
+    EXPECT_EQ(Row(0), (std::vector<std::string>{"Neuer Farbwert", "51", "102", "153", "10", "20",
+                                                "30", "40", "50", "60"}));
 }
 
 TEST_F(SolidWorksCommandsTest, StandardColorsBecomeAGroupWithRisingEmission) {

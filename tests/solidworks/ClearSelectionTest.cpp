@@ -87,6 +87,18 @@ call document "Housing.SLDPRT" EditRebuild()
     EXPECT_TRUE(FeatureAt(0)->IsSuppressed());
 }
 
+// The call works on all that is selected: each feature's own state is told for all of them.
+TEST_F(ClearColor, EachSelectedFeaturesOwnSuppressionIsTold) {
+    FeatureAt(0)->SetSuppressed(true);
+    FeatureAt(0)->Select(false);
+    FeatureAt(1)->Select(true);
+    const std::string calls = Calls();
+    EXPECT_NE(calls.find("0.0, True, True, \"\")"), std::string::npos) << calls;
+    EXPECT_EQ(calls.find("0.0, True, False, \"\")"), std::string::npos)
+        << "the first call has suppressed the other one too";
+    EXPECT_TRUE(FeatureAt(1)->IsSuppressed());
+}
+
 TEST_F(ClearColor, ComponentInAPartIsTreatedAsAFeature) {
     model->Part().SelectItem({ComponentNamed("Screw-1"), ComponentNamed("Screw-1")}, false);
     EXPECT_EQ(Calls(), R"(

@@ -1,4 +1,5 @@
 #include "common/ColorRecord.h"
+#include "platform/Win32Clipboard.h"
 #include "tests/ui/MainFormTest.h"
 
 namespace {
@@ -55,6 +56,28 @@ TEST_F(MainEditorPane, OnlyValueCharactersAreLetThrough) {
     form.SelectWholeValueText(0);
     Type(0, L"a-1ü,2 ");
     EXPECT_EQ(TextOf(Box(0)), L"12");
+}
+
+TEST_F(MainEditorPane, KeysOfTheClipboardAreLetThrough) {
+    constexpr wchar_t ctrlA[] = {1, 0};
+    constexpr wchar_t ctrlC[] = {3, 0};
+    constexpr wchar_t ctrlV[] = {22, 0};
+    constexpr wchar_t ctrlX[] = {24, 0};
+    constexpr wchar_t ctrlZ[] = {26, 0};
+    Win32Clipboard clipboard([this] { return form.Handle(); });
+    ASSERT_TRUE(clipboard.SetText("42"));
+    form.SelectWholeValueText(0);
+    Type(0, ctrlV);
+    EXPECT_EQ(TextOf(Box(0)), L"42");
+    form.SelectWholeValueText(0);
+    Type(0, ctrlX);
+    EXPECT_EQ(TextOf(Box(0)), L"");
+    Type(0, ctrlZ);
+    EXPECT_EQ(TextOf(Box(0)), L"42");
+    ASSERT_TRUE(clipboard.SetText("other"));
+    Type(0, ctrlA);
+    Type(0, ctrlC);
+    EXPECT_EQ(clipboard.Text(), "42");
 }
 
 TEST_F(MainEditorPane, BackspaceIsLetThrough) {
