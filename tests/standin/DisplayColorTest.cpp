@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <string>
+
 namespace {
 
 MaterialValues Filled(double value) {
@@ -39,6 +42,15 @@ TEST(DisplayColor, TheBodyBeatsThePart) {
 TEST(DisplayColor, ThePartIsAskedLast) {
     EXPECT_EQ(ResolveDisplayColor({{}, {}, {}, {}, Filled(0.5)}),
               (DisplayColor{Filled(0.5), ColorLevel::Part}));
+}
+
+TEST(DisplayColor, EveryLevelHasTheNameThatTheWindowShows) {
+    const std::map<ColorLevel, std::string> names = {
+        {ColorLevel::Component, "component"}, {ColorLevel::Face, "face"},
+        {ColorLevel::Feature, "feature"},     {ColorLevel::Body, "body"},
+        {ColorLevel::Part, "part"},           {ColorLevel::None, "nothing"}};
+    for (const auto& [level, name] : names)
+        EXPECT_EQ(ColorLevelName(level), name);
 }
 
 TEST(DisplayColor, WithoutAnyColourAPlainGreyIsSeen) {

@@ -49,6 +49,17 @@ TEST(DisplayColorOf, AFaceShowsItsOwnThenItsFeaturesThenTheBodysThenThePartsColo
     EXPECT_EQ(DisplayColorOf(RowNamed(model, "Face 1")).level, ColorLevel::Body);
 }
 
+TEST(DisplayColorOf, AFeatureShowsItsOwnThenTheBodysThenThePartsColour) {
+    StandInModel model;
+    Entity& feature = *RowNamed(model, "Base").entity;
+    feature.SetColor(kUnsetMaterial);
+    EXPECT_EQ(DisplayColorOf(RowNamed(model, "Base")).level, ColorLevel::Feature);
+    feature.SetColor({});
+    EXPECT_EQ(DisplayColorOf(RowNamed(model, "Base")).level, ColorLevel::Part);
+    model.Part().Solid()->SetColor(kUnsetMaterial);
+    EXPECT_EQ(DisplayColorOf(RowNamed(model, "Base")).level, ColorLevel::Body);
+}
+
 TEST(DisplayColorOf, AColouredComponentHidesTheColoursOfItsFaces) {
     StandInModel model("assembly");
     EXPECT_EQ(DisplayColorOf(RowNamed(model, "Face 3 of Housing-1")).level, ColorLevel::Face);
