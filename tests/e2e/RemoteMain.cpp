@@ -35,12 +35,23 @@ void RemoteMain::ChooseFromMenu(const std::string& menu, const std::string& entr
     });
     if (!takesKeys)
         throw std::runtime_error("The window takes no keys");
-    RealInput::PressWithAlt(AccessKey(menu));
-    if (!PollUntil([&] { return window_.HasMenuOpen(); }))
+    if (!OpenMenu(AccessKey(menu)))
         throw std::runtime_error("The menu does not open: " + menu);
     RealInput::PressKey(AccessKey(entry));
     if (!PollUntil([&] { return !window_.HasMenuOpen(); }))
         throw std::runtime_error("The menu stays open: " + menu);
+}
+
+// A busy machine may lose keys while the focus comes back from a box that has just gone: a person
+// would look and press them again.
+bool RemoteMain::OpenMenu(WORD accessKey) const {
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        RealInput::PressWithAlt(accessKey);
+        if (PollUntil([&] { return window_.HasMenuOpen(); }, std::chrono::seconds(5)))
+            return true;
+        SetForegroundWindow(window_.Handle());
+    }
+    return false;
 }
 
 // The character behind the "&" of the caption; its virtual key is its capital letter.

@@ -43,6 +43,7 @@ public:
     [[nodiscard]] RemoteWindow Slider(std::size_t index) const;
 
 private:
+    [[nodiscard]] bool OpenMenu(WORD accessKey) const; // false: it does not open
     [[nodiscard]] WORD AccessKey(const std::string& menuName) const;
 
     RemoteWindow window_;
