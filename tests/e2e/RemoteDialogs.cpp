@@ -15,7 +15,7 @@ namespace {
 constexpr int kMessageText = 0xFFFF;
 constexpr int kFileName = 1148;
 constexpr int kKinds = cmb1;         // the combo box with the kinds of files
-constexpr int kUnchanged = 20;       // reads in a row that show that a name stays
+constexpr int kUnchanged = 20;       // reads in a row that show that something stays
 constexpr int kFirstColorPart = 706; // red; green and blue follow
 constexpr int kClickAttempts = 3;
 constexpr std::chrono::milliseconds kClickPatience{2000};
@@ -46,6 +46,19 @@ bool IsGone(const RemoteWindow& dialog, int control) {
 void WaitUntilGone(const RemoteWindow& dialog, int control) {
     if (!PollUntil([&] { return IsGone(dialog, control); }))
         throw std::runtime_error("The dialog stays open: " + dialog.Title());
+}
+
+// The window manager moves a new box to its place: a click at the place before may hit another
+// button.
+void WaitUntilStill(const RemoteWindow& dialog) {
+    RECT place{};
+    int unchanged = 0;
+    static_cast<void>(PollUntil([&] {
+        const RECT now = dialog.Bounds();
+        unchanged = EqualRect(&now, &place) != FALSE ? unchanged + 1 : 0;
+        place = now;
+        return unchanged > kUnchanged && dialog.FocusedChild() != nullptr;
+    }));
 }
 
 void Press(const RemoteWindow& dialog, int button) {
@@ -112,10 +125,11 @@ RemoteDialogs::Message RemoteDialogs::ReadMessageBox(const RemoteWindow& owner) 
     return {dialog.Title(), dialog.Child(kMessageText).Text()};
 }
 
-// A click can come before the window manager has put the box where it stays: then it is made again.
+// A click that is lost is made again.
 RemoteDialogs::Message RemoteDialogs::AnswerMessageBox(const RemoteWindow& owner, int button) {
     const RemoteWindow dialog = WaitForPopup(owner, L"#32770", kMessageText);
     Message message{dialog.Title(), dialog.Child(kMessageText).Text()};
+    WaitUntilStill(dialog);
     for (int attempt = 0; attempt < kClickAttempts && !IsGone(dialog, kMessageText); ++attempt) {
         dialog.Child(button).Click();
         static_cast<void>(PollUntil([&] { return IsGone(dialog, kMessageText); }, kClickPatience));
