@@ -86,13 +86,26 @@ void MainWindow::EndAfterOperation() {
 
 void MainWindow::AddFileHandlers() {
     FileCommands& files = parts_.fileCommands;
-    handlers_[IDM_mnuFileNew] = [&files] { files.mnuFileNew_Click(); };
-    handlers_[IDM_mnuFileOpen] = [&files] { files.mnuFileOpen_Click(); };
-    handlers_[IDM_mnuFileSave] = [&files] { files.mnuFileSave_Click(); };
-    handlers_[IDM_mnuFileSaveAs] = [&files] { files.mnuFileSaveAs_Click(); };
-    handlers_[IDM_mnuFileClose] = [&files] { files.mnuFileClose_Click(); };
-    handlers_[IDM_mnuFileCancelAutoload] = [&files] { files.mnuFileCancelAutoload_Click(); };
+    AddReportingHandler(IDM_mnuFileNew, [&files] { files.mnuFileNew_Click(); });
+    AddReportingHandler(IDM_mnuFileOpen, [&files] { files.mnuFileOpen_Click(); });
+    AddReportingHandler(IDM_mnuFileSave, [&files] { files.mnuFileSave_Click(); });
+    AddReportingHandler(IDM_mnuFileSaveAs, [&files] { files.mnuFileSaveAs_Click(); });
+    AddReportingHandler(IDM_mnuFileClose, [&files] { files.mnuFileClose_Click(); });
+    AddReportingHandler(IDM_mnuFileCancelAutoload,
+                        [&files] { files.mnuFileCancelAutoload_Click(); });
     handlers_[IDM_mnuQuit] = parts_.quit;
+}
+
+void MainWindow::AddReportingHandler(int command, std::function<void()> handler) {
+    handlers_[command] = [this, run = std::move(handler)] {
+        ForgetStatus();
+        run();
+    };
+}
+
+// So that the status panel never tells of an earlier command.
+void MainWindow::ForgetStatus() {
+    ShowStatus({});
 }
 
 void MainWindow::AddColorHandlers() {
@@ -177,6 +190,7 @@ void MainWindow::FilesDropped(const std::vector<std::string>& paths) {
     if (operationRuns_)
         return;
     parts_.view.FinishLabelEdit();
+    ForgetStatus();
     parts_.fileCommands.OpenDropped(paths);
 }
 

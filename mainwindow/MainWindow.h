@@ -105,6 +105,9 @@ public:
 private:
     using Handler = std::function<void()>;
     void AddFileHandlers();
+    // Of a command that shows how it went in the status panel: the panel is empty when it begins.
+    void AddReportingHandler(int command, std::function<void()> handler);
+    void ForgetStatus();
     void AddColorHandlers();
     void AddViewHandlers();
     void AddSolidWorksHandlers();

@@ -25,6 +25,26 @@ TEST_F(MainWindowTest, DroppedLibraryOpensAsWithOpen) {
     EXPECT_EQ(program.prompts.messages.size(), 1U);
 }
 
+TEST_F(MainWindowTest, StatusPanelIsEmptiedWhenAFileCommandBegins) {
+    for (const int command : {IDM_mnuFileNew, IDM_mnuFileOpen, IDM_mnuFileSaveAs, IDM_mnuFileClose,
+                              IDM_mnuFileCancelAutoload, IDM_mnuFileSave}) {
+        program.prompts.answers = {Answer::No};
+        Drop();
+        EXPECT_EQ(program.view.infoPanel, "Okay dropped.tnt");
+        if (command == IDM_mnuFileSave)
+            program.files.locked[kFile] = true; // so that it has nothing to tell there
+        program.prompts.answers = {Answer::No};
+        program.Main().RunCommand(command);
+        EXPECT_EQ(program.view.infoPanel, "") << command;
+    }
+}
+
+TEST_F(MainWindowTest, StatusPanelIsEmptiedWhenFilesAreDropped) {
+    Drop();
+    program.Main().FilesDropped({"C:\\none.tnt"});
+    EXPECT_EQ(program.view.infoPanel, "");
+}
+
 TEST_F(MainWindowTest, NameThatIsBeingTypedIsTakenBeforeACommandRuns) {
     Drop();
     program.view.openEdit = [this] { program.Main().NodeLabelEdited("0DG1", "typed"); };
