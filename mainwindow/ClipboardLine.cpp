@@ -1,6 +1,7 @@
 #include "mainwindow/ClipboardLine.h"
 
 #include "common/Numbers.h"
+#include "common/RuntimeError.h"
 #include "common/Text.h"
 
 #include <vector>
@@ -43,6 +44,15 @@ std::optional<PastedColor> Parse(std::string_view text) {
     for (std::size_t index = 0; index < kColorValueCount; ++index)
         color.values[index] = TextToInt16(fields[index + 1]);
     return color;
+}
+
+bool GivesBack(std::string_view text, const ColorRecord& color) {
+    try {
+        const auto pasted = Parse(text);
+        return pasted && pasted->name == color.name && pasted->values == color.values;
+    } catch (const RuntimeError&) { // parts of a name stand where values are looked for
+        return false;
+    }
 }
 
 } // namespace ClipboardLine

@@ -24,4 +24,7 @@ struct PastedColor {
 // name are not used.  Throws RuntimeError for a value that is no 16-bit number.
 [[nodiscard]] std::optional<PastedColor> Parse(std::string_view text);
 
+// True when a paste makes a colour of this name and these values of the text.
+[[nodiscard]] bool GivesBack(std::string_view text, const ColorRecord& color);
+
 } // namespace ClipboardLine

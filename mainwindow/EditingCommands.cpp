@@ -101,7 +101,8 @@ std::optional<std::string> EditingCommands::CutLine() {
     std::optional<std::string> line = CopyLine();
     if (!line)
         return {};
-    if (!ClipboardLine::Parse(*line)) {
+    const int index = parts_.library.GetColornodeIndex(parts_.list.SelectedKey());
+    if (!ClipboardLine::GivesBack(*line, parts_.library.Colors().At(index))) {
         ShowInvalidFormat();
         return {};
     }
@@ -133,7 +134,10 @@ void EditingCommands::PasteInto(const std::string& groupKey,
 }
 
 void EditingCommands::Paste() {
-    PasteLine(parts_.clipboard.Text().value_or(""));
+    const std::optional<std::string> text = parts_.clipboard.Text();
+    if (!text)
+        ThrowClipboardUnavailable();
+    PasteLine(*text);
 }
 
 void EditingCommands::PasteLine(const std::string& line) {

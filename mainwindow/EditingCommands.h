@@ -36,12 +36,13 @@ public:
     void DeleteSelectedNode();
 
     // Each throws RuntimeError when the clipboard cannot be written.  A colour is cut only when its
-    // copy stands on the clipboard and a paste would take it: one that a paste would refuse gives
-    // the invalid-format message at once and stays.
+    // copy stands on the clipboard and a paste would make the same colour of it: one that a paste
+    // would refuse or change gives the invalid-format message at once and stays.
     void Copy() { static_cast<void>(CopyLine()); }
     void Cut() { static_cast<void>(CutLine()); }
 
     // A text that is no colour is ignored; one that is broken gives the invalid-format message.
+    // Throws RuntimeError when the clipboard cannot be read.
     void Paste();
 
     // Copy or cut, then a paste into the group, which is selected.  What is pasted is what was

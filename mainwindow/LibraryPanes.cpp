@@ -47,9 +47,11 @@ void LibraryPanes::UpdateFromColorPreview() {
     if (index == 0)
         return;
     const ColorValueArray values = editor_.Values();
+    const ColorRecord color = library_.Colors().At(index);
     library_.Colors().SetName(index, editor_.Name());
     library_.Colors().SetValues(index, values);
-    ShowSelectedGroup();
+    // A refresh in place: the group may remember another colour than the one that is selected.
+    ShowColorNodes(color.groupKey, color.key);
 }
 
 void LibraryPanes::NodeClicked(const std::string& key) {

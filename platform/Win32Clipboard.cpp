@@ -34,11 +34,11 @@ private:
     bool isOpen_ = false;
 };
 
-std::optional<std::string> ReadText(HGLOBAL memory) {
+std::string ReadText(HGLOBAL memory) {
     const GlobalLockGuard lock(memory);
     const auto* text = static_cast<const wchar_t*>(lock.Content());
     if (text == nullptr || lock.Size() > kLargestText)
-        return std::nullopt;
+        return {};
     const wchar_t* end = text + lock.Size() / sizeof(wchar_t);
     return ToUtf8(std::wstring_view(text, std::find(text, end, L'\0')));
 }
@@ -58,12 +58,12 @@ GlobalMemory MakeText(const std::wstring& text) {
 
 std::optional<std::string> Win32Clipboard::Text() {
     if (!IsClipboardFormatAvailable(CF_UNICODETEXT))
-        return std::nullopt;
+        return "";
     const OpenedClipboard clipboard(owner_());
     if (!clipboard)
         return std::nullopt;
     HANDLE content = GetClipboardData(CF_UNICODETEXT); // stays the clipboard's
-    return content != nullptr ? ReadText(content) : std::nullopt;
+    return content != nullptr ? ReadText(content) : "";
 }
 
 bool Win32Clipboard::SetText(const std::string& text) {

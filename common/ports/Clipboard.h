@@ -8,7 +8,7 @@ class Clipboard {
 public:
     virtual ~Clipboard() = default;
 
-    // Nothing when the clipboard holds no text or cannot be opened.
+    // Empty when the clipboard holds no text; nothing when it cannot be opened.
     [[nodiscard]] virtual std::optional<std::string> Text() = 0;
 
     // Clears the clipboard and puts the text on it; false when it could not be put there.

@@ -7,7 +7,7 @@ public:
     std::optional<std::string> Text() override {
         if (isBusy)
             return std::nullopt;
-        const std::optional<std::string> read = text;
+        const std::string read = text.value_or("");
         if (textAfterReading)
             text = textAfterReading;
         return read;

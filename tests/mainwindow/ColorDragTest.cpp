@@ -118,6 +118,15 @@ TEST_F(ColorDragTest, MovedColorKeepsItsNineValuesAndStaysOnTheClipboard) {
     EXPECT_EQ(ShownNames(), (Names{"b", "b"})) << "a second paste makes a second copy";
 }
 
+TEST_F(ColorDragTest, MoveThatWouldRenameTheColorTellsSoAndMovesNothing) {
+    program.Main().RowLabelEdited(1, "a=b");
+    Drag(kNoKey, OverNode("0DG2"));
+    EXPECT_EQ(program.prompts.messages, (std::vector<Message>{{"<5> CLIPBOARD", 48, "<98>"}}));
+    EXPECT_EQ(program.view.selectedNode, "0DG1");
+    EXPECT_EQ(ShownNames(), (Names{"a", "a=b", "c"}));
+    EXPECT_EQ(NamesIn("0DG2"), Names{"x"});
+}
+
 TEST_F(ColorDragTest, MoveIntoItsOwnGroupPutsTheColorAtItsEnd) {
     Drag(kNoKey, OverNode("0DG1"));
     EXPECT_EQ(ShownNames(), (Names{"a", "c", "b"}));

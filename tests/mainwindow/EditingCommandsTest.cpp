@@ -98,6 +98,50 @@ TEST_F(EditingCommandsTest, CutOfAColorThatAPasteWouldRefuseTellsSoAndKeepsIt) {
     EXPECT_EQ(program.view.rowCount, 2);
 }
 
+TEST_F(EditingCommandsTest, CutOfAColorThatAPasteWouldRenameTellsSoAndKeepsIt) {
+    for (const char* name : {"a=b", "a=bb:x,1,2,3,4,5,6,7,8", "="}) {
+        program.prompts.messages.clear();
+        program.Main().RowLabelEdited(0, name);
+        Run(IDM_mnuColorCut);
+        EXPECT_EQ(program.prompts.messages, (std::vector<Message>{{"<5> CLIPBOARD", 48, "<98>"}}));
+        EXPECT_EQ(program.view.rowCount, 2);
+        EXPECT_EQ(program.Main().CellText(0, 1), name);
+    }
+}
+
+TEST_F(EditingCommandsTest, CutOfANameWithOtherSignsOfTheLineGivesItBack) {
+    program.Main().RowLabelEdited(0, "a:b \u00F7 E#\"");
+    Run(IDM_mnuColorCut);
+    Run(IDM_mnuColorPaste);
+    EXPECT_TRUE(program.prompts.messages.empty());
+    EXPECT_EQ(program.Main().CellText(1, 1), "a:b \u00F7 E#\"");
+}
+
+TEST_F(EditingCommandsTest, UpdateAfterADeleteKeepsTheRowThatIsSelected) {
+    program.clipboard.text = kLineOfA;
+    Run(IDM_mnuColorPaste); // a, b, a
+    program.Main().RowClicked(1);
+    Run(IDM_mnuColorDelColor);
+    ASSERT_EQ(program.view.selectedRow, 1);
+    Type("77");
+    Run(IDM_mnuColorUpdateColor);
+    EXPECT_EQ(program.view.selectedRow, 1);
+    EXPECT_EQ(program.view.valueTexts[0], "77");
+    Type("78");
+    Run(IDM_mnuColorUpdateColor);
+    EXPECT_EQ(program.Main().CellText(0, 2), "1") << "the first colour is as it was";
+    EXPECT_EQ(program.Main().CellText(1, 2), "78");
+}
+
+TEST_F(EditingCommandsTest, CancelledDeleteOfALibraryLeavesItSelectedInsteadOfItsGroup) {
+    program.Main().NodeClicked("0DG2");
+    program.prompts.answers = {Answer::Cancel};
+    Run(IDM_mnuColorDelMainNode);
+    EXPECT_EQ(program.view.selectedNode, "0D");
+    EXPECT_EQ(program.view.nodes.size(), 3U);
+    EXPECT_EQ(program.view.rowCount, 2) << "of its first group";
+}
+
 TEST_F(EditingCommandsTest, CutWithNothingSelectedDoesNothing) {
     program.clipboard.text = "before";
     program.Main().NodeClicked("0DG2");
@@ -114,12 +158,12 @@ TEST_F(EditingCommandsTest, PasteTakesWhatItHasReadWhateverComesThen) {
     EXPECT_TRUE(program.prompts.messages.empty());
 }
 
-TEST_F(EditingCommandsTest, PasteWithTheClipboardHeldDoesNothing) {
+TEST_F(EditingCommandsTest, PasteWithTheClipboardHeldChangesNothingAndSaysSoAsCopyDoes) {
     program.clipboard.text = kLineOfA;
     program.clipboard.isBusy = true;
-    Run(IDM_mnuColorPaste);
+    EXPECT_EQ(ErrorNumberOf(IDM_mnuColorPaste), ErrorNumber::ClipboardUnavailable);
+    EXPECT_EQ(ErrorNumberOf(IDM_mnuColorCopy), ErrorNumber::ClipboardUnavailable);
     EXPECT_EQ(program.view.rowCount, 2);
-    EXPECT_TRUE(program.prompts.messages.empty());
 }
 
 TEST_F(EditingCommandsTest, ColorThatIsSelectedAfterADeleteIsScrolledIntoView) {
