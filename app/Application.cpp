@@ -16,9 +16,9 @@ std::string Joined(const std::vector<std::string>& names) {
 Application::Application(const Platform& platform, const Windows& windows, const Data& data)
     : windows_(windows), registry_(platform.registry, platform.codePage), settingsStore_(registry_),
       language_(platform.language), errors_(platform.errors), library_(platform.prompts, language_),
-      libraryFiles_(
-          library_, settings_,
-          {platform.files, platform.codePage, platform.prompts, language_, windows.progressView}),
+      libraryFiles_(library_, settings_,
+                    {platform.files, platform.codePage, platform.prompts, language_,
+                     windows.progressView, platform.calendar}),
       fileCommands_({library_, libraryFiles_, settings_, platform.prompts, language_,
                      platform.codePage, data.programFolder}),
       solidWorks_({platform.automation, platform.retry, platform.prompts, language_,

@@ -5,6 +5,7 @@
 #include "common/Settings.h"
 #include "common/ports/AnsiCodePage.h"
 #include "common/ports/AutomationObject.h"
+#include "common/ports/CalendarClock.h"
 #include "common/ports/Clipboard.h"
 #include "common/ports/ErrorSink.h"
 #include "common/ports/EventPump.h"
@@ -53,6 +54,7 @@ public:
         BusyRetry& retry;           // repeats the automation calls
         clsMultiLanguage& language; // the one of the program; the forms' error sink speaks it too
         ErrorSink& errors;
+        const CalendarClock& calendar;
     };
 
     struct Windows {

@@ -10,6 +10,7 @@
 #include "platform/RunningObjects.h"
 #include "platform/SilenceAtScopeEnd.h"
 #include "platform/Win32AnsiCodePage.h"
+#include "platform/Win32CalendarClock.h"
 #include "platform/Win32Clipboard.h"
 #include "platform/Win32Files.h"
 #include "platform/Win32PrivateProfile.h"
@@ -48,6 +49,7 @@ int RunProgram() {
     const ComApartment apartment;
     const BusyMessageFilter messageFilter;
     Win32WaitingClock clock;
+    const Win32CalendarClock calendar;
     BusyRetry retry(clock);
     RunningObjects automation(retry);
     const Win32AnsiCodePage codePage;
@@ -75,7 +77,7 @@ int RunProgram() {
     frmProgress progress(mainWindow, errors, kProgressPatience);
 
     Application application({files, codePage, registry, prompts, clipboard, collation, shell,
-                             events, automation, retry, language, errors},
+                             events, automation, retry, language, errors, calendar},
                             {main, main, main, about, textViewer, progress, progress, progress},
                             {programFolder, kVersion, BannerAddresses(files, bannerFolder, banners),
                              FolderForCodePage(programFolder, codePage)});

@@ -41,4 +41,8 @@ inline constexpr std::int32_t ColorLabel = 102;
 inline constexpr std::int32_t LibraryWithoutGroups = 103;
 inline constexpr std::int32_t CharactersNotStorable = 104;
 inline constexpr std::int32_t PathNotStorable = 105;
+inline constexpr std::int32_t NamesNotStorable = 150;
+inline constexpr std::int32_t LibraryNameNotStorable = 151;
+inline constexpr std::int32_t AskSaveAllTheSame = 152;
+inline constexpr std::int32_t EarlierContentKept = 153;
 } // namespace InfoTextNumber

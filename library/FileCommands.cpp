@@ -31,18 +31,21 @@ void FileCommands::mnuFileNew_Click() {
 
 void FileCommands::mnuFileOpen_Click() {
     const auto path = parts_.prompts.AskOpenFile(Request(FileDialogFlags::Open));
-    if (!path)
+    if (!path || !OpenLibrary(*path))
         return;
-    OpenLibrary(*path);
+    dialogFileName_ = *path;
+    AskAutoload(*path);
 }
 
 void FileCommands::OpenDropped(const std::vector<std::string>& paths) {
+    std::vector<std::string> libraries = paths;
+    std::erase_if(libraries,
+                  [](const auto& path) { return !HasExtension(path, kLibraryExtension); });
     std::exception_ptr firstError;
-    for (const std::string& path : paths) {
-        if (!HasExtension(path, kLibraryExtension))
-            continue;
+    for (const std::string& path : libraries) {
         try {
-            OpenLibrary(path);
+            if (OpenLibrary(path) && libraries.size() == 1)
+                AskAutoload(path);
         } catch (const RuntimeError&) {
             if (!firstError)
                 firstError = std::current_exception();
@@ -52,15 +55,18 @@ void FileCommands::OpenDropped(const std::vector<std::string>& paths) {
         std::rethrow_exception(firstError);
 }
 
-void FileCommands::OpenLibrary(const std::string& path) {
-    dialogFileName_ = path;
+bool FileCommands::OpenLibrary(const std::string& path) {
     if (!parts_.files.FileReadColorValues(path)) {
-        parts_.prompts.ShowMessage(Text(InfoTextNumber::OpenFailed) + path, MessageStyle::Critical,
-                                   Text(InfoTextNumber::Attention));
-        return;
+        TellOpenFailed(path);
+        return false;
     }
     host_->ShowStatus("Okay " + FileNamePart(path));
-    AskAutoload(path);
+    return true;
+}
+
+void FileCommands::TellOpenFailed(const std::string& path) {
+    parts_.prompts.ShowMessage(Text(InfoTextNumber::OpenFailed) + path, MessageStyle::Critical,
+                               Text(InfoTextNumber::Attention));
 }
 
 void FileCommands::AskAutoload(const std::string& path) {
@@ -86,37 +92,48 @@ void FileCommands::mnuFileSave_Click() {
         mnuFileSaveAs_Click();
         return;
     }
-    if (!WriteTo(path, mainKey))
-        return;
-    // Both come from the dialog and not from the file just written, on purpose: after another file
-    // was opened, the library is re-targeted to the dialog's file.
-    parts_.library.Tree().SetTag(mainKey, dialogFileName_);
-    host_->ShowStatus("Okay " + FileNamePart(dialogFileName_));
+    // What is told, and what the library's file is then, comes from the dialog and not from the
+    // file that is written, on purpose: after another file was opened, the library is re-targeted
+    // to the dialog's file.  A dialog that has had no file yet has no say.
+    SaveTo({path, dialogFileName_.empty() ? path : dialogFileName_, UnknownContent::Kept}, mainKey);
 }
 
 void FileCommands::mnuFileSaveAs_Click() {
     const std::string mainKey = parts_.library.GetActiveMainnode();
     if (mainKey.empty())
         return;
-    const std::string& tag = parts_.library.Tree().At(mainKey).tag;
+    const std::string tag = parts_.library.Tree().At(mainKey).tag;
     FileDialogRequest request = Request(FileDialogFlags::SaveAs);
     request.fileName = tag == kUnsavedTag ? parts_.programFolder + "\\newtnt.tnt" : tag;
     const auto path = parts_.prompts.AskSaveFile(request);
     if (!path)
         return;
-    dialogFileName_ = *path;
-    if (!WriteTo(*path, mainKey))
-        return;
-    parts_.library.Tree().SetTag(mainKey, *path);
-    host_->ShowStatus("Okay " + FileNamePart(*path));
+    // The dialog has asked whether another file is to be replaced; of its own file the user cannot
+    // know that it has something in it which the library has not.
+    const bool isOwnFile = ToLowerAscii(*path) == ToLowerAscii(tag);
+    if (SaveTo({*path, *path, isOwnFile ? UnknownContent::Kept : UnknownContent::GivenUp}, mainKey))
+        dialogFileName_ = *path;
 }
 
-bool FileCommands::WriteTo(const std::string& path, const std::string& mainKey) {
-    if (parts_.files.FileWriteColorValues(path, mainKey))
-        return true;
-    parts_.prompts.ShowMessage(Text(InfoTextNumber::SaveFailed) + dialogFileName_,
-                               MessageStyle::Critical, Text(InfoTextNumber::Attention));
-    return false;
+bool FileCommands::SaveTo(const SaveTarget& target, const std::string& mainKey) {
+    const WriteResult result =
+        parts_.files.FileWriteColorValues(target.path, mainKey, target.unknown);
+    if (result.isWritten)
+        parts_.library.Tree().SetTag(mainKey, target.nextPath);
+    ShowSaved(result.isWritten ? "Okay " + FileNamePart(target.nextPath) : "", result.keptPath);
+    if (!result.isWritten)
+        parts_.prompts.ShowMessage(Text(InfoTextNumber::SaveFailed) + target.nextPath,
+                                   MessageStyle::Critical, Text(InfoTextNumber::Attention));
+    return result.isWritten;
+}
+
+void FileCommands::ShowSaved(const std::string& outcome, const std::string& keptPath) {
+    std::string status = outcome;
+    if (!keptPath.empty())
+        status += (status.empty() ? "" : "  -  ") + Text(InfoTextNumber::EarlierContentKept) + " " +
+                  FileNamePart(keptPath);
+    if (!status.empty())
+        host_->ShowStatus(status);
 }
 
 void FileCommands::mnuFileClose_Click() {
@@ -136,7 +153,8 @@ void FileCommands::Autoload() {
     // Save re-targets to the dialog's file, so the dialog starts with it, also when only a part of
     // the library could be read.
     dialogFileName_ = parts_.settings.defaultColorFile;
-    parts_.files.FileReadColorValues(dialogFileName_);
+    if (parts_.files.Read(dialogFileName_) == ReadResult::Unreadable)
+        TellOpenFailed(dialogFileName_);
     if (parts_.library.Tree().MainNodes().empty())
         dialogFileName_.clear();
 }

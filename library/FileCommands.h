@@ -22,8 +22,8 @@ public:
     virtual void DeleteSelectedNode() = 0;
 };
 
-// The file menu but for Quit.  One file dialog serves Open and Save As and keeps its last file
-// name.
+// The file menu but for Quit.  One file dialog serves Open and Save As and keeps the name of the
+// last file that it has opened or saved; a failure and a dropped file leave that name.
 class FileCommands {
 public:
     struct Parts {
@@ -43,8 +43,8 @@ public:
 
     void mnuFileNew_Click();
     void mnuFileOpen_Click();
-    // Files dropped onto the window: each library file opens as with Open, with its question; files
-    // with another extension are left alone.
+    // Files dropped onto the window: each library file opens as with Open, one alone also with the
+    // question about every start; files with another extension are left alone.
     void OpenDropped(const std::vector<std::string>& paths);
     void mnuFileSave_Click();
     void mnuFileSaveAs_Click();
@@ -59,9 +59,16 @@ public:
 private:
     [[nodiscard]] FileDialogRequest Request(unsigned flags) const;
     [[nodiscard]] std::string Text(std::int32_t number) const;
-    void OpenLibrary(const std::string& path);
+    bool OpenLibrary(const std::string& path);
+    void TellOpenFailed(const std::string& path);
     void AskAutoload(const std::string& path);
-    bool WriteTo(const std::string& path, const std::string& mainKey);
+    struct SaveTarget {
+        std::string path;     // that is written
+        std::string nextPath; // the library's file from then on
+        UnknownContent unknown;
+    };
+    bool SaveTo(const SaveTarget& target, const std::string& mainKey);
+    void ShowSaved(const std::string& outcome, const std::string& keptPath);
 
     Parts parts_;
     FileCommandsHost* host_ = nullptr;

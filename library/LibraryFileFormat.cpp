@@ -152,6 +152,21 @@ std::optional<Color> ParseColor(std::string_view record, std::string_view separa
     return color;
 }
 
+bool IsTakenWhole(std::string_view record) {
+    return record.find('=') == record.rfind('=');
+}
+
+bool NameComesBack(std::string_view name) {
+    return name.find_first_of("=\r\n") == std::string_view::npos;
+}
+
+bool SecondNameComesBack(std::string_view name, std::string_view separator) {
+    // A letter that stands in for the division sign does no harm in a name.
+    const bool endsEarly =
+        separator == kDivisionSign && name.find(separator) != std::string_view::npos;
+    return !endsEarly && name.find_first_of("\r\n") == std::string_view::npos;
+}
+
 ColorValueArray ValuesOf(const Color& color) {
     ColorValueArray values{};
     std::ranges::transform(color.values, values.begin(),

@@ -50,6 +50,15 @@ struct Color {
 [[nodiscard]] std::optional<Group> ParseGroup(std::string_view record);
 [[nodiscard]] std::optional<Color> ParseColor(std::string_view record, std::string_view separator);
 
+// False when a header or group record has more in it than what is taken from it: its name ended at
+// an "=" that is not the last one.
+[[nodiscard]] bool IsTakenWhole(std::string_view record);
+
+// Whether a name is read back as it was written.  The second name of a colour has a rule of its
+// own: it stands among the values.
+[[nodiscard]] bool NameComesBack(std::string_view name);
+[[nodiscard]] bool SecondNameComesBack(std::string_view name, std::string_view separator);
+
 // Throws RuntimeError TypeMismatch or Overflow for a value that is no 16-bit number.
 [[nodiscard]] ColorValueArray ValuesOf(const Color& color);
 

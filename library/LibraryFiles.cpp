@@ -7,37 +7,42 @@
 #include "library/LibraryFileFormat.h"
 #include "library/SafeFileWriter.h"
 
-bool LibraryFiles::FileReadColorValues(const std::string& fileName) {
+#include <utility>
+
+ReadResult LibraryFiles::Read(const std::string& fileName) {
     if (fileName.empty() || !ports_.files.Exists(fileName))
-        return false;
+        return ReadResult::Missing;
     const std::optional<std::string> bytes = ports_.files.ReadWhole(fileName);
     if (!bytes)
-        throw RuntimeError(ErrorNumber::PermissionDenied, "The file cannot be read: " + fileName);
-    bool complete = false;
+        return ReadResult::Unreadable;
     try {
-        complete = ReadContent(*bytes, fileName);
+        return ReadContent(*bytes, fileName) ? ReadResult::Complete : ReadResult::Invalid;
     } catch (const RuntimeError&) {
         host_->ShowColorNodes({}, {});
         throw;
     }
-    return complete;
 }
 
 bool LibraryFiles::ReadContent(std::string_view bytes, const std::string& fileName) {
     using namespace LibraryFileFormat;
     DecodedLines lines(bytes, ports_.codePage);
-    const auto header = ParseHeader(WithoutFirstCharacter(lines.Next().value_or("")));
+    const std::string_view record = WithoutFirstCharacter(lines.Next().value_or(""));
+    const auto header = ParseHeader(record);
     if (!header)
         return RefuseInvalidFile(fileName);
+    const bool isHeaderHeld = IsTakenWhole(record);
     bool complete = false;
     {
         const ShownProgress progress(ports_.progress,
                                      ports_.texts.GetInfoText(InfoTextNumber::ReadingLibrary),
                                      header->count);
         library_.NewMainNode(header->name);
-        const std::string mainKey = library_.Tree().Selected();
-        library_.Tree().SetTag(mainKey, fileName);
-        complete = ReadRecords(lines, mainKey);
+        Reading reading{library_.Tree().Selected(), isHeaderHeld};
+        library_.Tree().SetTag(reading.mainKey, fileName);
+        keptFiles_.Forget(reading.mainKey);
+        complete = ReadRecords(lines, reading);
+        if (complete && reading.isHeldWhole)
+            keptFiles_.Remember(reading.mainKey, bytes);
     }
     if (!complete)
         RefuseInvalidFile(fileName);
@@ -45,9 +50,8 @@ bool LibraryFiles::ReadContent(std::string_view bytes, const std::string& fileNa
     return complete;
 }
 
-bool LibraryFiles::ReadRecords(DecodedLines& lines, const std::string& mainKey) {
+bool LibraryFiles::ReadRecords(DecodedLines& lines, Reading& reading) {
     const std::string separator = LibraryFileFormat::FieldSeparator(ports_.codePage);
-    SavedGroups groups;
     // One counter for the whole file, on purpose: colour keys are unique without a look-up.
     std::uint32_t colorNumber = 0;
     std::int32_t lineNumber = 0;
@@ -58,22 +62,24 @@ bool LibraryFiles::ReadRecords(DecodedLines& lines, const std::string& mainKey) 
             break;
         const std::string_view record = LibraryFileFormat::WithoutQuotes(*line);
         if (record.starts_with("G#"))
-            complete = ReadGroup(record, mainKey, groups);
+            complete = ReadGroup(record, reading);
         else if (record.starts_with("E#"))
-            complete = ReadColor(record, separator, groups, ++colorNumber);
+            complete = ReadColor(record, separator, reading.groups, ++colorNumber);
+        else
+            reading.isHeldWhole = reading.isHeldWhole && line->empty();
         ports_.progress.SetProgress(++lineNumber);
     }
     return complete;
 }
 
-bool LibraryFiles::ReadGroup(std::string_view record, const std::string& mainKey,
-                             SavedGroups& groups) {
+bool LibraryFiles::ReadGroup(std::string_view record, Reading& reading) {
     const auto group = LibraryFileFormat::ParseGroup(record);
     if (!group)
         return false;
-    const std::string key = library_.NewGroupNode(mainKey, group->name);
+    reading.isHeldWhole = reading.isHeldWhole && LibraryFileFormat::IsTakenWhole(record);
+    const std::string key = library_.NewGroupNode(reading.mainKey, group->name);
     // The first group with a key keeps it, as the first match in a list would.
-    groups.try_emplace(group->key, library_.Colors().NumberOfGroup(key));
+    reading.groups.try_emplace(group->key, library_.Colors().NumberOfGroup(key));
     return true;
 }
 
@@ -97,24 +103,50 @@ bool LibraryFiles::RefuseInvalidFile(const std::string& fileName) {
     return false;
 }
 
-bool LibraryFiles::FileWriteColorValues(const std::string& fileName, const std::string& mainKey) {
+WriteResult LibraryFiles::FileWriteColorValues(const std::string& fileName,
+                                               const std::string& mainKey, UnknownContent unknown) {
     if (library_.GetGroupInMainnode(mainKey).empty())
-        return RefuseWithoutGroups(fileName);
+        return RefuseWithoutGroups(fileName, mainKey, unknown);
     const AnsiCodePage::Encoded content = Compose(mainKey);
-    if (!content.unstored.empty() && !AcceptUnstored(content.unstored))
-        return false;
-    return SafeFileWriter(ports_.files).Write(fileName, content.bytes, settings_.createBackups);
+    SaveLosses losses =
+        NamesLostBySaving(library_, mainKey, LibraryFileFormat::FieldSeparator(ports_.codePage));
+    losses.characters = content.unstored;
+    if (!AcceptLosses(losses))
+        return {};
+    WriteResult result;
+    result.isWritten =
+        SafeFileWriter(ports_.files).Write(fileName, content.bytes, settings_.createBackups, [&] {
+            return Keep(fileName, mainKey, unknown, result.keptPath);
+        });
+    if (result.isWritten)
+        keptFiles_.Remember(mainKey, content.bytes);
+    else if (!result.keptPath.empty() && ports_.files.Exists(fileName))
+        ports_.files.Remove(std::exchange(result.keptPath, {})); // it is still in its place
+    return result;
 }
 
-bool LibraryFiles::RefuseWithoutGroups(const std::string& fileName) {
+// False: it could not be kept, so that it has to stay where it is.
+bool LibraryFiles::Keep(const std::string& fileName, const std::string& mainKey,
+                        UnknownContent unknown, std::string& keptPath) {
+    if (unknown == UnknownContent::GivenUp)
+        return true;
+    const std::optional<std::string> kept = keptFiles_.KeepUnknown(fileName, mainKey);
+    keptPath = kept.value_or("");
+    return kept.has_value();
+}
+
+WriteResult LibraryFiles::RefuseWithoutGroups(const std::string& fileName,
+                                              const std::string& mainKey, UnknownContent unknown) {
     // The backup comes before the look at the groups, on purpose: only it remains.
+    WriteResult result;
     const bool backedUp =
-        !settings_.createBackups || SafeFileWriter(ports_.files).MoveToBackup(fileName);
+        !settings_.createBackups || (Keep(fileName, mainKey, unknown, result.keptPath) &&
+                                     SafeFileWriter(ports_.files).MoveToBackup(fileName));
     if (backedUp)
         ports_.prompts.ShowMessage(ports_.texts.GetInfoText(InfoTextNumber::LibraryWithoutGroups),
                                    MessageStyle::Information,
                                    ports_.texts.GetInfoText(InfoTextNumber::Save));
-    return false;
+    return result;
 }
 
 AnsiCodePage::Encoded LibraryFiles::Compose(const std::string& mainKey) {
@@ -153,10 +185,9 @@ void LibraryFiles::AppendColors(EncodedText& text, const std::string& mainKey, i
     }
 }
 
-bool LibraryFiles::AcceptUnstored(const std::string& unstored) {
-    return ports_.prompts.ShowMessage(
-               ports_.texts.GetInfoText(InfoTextNumber::CharactersNotStorable) + kLineBreak +
-                   unstored,
-               MessageStyle::ExclamationOkCancel,
+bool LibraryFiles::AcceptLosses(const SaveLosses& losses) {
+    return losses.IsNothing() ||
+           ports_.prompts.ShowMessage(
+               QuestionAbout(losses, ports_.texts), MessageStyle::ExclamationOkCancel,
                ports_.texts.GetInfoText(InfoTextNumber::Attention)) == Answer::Ok;
 }

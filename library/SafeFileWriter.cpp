@@ -1,42 +1,33 @@
 #include "library/SafeFileWriter.h"
 
-#include "common/FileNames.h"
+#include "library/NewFile.h"
 
 namespace {
-
-bool IsInsideCharacter(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; // of UTF-8
-}
 
 std::string BackupOf(const std::string& path) {
     return path + ".bak";
 }
 
-// A name that has no room left for the suffix loses as much of its end; it is never cut inside a
-// character.
-std::string BesideOf(const std::string& path) {
-    constexpr std::string_view kSuffix = ".saving";
-    constexpr std::size_t kLongestName = 255; // counted in bytes, which no file system exceeds
-    const std::string folder = FilePathPart(path);
-    std::string name = FileNamePart(path);
-    if (name.size() + kSuffix.size() > kLongestName) {
-        std::size_t kept = kLongestName - kSuffix.size();
-        while (IsInsideCharacter(name[kept]))
-            --kept;
-        name.resize(kept);
-    }
-    return folder + name.append(kSuffix);
+// number: from 1; the first has none in its name.
+std::string BesideOf(const std::string& path, int number) {
+    return PathWithSuffix(path, number == 1 ? ".saving" : ".saving" + std::to_string(number));
 }
 
 } // namespace
 
-bool SafeFileWriter::Write(const std::string& path, std::string_view content, bool keepBackup) {
-    const std::string besidePath = BesideOf(path);
-    if (!WriteBeside(besidePath, content))
+bool SafeFileWriter::Write(const std::string& path, std::string_view content, bool keepBackup,
+                           const LastLook& lastLook) {
+    const auto besidePath = WriteNewFile(
+        files_, [&](int number) { return BesideOf(path, number); }, content);
+    if (!besidePath)
         return false;
-    if (TakePlace(besidePath, path, keepBackup))
+    const Exchanged outcome =
+        lastLook() ? TakePlace(*besidePath, path, keepBackup ? BackupOf(path) : std::string())
+                   : Exchanged::Unchanged;
+    if (outcome == Exchanged::Done)
         return true;
-    files_.Remove(besidePath);
+    if (outcome != Exchanged::OldIsGone) // else the new content is all that there is
+        files_.Remove(*besidePath);
     return false;
 }
 
@@ -44,26 +35,28 @@ bool SafeFileWriter::MoveToBackup(const std::string& path) {
     return !files_.Exists(path) || files_.Replace(path, BackupOf(path));
 }
 
-bool SafeFileWriter::WriteBeside(const std::string& path, std::string_view content) {
-    const std::unique_ptr<OutputFile> file = files_.Create(path);
-    if (!file)
-        return false; // possibly another program's file: it is not ours to remove
-    const bool written = file->Write(content) && file->Flush();
-    const bool closed = file->Close();
-    if (written && closed)
-        return true;
-    files_.Remove(path);
-    return false;
+// Done, or what is left after everything that can be mended was.
+Exchanged SafeFileWriter::TakePlace(const std::string& besidePath, const std::string& path,
+                                    const std::string& backup) {
+    if (!files_.Exists(path))
+        return files_.Rename(besidePath, path) ? Exchanged::Done : Exchanged::Unchanged;
+    const Exchanged outcome = Exchange(besidePath, path, backup);
+    if (outcome != Exchanged::OldIsBackup && outcome != Exchanged::OldIsGone)
+        return outcome;
+    if (files_.Rename(besidePath, path))
+        return Exchanged::Done;
+    // Where this fails too, the old content stays under its backup name.
+    if (outcome == Exchanged::OldIsBackup && files_.Rename(backup, path))
+        return Exchanged::Unchanged;
+    return outcome;
 }
 
-bool SafeFileWriter::TakePlace(const std::string& besidePath, const std::string& path,
-                               bool keepBackup) {
-    const bool backedUp = keepBackup && files_.Exists(path);
-    if (backedUp && !MoveToBackup(path))
-        return false;
-    if (files_.Replace(besidePath, path))
-        return true;
-    if (backedUp) // where this fails too, the old content stays under its backup name
-        static_cast<void>(files_.Replace(BackupOf(path), path));
-    return false;
+Exchanged SafeFileWriter::Exchange(const std::string& besidePath, const std::string& path,
+                                   const std::string& backup) {
+    const Exchanged outcome = files_.Exchange(besidePath, path, backup);
+    if (outcome != Exchanged::NotSupported)
+        return outcome;
+    if (backup.empty())
+        return files_.Replace(besidePath, path) ? Exchanged::Done : Exchanged::Unchanged;
+    return files_.Replace(path, backup) ? Exchanged::OldIsBackup : Exchanged::Unchanged;
 }

@@ -2,30 +2,40 @@
 
 #include "common/ports/Files.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 
 // Replaces a file's content so that, whatever happens in between, the old or the new content exists
-// whole under the file's name or under its ".bak" name.
+// whole on the disk: under the file's name, under its ".bak" name, or, when the platform stopped in
+// the middle of a replacement without a backup, under the new content's name beside it.
 //
-// The new content goes to a file beside the target, is flushed to the medium, and takes the
-// target's place only when it is complete.
+// The new content goes to a new file beside the target, is flushed to the medium, and takes the
+// target's place, with what belongs to it as access rights and the creation time, only when it is
+// complete.
 class SafeFileWriter {
 public:
+    // False: the old file is to stay.
+    using LastLook = std::function<bool()>;
+
     explicit SafeFileWriter(Files& files) : files_(files) {}
 
-    // keepBackup: the old file first becomes path + ".bak", replacing an older backup.  False when
-    // a step failed, also when the backup's name would be longer than the file system allows; the
-    // old content is then still under the path, or under ".bak" at the least.
-    [[nodiscard]] bool Write(const std::string& path, std::string_view content, bool keepBackup);
+    // keepBackup: the old file becomes path + ".bak", replacing an older backup.  lastLook: called
+    // when the new content is on the medium and the old one is about to go.  False when a step
+    // failed, also when the backup's name would be longer than the file system allows; the old
+    // content is then still under the path, or under ".bak" at the least.
+    [[nodiscard]] bool Write(
+        const std::string& path, std::string_view content, bool keepBackup,
+        const LastLook& lastLook = [] { return true; });
 
     // The backup step alone.  True when there was nothing to keep or the backup stands.
     [[nodiscard]] bool MoveToBackup(const std::string& path);
 
 private:
-    [[nodiscard]] bool WriteBeside(const std::string& path, std::string_view content);
-    [[nodiscard]] bool TakePlace(const std::string& besidePath, const std::string& path,
-                                 bool keepBackup);
+    [[nodiscard]] Exchanged TakePlace(const std::string& besidePath, const std::string& path,
+                                      const std::string& backup);
+    [[nodiscard]] Exchanged Exchange(const std::string& besidePath, const std::string& path,
+                                     const std::string& backup);
 
     Files& files_;
 };

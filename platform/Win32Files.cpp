@@ -2,6 +2,7 @@
 
 #include "platform/KernelHandle.h"
 #include "platform/PlatformPath.h"
+#include "platform/ReplaceFailure.h"
 #include "platform/Utf16.h"
 #include "platform/Win32OutputFile.h"
 
@@ -28,6 +29,13 @@ bool IsNormalFile(const WIN32_FIND_DATAW& found) {
 bool IsReadOnly(const std::string& path) {
     const DWORD attributes = GetFileAttributesW(ToPlatformPath(path).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+bool Move(const std::string& from, const std::string& to, DWORD flags) {
+    // Not every platform minds.
+    if (IsReadOnly(from) || IsReadOnly(to))
+        return false;
+    return MoveFileExW(ToPlatformPath(from).c_str(), ToPlatformPath(to).c_str(), flags) != FALSE;
 }
 
 std::optional<std::size_t> ReadableSize(HANDLE file) {
@@ -83,20 +91,38 @@ std::optional<std::string> Win32Files::ReadWhole(const std::string& path) {
     return size ? ReadBytes(file.Get(), *size) : std::nullopt;
 }
 
+bool Win32Files::IsTaken(const std::string& path) {
+    return GetFileAttributesW(ToPlatformPath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
 std::unique_ptr<OutputFile> Win32Files::Create(const std::string& path) {
     KernelHandle file(CreateFileW(ToPlatformPath(path).c_str(), GENERIC_WRITE, 0, nullptr,
-                                  CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+                                  CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file)
         return nullptr;
     return std::make_unique<Win32OutputFile>(std::move(file));
 }
 
+bool Win32Files::Rename(const std::string& from, const std::string& to) {
+    return Move(from, to, MOVEFILE_WRITE_THROUGH);
+}
+
 bool Win32Files::Replace(const std::string& from, const std::string& to) {
-    // Not every platform minds.
-    if (IsReadOnly(from) || IsReadOnly(to))
-        return false;
-    return MoveFileExW(ToPlatformPath(from).c_str(), ToPlatformPath(to).c_str(),
-                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+    return Move(from, to, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+}
+
+Exchanged Win32Files::Exchange(const std::string& from, const std::string& to,
+                               const std::string& backup) {
+    if (IsReadOnly(to) || IsReadOnly(backup))
+        return Exchanged::Unchanged;
+    const std::wstring fromPath = ToPlatformPath(from);
+    const std::wstring toPath = ToPlatformPath(to);
+    const std::wstring backupPath = ToPlatformPath(backup);
+    if (ReplaceFileW(toPath.c_str(), fromPath.c_str(),
+                     backup.empty() ? nullptr : backupPath.c_str(), REPLACEFILE_IGNORE_MERGE_ERRORS,
+                     nullptr, nullptr))
+        return Exchanged::Done;
+    return AfterFailedReplace(GetLastError(), !backup.empty());
 }
 
 bool Win32Files::Remove(const std::string& path) {

@@ -14,11 +14,18 @@ public:
     // A file that another program is writing, and one of more than 1 GiB, cannot be read.
     [[nodiscard]] std::optional<std::string> ReadWhole(const std::string& path) override;
 
+    [[nodiscard]] bool IsTaken(const std::string& path) override;
+
     // Nobody else can open the file before it is closed.
     [[nodiscard]] std::unique_ptr<OutputFile> Create(const std::string& path) override;
 
-    // MoveFileExW; returns when the change is on the medium.
+    // MoveFileExW; both return when the change is on the medium.
+    [[nodiscard]] bool Rename(const std::string& from, const std::string& to) override;
     [[nodiscard]] bool Replace(const std::string& from, const std::string& to) override;
+
+    // ReplaceFileW.  Access rights that the user may not give to a file are no failure.
+    [[nodiscard]] Exchanged Exchange(const std::string& from, const std::string& to,
+                                     const std::string& backup) override;
 
     bool Remove(const std::string& path) override;
 };

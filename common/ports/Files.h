@@ -16,6 +16,15 @@ public:
     [[nodiscard]] virtual bool Close() = 0;
 };
 
+// What became of a file that was to take another's place.
+enum class Exchanged {
+    Done,
+    Unchanged,    // both have their names
+    OldIsBackup,  // only the first half: the old file has its backup name, the new one its own
+    OldIsGone,    // the old file is not there any more, the new one has its own name still
+    NotSupported, // nothing changed: the file system cannot do it in one call
+};
+
 // The file system.  Paths are UTF-8; contents are bytes.  Every failure is a result, never an
 // exception.
 class Files {
@@ -32,12 +41,25 @@ public:
     // The whole content; nothing when it cannot be read.
     [[nodiscard]] virtual std::optional<std::string> ReadWhole(const std::string& path) = 0;
 
-    // A new empty file; an existing one is emptied.  Null when it cannot be made.
+    // True when anything has this name: a file of any attributes, a folder.
+    [[nodiscard]] virtual bool IsTaken(const std::string& path) = 0;
+
+    // A new empty file.  Null when it cannot be made, also because its name is taken.
     [[nodiscard]] virtual std::unique_ptr<OutputFile> Create(const std::string& path) = 0;
 
-    // Gives the file another name in one step; a file that has that name already is replaced. False
-    // also when either is marked read-only.
+    // Gives the file another name in one step.  False also when that name is taken, or the file is
+    // marked read-only.
+    [[nodiscard]] virtual bool Rename(const std::string& from, const std::string& to) = 0;
+
+    // As Rename, but a file that has that name already is replaced, if it is not marked read-only.
     [[nodiscard]] virtual bool Replace(const std::string& from, const std::string& to) = 0;
+
+    // Puts a new file in the place of an existing one, from which it takes over what belongs to the
+    // place: access rights, creation time, attributes, alternate streams.  backup: the name that
+    // the old file gets, replacing a file of that name; empty: the old file goes.  Unchanged also
+    // when one of the files that would go is marked read-only.
+    [[nodiscard]] virtual Exchanged Exchange(const std::string& from, const std::string& to,
+                                             const std::string& backup) = 0;
 
     virtual bool Remove(const std::string& path) = 0;
 };

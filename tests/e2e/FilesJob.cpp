@@ -84,7 +84,7 @@ void FilesJob::OpenWhatIsNoLibrary() {
     CheckMessage(RemoteDialogs::AnswerMessageBox(Main().Window(), IDOK), "Attention",
                  "The library could not be opened: " + File("invalid.tnt"));
     CheckRoots({"First", "Second"});
-    CheckStatus("Okay second.tnt");
+    CheckStatus("");
 }
 
 void FilesJob::CloseGroupAndLibraries() {

@@ -33,6 +33,11 @@ void FilesJob::SaveRetargets() {
         "backup of the second file", [this] { return ReadFile("second.tnt.bak"); }, second);
     Report().CheckBecomes(
         "second file", [this] { return ReadFile("second.tnt"); }, first);
+    const std::string outcome = "Okay second.tnt  -  Earlier content kept as: second (kept ";
+    Report().CheckBecomes(
+        "status bar", [&] { return Main().InfoText().substr(0, outcome.size()); }, outcome);
+    const std::string keptName = Main().InfoText().substr(outcome.find("second (kept "));
+    Report().CheckEqual("kept file", ReadFile(keptName), second);
 }
 
 void FilesJob::RefusedNames() {
@@ -46,7 +51,7 @@ void FilesJob::RefusedNames() {
                   RemoteDialogs::EnterDoubtfulFileName(owner, File("none\\x.tnt"), IDOK).text);
     RemoteDialogs::CancelFileDialog(owner);
     CheckRoots({"First", "Second", "Second"});
-    CheckStatus("Okay second.tnt");
+    CheckStatus("");
 }
 
 void FilesJob::SaveAsOverAnExistingFile() {

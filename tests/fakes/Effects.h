@@ -138,7 +138,7 @@ public:
     ErrorReporter errors{rest.prompts, language};
     Application application{{files, rest.codePage, registry, rest.prompts, rest.clipboard,
                              rest.collation, rest.shell, rest.events, rest.service, rest.retry,
-                             language, errors},
+                             language, errors, rest.calendar},
                             {view, window, form, rest.about, rest.textViewer, rest.progress,
                              rest.progressWindow, rest.progressForm},
                             {"C:\\prog", "1.2.7", {"https://www.example.org/1"}, "C:\\prog"}};

@@ -36,25 +36,41 @@ public:
             return {};
         return found->second;
     }
+    bool IsTaken(const std::string& path) override {
+        return contents.contains(path) || folders.contains(path);
+    }
     std::unique_ptr<OutputFile> Create(const std::string& path) override {
-        if (Fails() || IsTooLong(path))
+        if (Fails() || IsTooLong(path) || IsTaken(path))
             return nullptr;
         contents[path].clear();
         return std::make_unique<Output>(*this, path);
     }
+    bool Rename(const std::string& from, const std::string& to) override {
+        return !Fails() && !IsTaken(to) && Move(from, to);
+    }
     bool Replace(const std::string& from, const std::string& to) override {
-        if (Fails() || IsTooLong(to) || !contents.contains(from) || locked.contains(from) ||
-            locked.contains(to))
-            return false;
-        contents[to] = contents.at(from);
-        contents.erase(from);
-        return true;
+        return !Fails() && !locked.contains(to) && Move(from, to);
+    }
+    Exchanged Exchange(const std::string& from, const std::string& to,
+                       const std::string& backup) override {
+        if (Fails() || locked.contains(to) || locked.contains(backup))
+            return Exchanged::Unchanged;
+        if (exchanges == Exchanged::NotSupported || exchanges == Exchanged::Unchanged)
+            return exchanges;
+        if (!backup.empty() && !Move(to, backup))
+            return Exchanged::Unchanged;
+        contents.erase(to);
+        if (exchanges == Exchanged::Done)
+            static_cast<void>(Move(from, to));
+        return exchanges;
     }
     bool Remove(const std::string& path) override { return !Fails() && contents.erase(path) > 0; }
 
     std::map<std::string, std::string> contents; // by path
     std::map<std::string, bool> unreadable;      // paths that cannot be read
     std::map<std::string, bool> locked;          // paths that cannot be renamed or replaced
+    std::map<std::string, bool> folders;         // paths of folders
+    Exchanged exchanges = Exchanged::Done;       // how far an exchange that does not fail comes
 
 private:
     class Output : public OutputFile {
@@ -73,6 +89,14 @@ private:
         FakeFiles& files_;
         std::string path_;
     };
+
+    bool Move(const std::string& from, const std::string& to) {
+        if (IsTooLong(to) || !contents.contains(from) || locked.contains(from))
+            return false;
+        contents[to] = contents.at(from);
+        contents.erase(from);
+        return true;
+    }
 
     // No file system that matters has longer names.
     static bool IsTooLong(const std::string& path) { return FileNamePart(path).size() > 255; }

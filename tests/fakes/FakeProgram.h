@@ -3,6 +3,7 @@
 #include "app/Application.h"
 #include "standin/model/StandInService.h"
 #include "support/ErrorReporter.h"
+#include "tests/fakes/FakeCalendarClock.h"
 #include "tests/fakes/FakeClipboard.h"
 #include "tests/fakes/FakeCodePage.h"
 #include "tests/fakes/FakeCollation.h"
@@ -79,7 +80,7 @@ public:
         : solidWorks(scenario), automation(running ? *running : retryingService) {
         files.contents["C:\\prog\\tntlng_de.ini"] = "";
         files.contents["C:\\prog\\tntlng_us.ini"] = "";
-        for (int number = 0; number <= 110; ++number)
+        for (int number = 0; number <= 199; ++number)
             for (const char* code : {"de", "us"})
                 profile.values[{std::string("C:\\prog\\tntlng_") + code + ".ini", "Info",
                                 "Text." + std::to_string(number)}] =
@@ -107,6 +108,7 @@ public:
     StandInModel solidWorks;
     StandInService service{solidWorks};
     FakeWaitingClock clock;
+    FakeCalendarClock calendar;
     BusyRetry retry{clock};
     RetryingService retryingService{service, retry};
     AutomationService& automation;
@@ -121,7 +123,7 @@ public:
     ErrorReporter errors{prompts, language};
     Application application{
         {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
-         language, errors},
+         language, errors, calendar},
         {view, mainWindow, mainForm, about, textViewer, progress, progressWindow, progressForm},
         {"C:\\prog",
          "1.2.7",

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "library/LibraryFiles.h"
+#include "tests/fakes/FakeCalendarClock.h"
 #include "tests/fakes/FakeCodePage.h"
 #include "tests/fakes/FakeFiles.h"
 #include "tests/fakes/FakeLibraryHost.h"
@@ -23,5 +24,7 @@ struct LibraryOnFakes {
     Settings settings;
     FakeCodePage codePage = FakeCodePage::Western();
     ColorLibrary library{prompts, texts};
-    LibraryFiles libraryFiles{library, settings, {files, codePage, prompts, texts, progress}};
+    FakeCalendarClock clock;
+    LibraryFiles libraryFiles{
+        library, settings, {files, codePage, prompts, texts, progress, clock}};
 };

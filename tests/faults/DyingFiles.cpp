@@ -49,6 +49,25 @@ std::unique_ptr<OutputFile> DyingFiles::Create(const std::string& path) {
     return file != nullptr ? std::make_unique<DyingOutput>(*this, std::move(file)) : nullptr;
 }
 
+bool DyingFiles::Rename(const std::string& from, const std::string& to) {
+    if (IsLastStep())
+        Die();
+    return files_.Rename(from, to);
+}
+
+// Two steps: the platform's own call can end in its middle too.
+Exchanged DyingFiles::Exchange(const std::string& from, const std::string& to,
+                               const std::string& backup) {
+    if (IsLastStep())
+        Die();
+    if (IsLastStep()) {
+        if (!backup.empty())
+            static_cast<void>(files_.Replace(to, backup));
+        Die();
+    }
+    return files_.Exchange(from, to, backup);
+}
+
 bool DyingFiles::Replace(const std::string& from, const std::string& to) {
     if (IsLastStep())
         Die();

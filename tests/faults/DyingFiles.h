@@ -6,7 +6,7 @@
 #include <string>
 
 // The real file system for a process that is killed before its n-th step; a write is killed in its
-// middle.
+// middle, and so is an exchange of files that leaves a backup.
 class DyingFiles : public Files {
 public:
     static constexpr unsigned kExitCode = 99; // of the killed process
@@ -20,7 +20,11 @@ public:
     std::optional<std::string> ReadWhole(const std::string& path) override {
         return files_.ReadWhole(path);
     }
+    bool IsTaken(const std::string& path) override { return files_.IsTaken(path); }
     std::unique_ptr<OutputFile> Create(const std::string& path) override;
+    bool Rename(const std::string& from, const std::string& to) override;
+    Exchanged Exchange(const std::string& from, const std::string& to,
+                       const std::string& backup) override;
     bool Replace(const std::string& from, const std::string& to) override;
     bool Remove(const std::string& path) override;
 

@@ -2,6 +2,7 @@
 
 #include "library/FileCommands.h"
 #include "platform/Win32AnsiCodePage.h"
+#include "tests/fakes/FakeCalendarClock.h"
 #include "tests/fakes/FakeLibraryHost.h"
 #include "tests/fakes/FakeProgress.h"
 #include "tests/fakes/FakePrompts.h"
@@ -12,7 +13,7 @@
 // The colour library and its file commands on a real file system; message boxes are kept.
 struct RealLibrary {
     explicit RealLibrary(Files& files)
-        : libraryFiles(library, settings, {files, codePage, prompts, texts, progress}),
+        : libraryFiles(library, settings, {files, codePage, prompts, texts, progress, clock}),
           commands({library, libraryFiles, settings, prompts, texts, codePage, "C:\\prog"}) {
         library.SetHost(libraryHost);
         libraryFiles.SetHost(libraryHost);
@@ -25,6 +26,7 @@ struct RealLibrary {
     void Save() { commands.mnuFileSave_Click(); }
 
     Win32AnsiCodePage codePage{1252};
+    FakeCalendarClock clock;
     FakePrompts prompts;
     FakeTexts texts;
     FakeProgress progress;

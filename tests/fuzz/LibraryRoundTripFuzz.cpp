@@ -63,7 +63,7 @@ void RequireSameBytesFromASecondSave(LibraryOnFakes& saved) {
     second.files.contents = saved.files.contents;
     Require(second.libraryFiles.FileReadColorValues(kFile));
     RequireSameLibraries(saved, second);
-    Require(second.libraryFiles.FileWriteColorValues(kFile, "0D"));
+    Require(second.libraryFiles.FileWriteColorValues(kFile, "0D").isWritten);
     Require(second.files.contents.at(kFile) == saved.files.contents.at(kFile));
 }
 
@@ -76,7 +76,7 @@ void RequireStableAfterOneReading(const LibraryOnFakes& saved) {
     if (reader.library.Tree().MainNodes().empty() ||
         reader.library.GetGroupInMainnode("0D").empty())
         return;
-    Require(reader.libraryFiles.FileWriteColorValues(kFile, "0D"));
+    Require(reader.libraryFiles.FileWriteColorValues(kFile, "0D").isWritten);
     RequireSameBytesFromASecondSave(reader);
 }
 
@@ -89,7 +89,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool hasSeparators = source.ConsumeBool();
     LibraryOnFakes first;
     MakeLibrary(first, source, hasSeparators ? kAnything : kKept);
-    Require(first.libraryFiles.FileWriteColorValues(kFile, "0D"));
+    Require(first.libraryFiles.FileWriteColorValues(kFile, "0D").isWritten);
     if (hasSeparators)
         RequireStableAfterOneReading(first);
     else

@@ -2,6 +2,7 @@
 
 #include "common/RuntimeError.h"
 
+#include "tests/fakes/FakeCalendarClock.h"
 #include "tests/fakes/FakeCodePage.h"
 #include "tests/fakes/FakeFiles.h"
 #include "tests/fakes/FakeLibraryHost.h"
@@ -45,7 +46,9 @@ protected:
     Settings settings;
     FakeCodePage codePage = FakeCodePage::Western();
     ColorLibrary library{prompts, texts};
-    LibraryFiles libraryFiles{library, settings, {files, codePage, prompts, texts, progress}};
+    FakeCalendarClock clock;
+    LibraryFiles libraryFiles{
+        library, settings, {files, codePage, prompts, texts, progress, clock}};
     FileCommands commands{{library, libraryFiles, settings, prompts, texts, codePage, "C:\\prog"}};
 };
 
@@ -57,12 +60,18 @@ TEST_F(FileCommandsTest, OpenAsksWithTitleFilterAndFlags) {
     EXPECT_EQ(prompts.fileRequests[0].flags, 0x1800U);
 }
 
-TEST_F(FileCommandsTest, DroppedLibrariesOpenInTheirOrderEachWithItsQuestion) {
-    prompts.answers = {Answer::No, Answer::Yes};
+TEST_F(FileCommandsTest, SeveralDroppedLibrariesOpenInTheirOrderWithoutAQuestion) {
     commands.OpenDropped({kB, kA});
     EXPECT_EQ(host.status, (std::vector<std::string>{"Okay b.tnt", "Okay a.tnt"}));
-    EXPECT_EQ(settings.defaultColorFile, kA);
+    EXPECT_TRUE(prompts.messages.empty());
     EXPECT_TRUE(prompts.fileRequests.empty());
+}
+
+TEST_F(FileCommandsTest, LibraryThatIsDroppedAloneOpensWithTheQuestionAboutEveryStart) {
+    prompts.answers = {Answer::Yes};
+    commands.OpenDropped({"C:\\lib\\a.txt", kA});
+    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<24>\r\nC:\\lib\\a.tnt", 36, "<21>"}}));
+    EXPECT_EQ(settings.defaultColorFile, kA);
 }
 
 TEST_F(FileCommandsTest, DroppedLibraryWithAnErrorLetsTheOthersOpen) {
@@ -230,10 +239,64 @@ TEST_F(FileCommandsTest, DialogStartsWithTheFileThatWasChosenLast) {
     EXPECT_EQ(prompts.fileRequests.back().fileName, "D:\\other\\c.tnt");
 }
 
-TEST_F(FileCommandsTest, DialogKeepsTheNameOfAFileThatCouldNotBeOpened) {
+TEST_F(FileCommandsTest, FailedOpenLeavesTheDialogsFileSoThatSaveStaysRight) {
+    Open(kA);
+    files.contents[kB] = "rubbish";
+    Open(kB);
     Open("C:\\lib\\gone.tnt");
-    commands.mnuFileOpen_Click();
-    EXPECT_EQ(prompts.fileRequests.back().fileName, "C:\\lib\\gone.tnt");
+    EXPECT_EQ(commands.DialogFileName(), kA);
+    commands.mnuFileSave_Click();
+    EXPECT_EQ(library.Tree().At("0D").tag, kA);
+    EXPECT_EQ(host.status.back(), "Okay a.tnt");
+    EXPECT_EQ(files.contents.at(kB), "rubbish");
+}
+
+TEST_F(FileCommandsTest, OpenThatEndsWithAnErrorLeavesTheDialogsFile) {
+    Open(kA);
+    std::string color = "\"E#a=0DG1:a\xF7"
+                        "99999";
+    for (int value = 2; value <= 9; ++value)
+        color += "\xF7" + std::to_string(value);
+    files.contents[kB] += color + "\"\r\n";
+    EXPECT_THROW(Open(kB), RuntimeError);
+    EXPECT_EQ(commands.DialogFileName(), kA);
+}
+
+TEST_F(FileCommandsTest, DroppedFilesLeaveTheDialogsFile) {
+    Open(kA);
+    commands.OpenDropped({"C:\\lib\\gone.tnt", kB});
+    EXPECT_EQ(commands.DialogFileName(), kA);
+    library.Tree().Select("0D");
+    commands.mnuFileSave_Click();
+    EXPECT_EQ(library.Tree().At("0D").tag, kA);
+}
+
+TEST_F(FileCommandsTest, DroppedLibraryKeepsItsFileWhileTheDialogHasHadNone) {
+    commands.OpenDropped({kA});
+    for (int save = 1; save <= 2; ++save) {
+        commands.mnuFileSave_Click();
+        EXPECT_EQ(library.Tree().At("0D").tag, kA);
+        EXPECT_EQ(host.status.back(), "Okay a.tnt");
+    }
+}
+
+TEST_F(FileCommandsTest, FailedSaveAsLeavesTheDialogsFile) {
+    Open(kA);
+    files.locked[kB] = true;
+    prompts.chosenFiles.emplace_back(kB);
+    commands.mnuFileSaveAs_Click();
+    EXPECT_EQ(commands.DialogFileName(), kA);
+}
+
+TEST_F(FileCommandsTest, FileThatCannotBeReadGivesTheBoxOfEveryFailedOpen) {
+    files.unreadable[kA] = true;
+    Open(kA);
+    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<6>C:\\lib\\a.tnt", 16, "<98>"}}));
+    prompts.messages.clear();
+    settings.defaultColorFile = kA;
+    commands.Autoload();
+    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<6>C:\\lib\\a.tnt", 16, "<98>"}}));
+    EXPECT_TRUE(library.Tree().MainNodes().empty());
 }
 
 TEST_F(FileCommandsTest, SaveAsOntoAnExistingFileKeepsItsContentUnderBak) {
@@ -277,7 +340,8 @@ TEST_F(FileCommandsTest, LibraryWithoutGroupsCountsAsAFailedSave) {
     library.NewMainNode("Lib");
     library.Tree().SetTag("0D", "C:\\lib\\c.tnt");
     commands.mnuFileSave_Click();
-    EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<103>", 64, "<30>"}, {"<4>", 16, "<98>"}}));
+    EXPECT_EQ(prompts.messages,
+              (std::vector<Message>{{"<103>", 64, "<30>"}, {"<4>C:\\lib\\c.tnt", 16, "<98>"}}));
 }
 
 TEST_F(FileCommandsTest, CloseDoesNotAskAndRestoresConfirmDel) {

@@ -53,7 +53,7 @@ TEST_F(FileFormatDocument, ExampleIsWrittenBackByteForByte) {
     ASSERT_TRUE(loaded);
     const std::string before = with.files.contents[kFile];
     with.settings.createBackups = false;
-    ASSERT_TRUE(with.libraryFiles.FileWriteColorValues(kFile, "0D"));
+    ASSERT_TRUE(with.libraryFiles.FileWriteColorValues(kFile, "0D").isWritten);
     EXPECT_EQ(with.files.contents[kFile], before);
 }
 

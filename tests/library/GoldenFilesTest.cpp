@@ -35,7 +35,7 @@ protected:
     }
     void ExpectIsWrittenAs(const std::string& bytes) {
         settings.createBackups = false;
-        EXPECT_TRUE(libraryFiles.FileWriteColorValues(kFile, "0D"));
+        EXPECT_TRUE(libraryFiles.FileWriteColorValues(kFile, "0D").isWritten);
         EXPECT_EQ(files.contents.at(kFile), bytes);
     }
     // Reads a golden file that the program could have written, and writes it again.
@@ -113,7 +113,7 @@ TEST_F(GoldenFiles, DivisionSignInAnAltNameMakesTheFileInvalid) {
 TEST_F(GoldenFiles, LibraryWithoutGroupsIsReadButNeverWritten) {
     ExpectLoads("no-groups.tnt", {"0D Alone"});
     settings.createBackups = false;
-    EXPECT_FALSE(libraryFiles.FileWriteColorValues(kFile, "0D"));
+    EXPECT_FALSE(libraryFiles.FileWriteColorValues(kFile, "0D").isWritten);
     EXPECT_EQ(files.contents.at(kFile), GoldenFile("no-groups.tnt"));
     EXPECT_EQ(prompts.messages, (std::vector<FakePrompts::Message>{{"<103>", 64, "<30>"}}));
 }
@@ -179,7 +179,7 @@ TEST_F(GoldenFiles, SameFileTwiceIsTwoLibrariesAndTheSecondIsWrittenWithItsOwnKe
     std::string renumbered = GoldenFile("umlauts.tnt");
     for (std::size_t at = 0; (at = renumbered.find("=0D", at)) != std::string::npos; ++at)
         renumbered[at + 1] = '1';
-    ASSERT_TRUE(libraryFiles.FileWriteColorValues(kFile, "1D"));
+    ASSERT_TRUE(libraryFiles.FileWriteColorValues(kFile, "1D").isWritten);
     EXPECT_EQ(files.contents.at(kFile), renumbered);
 }
 

@@ -24,7 +24,7 @@ protected:
         files.contents[kFile] = content;
         return libraryFiles.FileReadColorValues(kFile);
     }
-    [[nodiscard]] bool Write() { return libraryFiles.FileWriteColorValues(kFile, "0D"); }
+    [[nodiscard]] bool Write() { return libraryFiles.FileWriteColorValues(kFile, "0D").isWritten; }
 
     void MakeLibrary() {
         library.NewMainNode("Lib");
@@ -190,11 +190,17 @@ TEST_F(LibraryFilesTest, MissingFileIsNoMessage) {
     EXPECT_TRUE(host.shown.empty());
 }
 
-TEST_F(LibraryFilesTest, FileThatCannotBeReadIsAnError) {
+TEST_F(LibraryFilesTest, EveryOutcomeOfAReadingIsTold) {
     files.contents[kFile] = kGolden;
+    EXPECT_EQ(libraryFiles.Read(kFile), ReadResult::Complete);
+    EXPECT_EQ(libraryFiles.Read("C:\\none.tnt"), ReadResult::Missing);
+    files.contents[kFile] += "\"E#\"";
+    EXPECT_EQ(libraryFiles.Read(kFile), ReadResult::Invalid);
+    prompts.messages.clear();
     files.unreadable[kFile] = true;
-    EXPECT_THROW(libraryFiles.FileReadColorValues(kFile), RuntimeError);
-    EXPECT_TRUE(library.Tree().MainNodes().empty());
+    EXPECT_EQ(libraryFiles.Read(kFile), ReadResult::Unreadable);
+    EXPECT_TRUE(prompts.messages.empty());
+    EXPECT_EQ(library.Tree().MainNodes().size(), 2U) << "and nothing is added";
 }
 
 TEST_F(LibraryFilesTest, InvalidHeaderAddsNothing) {
@@ -332,18 +338,19 @@ TEST_F(LibraryFilesTest, OnlyColorsWhoseKeyBeginsWithTheMainKeyAreWritten) {
     library.NewColorNode("10DG1", "b");
     ASSERT_TRUE(Write());
     EXPECT_EQ(files.contents.at(kFile).find("E#b"), std::string::npos);
-    ASSERT_TRUE(libraryFiles.FileWriteColorValues(kFile, "10D"));
+    ASSERT_TRUE(libraryFiles.FileWriteColorValues(kFile, "10D").isWritten);
     EXPECT_EQ(files.contents.at(kFile).find("E#a"), std::string::npos);
     EXPECT_NE(files.contents.at(kFile).find("E#b"), std::string::npos);
 }
 
 TEST_F(LibraryFilesTest, OldFileBecomesTheBackupAndReplacesAnOlderOne) {
     MakeLibrary();
-    files.contents[kFile] = "old";
-    files.contents[kBackup] = "older";
     ASSERT_TRUE(Write());
-    EXPECT_EQ(files.contents.at(kBackup), "old");
-    EXPECT_EQ(files.contents.at(kFile), kGolden);
+    files.contents[kBackup] = "older";
+    library.NewGroupNode("0D", "three");
+    ASSERT_TRUE(Write());
+    EXPECT_EQ(files.contents.at(kBackup), kGolden);
+    EXPECT_NE(files.contents.at(kFile), kGolden);
     EXPECT_EQ(files.contents.size(), 2U) << "nothing else stays beside it";
 }
 

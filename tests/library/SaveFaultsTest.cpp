@@ -4,6 +4,7 @@
 #include "library/FileCommands.h"
 #include "tests/fakes/LibraryOnFakes.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -18,11 +19,20 @@ constexpr const char* kOld = "\"D#Lib=0D:1\"\r\n\"G#g=0DG1\"\r\n";
 constexpr const char* kNew = "\"D#Lib=0D:2\"\r\n\"G#g=0DG1\"\r\n\"G#added=0DG2\"\r\n";
 constexpr int kMoreThanAllSteps = 50; // so that a save that never completes ends the test
 
+// How a save goes when no step fails: with a backup or without, and how far the platform's own
+// exchange of the files comes.
+struct Way {
+    bool backups = true;
+    Exchanged exchange = Exchanged::Done;
+    int steps = 0;
+};
+
 // A library that was opened and changed, one Save before its end.
 struct ChangedLibrary : LibraryOnFakes {
-    explicit ChangedLibrary(bool backups) {
+    explicit ChangedLibrary(const Way& way) {
         commands.SetHost(commandsHost);
-        settings.createBackups = backups;
+        settings.createBackups = way.backups;
+        files.exchanges = way.exchange;
         files.contents[kFile] = kOld;
         files.contents[kBackup] = "older";
         prompts.chosenFiles.emplace_back(kFile);
@@ -44,8 +54,7 @@ struct ChangedLibrary : LibraryOnFakes {
     FileCommands commands{{library, libraryFiles, settings, prompts, texts, codePage, "C:\\prog"}};
 };
 
-// With backups on or off.
-class SaveFaults : public testing::TestWithParam<bool> {
+class SaveFaults : public testing::TestWithParam<Way> {
 protected:
     // Lets the save fail at step 1, 2, ... until it completes; returns how many steps it took.
     template <typename Check>
@@ -62,8 +71,7 @@ protected:
         return kMoreThanAllSteps;
     }
 
-    // Create, write, flush, close and replace, and with backups the rename to ".bak".
-    static int StepsOfASave() { return GetParam() ? 6 : 5; }
+    static int StepsOfASave() { return GetParam().steps; }
 };
 
 TEST_P(SaveFaults, EveryFailedStepKeepsTheOldContentUnderTheFilesName) {
@@ -98,7 +106,6 @@ TEST_P(SaveFaults, LibraryKeepsItsStateAndIsSavedWhenTheFaultIsGone) {
         changed.files.FailAtStep(0, FailureKind::Reported);
         changed.commands.mnuFileSave_Click();
         EXPECT_EQ(changed.files.contents.at(kFile), kNew);
-        EXPECT_FALSE(changed.files.contents.contains(kBeside));
         EXPECT_EQ(changed.prompts.messages.size(), 1U); // of the failed save alone
     });
 }
@@ -118,16 +125,84 @@ TEST_P(SaveFaults, ProcessKilledAtAnyStepLeavesOldOrNewWholeUnderNameOrBackup) {
     EXPECT_EQ(step, StepsOfASave() + 1);
 }
 
-TEST_P(SaveFaults, SaveAfterAKilledOneClearsWhatThatLeftBeside) {
-    ChangedLibrary changed(GetParam());
-    changed.files.contents[kBeside] = "half of an unfinished sa";
-    changed.commands.mnuFileSave_Click();
-    EXPECT_EQ(changed.files.contents.at(kFile), kNew);
-    EXPECT_FALSE(changed.files.contents.contains(kBeside));
-    EXPECT_TRUE(changed.prompts.messages.empty());
+TEST_P(SaveFaults, WhatStandsUnderTheNameOfTheNewContentIsNeitherTakenNorRemoved) {
+    for (const FailureKind kind : {FailureKind::Reported, FailureKind::FromHereOn}) {
+        ForEachStep(kind, [](const ChangedLibrary&) {});
+        for (int step = 0; step <= StepsOfASave(); ++step) {
+            ChangedLibrary changed(GetParam());
+            changed.files.contents[kBeside] = "of somebody else";
+            changed.files.folders["C:\\lib\\a.tnt.saving2"] = true;
+            changed.files.FailAtStep(step, kind);
+            changed.commands.mnuFileSave_Click();
+            EXPECT_EQ(changed.files.contents.at(kBeside), "of somebody else");
+            EXPECT_EQ(changed.Kept(), step == 0 ? kNew : kOld);
+        }
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(WithAndWithoutBackups, SaveFaults, testing::Bool());
+INSTANTIATE_TEST_SUITE_P(
+    Ways, SaveFaults,
+    testing::Values(
+        // Create, write, flush, close and exchange.
+        Way{false, Exchanged::Done, 5}, Way{true, Exchanged::Done, 5},
+        // And the replacement, or the rename to ".bak" and the one to the name, in its stead.
+        Way{false, Exchanged::NotSupported, 6}, Way{true, Exchanged::NotSupported, 7},
+        // An exchange that stays in its middle is brought to its end.
+        Way{true, Exchanged::OldIsBackup, 6}));
+
+// The platform has removed the old file and could not give the new one its name.
+TEST(SaveThatLosesTheOldFile, NewContentGetsItsNameOrStaysWhereItIs) {
+    for (const int failingStep : {0, 6}) { // 6: the rename that brings it to its end
+        ChangedLibrary changed({false, Exchanged::OldIsGone});
+        changed.files.FailAtStep(failingStep, FailureKind::Reported);
+        changed.commands.mnuFileSave_Click();
+        const char* place = failingStep == 0 ? kFile : kBeside;
+        ASSERT_TRUE(changed.files.contents.contains(place));
+        EXPECT_EQ(changed.files.contents.at(place), kNew);
+        EXPECT_EQ(changed.prompts.messages.size(), failingStep == 0 ? 0U : 1U);
+    }
+}
+
+// The file has what the library does not hold.
+constexpr const char* kForeign = "\"D#Other=0D:0\"\r\n";
+
+bool IsForeignContentThere(const ChangedLibrary& changed) {
+    return std::ranges::any_of(changed.files.contents,
+                               [](const auto& file) { return file.second == kForeign; });
+}
+
+TEST_P(SaveFaults, UnknownContentIsWholeSomewhereWhicheverStepFails) {
+    for (const FailureKind kind :
+         {FailureKind::Reported, FailureKind::FromHereOn, FailureKind::Killed}) {
+        int step = 1;
+        for (bool completed = false; !completed && step < kMoreThanAllSteps; ++step) {
+            ChangedLibrary changed(GetParam());
+            changed.files.contents[kFile] = kForeign;
+            changed.files.FailAtStep(step, kind);
+            try {
+                changed.commands.mnuFileSave_Click();
+            } catch (const FakeFiles::Killed&) {
+            }
+            completed = changed.files.Steps() < step;
+            EXPECT_TRUE(IsForeignContentThere(changed)) << "step " << step;
+        }
+        EXPECT_EQ(step, StepsOfASave() + 4 + 2) << "create, write, flush and close of the copy too";
+    }
+}
+
+TEST_P(SaveFaults, UnknownContentIsNotKeptTwiceByASaveThatFails) {
+    for (int step = 1; step <= StepsOfASave() + 4; ++step) {
+        ChangedLibrary changed(GetParam());
+        changed.files.contents[kFile] = kForeign;
+        changed.files.FailAtStep(step, FailureKind::Reported);
+        changed.commands.mnuFileSave_Click();
+        EXPECT_EQ(changed.files.contents.at(kFile), kForeign);
+        EXPECT_FALSE(std::ranges::any_of(changed.files.contents, [](const auto& file) {
+            return file.first.find("(kept") != std::string::npos;
+        })) << "step " << step;
+        EXPECT_TRUE(changed.commandsHost.status.empty());
+    }
+}
 
 // Names up to the longest that a file system takes.
 class LongNames : public LibraryOnFakes, public testing::Test {
@@ -139,7 +214,9 @@ protected:
     static std::string PathOf(std::size_t length) {
         return "C:\\lib\\" + std::string(length - 4, 'x') + ".tnt";
     }
-    bool Save(const std::string& path) { return libraryFiles.FileWriteColorValues(path, "0D"); }
+    bool Save(const std::string& path) {
+        return libraryFiles.FileWriteColorValues(path, "0D", UnknownContent::GivenUp).isWritten;
+    }
 };
 
 TEST_F(LongNames, NameWithoutRoomForASuffixIsSavedAndNothingStaysBeside) {

@@ -46,15 +46,13 @@ TEST_F(SharedFile, BackupThatAnotherProgramReadsKeepsFileAndBackup) {
     EXPECT_FALSE(files.Exists(folder.File("a.tnt.saving")));
 }
 
-TEST_F(SharedFile, SaveWhileAnotherProgramSavesToItFailsAndMixesNothing) {
+TEST_F(SharedFile, SaveWhileAnotherProgramSavesToItMixesNothing) {
     const std::unique_ptr<OutputFile> another = files.Create(folder.File("a.tnt.saving"));
     ASSERT_NE(another, nullptr);
     ASSERT_TRUE(another->Write("half of another's"));
-    EXPECT_FALSE(Save());
-    ASSERT_TRUE(another->Close());
-    ExpectOldFileAndBackup();
-    EXPECT_EQ(folder.Read("a.tnt.saving"), "half of another's");
     EXPECT_TRUE(Save());
+    ASSERT_TRUE(another->Close());
+    EXPECT_EQ(folder.Read("a.tnt.saving"), "half of another's");
     EXPECT_EQ(folder.Read("a.tnt"), kNew);
     EXPECT_EQ(folder.Read("a.tnt.bak"), kOld);
 }

@@ -1,5 +1,7 @@
 #include "platform/Win32Files.h"
 
+#include "platform/KernelHandle.h"
+#include "platform/ReplaceFailure.h"
 #include "platform/Utf16.h"
 #include "tests/platform/ScratchFolder.h"
 
@@ -74,10 +76,76 @@ TEST_F(Win32FilesTest, EveryOperationWorksOnPathsOfMoreThan260Characters) {
     EXPECT_FALSE(files.Exists(path + ".bak"));
 }
 
-TEST_F(Win32FilesTest, CreateEmptiesAnExistingFile) {
+TEST_F(Win32FilesTest, NameThatIsTakenIsNotCreated) {
     folder.Write("x.tnt", "old content");
-    WriteThroughPort(folder.File("x.tnt"), "new");
-    EXPECT_EQ(folder.Read("x.tnt"), "new");
+    std::filesystem::create_directory(ToUtf16(folder.File("folder")));
+    for (const char* name : {"x.tnt", "folder"}) {
+        EXPECT_TRUE(files.IsTaken(folder.File(name)));
+        EXPECT_EQ(files.Create(folder.File(name)), nullptr);
+    }
+    EXPECT_EQ(folder.Read("x.tnt"), "old content");
+    EXPECT_FALSE(files.IsTaken(folder.File("none")));
+}
+
+TEST_F(Win32FilesTest, RenameNeverReplaces) {
+    folder.Write("new", "new content");
+    folder.Write("old", "old content");
+    EXPECT_FALSE(files.Rename(folder.File("new"), folder.File("old")));
+    EXPECT_EQ(folder.Read("old"), "old content");
+    EXPECT_TRUE(files.Rename(folder.File("new"), folder.File("other")));
+    EXPECT_EQ(folder.Read("other"), "new content");
+}
+
+TEST_F(Win32FilesTest, ExchangeGivesTheOldFileItsBackupNameAndReplacesAnOlderOne) {
+    folder.Write("new", "new content");
+    folder.Write("old", "old content");
+    folder.Write("backup", "older content");
+    EXPECT_EQ(files.Exchange(folder.File("new"), folder.File("old"), folder.File("backup")),
+              Exchanged::Done);
+    EXPECT_EQ(folder.Read("old"), "new content");
+    EXPECT_EQ(folder.Read("backup"), "old content");
+    EXPECT_FALSE(files.Exists(folder.File("new")));
+}
+
+TEST_F(Win32FilesTest, ExchangeWithoutABackupLeavesTheNewContentAlone) {
+    folder.Write("new", "new content");
+    folder.Write("old", "old content");
+    EXPECT_EQ(files.Exchange(folder.File("new"), folder.File("old"), ""), Exchanged::Done);
+    EXPECT_EQ(folder.Read("old"), "new content");
+    EXPECT_FALSE(files.Exists(folder.File("new")));
+}
+
+TEST_F(Win32FilesTest, ExchangeWithAFileInUseOrMarkedReadOnlyChangesNothing) {
+    folder.Write("new", "new content");
+    folder.Write("old", "old content");
+    folder.Write("backup", "older content");
+    const auto exchange = [&] {
+        return files.Exchange(folder.File("new"), folder.File("old"), folder.File("backup"));
+    };
+    for (const char* name : {"old", "backup"}) {
+        folder.SetAttributes(name, FILE_ATTRIBUTE_READONLY);
+        EXPECT_EQ(exchange(), Exchanged::Unchanged) << name;
+        folder.SetAttributes(name, FILE_ATTRIBUTE_NORMAL);
+        KernelHandle inUse(CreateFileW(ToUtf16(folder.File(name)).c_str(), GENERIC_READ,
+                                       FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+        EXPECT_EQ(exchange(), Exchanged::Unchanged) << name;
+        EXPECT_TRUE(inUse.Close());
+    }
+    EXPECT_EQ(folder.Read("new") + folder.Read("old") + folder.Read("backup"),
+              "new contentold contentolder content");
+}
+
+// What the call leaves when it fails in its middle is written down by the platform's makers.
+TEST(AfterFailedReplace, TellsWhatIsLeft) {
+    EXPECT_EQ(AfterFailedReplace(ERROR_UNABLE_TO_REMOVE_REPLACED, true), Exchanged::Unchanged);
+    EXPECT_EQ(AfterFailedReplace(ERROR_UNABLE_TO_REMOVE_REPLACED, false), Exchanged::Unchanged);
+    EXPECT_EQ(AfterFailedReplace(ERROR_UNABLE_TO_MOVE_REPLACEMENT, true), Exchanged::Unchanged);
+    EXPECT_EQ(AfterFailedReplace(ERROR_UNABLE_TO_MOVE_REPLACEMENT, false), Exchanged::OldIsGone);
+    EXPECT_EQ(AfterFailedReplace(ERROR_UNABLE_TO_MOVE_REPLACEMENT_2, true), Exchanged::OldIsBackup);
+    EXPECT_EQ(AfterFailedReplace(ERROR_NOT_SUPPORTED, true), Exchanged::NotSupported);
+    EXPECT_EQ(AfterFailedReplace(ERROR_INVALID_FUNCTION, false), Exchanged::NotSupported);
+    EXPECT_EQ(AfterFailedReplace(ERROR_SHARING_VIOLATION, true), Exchanged::Unchanged);
+    EXPECT_EQ(AfterFailedReplace(ERROR_ACCESS_DENIED, false), Exchanged::Unchanged);
 }
 
 TEST_F(Win32FilesTest, FileThatIsBeingWrittenIsNobodyElses) {

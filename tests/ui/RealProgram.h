@@ -12,6 +12,7 @@
 #include "support/frmAbout.h"
 #include "support/frmProgress.h"
 #include "support/frmTxtView.h"
+#include "tests/fakes/FakeCalendarClock.h"
 #include "tests/fakes/FakeClipboard.h"
 #include "tests/fakes/FakeCollation.h"
 #include "tests/fakes/FakeProgress.h"
@@ -73,6 +74,7 @@ public:
     StandInService service{solidWorks};
     AutomationService& automation;
     FakeWaitingClock clock;
+    FakeCalendarClock calendar;
     BusyRetry retry{clock};
     clsMultiLanguage language{profile, files, page};
     ErrorReporter errors{prompts, language};
@@ -81,7 +83,7 @@ public:
     frmTxtView textViewer{main.Handle(), errors, banners};
     frmProgress progress{main.Handle(), errors};
     Application application{{files, page, registry, prompts, clipboard, collation, shell, events,
-                             automation, retry, language, errors},
+                             automation, retry, language, errors, calendar},
                             {main, main, main, about, textViewer, progress, progress, progress},
                             {folder, "1.0.0", BannerAddresses(banners.Count()), folder}};
     SilenceAtScopeEnd silence{main};

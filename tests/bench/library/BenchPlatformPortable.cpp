@@ -40,11 +40,18 @@ public:
         content.resize(std::fread(content.data(), 1, content.size(), file.get()));
         return content;
     }
+    bool IsTaken(const std::string& path) override { return Exists(path); }
     std::unique_ptr<OutputFile> Create(const std::string& path) override {
-        OpenFile file(std::fopen(path.c_str(), "wb"));
+        OpenFile file(std::fopen(path.c_str(), "wbx"));
         if (!file)
             return nullptr;
         return std::make_unique<StandardOutputFile>(std::move(file));
+    }
+    bool Rename(const std::string& from, const std::string& to) override {
+        return !Exists(to) && Replace(from, to);
+    }
+    Exchanged Exchange(const std::string&, const std::string&, const std::string&) override {
+        return Exchanged::NotSupported;
     }
     bool Replace(const std::string& from, const std::string& to) override {
         std::error_code error;

@@ -54,7 +54,7 @@ void MeasureWriting(BenchPlatform& platform, const PlainLibrary& plain, int repe
     for (int repetition = 0; repetition <= repetitions; ++repetition) {
         floor.Measure([&] { WritePlainly(platform.FileSystem(), file.Path(), plain); });
         library.Measure([&] {
-            if (!measured.libraryFiles.FileWriteColorValues(written.Path(), "0D"))
+            if (!measured.libraryFiles.FileWriteColorValues(written.Path(), "0D").isWritten)
                 throw std::runtime_error("The library was not written");
         });
     }

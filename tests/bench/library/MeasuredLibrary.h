@@ -2,6 +2,7 @@
 
 #include "library/LibraryFiles.h"
 #include "tests/bench/library/BenchPlatform.h"
+#include "tests/fakes/FakeCalendarClock.h"
 #include "tests/fakes/FakeLibraryHost.h"
 #include "tests/fakes/FakePrompts.h"
 #include "tests/fakes/FakeTexts.h"
@@ -22,12 +23,13 @@ struct MeasuredLibrary {
     explicit MeasuredLibrary(BenchPlatform& bench, ProgressView* shown = nullptr)
         : platform(bench), libraryFiles(library, settings,
                                         {platform.FileSystem(), platform.CodePage(), prompts, texts,
-                                         shown != nullptr ? *shown : progress}) {
+                                         shown != nullptr ? *shown : progress, clock}) {
         library.SetHost(host);
         libraryFiles.SetHost(host);
     }
 
     BenchPlatform& platform;
+    FakeCalendarClock clock;
     FakePrompts prompts;
     FakeTexts texts;
     NoProgress progress;

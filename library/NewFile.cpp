@@ -1,0 +1,46 @@
+#include "library/NewFile.h"
+
+#include "common/FileNames.h"
+
+namespace {
+
+constexpr std::size_t kLongestName = 255; // counted in bytes, which no file system exceeds
+constexpr int kMostChoices = 1000;
+
+bool IsInsideCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; // of UTF-8
+}
+
+bool WriteAll(OutputFile& file, std::string_view content) {
+    const bool written = file.Write(content) && file.Flush();
+    return file.Close() && written;
+}
+
+} // namespace
+
+std::optional<std::string> WriteNewFile(Files& files, const PathChoices& choices,
+                                        std::string_view content) {
+    for (int number = 1; number <= kMostChoices; ++number) {
+        const std::string path = choices(number);
+        const std::unique_ptr<OutputFile> file = files.IsTaken(path) ? nullptr : files.Create(path);
+        if (file && WriteAll(*file, content))
+            return path;
+        if (file)
+            files.Remove(path);
+        // A name that was taken just now is no reason to give up.
+        if (file || !files.IsTaken(path))
+            return {};
+    }
+    return {};
+}
+
+std::string PathWithSuffix(const std::string& path, std::string_view suffix) {
+    std::string name = FileNamePart(path);
+    if (name.size() + suffix.size() > kLongestName) {
+        std::size_t kept = kLongestName - suffix.size();
+        while (IsInsideCharacter(name[kept]))
+            --kept;
+        name.resize(kept);
+    }
+    return FilePathPart(path) + name.append(suffix);
+}
