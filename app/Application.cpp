@@ -37,7 +37,7 @@ Application::Application(const Platform& platform, const Windows& windows, const
                    banner_, data.programFolder}),
       progress_(windows.progressWindow, windows.progressForm, language_, settings_, stopFlag_),
       mainWindow_({windows.mainView, windows.mainWindow, settings_, library_, libraryFiles_,
-                   fileCommands_, solidWorks_, options_, about_, textViewer_, banner_, registry_,
+                   fileCommands_, solidWorks_, platform.retry, platform.events, options_, about_, textViewer_, banner_, registry_,
                    platform.prompts, language_, platform.clipboard, platform.collation, stopFlag_,
                    [this] { Quit(); }}) {}
 

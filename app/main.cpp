@@ -74,7 +74,7 @@ int RunProgram() {
     mainWindow = main.Handle();
     AboutOnDemand about(mainWindow, errors, banners);
     TextViewerOnDemand textViewer(mainWindow, errors, banners);
-    frmProgress progress(mainWindow, errors, kProgressPatience);
+    frmProgress progress(mainWindow, errors, clock, kProgressPatience);
 
     Application application({files, codePage, registry, prompts, clipboard, collation, shell,
                              events, automation, retry, language, errors, calendar},

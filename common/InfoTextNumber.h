@@ -45,4 +45,7 @@ inline constexpr std::int32_t NamesNotStorable = 150;
 inline constexpr std::int32_t LibraryNameNotStorable = 151;
 inline constexpr std::int32_t AskSaveAllTheSame = 152;
 inline constexpr std::int32_t EarlierContentKept = 153;
+inline constexpr std::int32_t SolidWorksIsBusy = 160;
+inline constexpr std::int32_t SolidWorksStopped = 161;
+inline constexpr std::int32_t ReadingStandardColors = 162;
 } // namespace InfoTextNumber

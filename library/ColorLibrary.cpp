@@ -109,11 +109,25 @@ bool ColorLibrary::AddColor(const std::string& groupKey, const std::optional<std
         name ? *name : AskName(InfoTextNumber::NameOfColor, "New Color" + std::to_string(number));
     if (!name && text.empty())
         return false;
-    const std::string key = LowestFreeColorKey(groupKey, number);
+    int lowest = 1;
+    const std::string key = FreeColorKey(groupKey, lowest, number);
     const ColorValueArray shown = values ? *values : host_->ActiveColorValues();
     colors_.Append({text, key, groupKey, true, shown, text});
     host_->ShowColorNodes(groupKey, key);
     return true;
+}
+
+// Numbers only grow while colours are added, so that none below the last one becomes free.
+std::string ColorLibrary::AppendColors(const std::string& groupKey,
+                                       const std::vector<ColorRecord>& colors) {
+    std::string key;
+    int count = GetColorCountInGroup(groupKey);
+    int number = 1;
+    for (const ColorRecord& color : colors) {
+        key = FreeColorKey(groupKey, number, ++count);
+        colors_.Append({color.name, key, groupKey, true, color.values, color.name});
+    }
+    return key;
 }
 
 std::vector<std::string> ColorLibrary::GetGroupInMainnode(const std::string& mainKey) const {
@@ -162,8 +176,8 @@ std::string ColorLibrary::LowestFreeMainKey() const {
     return NumberedMainKey(number);
 }
 
-std::string ColorLibrary::LowestFreeColorKey(const std::string& groupKey, int count) const {
-    int number = 1;
+std::string ColorLibrary::FreeColorKey(const std::string& groupKey, int& number,
+                                       int count) const {
     while (number < count && GetColornodeIndex(groupKey + "E" + std::to_string(number)) != 0)
         ++number;
     return groupKey + "E" + std::to_string(number);

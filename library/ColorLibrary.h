@@ -47,6 +47,10 @@ public:
                       const std::optional<std::string>& name = {},
                       const std::optional<ColorValueArray>& values = {});
 
+    // Appends new colours with these names and values to the group and shows nothing of them; gives
+    // the key of the last one, or nothing.
+    std::string AppendColors(const std::string& groupKey, const std::vector<ColorRecord>& colors);
+
     // Keys of the groups of a main node, in order.
     [[nodiscard]] std::vector<std::string> GetGroupInMainnode(const std::string& mainKey) const;
     [[nodiscard]] int GetColorCountInGroup(const std::string& groupKey) const;
@@ -66,7 +70,9 @@ public:
 
 private:
     [[nodiscard]] std::string LowestFreeMainKey() const;
-    [[nodiscard]] std::string LowestFreeColorKey(const std::string& groupKey, int count) const;
+    // number: is counted on to the first that is free, but not beyond count.
+    [[nodiscard]] std::string FreeColorKey(const std::string& groupKey, int& number,
+                                           int count) const;
     [[nodiscard]] std::string AskName(std::int32_t textNumber, const std::string& preset);
     std::string SelectMainNodeUpwards();
     bool AskAndAddGroup(const std::string& mainKey);

@@ -144,6 +144,8 @@ public:
     virtual void ShowWindow() = 0;
     virtual void SetBanner(int index) = 0; // from 1; 0: none
     virtual void StopBannerTimer() = 0;
+    // The pointer over the window is the hour-glass, as long as nothing is asked.
+    virtual void SetWaiting(bool waiting) = 0;
     virtual void EndProgram() = 0; // leaves the message loop
 };
 
@@ -153,6 +155,7 @@ public:
     virtual ~MainViewEvents() = default;
 
     virtual void RunCommand(int command) = 0; // IDM_ number: menu, toolbar, button menu, shortcut
+    virtual void EscapePressed() = 0;
 
     virtual void NodeClicked(const std::string& key) = 0;
     virtual void NodeLabelEdited(const std::string& key, const std::string& text) = 0;

@@ -1,10 +1,27 @@
 #include "mainwindow/MainWindow.h"
 
+#include "common/InfoTextNumber.h"
 #include "common/ProgramNames.h"
 #include "common/ValueRestorer.h"
 #include "resources/controls.h"
 
 #include <utility>
+
+namespace {
+
+// The hour-glass, for as long as this lives.
+class WaitingShown {
+public:
+    explicit WaitingShown(MainView& view) : view_(view) { view_.SetWaiting(true); }
+    ~WaitingShown() { view_.SetWaiting(false); }
+    WaitingShown(const WaitingShown&) = delete;
+    WaitingShown& operator=(const WaitingShown&) = delete;
+
+private:
+    MainView& view_;
+};
+
+} // namespace
 
 MainWindow::MainWindow(const Parts& parts)
     : parts_(parts), editor_(parts.view, parts.prompts, parts.texts),
@@ -15,7 +32,7 @@ MainWindow::MainWindow(const Parts& parts)
       drag_({parts.view, parts.library.Tree(), editing_, parts.prompts, parts.texts}),
       solidWorks_({parts.solidWorks, parts.library, list_, panes_, editor_, parts.view,
                    parts.prompts, parts.texts, endRequested_}),
-      position_(parts.registry) {
+      position_(parts.registry), busy_(parts.view, parts.texts, parts.events, endRequested_) {
     parts_.library.SetHost(panes_);
     parts_.library.Tree().Observe(&parts_.view);
     parts_.libraryFiles.SetHost(panes_);
@@ -77,6 +94,11 @@ void MainWindow::RunCommand(int command) {
     views_.ShowPressedView();
     if (command == IDM_mnuQuit)
         EndAfterOperation();
+}
+
+void MainWindow::EscapePressed() {
+    if (operationRuns_)
+        parts_.stopFlag = true;
 }
 
 void MainWindow::EndAfterOperation() {
@@ -158,10 +180,19 @@ void MainWindow::AddSolidWorksHandler(int command, void (SolidWorksCommands::*ha
 }
 
 // Calls to SolidWorks let the window handle events; nothing else is commanded until they are over.
+void MainWindow::RunWatched(void (SolidWorksCommands::*handler)()) {
+    const ValueRestorer running(operationRuns_, true);
+    const WaitingShown waiting(parts_.view);
+    const WatchedCalls watched(parts_.retry, busy_);
+    (solidWorks_.*handler)();
+}
+
 void MainWindow::RunSolidWorks(void (SolidWorksCommands::*handler)()) {
+    parts_.view.SetInfoPanelText({});
     try {
-        const ValueRestorer running(operationRuns_, true);
-        (solidWorks_.*handler)();
+        RunWatched(handler);
+    } catch (const OperationStopped&) {
+        parts_.view.SetInfoPanelText(parts_.texts.GetInfoText(InfoTextNumber::SolidWorksStopped));
     } catch (...) {
         // A user who has asked for the end meanwhile is not told what failed.
         if (!endRequested_)

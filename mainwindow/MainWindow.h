@@ -8,6 +8,7 @@
 #include "library/ColorLibrary.h"
 #include "library/FileCommands.h"
 #include "library/LibraryFiles.h"
+#include "mainwindow/BusyStatus.h"
 #include "mainwindow/ColorDrag.h"
 #include "mainwindow/ColorEditor.h"
 #include "mainwindow/ColorList.h"
@@ -40,6 +41,8 @@ public:
         LibraryFiles& libraryFiles;
         FileCommands& fileCommands;
         modSldTools& solidWorks;
+        BusyRetry& retry; // repeats its calls
+        EventPump& events;
         Options& options;
         About& about;
         TextViewer& textViewer;
@@ -64,6 +67,9 @@ public:
     // While a SolidWorks operation runs, every command is refused silently; Quit stops a walk
     // first.  A drag that is under way is given up.
     void RunCommand(int command) override;
+
+    // Stops an operation that runs, also before its progress window is shown.
+    void EscapePressed() override;
 
     void NodeClicked(const std::string& key) override;
     void NodeLabelEdited(const std::string& key, const std::string& text) override;
@@ -114,6 +120,7 @@ private:
     void AddOptionAndHelpHandlers();
     void AddSolidWorksHandler(int command, void (SolidWorksCommands::*handler)());
     void RunSolidWorks(void (SolidWorksCommands::*handler)());
+    void RunWatched(void (SolidWorksCommands::*handler)());
     void EndAfterOperation();
     void EditSelectedNode();
     void PlaceWindow();
@@ -132,4 +139,5 @@ private:
     std::map<int, Handler> handlers_; // by command number
     bool operationRuns_ = false;
     bool endRequested_ = false; // the user wants the program to end as soon as it is over
+    BusyStatus busy_;
 };

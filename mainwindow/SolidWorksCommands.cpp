@@ -14,6 +14,7 @@ namespace {
 constexpr const char* kStatusOkay = "Okay setzen in SolidWorks";
 
 constexpr int kFirstEmission = 10;
+constexpr std::ptrdiff_t kFirstMaterialValue = 3;
 
 struct RefusalText {
     std::string_view resultKey;
@@ -28,6 +29,19 @@ constexpr std::array kRefusalTexts = {
     RefusalText{ResultKey::NoPart, InfoTextNumber::NoPart},
     RefusalText{ResultKey::NoAssembly, InfoTextNumber::NoAssembly},
 };
+
+// The material values come from the editor; the emission tells the place in the table, on purpose,
+// and ends where the editor's range does.
+void CompleteStandardColors(std::vector<ColorRecord>& colors, const ColorValueArray& editor) {
+    constexpr auto emission = static_cast<std::size_t>(ColorValue::Emission);
+    int place = kFirstEmission;
+    for (ColorRecord& color : colors) {
+        std::copy(editor.begin() + kFirstMaterialValue, editor.end(),
+                  color.values.begin() + kFirstMaterialValue);
+        color.values[emission] =
+            static_cast<std::int16_t>(std::min(place++, MaximumOfColorValue(emission)));
+    }
+}
 
 } // namespace
 
@@ -105,10 +119,24 @@ void SolidWorksCommands::mnuSWXClearColorAssembly_Click() {
     Report(parts_.tools.SWXClearColorAssembly());
 }
 
+// The table is read first; meanwhile the user may click on another node or type into the editor, but
+// what counts is what was there before.
 void SolidWorksCommands::mnuSWXGetStandardColor_Click() {
+    LibraryTree& tree = parts_.library.Tree();
+    const std::string selected = tree.Selected();
+    const ColorValueArray shown = parts_.editor.Values();
     std::vector<ColorRecord> colors;
-    if (!ReportRefusal(parts_.tools.SWXGetStandardColors(colors)))
+    const std::string result = parts_.tools.SWXGetStandardColors(colors);
+    if (ReportRefusal(result) || parts_.endRequested)
+        return;
+    const bool isStopped = result == ResultKey::ProgressStopped;
+    if (tree.Selected() != selected && tree.Find(selected))
+        tree.Select(selected);
+    CompleteStandardColors(colors, shown);
+    if (!isStopped || !colors.empty())
         ImportStandardColors(colors);
+    if (isStopped)
+        ShowMessage(result);
 }
 
 void SolidWorksCommands::ImportStandardColors(const std::vector<ColorRecord>& colors) {
@@ -123,21 +151,11 @@ void SolidWorksCommands::ImportStandardColors(const std::vector<ColorRecord>& co
     tree.SetTag(mainKey, kUnsavedTag); // not when there is no group: then all is as it was
     tree.Expand(mainKey);
     tree.Select(groupKey);
-    parts_.panes.ShowSelectedGroup();
-    int index = 0;
-    for (const ColorRecord& color : colors)
-        ImportStandardColor(color, index++, groupKey);
-}
-
-// The emission tells the place in the table, on purpose; the editor's range ends it at 100.
-void SolidWorksCommands::ImportStandardColor(const ColorRecord& color, int index,
-                                             const std::string& groupKey) {
-    parts_.library.NewColorNode(groupKey, color.name);
-    parts_.editor.SetName(color.name);
-    parts_.editor.SetRedGreenBlue({color.values[0], color.values[1], color.values[2]});
-    parts_.editor.SetText(static_cast<std::size_t>(ColorValue::Emission),
-                          std::to_string(index + kFirstEmission));
-    parts_.panes.UpdateFromColorPreview();
+    const std::string lastKey = parts_.library.AppendColors(groupKey, colors);
+    if (lastKey.empty())
+        parts_.panes.ShowSelectedGroup();
+    else
+        parts_.panes.ShowColorNodes(groupKey, lastKey);
 }
 
 void SolidWorksCommands::mnuSWXSetStandardColor_Click() {

@@ -52,8 +52,8 @@ private:
     bool ReportRefusal(const std::string& resultKey);
     void ShowMessage(const std::string& text);
     [[nodiscard]] ColorRecord ColorOfEditor() const;
+    // colors: with all nine values.
     void ImportStandardColors(const std::vector<ColorRecord>& colors);
-    void ImportStandardColor(const ColorRecord& color, int index, const std::string& groupKey);
 
     Parts parts_;
 };

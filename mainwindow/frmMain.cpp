@@ -126,6 +126,11 @@ MessageResult frmMain::OnMessage(const WindowMessage& message) {
             events_->FilesDropped(files);
         return 0;
     }
+    case WM_SETCURSOR: // the controls ask here before they show their own
+        if (!ShowsWaiting())
+            return {};
+        WaitCursor::Show();
+        return TRUE;
     case WM_ENDSESSION: // the session ends without asking for the close box
         if (message.wParam != FALSE)
             events_->SessionEnding();
@@ -138,6 +143,11 @@ MessageResult frmMain::OnMessage(const WindowMessage& message) {
 void frmMain::OnMenuCommand(int command) {
     if (events_ != nullptr && MainBars::IsMenuCommand(command))
         events_->RunCommand(command);
+}
+
+void frmMain::OnCancelKey() {
+    if (events_ != nullptr)
+        events_->EscapePressed();
 }
 
 void frmMain::OnCloseBox() {
@@ -415,6 +425,18 @@ void frmMain::PlaceBanner() {
 
 void frmMain::StopBannerTimer() {
     KillTimer(Handle(), kBannerTimer);
+}
+
+void frmMain::SetWaiting(bool waiting) {
+    if (waiting)
+        waiting_.emplace();
+    else
+        waiting_.reset();
+}
+
+// A disabled window waits for a question, and its user's answer.
+bool frmMain::ShowsWaiting() const noexcept {
+    return waiting_.has_value() && IsWindowEnabled(Handle()) != FALSE;
 }
 
 void frmMain::EndProgram() {

@@ -15,8 +15,10 @@
 #include "platform/controls/TreeView.h"
 #include "platform/Form.h"
 #include "platform/Shortcuts.h"
+#include "platform/WaitCursor.h"
 
 #include <array>
+#include <optional>
 
 // The main window.  It shows what it is told and reports what the user did; it decides nothing.
 class frmMain : public FormOf<MainView, FormWindow, LocalizableForm> {
@@ -79,13 +81,14 @@ public:
     void ShowWindow() override;
     void SetBanner(int index) override;
     void StopBannerTimer() override;
+    void SetWaiting(bool waiting) override;
     void EndProgram() override;
 
 protected:
     MessageResult OnMessage(const WindowMessage& message) override;
     void OnMenuCommand(int command) override;
     void OnCloseBox() override;
-    void OnCancelKey() override {} // Escape does not close the main window
+    void OnCancelKey() override; // does not close the main window
     void OnScaleChanged() override;
     void OnLayout() override;
     bool TranslateShortcut(MSG& message) override;
@@ -100,6 +103,8 @@ private:
     void FollowSize();
     void FocusNextPane(bool backwards);
     void PlaceBanner();
+
+    [[nodiscard]] bool ShowsWaiting() const noexcept;
 
     const BannerPictures& banners_;
     MainViewEvents* events_ = nullptr; // until it is attached, there is nothing to report
@@ -121,6 +126,7 @@ private:
     SolidBar& picSplitter_;
     Label& lblDrag_;
     MainDrag drag_;
+    std::optional<WaitCursor> waiting_;
     std::array<HiddenCaption, 3> accessibleNames_ = {
         Announce(tlbarMain_, "nameToolbar", "Symbolleiste"),
         Announce(tvColor_, "nameTree", "Bibliotheken und Gruppen"),

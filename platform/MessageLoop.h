@@ -15,4 +15,5 @@ void RunModalLoop(const std::function<bool()>& isDone);
 class Win32EventPump : public EventPump {
 public:
     void ProcessPendingEvents() override;
+    [[nodiscard]] bool ProcessEventsWithoutInput() override;
 };

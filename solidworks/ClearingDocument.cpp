@@ -6,12 +6,23 @@
 #include "solidworks/WalkProgress.h"
 #include "solidworks/modSldTools.h"
 
+#include <algorithm>
+#include <limits>
+
 // Taking colours off a whole part or assembly, so that objects show the colour of their parent
 // again.
 
 namespace {
 
 constexpr const char* kChildren = "GetChildren";
+
+// Counts of another program may be anything.
+std::int32_t BoundedSum(std::int32_t left, std::int32_t right) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    const std::int64_t sum = std::int64_t{left} + right;
+    return static_cast<std::int32_t>(
+        std::clamp<std::int64_t>(sum, Limits::min(), Limits::max()));
+}
 
 void ClearFeatures(AutomationObject& document, WalkProgress& walk) {
     for (AutomationObjectPtr feature = document.Get("FirstFeature").AsObject(); feature;
@@ -69,7 +80,8 @@ std::string modSldTools::SWXClearColorPart() {
     document.Invoke("ClearSelection", {});
     const std::int32_t faceCount = body->Get("GetFaceCount").AsInt32();
     const std::int32_t featureCount = document.Get("GetFeatureCount").AsInt32();
-    if (!Walk(InfoTextNumber::ClearingPart, faceCount + featureCount, [&](WalkProgress& walk) {
+    const std::int32_t items = BoundedSum(faceCount, featureCount);
+    if (!Walk(InfoTextNumber::ClearingPart, items, [&](WalkProgress& walk) {
             ClearFeatures(document, walk);
             ClearFaces(document, *body, walk);
         }))

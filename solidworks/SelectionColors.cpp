@@ -17,12 +17,13 @@ constexpr const char* kValues = "MaterialPropertyValues";
 constexpr const char* kNameOfReadColor = "Neuer Farbwert";
 
 // Asks one source of a colour.  A call that fails is a source without a usable array, unless
-// SolidWorks itself is gone.
+// SolidWorks itself is gone or the user has given up.
 AutomationAnswer Probe(const std::function<AutomationAnswer()>& source) {
     try {
         return source();
     } catch (const RuntimeError& error) {
-        if (error.Number() == ErrorNumber::ConnectionLost)
+        if (error.Number() == ErrorNumber::ConnectionLost ||
+            error.Number() == ErrorNumber::UserInterrupt)
             throw;
         return {};
     }

@@ -4,6 +4,7 @@
 #include "common/Text.h"
 #include "solidworks/ResultKey.h"
 #include "solidworks/SolidWorksSession.h"
+#include "solidworks/WalkProgress.h"
 #include "solidworks/modSldTools.h"
 
 #include <limits>
@@ -42,15 +43,23 @@ void WriteEntry(AutomationObject& table, std::int32_t index, const ColorRecord& 
 } // namespace
 
 std::string modSldTools::SWXGetStandardColors(std::vector<ColorRecord>& colors) {
+    ports_.stopFlag = false;
     SolidWorksSession session(ports_.service);
     if (std::string refusal = session.TakeDocument(DocumentDemand::Any); !refusal.empty())
         return refusal;
     const AutomationObjectPtr table = RequiredObject(session.Document().Get("GetColorTable"));
     const std::int32_t count = table->Get("GetStandardCount").AsInt32();
     colors.clear();
-    for (std::int32_t index = 0; index < count; ++index)
-        colors.push_back(ReadEntry(*table, index));
-    return ResultKey::StandardColorsOkay;
+    const auto readEntries = [&](WalkProgress& walk) {
+        for (std::int32_t index = 0; index < count; ++index) {
+            walk.BeginItem();
+            colors.push_back(ReadEntry(*table, index));
+            walk.Advance();
+        }
+    };
+    return Walk(InfoTextNumber::ReadingStandardColors, count, readEntries)
+               ? ResultKey::StandardColorsOkay
+               : ResultKey::ProgressStopped;
 }
 
 std::string modSldTools::SWXSetStandardColors(const std::vector<ColorRecord>& colors) {

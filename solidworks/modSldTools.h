@@ -56,7 +56,8 @@ public:
     // not descend, on purpose: sub-assemblies keep the colours of their own components.
     std::string SWXClearColorAssembly();
 
-    // Names and red, green, blue of the colour table's standard colours.
+    // Names and red, green, blue of the colour table's standard colours; those that were read so
+    // far when the user stops it.
     std::string SWXGetStandardColors(std::vector<ColorRecord>& colors);
 
     // Writes red, green and blue into the colour table, entry by entry, where the names agree.

@@ -11,6 +11,7 @@ constexpr int kMargin = 12;
 constexpr int kBarHeight = 18;
 
 constexpr UINT_PTR kPatienceTimer = 1;
+constexpr UINT kPatienceTick = 50; // milliseconds
 constexpr unsigned kFewSteps = 64;
 
 FormDesign DesignFor(HWND owner) {
@@ -19,8 +20,9 @@ FormDesign DesignFor(HWND owner) {
 
 } // namespace
 
-frmProgress::frmProgress(HWND owner, ErrorSink& errors, std::chrono::milliseconds patience)
-    : FormOf(DesignFor(owner), errors), patience_(patience),
+frmProgress::frmProgress(HWND owner, ErrorSink& errors, const WaitingClock& clock,
+                         std::chrono::milliseconds patience)
+    : FormOf(DesignFor(owner), errors), clock_(clock), patience_(patience),
       lblInfo_(Add<Label>(At("lblInfo", IDC_lblInfo), LabelText::Plain)),
       prbMain_(Add<ProgressBar>(At("prbMain", IDC_prbMain))),
       cmdCancel_(Add<CommandButton>(At("cmdCancel", IDC_cmdCancel))) {
@@ -36,11 +38,11 @@ void frmProgress::ShowProgress(const std::string& label, std::int32_t minimum,
     minimum_ = minimum;
     maximum_ = maximum;
     value_ = minimum;
-    due_ = GetTickCount64() + static_cast<ULONGLONG>(patience_.count());
+    due_ = clock_.Now() + patience_;
     waiting_ = true;
     steps_ = 0;
     // An operation that lets the window handle events is seen by the timer, any other by its steps.
-    SetTimer(Handle(), kPatienceTimer, static_cast<UINT>(patience_.count()), nullptr);
+    SetTimer(Handle(), kPatienceTimer, kPatienceTick, nullptr);
     if (IsWindowVisible(Handle()) != FALSE)
         Appear();
     else
@@ -48,7 +50,7 @@ void frmProgress::ShowProgress(const std::string& label, std::int32_t minimum,
 }
 
 void frmProgress::AppearWhenDue() {
-    if (waiting_ && GetTickCount64() >= due_)
+    if (waiting_ && clock_.Now() >= due_)
         Appear();
 }
 

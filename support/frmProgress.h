@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/ports/ProgressView.h"
+#include "common/ports/WaitingClock.h"
 #include "platform/controls/CommandButton.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/ProgressBar.h"
@@ -16,7 +17,8 @@ class frmProgress : public FormOf<ProgressView, FormWindow, LocalizableForm> {
 public:
     // Makes the window, hidden.  patience: how long an operation runs before its window appears;
     // the window of one that is over at once would only flash.
-    frmProgress(HWND owner, ErrorSink& errors, std::chrono::milliseconds patience = {});
+    frmProgress(HWND owner, ErrorSink& errors, const WaitingClock& clock,
+                std::chrono::milliseconds patience = {});
 
     void Attach(ProgressEvents& events) { events_ = &events; }
 
@@ -37,8 +39,9 @@ private:
 
     [[nodiscard]] ControlPlace At(const char* name, int id) const { return {name, id, Handle()}; }
 
+    const WaitingClock& clock_;
     const std::chrono::milliseconds patience_;
-    ULONGLONG due_ = 0; // when it appears, on the clock of GetTickCount64
+    std::chrono::milliseconds due_{}; // when it appears
     bool waiting_ = false;
     unsigned steps_ = 0; // while it waits
     std::string label_;

@@ -18,6 +18,16 @@ constexpr DWORD kTreeStyle =
 
 constexpr int kIconSize = 16;
 
+constexpr UINT kDrawAgainMessage = WM_APP + 20;
+
+// Whether the message may come before the nodes that were just added are arranged and drawn.
+bool MayComeBeforeDrawing(UINT message) noexcept {
+    const bool isOfTree = message >= TV_FIRST && message < TV_FIRST + 0x100;
+    const bool isInput = (message >= WM_KEYFIRST && message <= WM_KEYLAST) ||
+                         (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
+    return message == TVM_INSERTITEMW || !(isOfTree || isInput || message == kDrawAgainMessage);
+}
+
 } // namespace
 
 TreeView::TreeView(Form& form, const ControlPlace& place, IconList& images)
@@ -41,6 +51,7 @@ void TreeView::ApplyColors() {
 
 void TreeView::AddNode(const std::string& key, const std::string& parentKey,
                        const std::string& text, const std::string& image) {
+    PauseDrawing();
     const auto place = items_.emplace(key, nullptr).first;
     std::wstring wide = ToUtf16(text);
     TVINSERTSTRUCTW node{};
@@ -52,6 +63,22 @@ void TreeView::AddNode(const std::string& key, const std::string& parentKey,
     node.item.iSelectedImage = node.item.iImage;
     node.item.lParam = reinterpret_cast<LPARAM>(&place->first);
     place->second = reinterpret_cast<HTREEITEM>(Send(TVM_INSERTITEMW, 0, &node));
+}
+
+// Nodes often come in thousands; to arrange and draw the tree after each would take longer than all
+// the rest.  The tree is drawn again before anything but the next node.
+void TreeView::PauseDrawing() {
+    if (std::exchange(drawingPaused_, true))
+        return;
+    Send(WM_SETREDRAW, FALSE);
+    PostMessageW(Handle(), kDrawAgainMessage, 0, 0);
+}
+
+void TreeView::ResumeDrawing() {
+    if (!std::exchange(drawingPaused_, false))
+        return;
+    Send(WM_SETREDRAW, TRUE);
+    InvalidateRect(Handle(), nullptr, TRUE);
 }
 
 void TreeView::RemoveNode(const std::string& key) {
@@ -200,7 +227,11 @@ void TreeView::EndLabelEdit(const NMTVDISPINFOW& info) {
 }
 
 MessageResult TreeView::OnMessage(const WindowMessage& message) {
+    if (drawingPaused_ && !MayComeBeforeDrawing(message.id))
+        ResumeDrawing();
     switch (message.id) {
+    case kDrawAgainMessage:
+        return 0;
     case WM_LBUTTONDOWN: {
         // A click on the selected node changes nothing in the control, but it is a click.
         const HTREEITEM hit = ItemAt(PointOf(message));

@@ -44,6 +44,8 @@ protected:
     MessageResult OnMessage(const WindowMessage& message) override;
 
 private:
+    void PauseDrawing();
+    void ResumeDrawing();
     [[nodiscard]] HTREEITEM Find(const std::string& key) const; // null: there is none
     [[nodiscard]] std::string KeyOf(HTREEITEM item) const;      // empty: there is none
     [[nodiscard]] HTREEITEM Selected() const;
@@ -60,4 +62,5 @@ private:
     bool silent_ = false;                              // the program itself changes the selection
     LabelEdit label_;
     bool editing_ = false;
+    bool drawingPaused_ = false;
 };

@@ -26,10 +26,17 @@ std::wstring ClassKey(const CLSID& classId) {
     return L"CLSID\\" + TextOf(classId);
 }
 
+// The key is gone with the system's next start, also when nobody takes it away.
 bool WriteText(HKEY root, const std::wstring& key, const std::wstring& text) {
+    HKEY opened = nullptr;
+    if (RegCreateKeyExW(root, key.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_SET_VALUE, nullptr,
+                        &opened, nullptr) != ERROR_SUCCESS)
+        return false;
     const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-    return RegSetKeyValueW(root, key.c_str(), nullptr, REG_SZ, text.c_str(), bytes) ==
-           ERROR_SUCCESS;
+    const LSTATUS result = RegSetValueExW(opened, nullptr, 0, REG_SZ,
+                                          reinterpret_cast<const BYTE*>(text.c_str()), bytes);
+    RegCloseKey(opened);
+    return result == ERROR_SUCCESS;
 }
 
 std::wstring ReadText(HKEY root, const std::wstring& key) {

@@ -20,6 +20,12 @@ AutomationArray ReadArguments(const DISPPARAMS& parameters) {
     return arguments;
 }
 
+// Whoever assigns a property says which argument is the new value.
+bool NamesNewValue(const DISPPARAMS& parameters) noexcept {
+    return parameters.cNamedArgs == 1 && parameters.rgdispidNamedArgs != nullptr &&
+           parameters.rgdispidNamedArgs[0] == DISPID_PROPERTYPUT;
+}
+
 } // namespace
 
 HRESULT STDMETHODCALLTYPE ServedObject::GetTypeInfoCount(UINT* count) {
@@ -66,7 +72,10 @@ HRESULT STDMETHODCALLTYPE ServedObject::Invoke(DISPID id, REFIID /*reserved*/, L
     if (parameters == nullptr)
         return E_INVALIDARG;
     try {
-        if ((flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0)
+        const bool assigns = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
+        if (assigns && !NamesNewValue(*parameters))
+            return DISP_E_PARAMNOTFOUND;
+        if (assigns)
             Assign(*member, *parameters);
         else if (parameters->cNamedArgs != 0)
             return DISP_E_NONAMEDARGS;

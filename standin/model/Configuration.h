@@ -2,7 +2,7 @@
 
 #include "standin/model/Component.h"
 
-// A configuration of an assembly: knows the root component, which may be missing.
+// A configuration of a part or an assembly: knows the root component, which parts do not have.
 class Configuration final : public WithMembers<Configuration, StandInObject> {
 public:
     explicit Configuration(std::shared_ptr<Component> root) : root_(std::move(root)) {}

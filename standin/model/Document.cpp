@@ -54,7 +54,3 @@ void Document::ClearSelection() {
     selection_.Clear();
     session_->events.Changed();
 }
-
-std::shared_ptr<Configuration> Document::ActiveConfiguration() const {
-    return nullptr;
-}

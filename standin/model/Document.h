@@ -60,7 +60,7 @@ protected:
 
     // How an entity is seen in this document: through which component, or not at all.
     [[nodiscard]] virtual std::optional<SelectedItem> Locate(const EntityPtr& entity) const = 0;
-    [[nodiscard]] virtual std::shared_ptr<Configuration> ActiveConfiguration() const;
+    [[nodiscard]] virtual std::shared_ptr<Configuration> ActiveConfiguration() const = 0;
 
 private:
     friend struct DocumentMembers;

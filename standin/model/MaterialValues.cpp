@@ -6,10 +6,18 @@
 
 namespace {
 
+// The run-time error for an argument that a member does not take.
+constexpr int kInvalidArgument = 5;
+
 void RequireNine(std::size_t count) {
     if (count != kColorValueCount)
         throw RuntimeError(ErrorNumber::TypeMismatch,
                            "A colour is an array of 9 numbers, not of " + std::to_string(count));
+}
+
+void RequireRange(double value) {
+    if (!(value >= 0 && value <= 1)) // neither what is not a number
+        throw RuntimeError(kInvalidArgument, "A colour's numbers are from 0 to 1");
 }
 
 } // namespace
@@ -32,5 +40,6 @@ MaterialValues ReadMaterialValues(const AutomationValue& value) {
     } else {
         throw RuntimeError(ErrorNumber::TypeMismatch, "A colour is an array of 9 numbers");
     }
+    std::for_each(result.begin(), result.end(), RequireRange);
     return result;
 }

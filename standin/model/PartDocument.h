@@ -1,6 +1,7 @@
 #pragma once
 
 #include "standin/model/Body.h"
+#include "standin/model/Configuration.h"
 #include "standin/model/DisplayColor.h"
 #include "standin/model/Document.h"
 #include "standin/model/Edge.h"
@@ -36,11 +37,15 @@ public:
 
 protected:
     [[nodiscard]] std::optional<SelectedItem> Locate(const EntityPtr& entity) const override;
+    [[nodiscard]] std::shared_ptr<Configuration> ActiveConfiguration() const override {
+        return configuration_;
+    }
 
 private:
     PartDocument(const SessionPtr& session, const std::string& title)
         : Document(session, DocumentType::Part, title) {}
 
+    std::shared_ptr<Configuration> configuration_ = std::make_shared<Configuration>(nullptr);
     std::shared_ptr<::Body> body_;
     std::vector<std::shared_ptr<Face>> faces_;
     std::vector<std::shared_ptr<Edge>> edges_;

@@ -236,7 +236,7 @@ void Walk(std::string (modSldTools::*operation)(), EventPump& events) {
     FakePrompts prompts;
     FakeTexts texts;
     RecordingErrorSink errors;
-    frmProgress progress(nullptr, errors, patience);
+    frmProgress progress(nullptr, errors, clock, patience);
     bool stopFlag = false;
     modSldTools tools({automation, retry, prompts, texts, progress, events, stopFlag});
     if ((tools.*operation)() != ResultKey::Okay)

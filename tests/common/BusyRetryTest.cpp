@@ -3,6 +3,8 @@
 #include "tests/fakes/FakeWaitingClock.h"
 
 #include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 using namespace std::chrono_literals;
 
@@ -78,4 +80,101 @@ TEST(BusyRetry, StopHoldsOnlyWhileTheCallsAreStoppable) {
     }
     int attempts = 0;
     EXPECT_NO_THROW(retry.RepeatWhileBusy([&] { return ++attempts < 2; }));
+}
+
+namespace {
+
+// Keeps what it is told, and gives up when it is asked for the given time.
+class RecordingWatch : public BusyWatch {
+public:
+    void BusyBegins() override { told.emplace_back("busy"); }
+    void BusyEnds() override { told.emplace_back("over"); }
+    bool DropInput() override { return ++drops == givesUpAt; }
+
+    std::vector<std::string> told;
+    int drops = 0;
+    int givesUpAt = 0; // never
+};
+
+} // namespace
+
+TEST(BusyRetry, WatchIsToldOnceForEachCallThatIsRejected) {
+    FakeWaitingClock clock;
+    BusyRetry retry(clock);
+    RecordingWatch watch;
+    const WatchedCalls watched(retry, watch);
+    int attempts = 0;
+    retry.RepeatWhileBusy([&] { return ++attempts < 4; });
+    EXPECT_EQ(watch.told, (std::vector<std::string>{"busy", "over"}));
+    EXPECT_EQ(watch.drops, 4) << "after each rejection, and when the call was taken";
+}
+
+TEST(BusyRetry, WatchIsNotTroubledByCallsThatAreTakenAtOnce) {
+    FakeWaitingClock clock;
+    BusyRetry retry(clock);
+    RecordingWatch watch;
+    const WatchedCalls watched(retry, watch);
+    retry.RepeatWhileBusy([] { return false; });
+    EXPECT_TRUE(watch.told.empty());
+    EXPECT_EQ(watch.drops, 0);
+}
+
+TEST(BusyRetry, InputOfACallThatTookASecondIsDroppedToo) {
+    FakeWaitingClock clock;
+    BusyRetry retry(clock);
+    RecordingWatch watch;
+    watch.givesUpAt = 2;
+    const WatchedCalls watched(retry, watch);
+    const auto callTaking = [&](std::chrono::milliseconds time) {
+        retry.RepeatWhileBusy([&] {
+            clock.now += time;
+            return false;
+        });
+    };
+    callTaking(999ms);
+    EXPECT_EQ(watch.drops, 0);
+    callTaking(1000ms);
+    EXPECT_EQ(watch.drops, 1);
+    EXPECT_THROW(callTaking(5s), OperationStopped) << "Escape is seen";
+}
+
+TEST(BusyRetry, GivingUpEndsTheWaitAndTheWatchIsTold) {
+    FakeWaitingClock clock;
+    BusyRetry retry(clock);
+    RecordingWatch watch;
+    watch.givesUpAt = 3;
+    const WatchedCalls watched(retry, watch);
+    EXPECT_THROW(retry.RepeatWhileBusy([] { return true; }), OperationStopped);
+    EXPECT_EQ(clock.waits.size(), 2U);
+    EXPECT_EQ(watch.told, (std::vector<std::string>{"busy", "over"}));
+}
+
+TEST(BusyRetry, WatchIsToldTheEndAlsoWhenTheCallFails) {
+    FakeWaitingClock clock;
+    BusyRetry retry(clock);
+    RecordingWatch watch;
+    const WatchedCalls watched(retry, watch);
+    int attempts = 0;
+    EXPECT_THROW(retry.RepeatWhileBusy([&]() -> bool {
+        if (++attempts == 2)
+            throw 1;
+        return true;
+    }),
+                 int);
+    EXPECT_EQ(watch.told, (std::vector<std::string>{"busy", "over"}));
+}
+
+TEST(BusyRetry, StoppableCallsKeepTheirInput) {
+    FakeWaitingClock clock;
+    BusyRetry retry(clock);
+    RecordingWatch watch;
+    const WatchedCalls watched(retry, watch);
+    const StoppableCalls stoppable(retry, [] { return false; });
+    int attempts = 0;
+    retry.RepeatWhileBusy([&] {
+        clock.now += 2s;
+        return ++attempts < 3;
+    });
+    EXPECT_EQ(watch.drops, 0);
+    EXPECT_EQ(watch.told, (std::vector<std::string>{"busy", "over"}));
 }

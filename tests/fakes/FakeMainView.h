@@ -34,6 +34,7 @@ public:
         if (rowsChangeFails)
             throw RuntimeError(ErrorNumber::Overflow, "Overflow");
         rowCount = count;
+        ++rowChanges;
         selectedRow = -1;
     }
     void SelectRow(int row) override { selectedRow = row; }
@@ -103,6 +104,11 @@ public:
     void ShowWindow() override { isShown = true; }
     void SetBanner(int index) override { banner = index; }
     void StopBannerTimer() override { isBannerStopped = true; }
+    void SetWaiting(bool waiting) override {
+        isWaiting = waiting;
+        if (waiting)
+            ++waits;
+    }
     void EndProgram() override { isEnded = true; }
 
     std::map<std::string, std::string> nodes; // text by key
@@ -112,6 +118,7 @@ public:
     float listWidth = 6000;
     std::vector<ListColumn> columns;
     int rowCount = 0;
+    int rowChanges = 0; // reported
     bool rowsChangeFails = false;
     int selectedRow = -1;
     int visibleRow = -1;
@@ -147,5 +154,7 @@ public:
     bool isShown = false;
     int banner = -1;
     bool isBannerStopped = false;
+    bool isWaiting = false;
+    int waits = 0; // that were begun
     bool isEnded = false;
 };

@@ -38,6 +38,13 @@ public:
             onEvents();
     }
 
+    bool ProcessEventsWithoutInput() override {
+        ++drops;
+        return onDrop && onDrop();
+    }
+
     int count = 0;
     std::function<void()> onEvents;
+    int drops = 0;               // of input
+    std::function<bool()> onDrop; // whether Escape was pressed
 };

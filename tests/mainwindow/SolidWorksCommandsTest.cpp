@@ -641,6 +641,160 @@ TEST_F(SolidWorksCommandsTest, StopIsSeenWhileAWalkWaitsForABusySolidWorks) {
     EXPECT_FALSE(program->progress.isShown);
 }
 
+TEST_F(SolidWorksCommandsTest, BusySolidWorksIsToldInTheStatusPanelUntilItAnswers) {
+    program->solidWorks.Gate().AddFault(ParseFault("1:busy:2"));
+    std::vector<std::string> panels;
+    program->events.onDrop = [&] {
+        panels.push_back(program->view.infoPanel);
+        return false;
+    };
+    Run(IDM_mnuSWXSetColor);
+    EXPECT_EQ(panels, (std::vector<std::string>{"<160>", "<160>", ""}));
+    EXPECT_EQ(program->view.infoPanel, "Okay setzen in SolidWorks");
+}
+
+TEST_F(SolidWorksCommandsTest, EscapeGivesUpABusySolidWorksInEveryCommand) {
+    for (const int command : kAllCommands) {
+        Start(command == IDM_mnuSWXSetColorComponent ||
+                      command == IDM_mnuSWXClearComponentColorFromSelection ||
+                      command == IDM_mnuSWXClearColorAssembly
+                  ? "assembly"
+                  : "default");
+        program->prompts.typed = {"new"};
+        program->solidWorks.Gate().AddFault(ParseFault("2:busy:always"));
+        program->events.onDrop = [&] { return program->events.drops == 3; };
+        EXPECT_NO_THROW(Run(command));
+        EXPECT_EQ(program->solidWorks.Gate().RejectedCalls(), 3U);
+        EXPECT_EQ(program->view.infoPanel, "<161>");
+        EXPECT_TRUE(program->prompts.messages.empty());
+        EXPECT_EQ(program->solidWorks.Gate().LiveObjects(), 0U);
+    }
+}
+
+TEST_F(SolidWorksCommandsTest, GivingUpWhileAColorIsReadLeavesTheEditorAsItIs) {
+    Select(Client().Face(0));
+    const std::string name = program->view.colorName;
+    program->solidWorks.Gate().ClearFaults();
+    program->solidWorks.Gate().AddFault(ParseFault("7:busy:always")); // the face's colour
+    program->events.onDrop = [] { return true; };
+    Run(IDM_mnuSWXGetColor);
+    EXPECT_EQ(program->solidWorks.Gate().RejectedCalls(), 1U) << "and no other source is asked";
+    EXPECT_EQ(program->view.colorName, name);
+    EXPECT_EQ(program->view.infoPanel, "<161>");
+}
+
+TEST_F(SolidWorksCommandsTest, QuitWhileSolidWorksIsBusyWaitsNoLonger) {
+    program->solidWorks.Gate().AddFault(ParseFault("2:busy:always"));
+    program->events.onDrop = [&] {
+        Run(IDM_mnuQuit);
+        return false;
+    };
+    Run(IDM_mnuSWXSetColor);
+    EXPECT_EQ(program->solidWorks.Gate().RejectedCalls(), 1U);
+    EXPECT_TRUE(program->view.isEnded);
+    EXPECT_TRUE(program->prompts.messages.empty());
+}
+
+TEST_F(SolidWorksCommandsTest, CommandsGivenWhileSolidWorksIsBusyAreNotRunAfterwards) {
+    program->solidWorks.Gate().AddFault(ParseFault("2:busy:3"));
+    program->events.onDrop = [&] {
+        Run(IDM_mnuSWXSetColor);
+        return false;
+    };
+    Run(IDM_mnuSWXSetColor);
+    EXPECT_EQ(program->solidWorks.Part().RebuildCount(), 1);
+}
+
+TEST_F(SolidWorksCommandsTest, PointerIsAnHourGlassForAsLongAsACommandRuns) {
+    bool isWaiting = false;
+    program->solidWorks.Log().SetListener(
+        [&](const CallRecord&) { isWaiting = program->view.isWaiting; });
+    for (const int command : kAllCommands) {
+        program->prompts.typed = {"new"};
+        isWaiting = false;
+        Run(command);
+        EXPECT_TRUE(isWaiting);
+        EXPECT_FALSE(program->view.isWaiting);
+    }
+    program->solidWorks.Log().SetListener(nullptr);
+}
+
+TEST_F(SolidWorksCommandsTest, PointerIsNoHourGlassAnyMoreAfterACallHasFailed) {
+    program->solidWorks.Gate().AddFault(ParseFault("2:error"));
+    EXPECT_THROW(Run(IDM_mnuSWXSetColor), RuntimeError);
+    EXPECT_EQ(program->view.waits, 1);
+    EXPECT_FALSE(program->view.isWaiting);
+}
+
+TEST_F(SolidWorksCommandsTest, EscapeStopsAWalkBeforeItsWindowIsShown) {
+    program->events.onEvents = [&] {
+        if (program->events.count == 2)
+            program->Main().EscapePressed();
+    };
+    Run(IDM_mnuSWXClearColorPart);
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"ProgressStopped", 64, kTitle}}));
+    EXPECT_EQ(program->events.count, 2);
+}
+
+TEST_F(SolidWorksCommandsTest, EscapeWithoutACommandStopsNothing) {
+    program->Main().EscapePressed();
+    Run(IDM_mnuSWXGetStandardColor);
+    EXPECT_EQ(program->view.rowCount, 12);
+    EXPECT_TRUE(program->prompts.messages.empty());
+}
+
+TEST_F(SolidWorksCommandsTest, StoppedImportKeepsWhatItHasReadAndSaysSo) {
+    program->events.onEvents = [&] {
+        if (program->events.count == 4)
+            program->application.ProgressWindowEvents().StopClicked();
+    };
+    Run(IDM_mnuSWXGetStandardColor);
+    EXPECT_EQ(program->view.rowCount, 3);
+    EXPECT_EQ(Row(2).at(9), "12");
+    EXPECT_EQ(program->view.selectedRow, 2);
+    EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"ProgressStopped", 64, kTitle}}));
+    EXPECT_TRUE(IsMarkedAsChanged());
+}
+
+TEST_F(SolidWorksCommandsTest, ImportThatIsStoppedBeforeItsFirstColorMakesNoGroup) {
+    const auto nodes = program->view.nodes;
+    program->events.onEvents = [&] { program->Main().EscapePressed(); };
+    Run(IDM_mnuSWXGetStandardColor);
+    EXPECT_EQ(program->view.nodes, nodes);
+    EXPECT_FALSE(IsMarkedAsChanged());
+}
+
+TEST_F(SolidWorksCommandsTest, ImportGoesToTheNodeThatWasSelectedWhenItBegan) {
+    program->prompts.typed = {"Second", "", ""};
+    Run(IDM_mnuColorNewMainNode);
+    program->Main().NodeClicked("0DG1");
+    TypeValue(4, "33");
+    program->events.onEvents = [&] {
+        program->Main().NodeClicked("1D");
+        TypeValue(4, "44");
+    };
+    Run(IDM_mnuSWXGetStandardColor);
+    EXPECT_EQ(program->view.selectedNode, "0DG2");
+    EXPECT_EQ(Row(0).at(5), "33");
+}
+
+TEST_F(SolidWorksCommandsTest, QuitDuringAnImportImportsNothing) {
+    const auto nodes = program->view.nodes;
+    program->events.onEvents = [&] { Run(IDM_mnuQuit); };
+    Run(IDM_mnuSWXGetStandardColor);
+    EXPECT_TRUE(program->view.isEnded);
+    EXPECT_EQ(program->view.nodes, nodes);
+    EXPECT_TRUE(program->prompts.messages.empty());
+}
+
+TEST_F(SolidWorksCommandsTest, ImportFillsTheListOnceHoweverLongTheTableIs) {
+    Start("standard-colors=500");
+    const int before = program->view.rowChanges;
+    Run(IDM_mnuSWXGetStandardColor);
+    EXPECT_EQ(program->view.rowCount, 500);
+    EXPECT_EQ(program->view.rowChanges, before + 1);
+}
+
 TEST_F(SolidWorksCommandsTest, CommandsWorkAgainAfterSolidWorksWasClosedAndStartedAnew) {
     Run(IDM_mnuSWXSetColor);
     program->service.SetRunning(false);

@@ -206,6 +206,15 @@ TEST_F(ClearColorPart, BusyRebuildAfterTheWalkIsNoMoreStopped) {
     EXPECT_EQ(model->Part().RebuildCount(), 1);
 }
 
+TEST_F(ClearColorPart, CountsThatNoNumberHoldsTogetherFillTheWholeBar) {
+    automation->onAnswer = [](const std::string& member, AutomationValue& answer) {
+        if (member == "GetFaceCount" || member == "GetFeatureCount")
+            answer = std::int32_t{2'000'000'000};
+    };
+    EXPECT_EQ(tools->SWXClearColorPart(), "okay");
+    EXPECT_EQ(progress.calls.front(), "show <62> 0..2147483647");
+}
+
 TEST_F(ClearColorPart, StopOfAnEarlierWalkIsForgotten) {
     stopFlag = true;
     EXPECT_EQ(tools->SWXClearColorPart(), "okay");

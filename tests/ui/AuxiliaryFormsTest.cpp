@@ -4,11 +4,14 @@
 #include "support/frmAbout.h"
 #include "support/frmProgress.h"
 #include "support/frmTxtView.h"
+#include "tests/fakes/FakeWaitingClock.h"
 #include "tests/ui/GuiObjects.h"
 #include "tests/ui/MainFormTest.h"
 #include "tests/ui/MessageCounter.h"
 
 #include <algorithm>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -50,10 +53,11 @@ protected:
     }
 
     RecordingEvents recorded;
+    FakeWaitingClock clock;
 };
 
 TEST_F(AuxiliaryForms, ProgressTakesItsTextsEachTimeItIsShown) {
-    frmProgress progress(form.Handle(), errors);
+    frmProgress progress(form.Handle(), errors, clock);
     progress.Attach(recorded);
     EXPECT_EQ(TextOf(progress.Handle()), L"TNT4SWX");
     EXPECT_EQ(TextOf(FindChild(progress.Handle(), IDC_cmdCancel)), L"Stop");
@@ -68,7 +72,7 @@ TEST_F(AuxiliaryForms, ProgressTakesItsTextsEachTimeItIsShown) {
 }
 
 TEST_F(AuxiliaryForms, ProgressBeyondTheMaximumStaysAtTheEnd) {
-    frmProgress progress(form.Handle(), errors);
+    frmProgress progress(form.Handle(), errors, clock);
     const HWND bar = FindChild(progress.Handle(), IDC_prbMain);
     progress.ShowProgress("x", 10, 30);
     EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 10);
@@ -80,7 +84,7 @@ TEST_F(AuxiliaryForms, ProgressBeyondTheMaximumStaysAtTheEnd) {
 }
 
 TEST_F(AuxiliaryForms, ProgressValuesThatLookAlikeAreNotSentToTheBar) {
-    frmProgress progress(form.Handle(), errors);
+    frmProgress progress(form.Handle(), errors, clock);
     const HWND bar = FindChild(progress.Handle(), IDC_prbMain);
     progress.ShowProgress("x", 0, 1'000'000);
     progress.SetProgress(4999);
@@ -93,7 +97,7 @@ TEST_F(AuxiliaryForms, ProgressValuesThatLookAlikeAreNotSentToTheBar) {
 }
 
 TEST_F(AuxiliaryForms, ProgressOfAMillionStepsTellsItsBarTwoHundredTimesAtMost) {
-    frmProgress progress(form.Handle(), errors);
+    frmProgress progress(form.Handle(), errors, clock);
     progress.ShowProgress("x", 0, 1'000'000);
     const MessageCounter bar(FindChild(progress.Handle(), IDC_prbMain));
     for (std::int32_t value = 1; value <= 1'000'000; ++value)
@@ -103,7 +107,7 @@ TEST_F(AuxiliaryForms, ProgressOfAMillionStepsTellsItsBarTwoHundredTimesAtMost) 
 }
 
 TEST_F(AuxiliaryForms, ProgressGivesTheHourGlassUntilTheOperationIsOver) {
-    frmProgress progress(form.Handle(), errors);
+    frmProgress progress(form.Handle(), errors, clock);
     SetCursor(LoadCursorW(nullptr, IDC_ARROW));
     progress.ShowProgress("x", 0, 2);
     progress.ShowProgress("y", 0, 2);
@@ -112,36 +116,37 @@ TEST_F(AuxiliaryForms, ProgressGivesTheHourGlassUntilTheOperationIsOver) {
     EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
 }
 
-TEST_F(AuxiliaryForms, ProgressOfAnOperationThatIsOverAtOnceDoesNotAppear) {
-    frmProgress progress(form.Handle(), errors, std::chrono::milliseconds(20));
+TEST_F(AuxiliaryForms, ProgressOfLessThanASecondDoesNotAppear) {
+    frmProgress progress(form.Handle(), errors, clock, 1s);
     progress.ShowProgress("x", 0, 2);
+    clock.now += 999ms;
     progress.SetProgress(1);
+    SendMessageW(progress.Handle(), WM_TIMER, 1, 0);
     EXPECT_EQ(IsWindowVisible(progress.Handle()), FALSE);
     progress.HideProgress();
-    Sleep(40);
-    PumpMessages();
+    clock.now += 1s;
+    SendMessageW(progress.Handle(), WM_TIMER, 1, 0);
     EXPECT_EQ(IsWindowVisible(progress.Handle()), FALSE);
 }
 
-TEST_F(AuxiliaryForms, ProgressAppearsWithTheNextStepOfAnOperationThatTakesLonger) {
-    frmProgress progress(form.Handle(), errors, std::chrono::milliseconds(20));
+TEST_F(AuxiliaryForms, ProgressAppearsWithTheFirstStepAfterASecond) {
+    frmProgress progress(form.Handle(), errors, clock, 1s);
     progress.ShowProgress("x", 0, 2);
-    Sleep(40);
+    clock.now += 1s;
     EXPECT_EQ(IsWindowVisible(progress.Handle()), FALSE);
     progress.SetProgress(1);
     EXPECT_NE(IsWindowVisible(progress.Handle()), FALSE);
 }
 
 TEST_F(AuxiliaryForms, ProgressAppearsWhileAnOperationLetsTheWindowHandleEvents) {
-    frmProgress progress(form.Handle(), errors, std::chrono::milliseconds(20));
+    frmProgress progress(form.Handle(), errors, clock, 1s);
     progress.ShowProgress("x", 0, 2);
-    Sleep(40);
-    PumpMessages();
-    EXPECT_NE(IsWindowVisible(progress.Handle()), FALSE);
+    clock.now += 1s;
+    EXPECT_TRUE(PumpUntil([&] { return IsWindowVisible(progress.Handle()) != FALSE; }));
 }
 
 TEST_F(AuxiliaryForms, ButtonEscapeAndCloseBoxStopAndLeaveTheWindowOpen) {
-    frmProgress progress(form.Handle(), errors);
+    frmProgress progress(form.Handle(), errors, clock);
     progress.Attach(recorded);
     progress.ShowProgress("x", 0, 1);
     recorded.lines.clear();
@@ -411,7 +416,7 @@ TEST_F(AuxiliaryForms, ViewerThatIsMaximisedStaysSoWhenItIsAskedForAgain) {
 }
 
 TEST_F(AuxiliaryForms, ProgressIsStoppedByEnterByEscapeAndByItsAccessKey) {
-    frmProgress progress(form.Handle(), errors);
+    frmProgress progress(form.Handle(), errors, clock);
     progress.Attach(recorded);
     ControlOf(progress, "cmdCancel").SetProperty("Caption", "&Stop");
     progress.ShowProgress("x", 0, 1);
@@ -424,7 +429,7 @@ TEST_F(AuxiliaryForms, ProgressIsStoppedByEnterByEscapeAndByItsAccessKey) {
 }
 
 TEST_F(AuxiliaryForms, ProgressShownHasTheFocusOnItsStopButton) {
-    frmProgress progress(form.Handle(), errors);
+    frmProgress progress(form.Handle(), errors, clock);
     progress.ShowProgress("x", 0, 1);
     EXPECT_EQ(GetFocus(), FindChild(progress.Handle(), IDC_cmdCancel));
 }
@@ -444,7 +449,7 @@ protected:
         viewer.ShowModeless();
         PumpMessages();
         SendMessageW(viewer.Handle(), WM_CLOSE, 0, 0);
-        frmProgress progress(form.Handle(), errors);
+        frmProgress progress(form.Handle(), errors, clock);
         progress.ShowProgress("x", 0, 9);
         progress.SetProgress(5);
         progress.RefreshProgress();

@@ -4,6 +4,7 @@
 #include "support/clsMultiLanguage.h"
 #include "support/frmAbout.h"
 #include "support/frmProgress.h"
+#include "tests/fakes/FakeWaitingClock.h"
 #include "tests/platform/SourceFile.h"
 #include "tests/ui/MainFormTest.h"
 
@@ -97,7 +98,8 @@ protected:
     RecordingProfile profile;
     clsMultiLanguage language{profile, files, codePage};
     frmAbout about{form.Handle(), errors, banners};
-    frmProgress progress{form.Handle(), errors};
+    FakeWaitingClock clock;
+    frmProgress progress{form.Handle(), errors, clock};
     std::vector<LocalizableForm*> forms{&form, &about, &progress};
 };
 

@@ -81,7 +81,7 @@ public:
     frmMain main{errors, banners};
     AboutOnDemand about{main.Handle(), errors, banners};
     frmTxtView textViewer{main.Handle(), errors, banners};
-    frmProgress progress{main.Handle(), errors};
+    frmProgress progress{main.Handle(), errors, clock};
     Application application{{files, page, registry, prompts, clipboard, collation, shell, events,
                              automation, retry, language, errors, calendar},
                             {main, main, main, about, textViewer, progress, progress, progress},

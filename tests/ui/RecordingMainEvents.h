@@ -18,6 +18,8 @@ public:
             onCommand(command);
     }
 
+    void EscapePressed() override { Note("escape"); }
+
     void NodeClicked(const std::string& key) override { Note("node " + key); }
     void NodeLabelEdited(const std::string& key, const std::string& text) override {
         Note("node label " + key + "=" + text);

@@ -3,6 +3,7 @@
 #include "platform/Utf16.h"
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32Files.h"
+#include "platform/Win32WaitingClock.h"
 #include "support/frmProgress.h"
 #include "tests/bench/library/BenchPlatform.h"
 #include "tests/bench/library/Timing.h"
@@ -23,7 +24,8 @@ struct BenchPlatform::Parts {
     Win32Files files;
     Win32AnsiCodePage codePage{1252};
     RecordingErrorSink errors;
-    frmProgress progress{nullptr, errors, kPatience};
+    Win32WaitingClock clock;
+    frmProgress progress{nullptr, errors, clock, kPatience};
 };
 
 BenchPlatform::BenchPlatform() : parts_(std::make_unique<Parts>()) {}
