@@ -6,8 +6,8 @@
 // The class name in the registry, while this object lives.  A class name that is registered for
 // something else (a real installation) is left as it is, and its class id is used.  Otherwise every
 // stand-in has a class id of its own: the object service may go on naming the class object of one
-// that was killed.  The keys are volatile: what a killed stand-in leaves behind does not outlive the
-// system's session.
+// that was killed.  The keys are volatile: what a killed stand-in leaves behind does not outlive
+// the system's session.
 class ClassRegistration {
 public:
     // Where classes are registered: below a path of a key.

@@ -71,8 +71,14 @@ DetailsPane::Shown DetailsPane::CurrentlyShown() const {
                 color.has_value()};
     }
     const SelectedItem& item = items.back();
-    if (item.entity->Kind() == EntityKind::Edge)
+    const EntityKind kind = item.entity->Kind();
+    if (kind == EntityKind::Edge)
         return {RowName(item), "An edge carries no colour", {}, false};
+    if (!CarriesColor(kind))
+        return {RowName(item),
+                std::string("A ") + EntityKindName(kind) + " carries no colour",
+                {},
+                false};
     const DisplayColor color = DisplayColorOf(item);
     const std::string own = item.entity->Color() ? "set" : "unset";
     return {RowName(item),

@@ -31,7 +31,7 @@ ColorNumber ColorOf(const SelectedItem& item) {
 }
 
 std::string ColorText(const SelectedItem& item) {
-    if (item.entity->Kind() == EntityKind::Edge)
+    if (!CarriesColor(item.entity->Kind()))
         return {};
     const RedGreenBlue color = PlainColor(DisplayColorOf(item).values);
     return std::to_string(color.red) + ", " + std::to_string(color.green) + ", " +
@@ -166,7 +166,7 @@ void ObjectList::DrawChip(const NMLVCUSTOMDRAW& draw) const {
     if (draw.nmcd.dwItemSpec >= rows_.size())
         return;
     const SelectedItem& item = rows_[draw.nmcd.dwItemSpec];
-    if (item.entity->Kind() == EntityKind::Edge)
+    if (!CarriesColor(item.entity->Kind()))
         return;
     RECT cell{};
     cell.left = LVIR_BOUNDS;

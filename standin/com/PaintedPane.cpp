@@ -25,13 +25,11 @@ MessageResult PaintedPane::OnMessage(const WindowMessage& message) {
         canvas.Frame(paint.Area(), GetSysColor(COLOR_3DSHADOW), 1);
         return 0;
     }
-    case WM_SETTEXT: {
-        // A static control would paint itself at once, in its own way.
-        Send(WM_SETREDRAW, FALSE);
-        const LRESULT result = Default(message);
-        Send(WM_SETREDRAW, TRUE);
-        return result;
-    }
+    case WM_SETTEXT: // a static control would paint itself at once, in its own way
+        return DefWindowProcW(message.window, message.id, message.wParam, message.lParam);
+    case WM_SIZE: // what stays of the old area is not what belongs there
+        Repaint();
+        return {};
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
         OnMousePress(PointOf(message), (message.wParam & MK_CONTROL) != 0);

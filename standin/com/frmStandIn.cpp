@@ -70,11 +70,11 @@ frmStandIn::frmStandIn(StandInModel& model, const ServedObjects& objects, ErrorS
     Connect();
     LoadStandInIcons();
     documentLabel_.SetText("&Document");
-    revision_.SetText("Revision " + model_.Revision());
     callsLabel_.SetText("Last &calls received");
     for (const DocumentEntry& entry : kDocuments)
         documentChoice_.Add(entry.caption);
     ShowDocument();
+    ShowNames();
     OnLayout(); // also while the window is hidden: tests click into the picture
     model_.Events().Add(*this);
 }
@@ -167,6 +167,15 @@ void frmStandIn::ModelChanged() noexcept {
         SetTimer(Handle(), kRefreshTimer, std::max(refreshDelay_, kShortestDelay), nullptr);
 }
 
+void frmStandIn::ShowNames() {
+    const std::string title = shownDocument_ ? " - " + shownDocument_->Title() : "";
+    if (std::exchange(shownTitle_, title) != title || title.empty())
+        SetWindowTextW(Handle(), ToUtf16("SolidWorks stand-in" + title).c_str());
+    const std::string revision = "Revision " + model_.Revision();
+    if (revision_.Text() != revision)
+        revision_.SetText(revision);
+}
+
 void frmStandIn::ShowDocument() {
     shownDocument_ = model_.ActiveDocument();
     const auto entry =
@@ -174,8 +183,6 @@ void frmStandIn::ShowDocument() {
             return each.type == TypeOf(shownDocument_);
         });
     documentChoice_.SetListIndex(static_cast<std::int32_t>(entry - kDocuments.begin()));
-    const std::string title = shownDocument_ ? " - " + shownDocument_->Title() : "";
-    SetWindowTextW(Handle(), ToUtf16("SolidWorks stand-in" + title).c_str());
     list_.SetRows(ObjectRows(shownDocument_));
     picture_.SetDocument(shownDocument_);
     details_.SetDocument(shownDocument_);
@@ -189,6 +196,7 @@ void frmStandIn::Refresh() {
     const ULONGLONG start = GetTickCount64();
     if (model_.ActiveDocument() != shownDocument_)
         ShowDocument();
+    ShowNames();
     if (shownDocument_)
         list_.ShowSelection(shownDocument_->CurrentSelection());
     picture_.Repaint();

@@ -40,6 +40,7 @@ private:
     void Pick(const SelectedItem& item, bool append);
     void ChangeSelection(const SelectionChange& change);
     void ShowDocument();
+    void ShowNames(); // what an order can change
     void Refresh();
     [[nodiscard]] LRESULT AnswerQuestion(WPARAM question, LPARAM row);
     [[nodiscard]] LRESULT PointOfRow(LPARAM row);
@@ -51,6 +52,7 @@ private:
     const ServedObjects& objects_;
     UINT askMessage_;
     DocumentPtr shownDocument_;
+    std::string shownTitle_;
     bool refreshRequested_ = false;
     std::size_t refreshes_ = 0;
     UINT refreshDelay_ = 0; // milliseconds

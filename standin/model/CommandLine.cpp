@@ -50,6 +50,38 @@ std::optional<DocumentType> ReadDocumentType(const std::string& name) {
     ThrowInvalid("Unknown document: " + name);
 }
 
+Document& RequireActive(const StandInModel& model) {
+    const DocumentPtr document = model.ActiveDocument();
+    if (!document)
+        ThrowInvalid("There is no active document");
+    return *document;
+}
+
+bool ReadBoolean(const std::string& text) {
+    if (text != "true" && text != "false")
+        ThrowInvalid("Neither true nor false: " + text);
+    return text == "true";
+}
+
+struct Order {
+    const char* verb;
+    void (*run)(StandInModel&, const std::string& value);
+};
+
+constexpr Order kOrders[] = {
+    {"fault", [](StandInModel& model,
+                 const std::string& value) { model.Gate().AddFault(ParseFault(value)); }},
+    {"document", [](StandInModel& model,
+                    const std::string& value) { model.Activate(ReadDocumentType(value)); }},
+    {"revision", [](StandInModel& model, const std::string& value) { model.SetRevision(value); }},
+    {"visible",
+     [](StandInModel& model, const std::string& value) { model.SetVisible(ReadBoolean(value)); }},
+    {"title",
+     [](StandInModel& model, const std::string& value) { RequireActive(model).SetTitle(value); }},
+    {"path",
+     [](StandInModel& model, const std::string& value) { RequireActive(model).SetPath(value); }},
+};
+
 } // namespace
 
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
@@ -67,12 +99,10 @@ void RunOrder(const std::string& order, StandInModel& model) {
     const std::size_t blank = order.find(' ');
     const std::string verb = order.substr(0, blank);
     const std::string rest = blank == std::string::npos ? "" : order.substr(blank + 1);
-    if (verb == "fault")
-        model.Gate().AddFault(ParseFault(rest));
-    else if (order == "clear-faults")
-        model.Gate().ClearFaults();
-    else if (verb == "document")
-        model.Activate(ReadDocumentType(rest));
-    else
-        ThrowInvalid("Unknown order: " + order);
+    if (order == "clear-faults")
+        return model.Gate().ClearFaults();
+    for (const Order& known : kOrders)
+        if (verb == known.verb)
+            return known.run(model, rest);
+    ThrowInvalid("Unknown order: " + order);
 }

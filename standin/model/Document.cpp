@@ -18,10 +18,25 @@ void Document::SetColor(const MaterialOverride& color) {
     session_->events.Changed();
 }
 
-void Document::AddFeature(const std::string& name, const MaterialOverride& color) {
-    features_.push_back(
-        std::make_shared<Feature>(session_, name, weak_from_this(), features_.size()));
+void Document::AddFeature(const std::string& name, const MaterialOverride& color,
+                          const std::string& typeName) {
+    AddReference(EntityKind::BodyFeature, name, typeName);
+    features_.push_back(chain_.back());
     features_.back()->SetColor(color);
+}
+
+void Document::AddReference(EntityKind kind, const std::string& name, const std::string& typeName) {
+    chain_.push_back(std::make_shared<Feature>(
+        session_, Feature::Made{kind, name, typeName, chain_.size()}, weak_from_this()));
+}
+
+void Document::SetTitle(std::string title) {
+    title_ = std::move(title);
+    session_->events.Changed();
+}
+
+std::shared_ptr<Feature> Document::ChainAt(std::size_t index) const {
+    return index < chain_.size() ? chain_[index] : nullptr;
 }
 
 std::shared_ptr<Feature> Document::FeatureAt(std::size_t index) const {
@@ -53,4 +68,8 @@ void Document::Deselect(const SelectedItem& item) {
 void Document::ClearSelection() {
     selection_.Clear();
     session_->events.Changed();
+}
+
+std::shared_ptr<Configuration> Document::ActiveConfiguration() const {
+    return nullptr;
 }

@@ -9,6 +9,8 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 class Configuration;
@@ -22,17 +24,33 @@ class Document : public WithMembers<Document, StandInObject>,
 public:
     [[nodiscard]] DocumentType Type() const noexcept { return type_; }
     [[nodiscard]] const std::string& Title() const noexcept { return title_; }
+    void SetTitle(std::string title);
+    // Where its file is; empty for a document that was never saved.
+    [[nodiscard]] const std::string& Path() const noexcept { return path_; }
+    void SetPath(std::string path) { path_ = std::move(path); }
 
     // The colour of the document itself.
     [[nodiscard]] const MaterialOverride& Color() const noexcept { return color_; }
     void SetColor(const MaterialOverride& color);
 
-    void AddFeature(const std::string& name, const MaterialOverride& color = {});
+    // A feature that carries a colour.  typeName: as GetTypeName answers.
+    void AddFeature(const std::string& name, const MaterialOverride& color = {},
+                    const std::string& typeName = "Extrusion");
+    // Something else among the features: a plane, a sketch, a folder.
+    void AddReference(EntityKind kind, const std::string& name, const std::string& typeName);
+
+    // Those that carry a colour.
     [[nodiscard]] const std::vector<std::shared_ptr<Feature>>& Features() const noexcept {
         return features_;
     }
     // Null behind the last one.
     [[nodiscard]] std::shared_ptr<Feature> FeatureAt(std::size_t index) const;
+    // All, as a client walks them.
+    [[nodiscard]] const std::vector<std::shared_ptr<Feature>>& Chain() const noexcept {
+        return chain_;
+    }
+    // Null behind the last one.
+    [[nodiscard]] std::shared_ptr<Feature> ChainAt(std::size_t index) const;
 
     [[nodiscard]] const Selection& CurrentSelection() const noexcept { return selection_; }
     // Selects an entity that can be seen in this document; false for any other.
@@ -60,7 +78,7 @@ protected:
 
     // How an entity is seen in this document: through which component, or not at all.
     [[nodiscard]] virtual std::optional<SelectedItem> Locate(const EntityPtr& entity) const = 0;
-    [[nodiscard]] virtual std::shared_ptr<Configuration> ActiveConfiguration() const = 0;
+    [[nodiscard]] virtual std::shared_ptr<Configuration> ActiveConfiguration() const;
 
 private:
     friend struct DocumentMembers;
@@ -68,8 +86,10 @@ private:
     SessionPtr session_;
     DocumentType type_;
     std::string title_;
+    std::string path_;
     MaterialOverride color_;
     std::vector<std::shared_ptr<Feature>> features_;
+    std::vector<std::shared_ptr<Feature>> chain_;
     Selection selection_;
     std::shared_ptr<SelectionManager> selectionManager_;
     std::shared_ptr<StandardColorTable> colorTable_;

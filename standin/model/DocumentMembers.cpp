@@ -77,6 +77,8 @@ const MemberTable<Document>& DocumentMembers::OfDrawings() {
          }},
         {"GetTitle", 0,
          [](Document& document, const Arguments&) -> AutomationValue { return document.Title(); }},
+        {"GetPathName", 0,
+         [](Document& document, const Arguments&) -> AutomationValue { return document.Path(); }},
         {"SelectionManager", 0,
          [](Document& document, const Arguments&) -> AutomationValue {
              return AutomationObjectPtr(document.selectionManager_);
@@ -105,12 +107,11 @@ const MemberTable<Document>& DocumentMembers::OfAssemblies() {
                                    EntityMembers::MaterialPropertyValues<Document>(),
                                    {"FirstFeature", 0,
                                     [](Document& document, const Arguments&) -> AutomationValue {
-                                        return AutomationObjectPtr(document.FeatureAt(0));
+                                        return AutomationObjectPtr(document.ChainAt(0));
                                     }},
                                    {"GetFeatureCount", 0,
                                     [](Document& document, const Arguments&) -> AutomationValue {
-                                        return static_cast<std::int32_t>(
-                                            document.Features().size());
+                                        return static_cast<std::int32_t>(document.Chain().size());
                                     }},
                                    {"GetActiveConfiguration", 0,
                                     [](Document& document, const Arguments&) -> AutomationValue {

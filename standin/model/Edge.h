@@ -3,11 +3,11 @@
 #include "standin/model/Entity.h"
 #include "standin/model/WithMembers.h"
 
-// An edge: can be selected, carries no colour.
+// An edge or a vertex: can be selected, carries no colour.
 class Edge final : public WithMembers<Edge, Entity> {
 public:
-    Edge(SessionPtr session, std::string name, std::weak_ptr<Document> owner)
-        : WithMembers(std::move(session), EntityKind::Edge, std::move(name), std::move(owner)) {}
+    Edge(SessionPtr session, EntityKind kind, std::string name, std::weak_ptr<Document> owner)
+        : WithMembers(std::move(session), kind, std::move(name), std::move(owner)) {}
 
     [[nodiscard]] const MemberTable<Edge>& Members() const;
 };

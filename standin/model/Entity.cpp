@@ -8,12 +8,25 @@ const char* EntityKindName(EntityKind kind) noexcept {
         return "edge";
     case EntityKind::Face:
         return "face";
+    case EntityKind::Vertex:
+        return "vertex";
+    case EntityKind::Plane:
+        return "plane";
+    case EntityKind::Sketch:
+        return "sketch";
     case EntityKind::Component:
         return "component";
+    case EntityKind::Folder:
+        return "folder";
     case EntityKind::BodyFeature:
         break;
     }
     return "feature";
+}
+
+bool CarriesColor(EntityKind kind) noexcept {
+    return kind == EntityKind::Face || kind == EntityKind::Component ||
+           kind == EntityKind::BodyFeature;
 }
 
 void Entity::Rename(std::string name) {

@@ -7,12 +7,24 @@
 #include <cstdint>
 
 // What can be selected; the numbers are those that the selection manager reports.
-enum class EntityKind : std::int32_t { Edge = 1, Face = 2, Component = 20, BodyFeature = 22 };
+enum class EntityKind : std::int32_t {
+    Edge = 1,
+    Face = 2,
+    Vertex = 3,
+    Plane = 4,
+    Sketch = 9,
+    Component = 20,
+    BodyFeature = 22,
+    Folder = 94
+};
 
-// "edge", "face", "component", "feature".
+// "edge", "face", "vertex", "plane", "sketch", "component", "feature", "folder".
 [[nodiscard]] const char* EntityKindName(EntityKind kind) noexcept;
 
-// Something of a document that can be selected and, edges apart, carries a colour.
+// Faces, components and features do; nothing else shows a colour.
+[[nodiscard]] bool CarriesColor(EntityKind kind) noexcept;
+
+// Something of a document that can be selected.
 class Entity : public StandInObject, public std::enable_shared_from_this<Entity> {
 public:
     // owner: the document that the entity is part of.

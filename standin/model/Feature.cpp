@@ -4,7 +4,7 @@
 #include "standin/model/EntityMembers.h"
 
 std::shared_ptr<Feature> Feature::Next() const {
-    return RequireOwner()->FeatureAt(index_ + 1);
+    return RequireOwner()->ChainAt(index_ + 1);
 }
 
 const MemberTable<Feature>& Feature::Members() const {
@@ -26,6 +26,8 @@ const MemberTable<Feature>& Feature::Members() const {
          [](Feature& feature, const Arguments&) -> AutomationValue {
              return AutomationObjectPtr(feature.Next());
          }},
+        {"GetTypeName", 0,
+         [](Feature& feature, const Arguments&) -> AutomationValue { return feature.TypeName(); }},
         {"Name", 0,
          [](Feature& feature, const Arguments&) -> AutomationValue { return feature.Name(); },
          [](Feature& feature, const AutomationValue& value) { feature.Rename(value.AsString()); }},

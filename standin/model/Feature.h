@@ -3,14 +3,22 @@
 #include "standin/model/Entity.h"
 #include "standin/model/WithMembers.h"
 
-// A feature of a part or an assembly.
+// A feature of a part or an assembly; also what only stands among the features: planes, sketches,
+// folders.
 class Feature final : public WithMembers<Feature, Entity> {
 public:
-    // index: its place among the features of the owner, from 0.
-    Feature(SessionPtr session, std::string name, std::weak_ptr<Document> owner, std::size_t index)
-        : WithMembers(std::move(session), EntityKind::BodyFeature, std::move(name),
-                      std::move(owner)),
-          index_(index) {}
+    struct Made {
+        EntityKind kind = EntityKind::BodyFeature;
+        std::string name;
+        std::string typeName;  // as GetTypeName answers
+        std::size_t index = 0; // in the owner's chain
+    };
+
+    Feature(SessionPtr session, const Made& made, std::weak_ptr<Document> owner)
+        : WithMembers(std::move(session), made.kind, made.name, std::move(owner)),
+          typeName_(made.typeName), index_(made.index) {}
+
+    [[nodiscard]] const std::string& TypeName() const noexcept { return typeName_; }
 
     [[nodiscard]] bool IsSuppressed() const noexcept { return suppressed_; }
     void SetSuppressed(bool suppressed) noexcept { suppressed_ = suppressed; }
@@ -21,6 +29,7 @@ public:
     [[nodiscard]] const MemberTable<Feature>& Members() const;
 
 private:
+    std::string typeName_;
     std::size_t index_;
     bool suppressed_ = false;
 };

@@ -11,6 +11,13 @@ void AddAll(const Entities& entities, const ComponentPtr& component, Rows& rows)
         rows.push_back({entity, component});
 }
 
+// Planes and sketches; folders and the like cannot be picked.
+void AddReferences(const Document& document, const ComponentPtr& component, Rows& rows) {
+    for (const auto& feature : document.Chain())
+        if (feature->Kind() == EntityKind::Plane || feature->Kind() == EntityKind::Sketch)
+            rows.push_back({feature, component});
+}
+
 void AddContents(const Document& document, const ComponentPtr& component, Rows& rows) {
     AddAll(document.Features(), component, rows);
     if (document.Type() != DocumentType::Part)
@@ -18,6 +25,8 @@ void AddContents(const Document& document, const ComponentPtr& component, Rows& 
     const auto& part = static_cast<const PartDocument&>(document);
     AddAll(part.Faces(), component, rows);
     AddAll(part.Edges(), component, rows);
+    AddAll(part.Vertices(), component, rows);
+    AddReferences(part, component, rows);
 }
 
 void AddChildren(const Component& parent, Rows& rows) {
@@ -79,7 +88,7 @@ DisplayColor DisplayColorOf(const SelectedItem& item) {
             LevelsOfFeature(static_cast<const Feature&>(*item.entity), component));
     case EntityKind::Component:
         return ResolveDisplayColor(LevelsOfComponent(static_cast<const Component&>(*item.entity)));
-    case EntityKind::Edge:
+    default:
         break;
     }
     return ResolveDisplayColor({});

@@ -18,13 +18,20 @@ void PartDocument::AddFace(const std::string& name, std::optional<std::size_t> f
 }
 
 void PartDocument::AddEdge(const std::string& name) {
-    edges_.push_back(std::make_shared<Edge>(OwnSession(), name, weak_from_this()));
+    edges_.push_back(
+        std::make_shared<Edge>(OwnSession(), EntityKind::Edge, name, weak_from_this()));
+}
+
+void PartDocument::AddVertex(const std::string& name) {
+    vertices_.push_back(
+        std::make_shared<Edge>(OwnSession(), EntityKind::Vertex, name, weak_from_this()));
 }
 
 void PartDocument::RemoveBody() {
     body_.reset();
     faces_.clear();
     edges_.clear();
+    vertices_.clear();
 }
 
 std::shared_ptr<Face> PartDocument::FaceAt(std::size_t index) const {

@@ -17,7 +17,8 @@ public:
     void AddFace(const std::string& name, std::optional<std::size_t> feature,
                  const MaterialOverride& color = {});
     void AddEdge(const std::string& name);
-    // Takes the body away, and with it the faces and edges.
+    void AddVertex(const std::string& name);
+    // Takes the body away, and with it the faces, edges and vertices.
     void RemoveBody();
 
     // Null when the part has none.
@@ -27,6 +28,9 @@ public:
     }
     [[nodiscard]] const std::vector<std::shared_ptr<Edge>>& Edges() const noexcept {
         return edges_;
+    }
+    [[nodiscard]] const std::vector<std::shared_ptr<Edge>>& Vertices() const noexcept {
+        return vertices_;
     }
     // Null behind the last one.
     [[nodiscard]] std::shared_ptr<Face> FaceAt(std::size_t index) const;
@@ -49,4 +53,5 @@ private:
     std::shared_ptr<::Body> body_;
     std::vector<std::shared_ptr<Face>> faces_;
     std::vector<std::shared_ptr<Edge>> edges_;
+    std::vector<std::shared_ptr<Edge>> vertices_;
 };

@@ -23,11 +23,28 @@ void AddEdges(PartDocument& part, std::size_t count) {
         part.AddEdge("Edge " + std::to_string(i));
 }
 
+void AddSketch(PartDocument& part, const std::string& name) {
+    part.AddReference(EntityKind::Sketch, name, "ProfileFeature");
+}
+
+// What every part begins with.
+void AddFirstFeatures(PartDocument& part) {
+    part.AddReference(EntityKind::Folder, "Comments", "CommentsFolder");
+    for (const char* name : {"Front Plane", "Top Plane", "Right Plane"})
+        part.AddReference(EntityKind::Plane, name, "RefPlane");
+    part.AddReference(EntityKind::Sketch, "Origin", "OriginProfileFeature");
+}
+
 Part MakeHousing(const SessionPtr& session) {
     Part part = PartDocument::Create(session, "Housing.SLDPRT");
     part->SetColor(Plastic(150, 166, 188));
+    AddFirstFeatures(*part);
+    AddSketch(*part, "Sketch 1");
     part->AddFeature("Base");
+    AddSketch(*part, "Sketch 2");
     part->AddFeature("Pocket");
+    part->AddReference(EntityKind::Folder, "Details", "FtrFolder");
+    AddSketch(*part, "Sketch 3");
     part->AddFeature("Boss", Plastic(236, 154, 60));
     part->AddFeature("Rib");
     part->AddFeature("Bore", Plastic(92, 116, 210));
@@ -37,6 +54,8 @@ Part MakeHousing(const SessionPtr& session) {
     part->FaceAt(7)->SetColor(Plastic(74, 158, 92));
     part->FaceAt(9)->SetColor(MaterialValues{0.95, 0.85, 0.3, 0.4, 0.9, 0.9, 0.8, 0.25, 0.1});
     AddEdges(*part, 4);
+    part->AddVertex("Vertex 1");
+    part->AddVertex("Vertex 2");
     return part;
 }
 
@@ -134,7 +153,7 @@ SampleDocuments MakeSampleDocuments(const SessionPtr& session, const Scenario& s
     documents.part = MakePart(session, scenario);
     documents.assembly = AssemblyDocument::Create(session, "Enclosure.SLDASM");
     documents.assembly->SetColor(Plastic(160, 160, 168));
-    documents.assembly->AddFeature("Mates");
+    documents.assembly->AddFeature("Mates", {}, "MateGroup");
     if (scenario.components)
         AddGeneratedComponents(session, *scenario.components, documents);
     else if (scenario.componentsInAssembly)

@@ -13,7 +13,9 @@ const MemberTable<SolidWorksApplication>& SolidWorksApplication::Members() const
              return application.session_->revision;
          }},
         {"Visible", 0,
-         [](SolidWorksApplication&, const AutomationArray&) -> AutomationValue { return true; }},
+         [](SolidWorksApplication& application, const AutomationArray&) -> AutomationValue {
+             return application.session_->isVisible;
+         }},
     };
     return members;
 }

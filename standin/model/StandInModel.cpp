@@ -32,3 +32,8 @@ void StandInModel::Activate(std::optional<DocumentType> type) {
         session_->activeDocument = drawing_;
     session_->events.Changed();
 }
+
+void StandInModel::SetRevision(const std::string& revision) {
+    session_->revision = revision;
+    session_->events.Changed();
+}

@@ -20,6 +20,8 @@ public:
     [[nodiscard]] PartDocument& Part() noexcept { return *documents_.part; }
     [[nodiscard]] AssemblyDocument& Assembly() noexcept { return *documents_.assembly; }
     [[nodiscard]] const std::string& Revision() const noexcept { return session_->revision; }
+    void SetRevision(const std::string& revision);
+    void SetVisible(bool visible) noexcept { session_->isVisible = visible; }
 
     // Null when there is none.
     [[nodiscard]] DocumentPtr ActiveDocument() const { return session_->activeDocument.lock(); }

@@ -1,4 +1,6 @@
 #include "platform/ComApartment.h"
+#include "platform/DpiScale.h"
+#include "platform/Handles.h"
 #include "platform/MessageLoop.h"
 #include "platform/Utf16.h"
 #include "standin/com/frmStandIn.h"
@@ -105,6 +107,53 @@ TEST_F(StandInFormTest, ManyChangesBroughtUpToDateTogetherCostOneRefresh) {
     EXPECT_EQ(Refreshes(), before + 1) << "and nothing is left to do";
     EXPECT_TRUE(Details().starts_with("Face 200\r\n")) << Details();
     EXPECT_TRUE(errors.reports.empty());
+}
+
+// The pixels of a control as they are on the screen.
+std::vector<std::uint32_t> PixelsOf(HWND control) {
+    RECT area{};
+    GetClientRect(control, &area);
+    const int width = WidthOf(area);
+    const int height = HeightOf(area);
+    const HDC window = GetDC(control);
+    const MemoryDevice memory(CreateCompatibleDC(window));
+    BitmapHandle bitmap(CreateCompatibleBitmap(window, width, height));
+    const HGDIOBJ before = SelectObject(memory.Get(), bitmap.Get());
+    BitBlt(memory.Get(), 0, 0, width, height, window, 0, 0, SRCCOPY);
+    SelectObject(memory.Get(), before);
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width) *
+                                      static_cast<std::size_t>(height));
+    GetDIBits(window, bitmap.Get(), 0, static_cast<UINT>(height), pixels.data(), &info,
+              DIB_RGB_COLORS);
+    ReleaseDC(control, window);
+    return pixels;
+}
+
+TEST_F(StandInFormTest, PanesLookAfterChangesAndResizesAsInAFreshWindow) {
+    const auto show = [&](frmStandIn& window, int width, int height) {
+        SetWindowPos(window.Handle(), HWND_TOP, 20, 20, width, height, SWP_SHOWWINDOW);
+        pump.ProcessPendingEvents();
+    };
+    show(form, 950, 680);
+    model.Part().FaceAt(3)->Select(false);
+    ASSERT_TRUE(PollUntil([&] {
+        pump.ProcessPendingEvents();
+        return Details().starts_with("Face 4\r\n");
+    }));
+    show(form, 1200, 900);
+    show(form, 1010, 720);
+    constexpr std::array panes = {StandInContract::Picture, StandInContract::Details,
+                                  StandInContract::ColorTable};
+    std::array<std::vector<std::uint32_t>, panes.size()> changed;
+    for (std::size_t i = 0; i < panes.size(); ++i)
+        changed[i] = PixelsOf(GetDlgItem(form.Handle(), panes[i]));
+    ShowWindow(form.Handle(), SW_HIDE);
+    frmStandIn fresh(model, *objects, errors);
+    show(fresh, 1010, 720);
+    for (std::size_t i = 0; i < panes.size(); ++i)
+        EXPECT_EQ(changed[i] == PixelsOf(GetDlgItem(fresh.Handle(), panes[i])), true) << panes[i];
 }
 
 TEST_F(StandInFormTest, ClearedColourIsSeenWithTheNextRefresh) {

@@ -84,6 +84,47 @@ TEST_F(StandInServerTest, AnUnknownMemberAndAFailingOneAreToldApart) {
     EXPECT_EQ(ErrorOfReading(Attach(), "ActiveDoc"), "ActiveDoc: Out of paint");
 }
 
+TEST_F(StandInServerTest, AnAssignmentThatDoesNotNameItsValueIsRefused) {
+    const StandInProcess standIn;
+    ASSERT_TRUE(standIn.IsReady());
+    CLSID classId{};
+    Microsoft::WRL::ComPtr<IUnknown> running;
+    DispatchPtr application;
+    ASSERT_EQ(CLSIDFromProgID(L"SldWorks.Application", &classId), S_OK);
+    ASSERT_EQ(GetActiveObject(classId, nullptr, &running), S_OK);
+    ASSERT_EQ(running.As(&application), S_OK);
+    std::wstring name = L"Visible";
+    LPOLESTR names = name.data();
+    DISPID id = 0;
+    ASSERT_EQ(application->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id), S_OK);
+    _variant_t value(true);
+    DISPPARAMS parameters{&value, nullptr, 1, 0};
+    EXPECT_EQ(application->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT,
+                                  &parameters, nullptr, nullptr, nullptr),
+              DISP_E_PARAMNOTFOUND);
+    EXPECT_TRUE(standIn.LoggedCalls().empty()) << "and it is no call";
+}
+
+TEST_F(StandInServerTest, ItsRegistrationEndsWithTheSystemsSession) {
+    const StandInProcess standIn;
+    ASSERT_TRUE(standIn.IsReady());
+    bool found = false;
+    for (const auto& [root, path] : {std::pair{HKEY_CURRENT_USER, L"Software\\Classes\\"},
+                                     std::pair{HKEY_CLASSES_ROOT, L""}}) {
+        HKEY key = nullptr;
+        if (RegOpenKeyExW(root, (std::wstring(path) + L"SldWorks.Application").c_str(), 0,
+                          KEY_CREATE_SUB_KEY, &key) != ERROR_SUCCESS)
+            continue;
+        found = true;
+        HKEY lasting = nullptr;
+        EXPECT_EQ(RegCreateKeyExW(key, L"lasting", 0, nullptr, REG_OPTION_NON_VOLATILE,
+                                  KEY_SET_VALUE, nullptr, &lasting, nullptr),
+                  ERROR_CHILD_MUST_BE_VOLATILE);
+        RegCloseKey(key);
+    }
+    EXPECT_TRUE(found);
+}
+
 TEST_F(StandInServerTest, AWrongColourArrayIsRefusedWithAnExplanation) {
     const StandInProcess standIn;
     ASSERT_TRUE(standIn.IsReady());

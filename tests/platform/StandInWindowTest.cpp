@@ -4,6 +4,7 @@
 #include "tests/fakes/FakeWaitingClock.h"
 #include "tests/platform/PollUntil.h"
 #include "tests/platform/StandInProcess.h"
+#include "tests/standin/StandInClient.h"
 
 #include <array>
 #include <commctrl.h>
@@ -154,7 +155,8 @@ TEST_F(StandInWindowTest, AnEdgeIsNotInThePicture) {
 }
 
 TEST_F(StandInWindowTest, WhatAClientSelectsIsSelectedInTheList) {
-    const AutomationObjectPtr feature = Document()->Get("FirstFeature").AsObject();
+    const AutomationObjectPtr feature =
+        StandInClient(objects.GetRunningObject("SldWorks.Application")).Feature(0);
     feature->Invoke("Select", {false});
     EXPECT_TRUE(PollUntil([&] { return list.IsSelected(list.RowOf("Base")); }));
     Document()->Get("ClearSelection");
@@ -162,7 +164,8 @@ TEST_F(StandInWindowTest, WhatAClientSelectsIsSelectedInTheList) {
 }
 
 TEST_F(StandInWindowTest, AColourThatAClientSetsIsShown) {
-    const AutomationObjectPtr feature = Document()->Get("FirstFeature").AsObject();
+    const AutomationObjectPtr feature =
+        StandInClient(objects.GetRunningObject("SldWorks.Application")).Feature(0);
     feature->Invoke("Select", {false});
     feature->Invoke("SetMaterialPropertyValues",
                     {std::vector<double>{1, 0.5, 0, 0.25, 0, 0, 0, 0, 0}});

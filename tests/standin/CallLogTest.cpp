@@ -53,8 +53,8 @@ TEST(CallLog, TheListenerHearsOfACallBeforeItIsCarriedOut) {
     model.Log().SetListener([&](const CallRecord&) {
         selectedBefore.push_back(model.Part().CurrentSelection().Items().size());
     });
-    StandInClient(model).Feature(0)->Invoke("Select", {true});
-    EXPECT_EQ(selectedBefore, (std::vector<std::size_t>{0, 0, 0}));
+    StandInClient(model).Face(0)->Invoke("Select", {true});
+    EXPECT_EQ(selectedBefore, (std::vector<std::size_t>{0, 0, 0, 0}));
     EXPECT_EQ(model.Part().CurrentSelection().Items().size(), 1U);
 }
 

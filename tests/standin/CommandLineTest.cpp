@@ -47,9 +47,29 @@ TEST(RunOrder, ArmsFaultsAndTakesThemAway) {
     EXPECT_EQ(ErrorNumberOf([&] { model.ApplicationObject()->Get("ActiveDoc"); }), 0);
 }
 
+TEST(RunOrder, SetsWhatClientsReadOfTheApplicationAndTheActiveDocument) {
+    StandInModel model;
+    RunOrder("revision 8.2.1", model);
+    RunOrder("visible false", model);
+    RunOrder("title Other part", model);
+    RunOrder("path C:\\models\\Other part.SLDPRT", model);
+    const AutomationObjectPtr application = model.ApplicationObject();
+    EXPECT_EQ(application->Get("RevisionNumber").AsString(), "8.2.1");
+    EXPECT_FALSE(application->Get("Visible").AsBoolean());
+    const AutomationObjectPtr document = application->Get("ActiveDoc").AsObject();
+    EXPECT_EQ(document->Get("GetTitle").AsString(), "Other part");
+    EXPECT_EQ(document->Get("GetPathName").AsString(), "C:\\models\\Other part.SLDPRT");
+}
+
+TEST(RunOrder, RefusesATitleWithoutADocument) {
+    StandInModel model("no-document");
+    EXPECT_NE(ErrorNumberOf([&] { RunOrder("title x", model); }), 0);
+}
+
 TEST(RunOrder, RefusesAnythingElse) {
     StandInModel model;
-    for (const char* order : {"", "document", "document moon", "fault", "clear-faults now", "quit"})
+    for (const char* order :
+         {"", "document", "document moon", "fault", "clear-faults now", "quit", "visible maybe"})
         EXPECT_NE(ErrorNumberOf([&] { RunOrder(order, model); }), 0) << order;
 }
 

@@ -2,6 +2,7 @@
 
 #include "common/RuntimeError.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace {
@@ -21,6 +22,15 @@ TEST(MaterialValues, AColourReadsAsAnArrayOfNineDoubles) {
 TEST(MaterialValues, AnArrayOfNineVariantsIsAColourToo) {
     const AutomationArray variants{1, 0, 0.5, 0, 0, 0, 0, 0, "0.25"};
     EXPECT_EQ(ReadMaterialValues(variants), (MaterialValues{1, 0, 0.5, 0, 0, 0, 0, 0, 0.25}));
+}
+
+TEST(MaterialValues, NumbersOutsideZeroToOneAreRefused) {
+    for (const double wrong : {-0.001, 1.001, 255.0, std::nan("")}) {
+        std::vector<double> values(9, 0.5);
+        values[4] = wrong;
+        EXPECT_THROW((void)ReadMaterialValues(values), RuntimeError) << wrong;
+    }
+    EXPECT_NO_THROW((void)ReadMaterialValues(std::vector<double>{0, 1, 0, 1, 0, 1, 0, 1, 0}));
 }
 
 TEST(MaterialValues, EverythingElseIsATypeMismatch) {

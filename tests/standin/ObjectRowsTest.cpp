@@ -18,12 +18,16 @@ SelectedItem RowNamed(const StandInModel& model, const std::string& name) {
     return {};
 }
 
-TEST(ObjectRows, OfAPartAreFeaturesThenFacesThenEdges) {
+TEST(ObjectRows, OfAPartAreFeaturesThenFacesThenEdgesThenWhatHasNoColour) {
     const std::vector<std::string> names = NamesOf(StandInModel());
-    ASSERT_EQ(names.size(), 24U);
+    ASSERT_EQ(names.size(), 33U);
     EXPECT_EQ(names[0], "Base");
     EXPECT_EQ(names[6], "Face 1");
     EXPECT_EQ(names[20], "Edge 1");
+    EXPECT_EQ(
+        std::vector<std::string>(names.begin() + 24, names.end()),
+        (std::vector<std::string>{"Vertex 1", "Vertex 2", "Front Plane", "Top Plane", "Right Plane",
+                                  "Origin", "Sketch 1", "Sketch 2", "Sketch 3"}));
 }
 
 TEST(ObjectRows, OfAnAssemblyNameTheComponentOfEachFace) {
@@ -75,9 +79,10 @@ TEST(DisplayColorOf, AColouredSubAssemblyHidesTheColoursOfItsComponents) {
     EXPECT_EQ(DisplayColorOf(RowNamed(model, "Face 1 of Lever-1")).values, kUnsetMaterial);
 }
 
-TEST(DisplayColorOf, AnEdgeShowsNoColour) {
+TEST(DisplayColorOf, EdgesVerticesPlanesAndSketchesShowNoColour) {
     const StandInModel model;
-    EXPECT_EQ(DisplayColorOf(RowNamed(model, "Edge 1")).level, ColorLevel::None);
+    for (const char* name : {"Edge 1", "Vertex 1", "Front Plane", "Sketch 1"})
+        EXPECT_EQ(DisplayColorOf(RowNamed(model, name)).level, ColorLevel::None) << name;
 }
 
 } // namespace

@@ -24,8 +24,13 @@ public:
         return Walk(Document()->Get("Body").AsObject()->Get("GetFirstFace").AsObject(),
                     "GetNextFace", index);
     }
+    // Among those that make faces.
     [[nodiscard]] AutomationObjectPtr Feature(int index) const {
-        return Walk(Document()->Get("FirstFeature").AsObject(), "GetNextFeature", index);
+        AutomationObjectPtr feature = Document()->Get("FirstFeature").AsObject();
+        for (int left = index; feature; feature = feature->Get("GetNextFeature").AsObject())
+            if (feature->Get("GetTypeName").AsString() == "Extrusion" && left-- == 0)
+                break;
+        return feature;
     }
     [[nodiscard]] AutomationObjectPtr Root() const {
         return Document()

@@ -20,11 +20,42 @@ protected:
     std::unique_ptr<StandInClient> client_ = std::make_unique<StandInClient>(*model_);
 };
 
-TEST_F(StandInModelTest, StartsWithAPartOfSixFeaturesAndFourteenFaces) {
+TEST_F(StandInModelTest, StartsWithAPartOfFifteenFeaturesAndFourteenFaces) {
     EXPECT_EQ(client_->Document()->Get("GetType").AsInt32(), 1);
-    EXPECT_EQ(client_->Document()->Get("GetFeatureCount").AsInt32(), 6);
+    EXPECT_EQ(client_->Document()->Get("GetFeatureCount").AsInt32(), 15);
     EXPECT_EQ(client_->Document()->Get("Body").AsObject()->Get("GetFaceCount").AsInt32(), 14);
     EXPECT_EQ(client_->Application()->Get("RevisionNumber").AsString(), "12.5.0");
+}
+
+TEST_F(StandInModelTest, FeaturesAreWalkedWithPlanesSketchesAndFoldersAmongThem) {
+    std::vector<std::string> types;
+    for (AutomationObjectPtr feature = client_->Document()->Get("FirstFeature").AsObject(); feature;
+         feature = feature->Get("GetNextFeature").AsObject())
+        types.push_back(feature->Get("GetTypeName").AsString());
+    EXPECT_EQ(types, (std::vector<std::string>{"CommentsFolder", "RefPlane", "RefPlane", "RefPlane",
+                                               "OriginProfileFeature", "ProfileFeature",
+                                               "Extrusion", "ProfileFeature", "Extrusion",
+                                               "FtrFolder", "ProfileFeature", "Extrusion",
+                                               "Extrusion", "Extrusion", "Extrusion"}));
+}
+
+TEST_F(StandInModelTest, EdgesVerticesPlanesAndSketchesTellTheirTypes) {
+    const auto typeOf = [&](Entity& entity) {
+        entity.Select(false);
+        return client_->Selection()->Invoke("GetSelectedObjectType2", {1}).AsInt32();
+    };
+    PartDocument& part = model_->Part();
+    EXPECT_EQ(typeOf(*part.Edges().front()), 1);
+    EXPECT_EQ(typeOf(*part.Vertices().front()), 3);
+    EXPECT_EQ(typeOf(*part.ChainAt(1)), 4);
+    EXPECT_EQ(typeOf(*part.ChainAt(5)), 9);
+}
+
+TEST_F(StandInModelTest, APartHasAConfigurationWithoutARoot) {
+    const AutomationObjectPtr configuration =
+        client_->Document()->Get("GetActiveConfiguration").AsObject();
+    ASSERT_NE(configuration, nullptr);
+    EXPECT_EQ(configuration->Get("GetRootComponent").AsObject(), nullptr);
 }
 
 TEST_F(StandInModelTest, TheLastFeatureAndTheLastFaceHaveNoNext) {
@@ -209,7 +240,7 @@ TEST_F(StandInModelTest, ASelectedComponentIsItsOwnComponentAndOfTypeTwenty) {
 
 TEST_F(StandInModelTest, AFeatureOfTheAssemblyItselfHasNoComponent) {
     Start("assembly");
-    client_->Feature(0)->Invoke("Select", {false});
+    client_->Document()->Get("FirstFeature").AsObject()->Invoke("Select", {false});
     EXPECT_EQ(client_->Selection()->Invoke("GetSelectedObjectsComponent", {1}).AsObject(), nullptr);
 }
 
