@@ -51,11 +51,12 @@ void TreeView::ApplyColors() {
 
 void TreeView::AddNode(const std::string& key, const std::string& parentKey,
                        const std::string& text, const std::string& image) {
-    PauseDrawing();
+    inserting_ = true;
     const auto place = items_.emplace(key, nullptr).first;
     std::wstring wide = ToUtf16(text);
     TVINSERTSTRUCTW node{};
     node.hParent = parentKey.empty() ? TVI_ROOT : Find(parentKey);
+    PauseDrawing(node.hParent);
     node.hInsertAfter = TVI_LAST;
     node.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_PARAM;
     node.item.pszText = wide.data();
@@ -63,21 +64,40 @@ void TreeView::AddNode(const std::string& key, const std::string& parentKey,
     node.item.iSelectedImage = node.item.iImage;
     node.item.lParam = reinterpret_cast<LPARAM>(&place->first);
     place->second = reinterpret_cast<HTREEITEM>(Send(TVM_INSERTITEMW, 0, &node));
+    inserting_ = false;
 }
 
 // Nodes often come in thousands; to arrange and draw the tree after each would take longer than all
 // the rest.  The tree is drawn again before anything but the next node.
-void TreeView::PauseDrawing() {
-    if (std::exchange(drawingPaused_, true))
+void TreeView::PauseDrawing(HTREEITEM parent) {
+    if (std::exchange(drawingPaused_, true)) {
+        Fold(parent);
         return;
+    }
     Send(WM_SETREDRAW, FALSE);
     PostMessageW(Handle(), kDrawAgainMessage, 0, 0);
 }
 
-void TreeView::ResumeDrawing() {
-    if (!std::exchange(drawingPaused_, false))
+// The platform measures each node that is added below an open one, but all nodes of one that is
+// opened together.  The selection must not go: a closed node takes that of the nodes below it.
+void TreeView::Fold(HTREEITEM parent) {
+    if (folded_ != nullptr || parent == TVI_ROOT)
         return;
+    const auto parentOfSelected = reinterpret_cast<HTREEITEM>(
+        Send(TVM_GETNEXTITEM, TVGN_PARENT, reinterpret_cast<LPARAM>(Selected())));
+    const LRESULT state =
+        Send(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(parent), LPARAM{TVIS_EXPANDED});
+    if (parentOfSelected == parent || (state & TVIS_EXPANDED) == 0)
+        return;
+    folded_ = parent;
+    Send(TVM_EXPAND, TVE_COLLAPSE, reinterpret_cast<LPARAM>(parent));
+}
+
+void TreeView::ResumeDrawing() {
+    drawingPaused_ = false;
     Send(WM_SETREDRAW, TRUE);
+    if (const HTREEITEM folded = std::exchange(folded_, nullptr))
+        Send(TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(folded));
     InvalidateRect(Handle(), nullptr, TRUE);
 }
 
@@ -227,7 +247,7 @@ void TreeView::EndLabelEdit(const NMTVDISPINFOW& info) {
 }
 
 MessageResult TreeView::OnMessage(const WindowMessage& message) {
-    if (drawingPaused_ && !MayComeBeforeDrawing(message.id))
+    if (drawingPaused_ && !inserting_ && !MayComeBeforeDrawing(message.id))
         ResumeDrawing();
     switch (message.id) {
     case kDrawAgainMessage:

@@ -44,7 +44,8 @@ protected:
     MessageResult OnMessage(const WindowMessage& message) override;
 
 private:
-    void PauseDrawing();
+    void PauseDrawing(HTREEITEM parent);
+    void Fold(HTREEITEM parent);
     void ResumeDrawing();
     [[nodiscard]] HTREEITEM Find(const std::string& key) const; // null: there is none
     [[nodiscard]] std::string KeyOf(HTREEITEM item) const;      // empty: there is none
@@ -63,4 +64,6 @@ private:
     LabelEdit label_;
     bool editing_ = false;
     bool drawingPaused_ = false;
+    bool inserting_ = false;
+    HTREEITEM folded_ = nullptr; // while drawing is paused
 };

@@ -66,6 +66,19 @@ TEST_F(MainTree, MirrorsTheNodesItIsTold) {
     EXPECT_TRUE(events.lines.empty());
 }
 
+TEST_F(MainTree, NodesThatComeInThousandsAreArrangedOnceTheyAreAsked) {
+    form.ShowWindow();
+    const HWND tree = Tree();
+    for (int group = 3; group <= 3000; ++group)
+        form.NodeAdded({"1DG" + std::to_string(group), "Gruppe", "Palette", "", "1D", {}});
+    EXPECT_EQ(SendMessageW(tree, TVM_GETCOUNT, 0, 0), 3001);
+    PumpMessages();
+    SCROLLINFO scroll{sizeof scroll, SIF_RANGE, 0, 0, 0, 0, 0};
+    GetScrollInfo(tree, SB_VERT, &scroll);
+    EXPECT_GT(scroll.nMax, 2900) << "all of them can be reached";
+    EXPECT_EQ(GetUpdateRect(tree, nullptr, FALSE), FALSE) << "and the tree is drawn";
+}
+
 TEST_F(MainTree, LibrariesAndGroupsHaveTheirOwnPictures) {
     const auto picture = [this](HTREEITEM item) {
         TVITEMW info{};
