@@ -176,8 +176,7 @@ std::string ColorLibrary::LowestFreeMainKey() const {
     return NumberedMainKey(number);
 }
 
-std::string ColorLibrary::FreeColorKey(const std::string& groupKey, int& number,
-                                       int count) const {
+std::string ColorLibrary::FreeColorKey(const std::string& groupKey, int& number, int count) const {
     while (number < count && GetColornodeIndex(groupKey + "E" + std::to_string(number)) != 0)
         ++number;
     return groupKey + "E" + std::to_string(number);

@@ -188,7 +188,7 @@ void MainWindow::RunWatched(void (SolidWorksCommands::*handler)()) {
 }
 
 void MainWindow::RunSolidWorks(void (SolidWorksCommands::*handler)()) {
-    parts_.view.SetInfoPanelText({});
+    ForgetStatus();
     try {
         RunWatched(handler);
     } catch (const OperationStopped&) {

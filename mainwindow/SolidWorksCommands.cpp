@@ -119,8 +119,8 @@ void SolidWorksCommands::mnuSWXClearColorAssembly_Click() {
     Report(parts_.tools.SWXClearColorAssembly());
 }
 
-// The table is read first; meanwhile the user may click on another node or type into the editor, but
-// what counts is what was there before.
+// The table is read first; meanwhile the user may click on another node or type into the editor,
+// but what counts is what was there before.
 void SolidWorksCommands::mnuSWXGetStandardColor_Click() {
     LibraryTree& tree = parts_.library.Tree();
     const std::string selected = tree.Selected();

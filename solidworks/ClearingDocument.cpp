@@ -20,8 +20,7 @@ constexpr const char* kChildren = "GetChildren";
 std::int32_t BoundedSum(std::int32_t left, std::int32_t right) {
     using Limits = std::numeric_limits<std::int32_t>;
     const std::int64_t sum = std::int64_t{left} + right;
-    return static_cast<std::int32_t>(
-        std::clamp<std::int64_t>(sum, Limits::min(), Limits::max()));
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(sum, Limits::min(), Limits::max()));
 }
 
 void ClearFeatures(AutomationObject& document, WalkProgress& walk) {

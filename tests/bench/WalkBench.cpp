@@ -4,13 +4,18 @@
 #include "platform/MessageLoop.h"
 #include "platform/RunningObjects.h"
 #include "platform/Utf16.h"
+#include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32WaitingClock.h"
+#include "resources/controls.h"
 #include "solidworks/ResultKey.h"
 #include "solidworks/modSldTools.h"
 #include "support/frmProgress.h"
 #include "tests/fakes/FakePrompts.h"
+#include "tests/fakes/FakeRegistry.h"
 #include "tests/fakes/FakeTexts.h"
+#include "tests/platform/ScratchFolder.h"
 #include "tests/platform/StandInProcess.h"
+#include "tests/ui/RealProgram.h"
 #include "tests/ui/RecordingErrorSink.h"
 
 #include <algorithm>
@@ -25,9 +30,9 @@
 #include <vector>
 #include <wrl/client.h>
 
-// Measures the walks over a whole part and a whole assembly of so many faces or components, in a
-// stand-in of its own process, beside a bare loop that makes the same calls and nothing else; the
-// two take turns:
+// Measures the walks over a whole part and a whole assembly of so many faces or components, and the
+// import of a table of so many standard colours with the whole main window, in a stand-in of its
+// own process, beside a bare loop that makes the same calls and nothing else; the two take turns:
 //
 //     walk_bench.exe ITEMS
 //
@@ -155,6 +160,25 @@ private:
     ULONG next_ = 0;
 };
 
+class BareEntries final : public BareLoop {
+public:
+    bool Step() override {
+        if (next_ == count_)
+            return false;
+        table_.Call(name_, {_variant_t(next_)});
+        table_.Call(color_, {_variant_t(next_)});
+        ++next_;
+        return true;
+    }
+
+private:
+    BareObject table_ = BareObject::Application().Object(L"ActiveDoc").Object(L"GetColorTable");
+    DISPID name_ = table_.IdOf(L"GetNameAtIndex");
+    DISPID color_ = table_.IdOf(L"GetColorRefAtIndex");
+    long count_ = static_cast<long>(table_.Call(L"GetStandardCount"));
+    long next_ = 0;
+};
+
 // What the stand-in was asked for.
 struct Counts {
     LRESULT calls = 0;
@@ -202,6 +226,13 @@ public:
         return turn_ == items_ && (last_ - second_) * steps_ == stepsCost * (items_ - 2);
     }
 
+    bool ProcessEventsWithoutInput() override { return events_.ProcessEventsWithoutInput(); }
+
+    // What the program has done since its last turn, in milliseconds.
+    [[nodiscard]] double SinceLastTurn() const {
+        return Milliseconds(Clock::now() - programStart_).count();
+    }
+
     std::vector<double> program; // milliseconds, one for each item
     std::vector<double> bare;
 
@@ -241,6 +272,30 @@ void Walk(std::string (modSldTools::*operation)(), EventPump& events) {
     modSldTools tools({automation, retry, prompts, texts, progress, events, stopFlag});
     if ((tools.*operation)() != ResultKey::Okay)
         throw std::runtime_error("The walk did not end well");
+}
+
+// The program's own import, with its windows.  Gives what follows the last entry, in milliseconds.
+double Import(TakingTurns& turns) {
+    Win32WaitingClock clock;
+    BusyRetry retry(clock);
+    RunningObjects automation(retry);
+    FakeRegistry registry;
+    const Win32AnsiCodePage codePage;
+    const ScratchFolder folder; // without language files
+    RealProgram program(registry, folder.Path(), codePage, &automation);
+    program.application.Start();
+    program.prompts.typed = {"Library", ""};
+    program.Run(IDM_mnuColorNewMainNode);
+    program.events.onEvents = [&turns] { turns.ProcessPendingEvents(); };
+    program.Run(IDM_mnuSWXGetStandardColor);
+    const double rest = turns.SinceLastTurn();
+    if (!program.prompts.messages.empty())
+        throw std::runtime_error("The import did not end well");
+    return rest;
+}
+
+double Sum(const std::vector<double>& values) {
+    return std::accumulate(values.begin(), values.end(), 0.0);
 }
 
 // The value below which this share of all values lies.
@@ -291,6 +346,27 @@ template <class Bare>
     return turns.CostTheSame();
 }
 
+// As above, for the import as a whole.
+[[nodiscard]] bool CompareImport(int items) {
+    const StandInProcess standIn(L"--scenario standard-colors=" + std::to_wstring(items),
+                                 CallLogging::Off);
+    if (!standIn.IsReady())
+        throw std::runtime_error("The stand-in does not start");
+    BareObject::calls = BareObject::names = 0;
+    BareEntries bare;
+    TakingTurns turns(bare, standIn, items);
+    const double rest = Import(turns);
+    Print("import", "program", Counts::OfProgram(standIn), turns.program, items);
+    Print("import", "bare loop", Counts::OfBareObjects(), turns.bare, items);
+    std::printf("| import | program / bare loop | | | %.3f | | %.3f |\n",
+                Quantile(turns.program, 0.5) / Quantile(turns.bare, 0.5),
+                MeanOfFastest(turns.program) / MeanOfFastest(turns.bare));
+    std::printf("(whole import / bare loop: %.3f; %.1f ms after the last entry)\n",
+                (Sum(turns.program) + rest) / Sum(turns.bare), rest);
+    std::fflush(stdout);
+    return turns.CostTheSame();
+}
+
 [[nodiscard]] bool Run(int items) {
     const ComApartment apartment;
     const std::string count = std::to_string(items);
@@ -301,7 +377,8 @@ template <class Bare>
                                                &modSldTools::SWXClearColorPart);
     const bool assemblyIsSame = Compare<BareComponents>("assembly", "components=" + count, items,
                                                         &modSldTools::SWXClearColorAssembly);
-    return partIsSame && assemblyIsSame;
+    const bool importIsSame = CompareImport(items);
+    return partIsSame && assemblyIsSame && importIsSame;
 }
 
 // Enough for the bare loop that runs ahead; no more than the stand-in makes.

@@ -45,6 +45,6 @@ public:
 
     int count = 0;
     std::function<void()> onEvents;
-    int drops = 0;               // of input
+    int drops = 0;                // of input
     std::function<bool()> onDrop; // whether Escape was pressed
 };

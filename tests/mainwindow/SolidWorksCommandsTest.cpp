@@ -641,6 +641,16 @@ TEST_F(SolidWorksCommandsTest, StopIsSeenWhileAWalkWaitsForABusySolidWorks) {
     EXPECT_FALSE(program->progress.isShown);
 }
 
+TEST_F(SolidWorksCommandsTest, StatusOfAnEarlierCommandIsGoneWhenTheNextOneBegins) {
+    for (const int command : kAllCommands) {
+        program->prompts.typed = {"new"};
+        program->view.infoPanel = "earlier";
+        program->service.SetRunning(false); // nothing else is shown in the panel
+        Run(command);
+        EXPECT_EQ(program->view.infoPanel, "");
+    }
+}
+
 TEST_F(SolidWorksCommandsTest, BusySolidWorksIsToldInTheStatusPanelUntilItAnswers) {
     program->solidWorks.Gate().AddFault(ParseFault("1:busy:2"));
     std::vector<std::string> panels;

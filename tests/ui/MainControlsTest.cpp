@@ -155,6 +155,38 @@ TEST_F(MainControls, SplitterThatLosesTheMouseEndsItsDragWhereTheBarStands) {
     EXPECT_EQ(events.lines.size(), 2U) << "once";
 }
 
+TEST_F(MainControls, HourGlassStaysWhenThePointerMoves) {
+    form.ShowWindow();
+    const HCURSOR arrow = LoadCursorW(nullptr, IDC_ARROW);
+    const HCURSOR hourGlass = LoadCursorW(nullptr, IDC_WAIT);
+    const auto cursorAfterMoveOver = [&](HWND window) {
+        SetCursor(arrow);
+        SendMessageW(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
+                     MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        return GetCursor();
+    };
+    SetCursor(arrow);
+    form.SetWaiting(true);
+    EXPECT_EQ(GetCursor(), hourGlass) << "at once";
+    for (const int id : {IDC_tvColor, IDC_lvColor, IDC_tlbarMain, IDC_stbarMain})
+        EXPECT_EQ(cursorAfterMoveOver(Child(id)), hourGlass) << id;
+    EXPECT_EQ(cursorAfterMoveOver(form.Handle()), hourGlass);
+    EnableWindow(form.Handle(), FALSE); // a question is open
+    EXPECT_EQ(cursorAfterMoveOver(form.Handle()), arrow);
+    EnableWindow(form.Handle(), TRUE);
+    form.SetWaiting(false);
+    EXPECT_EQ(GetCursor(), arrow);
+    EXPECT_EQ(cursorAfterMoveOver(Child(IDC_tvColor)), arrow);
+}
+
+TEST_F(MainControls, EscapeIsReportedAndClosesNothing) {
+    form.ShowWindow();
+    MSG escape{form.Handle(), WM_KEYDOWN, VK_ESCAPE, 0, 0, {}};
+    EXPECT_TRUE(form.TranslateKeys(escape));
+    EXPECT_EQ(events.lines, std::vector<std::string>{"escape"});
+    EXPECT_NE(IsWindowVisible(form.Handle()), FALSE);
+}
+
 TEST_F(MainControls, StatusPanelShowsItsText) {
     form.SetInfoPanelText("Okay setzen in SolidWorks");
     std::array<wchar_t, 64> text{};
