@@ -38,7 +38,7 @@ SHARED_HEADERS = ("resources/controls.h",)
 
 WINDOWS_HALF = re.compile(
     r"platform/|mainwindow/frm|support/frm(About|TxtView|Progress)|app/main\.cpp$|standin/com/|"
-    r"tests/(platform|ui|e2e|faults)/|tests/bench/(Start|Walk|Sort)Bench\.cpp$|"
+    r"tests/(platform|ui|e2e|faults)/|tests/bench/(Groups|Start|Walk|Sort)Bench\.cpp$|"
     r"tests/bench/library/(BenchPlatformWindows|HeapUse)\.cpp$|resources/")
 
 STANDARD_HEADERS = frozenset("""
