@@ -1,15 +1,20 @@
 #pragma once
 
-#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
-// How much a message box can show: lines, and characters before a line is wrapped.
-struct MessageRoom {
-    std::size_t lines;
-    std::size_t lineLength;
+// What a text takes on the screen, or what a box has for it, in pixels.
+struct MessageSize {
+    int width;
+    int height;
 };
 
-// The text as it is when it has room; else its first lines, cut to their length, and "..." as the
-// last one: a box that outgrows the screen hides its buttons.  UTF-8.
-[[nodiscard]] std::string FittedMessage(std::string_view text, const MessageRoom& room);
+// Measures a text as the box will wrap it; a word that is longer than a line makes it wider.
+using MessageMeasure = std::function<MessageSize(const std::string& text)>;
+
+// The text as it is when it has room: a box that outgrows the screen hides its buttons.  Else words
+// that are too wide go on in the next line, and of too many lines the first ones stay, with "..." as
+// the last.  UTF-8.
+[[nodiscard]] std::string FittedMessage(std::string_view text, const MessageSize& room,
+                                        const MessageMeasure& measure);

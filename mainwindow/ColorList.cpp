@@ -112,6 +112,7 @@ void ColorList::ColumnClicked(int column) {
     descending_ = sortKey_ == column - 1 && !descending_;
     sortKey_ = column - 1;
     sorted_ = true;
+    pane_.ShowSortOrder(column, descending_);
     const ColorId selectedColor = selected_ ? rows_[static_cast<std::size_t>(*selected_)] : 0;
     Sort();
     selected_.reset();

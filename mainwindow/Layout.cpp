@@ -10,7 +10,7 @@ float ClampSplitter(float x, float formWidth) noexcept {
 
 void SizeControls(float& x, float formWidth, MainLayout& layout) noexcept {
     x = ClampSplitter(x, formWidth);
-    layout.tree.width = x;
+    layout.tree.width = std::max(0.0F, x); // a form narrower than that has no room for it
     layout.splitter.left = x;
     layout.list.left = x + kPaneGap;
     layout.list.width = std::max(0.0F, formWidth - (x + kListMargin));

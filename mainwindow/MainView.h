@@ -34,6 +34,8 @@ public:
     virtual ~ListPane() = default;
     [[nodiscard]] virtual float ListWidth() const = 0;
     virtual void AddColumns(const std::vector<ListColumn>& columns) = 0;
+    // The column, from 1, that the rows are sorted by is marked in the header, and no other one.
+    virtual void ShowSortOrder(int column, bool descending) = 0;
     // All rows may be different now, also in number; nothing is selected afterwards.
     virtual void RowsChanged(int rowCount) = 0;
     virtual void SelectRow(int row) = 0; // from 0

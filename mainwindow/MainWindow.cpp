@@ -239,7 +239,9 @@ void MainWindow::SessionEnding() {
     parts_.quit();
 }
 
+// The rows of another group end an edit in the list; what stands in the box is meant.
 void MainWindow::NodeClicked(const std::string& key) {
+    parts_.view.FinishLabelEdit();
     panes_.NodeClicked(key);
 }
 
@@ -286,6 +288,7 @@ void MainWindow::RowLabelEdited(int row, const std::string& text) {
 }
 
 void MainWindow::ColumnClicked(int column) {
+    parts_.view.FinishLabelEdit(); // the header leaves the focus where it is
     list_.ColumnClicked(column);
 }
 

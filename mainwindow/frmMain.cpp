@@ -15,7 +15,7 @@ constexpr FormDesign kDesign{L"frmMain",
                              WS_EX_CONTROLPARENT | WS_EX_ACCEPTFILES,
                              nullptr,
                              {800, 600},
-                             {300, 240}};
+                             {}};
 
 const std::vector<std::string> kNodeImages = {"Palette", "Colbrush", "Colcubes", "Colfile"};
 
@@ -244,6 +244,10 @@ float frmMain::ListWidth() const {
 void frmMain::AddColumns(const std::vector<ListColumn>& columns) {
     for (const ListColumn& column : columns)
         lvColor_.AddColumn(column.caption, Scale().ToPixels(column.width));
+}
+
+void frmMain::ShowSortOrder(int column, bool descending) {
+    lvColor_.MarkColumn(column, descending);
 }
 
 void frmMain::RowsChanged(int rowCount) {

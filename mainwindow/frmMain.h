@@ -40,6 +40,7 @@ public:
     // ListPane
     [[nodiscard]] float ListWidth() const override;
     void AddColumns(const std::vector<ListColumn>& columns) override;
+    void ShowSortOrder(int column, bool descending) override;
     void RowsChanged(int rowCount) override;
     void SelectRow(int row) override;
     void EnsureRowVisible(int row) override;

@@ -34,6 +34,7 @@ constexpr int kColumnGap = 20;
 constexpr int kBoxWidth = 42;
 constexpr int kSmallestSlider = 80;
 constexpr int kWidestCell = 340;
+constexpr int kWidestLabel = 150; // beside it box and slider find their place
 constexpr int kFirstLine = 22; // below the frame's caption
 constexpr int kBoxPadding = 4; // of a text box, above and below its line together
 
@@ -105,7 +106,7 @@ int MainEditor::LabelWidth() const {
     LONG width = 0;
     for (const Row& row : rows_)
         width = std::max(width, row.label->TextSize().cx);
-    return static_cast<int>(width);
+    return std::min(static_cast<int>(width), Design(kWidestLabel));
 }
 
 MainEditor::Grid MainEditor::GridFor(int width) const {

@@ -1,8 +1,10 @@
 #include "platform/BannerPictures.h"
 
+#include "platform/PlatformPath.h"
 #include "platform/Utf16.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -12,10 +14,10 @@ struct SearchTraits {
     static bool Close(Handle search) noexcept { return FindClose(search) != FALSE; }
 };
 
-std::vector<std::wstring> BitmapFiles(const std::wstring& folder) {
+std::vector<std::wstring> BitmapFiles(const std::string& folder) {
     std::vector<std::wstring> names;
     WIN32_FIND_DATAW found{};
-    const UniqueHandle<SearchTraits> search(FindFirstFileW((folder + L"\\*.bmp").c_str(), &found));
+    const UniqueHandle<SearchTraits> search(FindFirstFileW(ToPlatformPath(folder + "\\*.bmp").c_str(), &found));
     if (!search)
         return names;
     do {
@@ -25,16 +27,34 @@ std::vector<std::wstring> BitmapFiles(const std::wstring& folder) {
     return names;
 }
 
+BitmapHandle LoadBitmapFile(const std::wstring& path) {
+    return BitmapHandle(static_cast<HBITMAP>(LoadImageW(nullptr, path.c_str(), IMAGE_BITMAP, 0, 0,
+                                                        LR_LOADFROMFILE | LR_CREATEDIBSECTION)));
+}
+
+// The system loads pictures from paths of the usual length only: for a moment a longer one has a
+// copy that it can load.
+BitmapHandle LoadPicture(const std::wstring& path) {
+    if (path.size() < MAX_PATH)
+        return LoadBitmapFile(path);
+    std::array<wchar_t, MAX_PATH> folder{};
+    std::array<wchar_t, MAX_PATH> copy{};
+    if (GetTempPathW(MAX_PATH, folder.data()) == 0 ||
+        GetTempFileNameW(folder.data(), L"tnt", 0, copy.data()) == 0)
+        return {};
+    BitmapHandle picture;
+    if (CopyFileW(path.c_str(), copy.data(), FALSE) != FALSE)
+        picture = LoadBitmapFile(copy.data());
+    DeleteFileW(copy.data());
+    return picture;
+}
+
 } // namespace
 
 BannerPictures::BannerPictures(const std::string& folder) {
-    const std::wstring path = ToUtf16(folder);
-    for (const std::wstring& name : BitmapFiles(path)) {
-        const std::wstring file = std::wstring(path).append(L"\\").append(name);
-        // One that cannot be loaded keeps its place, so that the others keep their addresses.
-        pictures_.emplace_back(static_cast<HBITMAP>(LoadImageW(
-            nullptr, file.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION)));
-    }
+    // One that cannot be loaded keeps its place, so that the others keep their addresses.
+    for (const std::wstring& name : BitmapFiles(folder))
+        pictures_.push_back(LoadPicture(ToPlatformPath(folder + "\\" + ToUtf8(name))));
 }
 
 HBITMAP BannerPictures::Picture(int index) const noexcept {

@@ -68,12 +68,20 @@ FontHandle UnderlinedFont(HFONT font) {
     return FontHandle(CreateFontIndirectW(&description));
 }
 
-SIZE MeasureText(HFONT font, std::wstring_view text, int maximumWidth) {
+SIZE MeasureText(HFONT font, std::wstring_view text, int maximumWidth, LongWords longWords) {
     const FontDevice selected(font);
     RECT box{0, 0, maximumWidth, 0};
-    const UINT format = DT_CALCRECT | (maximumWidth > 0 ? DT_WORDBREAK : 0U);
+    const UINT wrapped = longWords == LongWords::Break ? DT_WORDBREAK | DT_EDITCONTROL
+                                                       : DT_WORDBREAK | DT_NOPREFIX | DT_EXPANDTABS;
+    const UINT format = DT_CALCRECT | (maximumWidth > 0 ? wrapped : 0U);
     DrawTextW(FontDevice::Device(), text.data(), static_cast<int>(text.size()), &box, format);
     return {WidthOf(box), HeightOf(box)};
+}
+
+int AverageCharacterWidth(HFONT font) {
+    constexpr std::wstring_view kLetters = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    const auto count = static_cast<LONG>(kLetters.size());
+    return static_cast<int>((MeasureText(font, kLetters).cx + count / 2) / count);
 }
 
 int LineHeight(HFONT font) {

@@ -72,6 +72,7 @@ Form::Form(const FormDesign& design, ErrorSink& errors)
     scale_ = DpiScale(DpiOfWindow(window_));
     font_ = MessageFont(static_cast<unsigned>(scale_.Dpi()));
     LoadIcons();
+    RemoveSizeCommands();
     SetWindowPos(window_, nullptr, 0, 0, scale_.FromDesign(design.size.cx),
                  scale_.FromDesign(design.size.cy), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -149,13 +150,11 @@ MessageResult Form::OnMessage(const WindowMessage& message) {
     case WM_GETMINMAXINFO:
         LimitSize(*reinterpret_cast<MINMAXINFO*>(message.lParam));
         return 0;
-    case WM_ACTIVATE:
-        if (LOWORD(message.wParam) == WA_INACTIVE)
-            RememberFocus();
-        return {};
     case WM_SETFOCUS:
         RestoreFocus();
         return 0;
+    case WM_SYSCOMMAND:
+        return IsRefused(message.wParam) ? MessageResult(0) : MessageResult();
     case DM_GETDEFID: {
         const int button = ButtonForEnter(defaultButton_);
         return button != 0 ? MAKELRESULT(button, DC_HASDEFID) : 0;
@@ -238,16 +237,28 @@ void Form::LoadIcons() {
     load(16, ICON_SMALL, smallIcon_);
 }
 
+// A window of one size; a window manager may offer more than the style does.
+void Form::RemoveSizeCommands() const noexcept {
+    if (HasOneSize())
+        for (const UINT command : {SC_SIZE, SC_MINIMIZE, SC_MAXIMIZE, SC_RESTORE})
+            RemoveMenu(GetSystemMenu(window_, FALSE), command, MF_BYCOMMAND);
+}
+
+bool Form::HasOneSize() const noexcept {
+    return (GetWindowLongPtrW(window_, GWL_STYLE) & WS_THICKFRAME) == 0;
+}
+
+// The low bits of the command are the system's own.
+bool Form::IsRefused(WPARAM systemCommand) const noexcept {
+    const WPARAM command = systemCommand & 0xFFF0U;
+    return HasOneSize() &&
+           (command == SC_SIZE || command == SC_MINIMIZE || command == SC_MAXIMIZE);
+}
+
 void Form::LimitSize(MINMAXINFO& limits) const noexcept {
     if (minimumSize_.cx > 0)
         limits.ptMinTrackSize = {scale_.FromDesign(minimumSize_.cx),
                                  scale_.FromDesign(minimumSize_.cy)};
-}
-
-void Form::RememberFocus() noexcept {
-    const HWND focus = GetFocus();
-    if (focus != nullptr && IsChild(window_, focus) != FALSE)
-        lastFocus_ = focus;
 }
 
 void Form::RestoreFocus() noexcept {

@@ -64,6 +64,10 @@ public:
     // From now on nothing is reported, whatever happens to the window.
     void StopReporting() noexcept { closing_ = true; }
 
+    // The control has the focus: it gets it again when the form does.  A text box that a control
+    // opens in itself is no control of the form.
+    void RememberFocus(HWND control) noexcept { lastFocus_ = control; }
+
     // Lays the form out once after the messages that are waiting.
     void RequestLayout() noexcept;
 
@@ -111,8 +115,10 @@ private:
     void GiveTip(NMTTDISPINFOW& request);
     void ChangeScale(unsigned dpi, const RECT* suggested);
     void ApplyScale();
+    void RemoveSizeCommands() const noexcept;
+    [[nodiscard]] bool HasOneSize() const noexcept;
+    [[nodiscard]] bool IsRefused(WPARAM systemCommand) const noexcept;
     void LimitSize(MINMAXINFO& limits) const noexcept;
-    void RememberFocus() noexcept;
     void RestoreFocus() noexcept;
     void LoadIcons();
 

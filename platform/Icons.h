@@ -15,12 +15,15 @@ class IconList : public DesignComponent {
 public:
     IconList(std::string name, std::vector<std::string> keys);
 
-    void Fit(int size); // pixels; a new handle when the size is new
+    // Pixels.  A new handle when the size is new; the one before stays good until the next change,
+    // for the controls that share the list take the new one one after the other.
+    void Fit(int size);
     [[nodiscard]] HIMAGELIST Handle() const noexcept { return images_.Get(); }
     [[nodiscard]] int IndexOf(const std::string& key) const noexcept; // -1: there is none
 
 private:
     std::vector<std::string> keys_;
     ImageListHandle images_;
+    ImageListHandle before_;
     int size_ = 0;
 };

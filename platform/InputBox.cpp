@@ -1,8 +1,10 @@
 #include "platform/InputBox.h"
 
+#include "common/MessageText.h"
 #include "platform/controls/CommandButton.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/TextBox.h"
+#include "platform/Fonts.h"
 #include "platform/Form.h"
 #include "platform/ModalDisplay.h"
 #include "platform/Utf16.h"
@@ -41,7 +43,7 @@ public:
     }
 
     std::wstring Ask(const std::wstring& prompt, const std::wstring& preset) {
-        prompt_.SetText(ToUtf8(prompt));
+        prompt_.SetText(FittedPrompt(ToUtf8(prompt)));
         OnLayout();
         input_.SetText(ToUtf8(preset)); // a box without width would scroll its text away
         CentreOnOwner(Handle());
@@ -57,6 +59,8 @@ protected:
     void OnLayout() override;
 
 private:
+    [[nodiscard]] std::string FittedPrompt(const std::string& prompt) const;
+    [[nodiscard]] int PromptWidth() const { return Scale().FromDesign(kWidth - 2 * kMargin); }
     void Finish(std::wstring answer) {
         answer_ = std::move(answer);
         done_ = true;
@@ -72,11 +76,22 @@ private:
     bool done_ = false;
 };
 
+// Text box and buttons stay on the screen.
+std::string InputBox::FittedPrompt(const std::string& prompt) const {
+    constexpr int kLinesOfBorder = 12;
+    const int height = HeightOf(WorkAreaOf(GetWindow(Handle(), GW_OWNER)));
+    return FittedMessage(prompt, {PromptWidth(), height - kLinesOfBorder * LineHeight(Font())},
+                         [this](const std::string& text) {
+                             const SIZE size = MeasureText(Font(), ToUtf16(text), PromptWidth());
+                             return MessageSize{size.cx, size.cy};
+                         });
+}
+
 void InputBox::OnLayout() {
     const int margin = Scale().FromDesign(kMargin);
     const int gap = Scale().FromDesign(kGap);
-    const int right = Scale().FromDesign(kWidth) - margin;
-    const SIZE text = prompt_.TextSize(right - margin);
+    const int right = margin + PromptWidth();
+    const SIZE text = prompt_.TextSize(PromptWidth());
     const SIZE button = cancel_.IdealSize();
     int top = margin;
     prompt_.Place({margin, top, right, top + text.cy});

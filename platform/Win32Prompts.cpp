@@ -7,8 +7,7 @@
 #include "platform/Fonts.h"
 #include "platform/InputBox.h"
 #include "platform/Utf16.h"
-
-#include <algorithm>
+#include "platform/WindowGeometry.h"
 
 namespace {
 
@@ -25,15 +24,27 @@ Answer ToAnswer(int button) {
     }
 }
 
-// The lines that the primary screen has room for, beside the box's border and buttons.
-MessageRoom RoomOnScreen() {
-    constexpr int kLinesOfBorder = 12;
-    constexpr int kFewest = 10;
-    constexpr std::size_t kLineLength = 90; // in a box on the smallest screens
-    RECT area{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    const int lines = HeightOf(area) / LineHeight(MessageFont(DpiOfScreen()).Get());
-    return {static_cast<std::size_t>(std::max(lines - kLinesOfBorder, kFewest)), kLineLength};
+// As a message box wraps its text, on systems where it is narrowest.
+MessageSize SizeInBox(HFONT font, const std::string& text) {
+    constexpr int kLineUnits = 170; // dialog units: a quarter of an average character's width
+    const int lineWidth = MulDiv(AverageCharacterWidth(font), kLineUnits, 4);
+    const SIZE size = MeasureText(font, ToUtf16(text), lineWidth, LongWords::Stay);
+    return {size.cx, size.cy};
+}
+
+// What the screen has for a text, beside the box's border, icon and buttons.
+MessageSize RoomOnScreen(HWND owner, HFONT font) {
+    constexpr int kLinesOfBorder = 9;
+    const RECT area = WorkAreaOf(owner);
+    const int border = kLinesOfBorder * LineHeight(font);
+    return {WidthOf(area) - border, HeightOf(area) - border};
+}
+
+std::string FittedToScreen(HWND owner, const std::string& prompt) {
+    const FontHandle font = MessageFont(DpiOfScreen());
+    return FittedMessage(prompt, RoomOnScreen(owner, font.Get()), [&font](const std::string& text) {
+        return SizeInBox(font.Get(), text);
+    });
 }
 
 } // namespace
@@ -41,7 +52,7 @@ MessageRoom RoomOnScreen() {
 Answer Win32Prompts::ShowMessage(const std::string& prompt, int style, const std::string& title) {
     const BoxOwner owner(mainWindow_());
     return ToAnswer(MessageBoxW(owner.Handle(),
-                                ToUtf16(FittedMessage(prompt, RoomOnScreen())).c_str(),
+                                ToUtf16(FittedToScreen(owner.Handle(), prompt)).c_str(),
                                 ToUtf16(title).c_str(), static_cast<UINT>(style)));
 }
 

@@ -2,6 +2,8 @@
 
 #include "platform/DpiScale.h"
 
+#include <algorithm>
+
 TwipsRect BoundsOfWindow(HWND window) {
     RECT bounds{};
     GetWindowRect(window, &bounds);
@@ -36,16 +38,48 @@ void ResizeClientArea(HWND window, SIZE client) {
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void CentreOnOwner(HWND window) {
+RECT CentredIn(const RECT& place, SIZE size, const RECT& workArea) {
+    const LONG left = place.left + (WidthOf(place) - size.cx) / 2;
+    const LONG top = place.top + (HeightOf(place) - size.cy) / 2;
+    const POINT at{std::max(std::min(left, workArea.right - size.cx), workArea.left),
+                   std::max(std::min(top, workArea.bottom - size.cy), workArea.top)};
+    return {at.x, at.y, at.x + size.cx, at.y + size.cy};
+}
+
+RECT WorkAreaOf(HWND window) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    return monitor.rcWork;
+}
+
+namespace {
+
+SIZE SizeOfWindow(HWND window) {
     RECT bounds{};
-    RECT place{};
     GetWindowRect(window, &bounds);
+    return {WidthOf(bounds), HeightOf(bounds)};
+}
+
+} // namespace
+
+void CentreOnOwner(HWND window) {
     const HWND owner = GetWindow(window, GW_OWNER);
-    if (owner != nullptr && IsWindowVisible(owner) != FALSE && IsIconic(owner) == FALSE)
+    const bool isSeen =
+        owner != nullptr && IsWindowVisible(owner) != FALSE && IsIconic(owner) == FALSE;
+    const RECT workArea = WorkAreaOf(isSeen ? owner : nullptr);
+    RECT place = workArea;
+    if (isSeen)
         GetWindowRect(owner, &place);
-    else
-        SystemParametersInfoW(SPI_GETWORKAREA, 0, &place, 0);
-    SetWindowPos(window, nullptr, place.left + (WidthOf(place) - WidthOf(bounds)) / 2,
-                 place.top + (HeightOf(place) - HeightOf(bounds)) / 2, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    // A window that comes to a screen of another scale takes another size there.
+    SIZE placed{};
+    for (int pass = 0; pass < 2; ++pass) {
+        const SIZE size = SizeOfWindow(window);
+        if (size.cx == placed.cx && size.cy == placed.cy)
+            return;
+        const RECT bounds = CentredIn(place, size, workArea);
+        SetWindowPos(window, nullptr, bounds.left, bounds.top, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        placed = size;
+    }
 }

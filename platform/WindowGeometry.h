@@ -20,5 +20,13 @@ void MoveWindowTo(HWND window, const TwipsRect& bounds);
 // Client size in pixels; the window's left and top stay.
 void ResizeClientArea(HWND window, SIZE client);
 
-// Over the owner; on the work area of the screen when there is none to be seen.
+// A window of the size in the middle of the place, moved into the work area when it would leave it.
+// One that is larger than the work area has its left and top edge there.
+[[nodiscard]] RECT CentredIn(const RECT& place, SIZE size, const RECT& workArea);
+
+// Of the screen that holds most of the window; of the primary screen for null.
+[[nodiscard]] RECT WorkAreaOf(HWND window);
+
+// Over the owner and inside the work area of its screen, also when the window changes its size as
+// it comes to that screen; on the primary screen's work area when no owner is to be seen.
 void CentreOnOwner(HWND window);

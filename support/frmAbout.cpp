@@ -5,6 +5,8 @@
 #include "platform/Utf16.h"
 #include "resources/controls.h"
 
+#include <algorithm>
+
 namespace {
 
 // Design pixels.
@@ -120,11 +122,13 @@ void frmAbout::PlaceBanner(Line& line) {
 }
 
 void frmAbout::PlaceButtons(Line& line) {
-    const SIZE info = cmdSysInfo_.IdealSize();
-    const SIZE ok = cmdOK_.IdealSize();
-    const int bottom = line.top + ok.cy;
+    const int gap = Scale().FromDesign(kGap);
+    const int widest = (line.right - line.left - gap) / 2;
+    const SIZE info = cmdSysInfo_.IdealSize(widest);
+    const SIZE ok = cmdOK_.IdealSize(widest);
+    const int bottom = line.top + std::max(info.cy, ok.cy);
     cmdOK_.Place({line.right - ok.cx, line.top, line.right, bottom});
-    const int infoRight = line.right - ok.cx - Scale().FromDesign(kGap);
+    const int infoRight = line.right - ok.cx - gap;
     cmdSysInfo_.Place({infoRight - info.cx, line.top, infoRight, bottom});
     line.top = bottom;
 }

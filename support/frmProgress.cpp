@@ -108,7 +108,7 @@ void frmProgress::OnCloseBox() {
 void frmProgress::OnLayout() {
     const int margin = Scale().FromDesign(kMargin);
     const int right = Scale().FromDesign(kWidth) - margin;
-    const SIZE button = cmdCancel_.IdealSize();
+    const SIZE button = cmdCancel_.IdealSize(right - margin);
     int top = margin;
     const int line = LineHeight(Font());
     lblInfo_.Place({margin, top, right, top + line});

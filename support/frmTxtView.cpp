@@ -84,7 +84,7 @@ void frmTxtView::OnLayout() {
     const int textTop = Scale().ToPixels(kTextTop);
     const int columnLeft = WidthOf(area) - margin - Scale().ToPixels(kColumnWidth);
     const int columnRight = WidthOf(area) - margin;
-    const int button = cmdOkay_.IdealSize().cy;
+    const int button = cmdOkay_.IdealSize(columnRight - columnLeft).cy;
     cmbTxtView_.Place({margin, margin, margin + Scale().FromDesign(kComboWidth),
                        margin + Scale().FromDesign(kComboHeight)});
     cmdOkay_.Place({columnLeft, textTop, columnRight, textTop + button});

@@ -14,12 +14,14 @@ constexpr ControlKind kButton{"CommandButton", WC_BUTTONW, "Caption"};
 
 CommandButton::CommandButton(Form& form, const ControlPlace& place, ButtonRole role)
     : Control(form, kButton, place,
-              WS_VISIBLE | WS_TABSTOP |
+              WS_VISIBLE | WS_TABSTOP | BS_MULTILINE |
                   (role == ButtonRole::Default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON)) {}
 
-SIZE CommandButton::IdealSize() const {
-    const SIZE text = MeasureText(Owner().Font(), ToUtf16(Text()));
-    return {std::max(text.cx + Scale().FromDesign(24), LONG{Scale().FromDesign(80)}),
+SIZE CommandButton::IdealSize(int maximumWidth) const {
+    const int border = Scale().FromDesign(24);
+    const int textWidth = maximumWidth > 0 ? std::max(maximumWidth - border, 1) : 0;
+    const SIZE text = MeasureText(Owner().Font(), ToUtf16(Text()), textWidth);
+    return {std::max(text.cx + border, LONG{Scale().FromDesign(80)}),
             text.cy + Scale().FromDesign(10)};
 }
 

@@ -6,6 +6,7 @@
 #include "platform/Utf16.h"
 
 #include <stdexcept>
+#include <utility>
 
 Control::Control(Form& form, const ControlKind& kind, const ControlPlace& place, DWORD style,
                  DWORD extendedStyle)
@@ -27,13 +28,22 @@ LRESULT CALLBACK Control::SubclassProcedure(HWND window, UINT id, WPARAM wParam,
         RemoveWindowSubclass(window, SubclassProcedure, subclass);
     if (id == WM_NCDESTROY || control->form_.IsClosing())
         return DefSubclassProc(window, id, wParam, lParam);
+    const LRESULT result = control->Answer({window, id, wParam, lParam});
+    // Not every class paints the whole of a window that has another size: what it keeps is old.
+    if (id == WM_SIZE)
+        InvalidateRect(window, nullptr, TRUE);
+    return result;
+}
+
+LRESULT Control::Answer(const WindowMessage& message) noexcept {
+    if (message.id == WM_SETFOCUS)
+        form_.RememberFocus(window_);
     MessageResult result;
-    const bool succeeded = RunGuarded(control->form_.Errors(), [&] {
-        result = control->OnMessage({window, id, wParam, lParam});
-    });
+    const bool succeeded =
+        RunGuarded(form_.Errors(), [&] { result = OnMessage(message); });
     if (result || !succeeded)
         return result.value_or(0);
-    return DefSubclassProc(window, id, wParam, lParam);
+    return Default(message);
 }
 
 bool Control::HasTextProperty(const std::string& property) const {
@@ -63,6 +73,18 @@ void Control::SetProperty(const std::string& property, const std::string& text) 
 void Control::TipShowsCutText() {
     tipShowsCutText_ = true;
     UpdateTip();
+}
+
+void Control::TipIsFor(LPARAM part) {
+    if (std::exchange(tipPart_, part) != part)
+        UpdateTip();
+}
+
+POINT Control::Pointer() const noexcept {
+    POINT at{};
+    GetCursorPos(&at);
+    ScreenToClient(window_, &at);
+    return at;
 }
 
 void Control::UpdateTip() {

@@ -40,7 +40,7 @@ public:
     void SetEnabled(bool enabled) override { EnableWindow(window_, enabled ? TRUE : FALSE); }
 
     // What its tool tip says just now; empty: nothing.
-    [[nodiscard]] std::string TipText() const { return IsTextCut() ? Text() : toolTip_; }
+    [[nodiscard]] virtual std::string TipText() const { return IsTextCut() ? Text() : toolTip_; }
 
     [[nodiscard]] std::string Text() const;
     virtual void SetText(const std::string& text);
@@ -74,6 +74,10 @@ protected:
     // A control whose text may be longer than its place: the tool tip shows the whole of it.
     void TipShowsCutText();
     [[nodiscard]] virtual bool IsTextCut() const { return false; }
+    // The pointer is over a part of the control, whatever numbers its parts have: a tool tip of
+    // another part goes.
+    void TipIsFor(LPARAM part);
+    [[nodiscard]] POINT Pointer() const noexcept; // pixels of the control
 
     // What the window's class does with the message.
     [[nodiscard]] static LRESULT Default(const WindowMessage& message);
@@ -81,6 +85,7 @@ protected:
 private:
     static LRESULT CALLBACK SubclassProcedure(HWND window, UINT id, WPARAM wParam, LPARAM lParam,
                                               UINT_PTR subclass, DWORD_PTR reference) noexcept;
+    LRESULT Answer(const WindowMessage& message) noexcept;
     [[nodiscard]] bool HasTextProperty(const std::string& property) const;
 
     Form& form_;
@@ -90,6 +95,7 @@ private:
 
     std::string toolTip_;
     bool tipShowsCutText_ = false;
+    LPARAM tipPart_ = -1;
     HWND window_;
 };
 

@@ -1,6 +1,5 @@
 #include "platform/controls/Label.h"
 
-#include "platform/BufferedPaint.h"
 #include "platform/Fonts.h"
 #include "platform/Form.h"
 #include "platform/Utf16.h"
@@ -12,7 +11,8 @@ namespace {
 constexpr ControlKind kLabel{"Label", WC_STATICW, "Caption"};
 
 // SS_NOTIFY: a label without it is transparent to the mouse and would never show its tool tip.
-constexpr DWORD kLabelStyle = WS_VISIBLE | SS_LEFT | SS_NOTIFY;
+// SS_EDITCONTROL: a word that is longer than the label goes on in its next line.
+constexpr DWORD kLabelStyle = WS_VISIBLE | SS_LEFT | SS_NOTIFY | SS_EDITCONTROL;
 
 int Brightness(COLORREF color) {
     return (GetRValue(color) * 3 + GetGValue(color) * 6 + GetBValue(color)) / 10;
@@ -71,7 +71,8 @@ bool NameLabel::IsTextCut() const {
     return TextSize().cx > WidthOf(Bounds());
 }
 
-LinkLabel::LinkLabel(Form& form, const ControlPlace& place) : Label(form, place, LabelText::Plain) {
+LinkLabel::LinkLabel(Form& form, const ControlPlace& place)
+    : Painted(form, place, LabelText::Plain) {
     SetWindowLongPtrW(Handle(), GWL_STYLE,
                       GetWindowLongPtrW(Handle(), GWL_STYLE) | static_cast<LONG_PTR>(WS_TABSTOP));
 }
@@ -84,17 +85,12 @@ void LinkLabel::OnCommand(WPARAM wParam) {
 
 MessageResult LinkLabel::OnMessage(const WindowMessage& message) {
     switch (message.id) {
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_PAINT:
-        Paint();
-        return 0;
     case WM_SETCURSOR:
         SetCursor(LoadCursorW(nullptr, IDC_HAND));
         return 1;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
-        InvalidateRect(message.window, nullptr, FALSE);
+        Repaint();
         return {};
     case WM_GETDLGCODE:
         return DLGC_BUTTON | (IsEnter(message.lParam) ? DLGC_WANTMESSAGE : 0);
@@ -107,20 +103,20 @@ MessageResult LinkLabel::OnMessage(const WindowMessage& message) {
             Raise(onClick);
         return 0;
     default:
-        return {};
+        return Painted::OnMessage(message);
     }
 }
 
-void LinkLabel::Paint() const {
-    const BufferedPaint paint(Handle());
+void LinkLabel::Paint(HDC device, const RECT& area) const {
     const FontHandle font = UnderlinedFont(Owner().Font());
-    RECT area = paint.Area();
-    FillRect(paint.Device(), &area, GetSysColorBrush(COLOR_3DFACE));
-    const HGDIOBJ before = SelectObject(paint.Device(), font.Get());
-    SetBkMode(paint.Device(), TRANSPARENT);
-    SetTextColor(paint.Device(), LinkColor());
-    DrawTextW(paint.Device(), ToUtf16(Text()).c_str(), -1, &area, DT_NOPREFIX | DT_END_ELLIPSIS);
-    SelectObject(paint.Device(), before);
+    RECT lines = area;
+    FillRect(device, &area, GetSysColorBrush(COLOR_3DFACE));
+    const HGDIOBJ before = SelectObject(device, font.Get());
+    SetBkMode(device, TRANSPARENT);
+    SetTextColor(device, LinkColor());
+    DrawTextW(device, ToUtf16(Text()).c_str(), -1, &lines,
+              DT_NOPREFIX | DT_WORDBREAK | DT_EDITCONTROL);
+    SelectObject(device, before);
     if (GetFocus() == Handle())
-        DrawFocusRect(paint.Device(), &area);
+        DrawFocusRect(device, &area);
 }

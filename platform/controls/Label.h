@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/controls/Control.h"
+#include "platform/controls/Painted.h"
 
 #include <functional>
 
@@ -34,7 +35,7 @@ protected:
 };
 
 // A text that is clicked like a link: by mouse, Space or Enter.
-class LinkLabel : public Label {
+class LinkLabel : public Painted<Label> {
 public:
     LinkLabel(Form& form, const ControlPlace& place);
 
@@ -44,7 +45,5 @@ public:
 
 protected:
     MessageResult OnMessage(const WindowMessage& message) override;
-
-private:
-    void Paint() const;
+    void Paint(HDC device, const RECT& area) const override;
 };

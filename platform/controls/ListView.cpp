@@ -1,6 +1,7 @@
 #include "platform/controls/ListView.h"
 
 #include "platform/ExplorerTheme.h"
+#include "platform/Fonts.h"
 #include "platform/Form.h"
 #include "platform/Utf16.h"
 
@@ -15,7 +16,7 @@ constexpr DWORD kListStyle = WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_OWNERDAT
                              LVS_EDITLABELS | LVS_SHOWSELALWAYS | LVS_AUTOARRANGE |
                              LVS_SHAREIMAGELISTS;
 
-constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
 
 constexpr int kLargeIcon = 32;
 constexpr int kSmallIcon = 16;
@@ -30,6 +31,7 @@ ListView::ListView(Form& form, const ControlPlace& place, const Images& images)
     UseExplorerTheme(Handle());
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kExtendedStyle, LPARAM{kExtendedStyle});
     ListView::ApplyScale();
+    TipShowsCutText();
 }
 
 void ListView::ApplyScale() {
@@ -65,6 +67,21 @@ void ListView::AddColumn(const std::string& caption, int width) {
     column.iSubItem = columns_;
     Send(LVM_INSERTCOLUMNW, static_cast<WPARAM>(columns_), &column);
     ++columns_;
+}
+
+void ListView::MarkColumn(int column, bool descending) {
+    const auto header = reinterpret_cast<HWND>(Send(LVM_GETHEADER));
+    for (int index = 0; index < columns_; ++index) {
+        HDITEMW item{};
+        item.mask = HDI_FORMAT;
+        SendMessageW(header, HDM_GETITEMW, static_cast<WPARAM>(index),
+                     reinterpret_cast<LPARAM>(&item));
+        item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
+        if (index == column - 1)
+            item.fmt |= descending ? HDF_SORTDOWN : HDF_SORTUP;
+        SendMessageW(header, HDM_SETITEMW, static_cast<WPARAM>(index),
+                     reinterpret_cast<LPARAM>(&item));
+    }
 }
 
 void ListView::SetRowCount(int count) {
@@ -227,6 +244,11 @@ MessageResult ListView::OnMessage(const WindowMessage& message) {
     if (const MessageResult result = drag_.OnMessage(message))
         return result;
     switch (message.id) {
+    case WM_MOUSEMOVE: {
+        const Cell cell = CellAt(PointOf(message));
+        TipIsFor(MAKELPARAM(cell.row, cell.column));
+        return {};
+    }
     case WM_LBUTTONDOWN:
         Raise(onPress);
         return PressLeft(message);
@@ -309,6 +331,34 @@ int ListView::RowAt(POINT point) const {
     LVHITTESTINFO hit{};
     hit.pt = point;
     return static_cast<int>(Send(LVM_HITTEST, 0, &hit));
+}
+
+ListView::Cell ListView::CellAt(POINT point) const {
+    LVHITTESTINFO hit{};
+    hit.pt = point;
+    if (View() != LVS_REPORT)
+        return {static_cast<int>(Send(LVM_HITTEST, 0, &hit)), 1};
+    Send(LVM_SUBITEMHITTEST, 0, &hit);
+    return {hit.iItem, hit.iSubItem + 1};
+}
+
+// Over a row only its name, when it is cut off: anything else would hide what is to be clicked.
+std::string ListView::TipText() const {
+    const Cell cell = CellAt(Pointer());
+    if (cell.row < 0)
+        return Control::TipText();
+    const std::string name = cell.column == 1 && cellText ? cellText(cell.row, 1) : std::string();
+    return IsNameCut(cell.row, name) ? name : std::string();
+}
+
+bool ListView::IsNameCut(int row, const std::string& name) const {
+    RECT area{};
+    RECT place{LVIR_LABEL, 0, 0, 0};
+    GetClientRect(Handle(), &area);
+    Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), &place);
+    const SIZE text = MeasureText(Owner().Font(), ToUtf16(name));
+    const LONG lines = std::max(HeightOf(place) / std::max(text.cy, LONG{1}), LONG{1});
+    return text.cx > lines * WidthOf(place) || place.left < area.left || place.right > area.right;
 }
 
 void ListView::OpenContextMenu(const WindowMessage& message) {

@@ -21,6 +21,8 @@ public:
     ListView(Form& form, const ControlPlace& place, const Images& images);
 
     void AddColumn(const std::string& caption, int width); // pixels
+    // The header shows that the rows are sorted by this column, from 1, and by no other one.
+    void MarkColumn(int column, bool descending);
     void SetRowCount(int count);                           // all rows are new, none is selected
     void SelectRow(int row);
     void EnsureVisible(int row);
@@ -42,6 +44,7 @@ public:
     std::function<void()> onPress;                   // a mouse button, beside the rows too
     std::function<bool(POINT screen)> onDragStart;   // of the selected row; true: Drag() begins
 
+    [[nodiscard]] std::string TipText() const override;
     MessageResult OnNotify(NMHDR& header) override;
     void ApplyScale() override;
 
@@ -49,6 +52,11 @@ protected:
     MessageResult OnMessage(const WindowMessage& message) override;
 
 private:
+    struct Cell {
+        int row; // -1: none
+        int column;
+    };
+
     void FillItem(LVITEMW& item) const;
     [[nodiscard]] const IconList& ShownImages() const;
     void FitColumns();
@@ -59,6 +67,8 @@ private:
     void EndLabelEdit(const NMLVDISPINFOW& info);
     [[nodiscard]] int FindText(const NMLVFINDITEMW& search) const;
     [[nodiscard]] int RowAt(POINT point) const; // -1: none
+    [[nodiscard]] Cell CellAt(POINT point) const;
+    [[nodiscard]] bool IsNameCut(int row, const std::string& name) const;
     void ShowSelection(int row);                // without a report
     LRESULT KeepSelection(const WindowMessage& message);
     MessageResult PressLeft(const WindowMessage& message);

@@ -1,6 +1,5 @@
 #include "platform/controls/PictureBox.h"
 
-#include "platform/BufferedPaint.h"
 #include "platform/DpiScale.h"
 #include "platform/Icons.h"
 
@@ -13,11 +12,11 @@ constexpr ControlKind kPictureBox{"PictureBox", WC_STATICW, ""};
 } // namespace
 
 PictureBox::PictureBox(Form& form, const ControlPlace& place)
-    : Control(form, kPictureBox, place, SS_NOTIFY) {}
+    : Painted(form, kPictureBox, place, SS_NOTIFY) {}
 
 void PictureBox::SetPicture(HBITMAP picture) {
     picture_ = picture;
-    InvalidateRect(Handle(), nullptr, FALSE);
+    Repaint();
 }
 
 SIZE PictureBox::PictureSize() const noexcept {
@@ -37,35 +36,25 @@ void PictureBox::OnCommand(WPARAM wParam) {
 }
 
 MessageResult PictureBox::OnMessage(const WindowMessage& message) {
-    switch (message.id) {
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_PAINT:
-        Paint();
-        return 0;
-    case WM_SETCURSOR:
-        SetCursor(LoadCursorW(nullptr, IDC_HAND));
-        return 1;
-    default:
-        return {};
-    }
+    if (message.id != WM_SETCURSOR)
+        return Painted::OnMessage(message);
+    SetCursor(LoadCursorW(nullptr, IDC_HAND));
+    return 1;
 }
 
-void PictureBox::Paint() const {
-    const BufferedPaint paint(Handle());
-    const RECT area = paint.Area();
-    FillRect(paint.Device(), &area, GetSysColorBrush(COLOR_3DFACE));
+void PictureBox::Paint(HDC device, const RECT& area) const {
+    FillRect(device, &area, GetSysColorBrush(COLOR_3DFACE));
     if (picture_ == nullptr)
         return;
     const SIZE size = PictureSize();
     const int height = std::min(HeightOf(area), MulDiv(size.cy, WidthOf(area), size.cx));
     const int width = WidthForHeight(height);
-    const MemoryDevice source(CreateCompatibleDC(paint.Device()));
+    const MemoryDevice source(CreateCompatibleDC(device));
     const HGDIOBJ before = SelectObject(source.Get(), picture_);
-    SetStretchBltMode(paint.Device(), HALFTONE);
-    SetBrushOrgEx(paint.Device(), 0, 0, nullptr);
-    StretchBlt(paint.Device(), (WidthOf(area) - width) / 2, (HeightOf(area) - height) / 2, width,
-               height, source.Get(), 0, 0, size.cx, size.cy, SRCCOPY);
+    SetStretchBltMode(device, HALFTONE);
+    SetBrushOrgEx(device, 0, 0, nullptr);
+    StretchBlt(device, (WidthOf(area) - width) / 2, (HeightOf(area) - height) / 2, width, height,
+               source.Get(), 0, 0, size.cx, size.cy, SRCCOPY);
     SelectObject(source.Get(), before);
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/controls/Control.h"
+#include "platform/controls/Painted.h"
 #include "platform/Handles.h"
 
 #include <functional>
 
 // A picture that may be clicked.  It keeps its proportions and is centred in the box.
-class PictureBox : public Control {
+class PictureBox : public Painted<> {
 public:
     PictureBox(Form& form, const ControlPlace& place);
 
@@ -20,10 +20,10 @@ public:
 
 protected:
     MessageResult OnMessage(const WindowMessage& message) override;
+    void Paint(HDC device, const RECT& area) const override;
 
 private:
     [[nodiscard]] SIZE PictureSize() const noexcept;
-    void Paint() const;
 
     HBITMAP picture_ = nullptr;
 };

@@ -32,6 +32,8 @@ void ProgressBar::SetValue(int value) {
 int ProgressBar::StepOf(int value) const noexcept {
     if (value >= maximum_)
         return kSteps;
+    if (value <= minimum_)
+        return 0;
     const auto passed = static_cast<std::int64_t>(value) - minimum_;
     const auto range = static_cast<std::int64_t>(maximum_) - minimum_;
     return static_cast<int>(passed * kSteps / range);

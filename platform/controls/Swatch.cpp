@@ -1,6 +1,5 @@
 #include "platform/controls/Swatch.h"
 
-#include "platform/BufferedPaint.h"
 #include "platform/Fonts.h"
 #include "platform/Form.h"
 #include "platform/Utf16.h"
@@ -17,7 +16,7 @@ constexpr int kMargin = 8; // left and right of the text, design pixels
 } // namespace
 
 Swatch::Swatch(Form& form, const ControlPlace& place)
-    : Control(form, kSwatch, place, WS_VISIBLE | SS_NOTIFY | SS_NOPREFIX) {
+    : Painted(form, kSwatch, place, WS_VISIBLE | SS_NOTIFY | SS_NOPREFIX) {
     TipShowsCutText();
 }
 
@@ -31,21 +30,7 @@ void Swatch::SetColors(ColorNumber background, ColorNumber text) {
         return;
     background_ = background;
     text_ = text;
-    InvalidateRect(Handle(), nullptr, FALSE);
-}
-
-// A static control repaints at once, and with its own colours, when its text is set.
-void Swatch::SetText(const std::string& text) {
-    if (text == Text())
-        return;
-    if (!IsShown()) { // switching its drawing on again would show it
-        Control::SetText(text);
-        return;
-    }
-    Send(WM_SETREDRAW, FALSE);
-    Control::SetText(text);
-    Send(WM_SETREDRAW, TRUE);
-    InvalidateRect(Handle(), nullptr, FALSE);
+    Repaint();
 }
 
 void Swatch::OnCommand(WPARAM wParam) {
@@ -53,32 +38,18 @@ void Swatch::OnCommand(WPARAM wParam) {
         Raise(onDoubleClick);
 }
 
-MessageResult Swatch::OnMessage(const WindowMessage& message) {
-    switch (message.id) {
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_PAINT:
-        Paint();
-        return 0;
-    default:
-        return {};
-    }
-}
-
-void Swatch::Paint() const {
-    const BufferedPaint paint(Handle());
-    RECT area = paint.Area();
+void Swatch::Paint(HDC device, const RECT& area) const {
     const BrushHandle brush(CreateSolidBrush(background_));
-    FillRect(paint.Device(), &area, brush.Get());
-    FrameRect(paint.Device(), &area, GetSysColorBrush(COLOR_3DSHADOW));
-    const HGDIOBJ before = SelectObject(paint.Device(), Owner().Font());
-    SetBkMode(paint.Device(), TRANSPARENT);
-    SetTextColor(paint.Device(), text_);
-    const int margin = Scale().FromDesign(kMargin);
-    InflateRect(&area, -margin, 0);
-    DrawTextW(paint.Device(), ToUtf16(Text()).c_str(), -1, &area,
+    FillRect(device, &area, brush.Get());
+    FrameRect(device, &area, GetSysColorBrush(COLOR_3DSHADOW));
+    const HGDIOBJ before = SelectObject(device, Owner().Font());
+    SetBkMode(device, TRANSPARENT);
+    SetTextColor(device, text_);
+    RECT inside = area;
+    InflateRect(&inside, -Scale().FromDesign(kMargin), 0);
+    DrawTextW(device, ToUtf16(Text()).c_str(), -1, &inside,
               DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
-    SelectObject(paint.Device(), before);
+    SelectObject(device, before);
 }
 
 SolidBar::SolidBar(Form& form, const ControlPlace& place) : Control(form, kSolidBar, place, 0) {}

@@ -1,17 +1,16 @@
 #pragma once
 
 #include "common/ColorNumber.h"
-#include "platform/controls/Control.h"
+#include "platform/controls/Painted.h"
 
 #include <functional>
 
 // A label that shows a colour, and its text in another one.
-class Swatch : public Control {
+class Swatch : public Painted<> {
 public:
     Swatch(Form& form, const ControlPlace& place);
 
     void SetColors(ColorNumber background, ColorNumber text);
-    void SetText(const std::string& text) override;
 
     std::function<void()> onDoubleClick;
 
@@ -19,11 +18,9 @@ public:
 
 protected:
     [[nodiscard]] bool IsTextCut() const override;
-    MessageResult OnMessage(const WindowMessage& message) override;
+    void Paint(HDC device, const RECT& area) const override;
 
 private:
-    void Paint() const;
-
     ColorNumber background_ = 0xFFFFFF;
     ColorNumber text_ = 0;
 };

@@ -36,6 +36,13 @@ void TextBox::SetText(const std::string& text) {
     setting_ = before;
 }
 
+void TextBox::SetProperty(const std::string& property, const std::string& text) {
+    if (property != kTextBox.textProperty)
+        Control::SetProperty(property, text);
+    else if (text != Text())
+        Control::SetText(text);
+}
+
 void TextBox::SelectAll() {
     Send(EM_SETSEL, 0, -1);
 }

@@ -11,6 +11,8 @@ public:
 
     // Not reported as a change.  The caret keeps its distance from the end of the text.
     void SetText(const std::string& text) override;
+    // Reported as if it had been typed, when it is another text.
+    void SetProperty(const std::string& property, const std::string& text) override;
     void SelectAll();
 
     std::function<void(const std::string& text)> onChange;

@@ -14,7 +14,8 @@ constexpr std::size_t kLongestLabel = 32768; // characters
 constexpr ControlKind kTreeView{"TreeView", WC_TREEVIEWW, ""};
 
 constexpr DWORD kTreeStyle =
-    WS_VISIBLE | WS_TABSTOP | TVS_HASBUTTONS | TVS_LINESATROOT | TVS_EDITLABELS | TVS_SHOWSELALWAYS;
+    WS_VISIBLE | WS_TABSTOP | TVS_HASBUTTONS | TVS_LINESATROOT | TVS_EDITLABELS |
+    TVS_SHOWSELALWAYS | TVS_NOTOOLTIPS;
 
 constexpr int kIconSize = 16;
 
@@ -35,6 +36,7 @@ TreeView::TreeView(Form& form, const ControlPlace& place, IconList& images)
     Send(TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
     ApplyColors();
     TreeView::ApplyScale();
+    TipShowsCutText();
 }
 
 void TreeView::ApplyScale() {
@@ -182,13 +184,34 @@ HTREEITEM TreeView::ItemAt(POINT point) const {
     return (hit.flags & TVHT_ONITEM) != 0 ? hit.hItem : nullptr;
 }
 
-std::string TreeView::KeyAtLine(POINT screen) const {
+HTREEITEM TreeView::LineAt(POINT point) const {
     constexpr UINT kBesideTheText = TVHT_ONITEMINDENT | TVHT_ONITEMBUTTON | TVHT_ONITEMRIGHT;
     TVHITTESTINFO hit{};
-    hit.pt = screen;
-    ScreenToClient(Handle(), &hit.pt);
+    hit.pt = point;
     Send(TVM_HITTEST, 0, &hit);
-    return (hit.flags & (TVHT_ONITEM | kBesideTheText)) != 0 ? KeyOf(hit.hItem) : std::string();
+    return (hit.flags & (TVHT_ONITEM | kBesideTheText)) != 0 ? hit.hItem : nullptr;
+}
+
+std::string TreeView::KeyAtLine(POINT screen) const {
+    ScreenToClient(Handle(), &screen);
+    return KeyOf(LineAt(screen));
+}
+
+RECT TreeView::TextPlaceOf(HTREEITEM item) const {
+    RECT bounds{};
+    std::memcpy(&bounds, &item, sizeof(void*)); // as TVM_GETITEMRECT takes it
+    return Send(TVM_GETITEMRECT, TRUE, &bounds) != FALSE ? bounds : RECT{};
+}
+
+std::string TreeView::TextOf(HTREEITEM item) const {
+    std::vector<wchar_t> text(kLongestLabel);
+    TVITEMW whole{};
+    whole.mask = TVIF_HANDLE | TVIF_TEXT;
+    whole.hItem = item;
+    whole.pszText = text.data();
+    whole.cchTextMax = static_cast<int>(text.size());
+    Send(TVM_GETITEMW, 0, &whole);
+    return ToUtf8(text.data());
 }
 
 int TreeView::LineHeight() const {
@@ -228,14 +251,7 @@ MessageResult TreeView::OnNotify(NMHDR& header) {
 
 void TreeView::BeginLabelEdit(HTREEITEM item) {
     editing_ = true;
-    std::vector<wchar_t> text(kLongestLabel);
-    TVITEMW whole{};
-    whole.mask = TVIF_HANDLE | TVIF_TEXT;
-    whole.hItem = item;
-    whole.pszText = text.data();
-    whole.cchTextMax = static_cast<int>(text.size());
-    Send(TVM_GETITEMW, 0, &whole);
-    label_.Begin(reinterpret_cast<HWND>(Send(TVM_GETEDITCONTROL)), ToUtf8(text.data()));
+    label_.Begin(reinterpret_cast<HWND>(Send(TVM_GETEDITCONTROL)), TextOf(item));
 }
 
 // The platform may tell the end of one edit twice.
@@ -246,12 +262,26 @@ void TreeView::EndLabelEdit(const NMTVDISPINFOW& info) {
     Raise(onLabelEdited, KeyOf(info.item.hItem), text);
 }
 
+// Over a node only its name, when it is cut off: anything else would hide what is to be clicked.
+std::string TreeView::TipText() const {
+    const HTREEITEM item = LineAt(Pointer());
+    if (item == nullptr)
+        return Control::TipText();
+    RECT area{};
+    GetClientRect(Handle(), &area);
+    const RECT name = TextPlaceOf(item);
+    return name.left < area.left || name.right > area.right ? TextOf(item) : std::string();
+}
+
 MessageResult TreeView::OnMessage(const WindowMessage& message) {
     if (drawingPaused_ && !inserting_ && !MayComeBeforeDrawing(message.id))
         ResumeDrawing();
     switch (message.id) {
     case kDrawAgainMessage:
         return 0;
+    case WM_MOUSEMOVE:
+        TipIsFor(reinterpret_cast<LPARAM>(LineAt(PointOf(message))));
+        return {};
     case WM_LBUTTONDOWN: {
         // A click on the selected node changes nothing in the control, but it is a click.
         const HTREEITEM hit = ItemAt(PointOf(message));
@@ -301,11 +331,8 @@ LRESULT TreeView::TakeFocus(const WindowMessage& message) {
 void TreeView::OpenContextMenu(const WindowMessage& message) {
     POINT at = PointOf(message);
     if (message.id == WM_CONTEXTMENU) {
-        RECT bounds{};
-        const HTREEITEM item = Selected();
-        std::memcpy(&bounds, &item, sizeof(void*)); // as TVM_GETITEMRECT takes it
-        at = Send(TVM_GETITEMRECT, TRUE, &bounds) != FALSE ? POINT{bounds.left, bounds.bottom}
-                                                           : POINT{};
+        const RECT name = TextPlaceOf(Selected());
+        at = {name.left, name.bottom};
     }
     ClientToScreen(message.window, &at);
     Raise(onContextMenu, at);

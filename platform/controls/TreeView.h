@@ -37,6 +37,7 @@ public:
     std::function<bool()> mayEdit;
     std::function<void(POINT screen)> onContextMenu; // the node under it is selected
 
+    [[nodiscard]] std::string TipText() const override;
     MessageResult OnNotify(NMHDR& header) override;
     void ApplyScale() override;
 
@@ -50,7 +51,10 @@ private:
     [[nodiscard]] HTREEITEM Find(const std::string& key) const; // null: there is none
     [[nodiscard]] std::string KeyOf(HTREEITEM item) const;      // empty: there is none
     [[nodiscard]] HTREEITEM Selected() const;
-    [[nodiscard]] HTREEITEM ItemAt(POINT point) const;
+    [[nodiscard]] HTREEITEM ItemAt(POINT point) const; // its picture or name
+    [[nodiscard]] HTREEITEM LineAt(POINT point) const; // and what is beside them
+    [[nodiscard]] RECT TextPlaceOf(HTREEITEM item) const;
+    [[nodiscard]] std::string TextOf(HTREEITEM item) const;
     void ApplyColors();
     void Forget(HTREEITEM item);
     void BeginLabelEdit(HTREEITEM item);

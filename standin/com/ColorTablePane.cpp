@@ -44,7 +44,7 @@ RECT ColorTablePane::CellOf(const RECT& area, int index, int count) const {
     return {left, top, left + width, top + height};
 }
 
-void ColorTablePane::Paint(const Canvas& canvas, const RECT& area) {
+void ColorTablePane::PaintInside(const Canvas& canvas, const RECT& area) const {
     RECT inside = area;
     InflateRect(&inside, -Scale().FromDesign(kMargin), -Scale().FromDesign(8));
     RECT title = inside;

@@ -12,7 +12,7 @@ public:
     void Refresh();
 
 protected:
-    void Paint(const Canvas& canvas, const RECT& area) override;
+    void PaintInside(const Canvas& canvas, const RECT& area) const override;
 
 private:
     [[nodiscard]] RECT CellOf(const RECT& area, int index, int count) const;

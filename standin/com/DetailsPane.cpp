@@ -86,7 +86,7 @@ DetailsPane::Shown DetailsPane::CurrentlyShown() const {
             color, true};
 }
 
-void DetailsPane::Paint(const Canvas& canvas, const RECT& area) {
+void DetailsPane::PaintInside(const Canvas& canvas, const RECT& area) const {
     const Shown shown = CurrentlyShown();
     RECT inside = area;
     InflateRect(&inside, -Px(kMargin), -Px(10));

@@ -17,7 +17,7 @@ public:
     void ApplyScale() override;
 
 protected:
-    void Paint(const Canvas& canvas, const RECT& area) override;
+    void PaintInside(const Canvas& canvas, const RECT& area) const override;
 
 private:
     struct Shown {

@@ -1,19 +1,17 @@
 #pragma once
 
-#include "platform/controls/Control.h"
+#include "platform/controls/Painted.h"
 
 class Canvas;
 
 // A part of the window that draws itself.  Its window text is for programs that read the screen.
-class PaintedPane : public Control {
-public:
-    void Repaint() const { InvalidateRect(Handle(), nullptr, FALSE); }
-
+class PaintedPane : public Painted<> {
 protected:
     PaintedPane(Form& form, const ControlPlace& place);
 
-    virtual void Paint(const Canvas& canvas, const RECT& area) = 0;
+    virtual void PaintInside(const Canvas& canvas, const RECT& area) const = 0;
     virtual void OnMousePress(POINT /*point*/, bool /*append*/) {}
 
     MessageResult OnMessage(const WindowMessage& message) override;
+    void Paint(HDC device, const RECT& area) const override;
 };

@@ -77,7 +77,7 @@ std::size_t PicturePane::PlaceInSelection(const SelectedItem& item) const {
     return found == items.end() ? 0 : static_cast<std::size_t>(found - items.begin()) + 1;
 }
 
-void PicturePane::Paint(const Canvas& canvas, const RECT& area) {
+void PicturePane::PaintInside(const Canvas& canvas, const RECT& area) const {
     const PictureLayout layout = LayOut();
     for (const PictureCard& card : layout.cards)
         PaintCard(canvas, card);

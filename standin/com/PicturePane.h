@@ -24,7 +24,7 @@ public:
     void ApplyScale() override;
 
 protected:
-    void Paint(const Canvas& canvas, const RECT& area) override;
+    void PaintInside(const Canvas& canvas, const RECT& area) const override;
     void OnMousePress(POINT point, bool append) override;
 
 private:

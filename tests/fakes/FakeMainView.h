@@ -30,6 +30,9 @@ public:
     // List
     float ListWidth() const override { return listWidth; }
     void AddColumns(const std::vector<ListColumn>& added) override { columns = added; }
+    void ShowSortOrder(int column, bool descending) override {
+        sortMark = std::to_string(column) + (descending ? " down" : " up");
+    }
     void RowsChanged(int count) override {
         if (rowsChangeFails)
             throw RuntimeError(ErrorNumber::Overflow, "Overflow");
@@ -117,6 +120,7 @@ public:
     std::string editedNode;
     float listWidth = 6000;
     std::vector<ListColumn> columns;
+    std::string sortMark; // empty: no column is marked
     int rowCount = 0;
     int rowChanges = 0; // reported
     bool rowsChangeFails = false;

@@ -67,6 +67,18 @@ TEST_F(LayoutTest, HiddenBarsGiveTheirRoomToThePanes) {
     EXPECT_EQ(view.layout.tree.height, 8000 - 400);
 }
 
+TEST_F(LayoutTest, FormNarrowerThanTheSmallestPaneGivesNoNegativeWidth) {
+    view.metrics.formWidth = 400;
+    view.metrics.innerWidth = 30;
+    view.metrics.innerHeight = 0;
+    layout.Resize();
+    for (const TwipsRect& place : {view.layout.tree, view.layout.list, view.layout.splitter,
+                                   view.layout.frame, view.layout.smallSwatch}) {
+        EXPECT_GE(place.width, 0);
+        EXPECT_GE(place.height, 0);
+    }
+}
+
 TEST_F(LayoutTest, VeryLowFormKeepsPanesOfThreeHundred) {
     view.metrics.innerHeight = 500;
     layout.Resize();

@@ -52,6 +52,34 @@ TEST_F(MainWindowTest, NameThatIsBeingTypedIsTakenBeforeACommandRuns) {
     EXPECT_EQ(program.files.contents[kFile], "\"D#Dropped=0D:1\"\r\n\"G#typed=0DG1\"\r\n");
 }
 
+TEST_F(MainWindowTest, NameThatIsBeingTypedIsTakenBeforeTheRowsAreSortedOrOfAnotherGroup) {
+    Drop();
+    bool isReported = false;
+    for (const auto& act : std::vector<std::function<void()>>{
+             [this] { program.Main().ColumnClicked(1); },
+             [this] { program.Main().NodeClicked("0DG1"); }}) {
+        isReported = false;
+        program.view.rowCount = -1;
+        program.view.openEdit = [&] {
+            isReported = true;
+            EXPECT_EQ(program.view.rowCount, -1) << "the rows are still there";
+        };
+        act();
+        EXPECT_TRUE(isReported);
+        EXPECT_NE(program.view.rowCount, -1);
+    }
+}
+
+TEST_F(MainWindowTest, SortedColumnIsMarkedOnceSomethingIsSorted) {
+    EXPECT_EQ(program.view.sortMark, "");
+    program.Main().ColumnClicked(1);
+    EXPECT_EQ(program.view.sortMark, "1 down");
+    program.Main().ColumnClicked(1);
+    EXPECT_EQ(program.view.sortMark, "1 up");
+    program.Main().ColumnClicked(3);
+    EXPECT_EQ(program.view.sortMark, "3 up");
+}
+
 TEST_F(MainWindowTest, NameThatIsBeingTypedIsTakenBeforeADroppedLibraryOpens) {
     program.view.openEdit = [this] { EXPECT_TRUE(program.view.nodes.empty()); };
     Drop();

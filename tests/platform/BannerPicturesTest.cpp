@@ -1,5 +1,6 @@
 #include "platform/BannerPictures.h"
 
+#include "platform/PlatformPath.h"
 #include "tests/platform/ScratchFolder.h"
 
 #include <gtest/gtest.h>
@@ -36,6 +37,22 @@ TEST(BannerPictures, OneThatCannotBeLoadedKeepsItsPlace) {
     EXPECT_EQ(pictures.Count(), 3);
     EXPECT_EQ(pictures.Picture(2), nullptr);
     EXPECT_NE(pictures.Picture(3), nullptr);
+}
+
+TEST(BannerPictures, FolderMayHaveAPathBeyondTheUsualLimit) {
+    const ScratchFolder folder;
+    std::string path = folder.Path();
+    for (const char letter : {'a', 'b', 'c'}) {
+        path += "\\" + std::string(90, letter);
+        ASSERT_NE(CreateDirectoryW(ToPlatformPath(path).c_str(), nullptr), FALSE);
+    }
+    folder.Write("1.bmp", Bitmap());
+    ASSERT_NE(MoveFileW(ToPlatformPath(folder.File("1.bmp")).c_str(),
+                        ToPlatformPath(path + "\\1.bmp").c_str()),
+              FALSE);
+    const BannerPictures pictures(path);
+    EXPECT_EQ(pictures.Count(), 1);
+    EXPECT_NE(pictures.Picture(1), nullptr);
 }
 
 TEST(BannerPictures, FolderThatIsNotThereHasNone) {

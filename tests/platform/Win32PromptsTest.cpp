@@ -1,5 +1,6 @@
 #include "platform/Win32Prompts.h"
 
+#include "platform/Utf16.h"
 #include "tests/platform/DialogDriver.h"
 #include "tests/platform/MessageWindow.h"
 #include "tests/platform/PollUntil.h"
@@ -74,6 +75,46 @@ TEST_F(Win32PromptsTest, BoxWithAHugeTextStaysOnTheScreenWithItsButtons) {
     EXPECT_LE(box.bottom - box.top, screen.bottom - screen.top);
     EXPECT_TRUE(text.starts_with(L"color 0\r\ncolor 1\r\n"));
     EXPECT_TRUE(text.ends_with(L"\r\n..."));
+}
+
+TEST_F(Win32PromptsTest, BoxWithAnyLongTextHasItsButtonsOnTheScreen) {
+    std::string words;
+    while (words.size() < 5400)
+        words += "word ab ";
+    for (const std::string& prompt :
+         {words, std::string(300, 'W'), "x " + std::string(300, 'n') + "\r\n", std::string(9000, 'n'),
+          std::string(2000, '\n')}) {
+        RECT box{};
+        RECT button{};
+        const DialogDriver driver(L"long", [&](HWND dialog) {
+            GetWindowRect(dialog, &box);
+            GetWindowRect(GetDlgItem(dialog, IDCANCEL), &button);
+            Press(dialog, IDCANCEL);
+        });
+        EXPECT_EQ(prompts.ShowMessage(prompt, MessageStyle::ConfirmDelete, "long"), Answer::Cancel);
+        RECT screen{};
+        SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+        EXPECT_GE(box.left, screen.left);
+        EXPECT_GE(box.top, screen.top);
+        EXPECT_LE(box.right, screen.right);
+        EXPECT_LE(box.bottom, screen.bottom);
+        EXPECT_LT(button.bottom, box.bottom);
+    }
+}
+
+TEST_F(Win32PromptsTest, TextThatHasRoomIsShownAsItIs) {
+    std::string prompt = std::string(100, 'n') + " ";
+    while (prompt.size() < 2000)
+        prompt += "word ab ";
+    std::string shown;
+    const DialogDriver driver(L"as it is", [&](HWND dialog) {
+        std::wstring all(4000, L'\0');
+        GetDlgItemTextW(dialog, kMessageText, all.data(), static_cast<int>(all.size()));
+        shown = ToUtf8(all.c_str());
+        Press(dialog, IDCANCEL);
+    });
+    static_cast<void>(prompts.ShowMessage(prompt, MessageStyle::ConfirmDelete, "as it is"));
+    EXPECT_EQ(shown, prompt);
 }
 
 TEST_F(Win32PromptsTest, MessageBelongsToAPopupThatIsOpenAndTheMainWindowTakesNoInput) {

@@ -83,6 +83,64 @@ TEST_F(AuxiliaryForms, ProgressBeyondTheMaximumStaysAtTheEnd) {
     EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 30);
 }
 
+TEST_F(AuxiliaryForms, ProgressWithoutARangeTakesAnyValue) {
+    frmProgress progress(form.Handle(), errors);
+    for (const int maximum : {5, 4}) {
+        progress.ShowProgress("x", 5, maximum);
+        for (const int value : {-1, 4, 5, 6})
+            progress.SetProgress(value);
+    }
+    EXPECT_NE(IsWindowVisible(progress.Handle()), FALSE);
+}
+
+TEST_F(AuxiliaryForms, LongCaptionsOfAHandMadeLanguageStayInTheirWindows) {
+    const std::string words = "eine Beschriftung ";
+    std::string caption;
+    while (caption.size() + words.size() < 255)
+        caption += words;
+    const auto expectInside = [](HWND window, int id) {
+        RECT place{};
+        RECT area{};
+        GetWindowRect(FindChild(window, id), &place);
+        MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+        GetClientRect(window, &area);
+        EXPECT_GE(place.left, 0) << id;
+        EXPECT_LE(place.right, area.right) << id;
+        EXPECT_LE(place.bottom, area.bottom) << id;
+        return HeightOf(place);
+    };
+    frmAbout about(form.Handle(), errors, banners);
+    frmProgress progress(form.Handle(), errors);
+    const int line = expectInside(about.Handle(), IDC_lblMail);
+    for (const char* name : {"cmdSysInfo", "cmdOK", "lblMail"})
+        ControlOf(about, name).SetProperty("Caption", caption);
+    ControlOf(progress, "cmdCancel").SetProperty("Caption", caption);
+    PumpMessages();
+    for (const int id : {IDC_cmdSysInfo, IDC_cmdOK, IDC_lblMail})
+        EXPECT_GT(expectInside(about.Handle(), id), 2 * line) << "it takes more lines";
+    EXPECT_GT(expectInside(progress.Handle(), IDC_cmdCancel), 2 * line);
+    ControlOf(about, "lblMail").SetProperty("Caption", std::string(255, 'W'));
+    PumpMessages();
+    EXPECT_GT(expectInside(about.Handle(), IDC_lblMail), 2 * line) << "words are broken, too";
+}
+
+TEST_F(AuxiliaryForms, AboutAndProgressAreNeitherMinimisedNorMaximised) {
+    frmAbout about(form.Handle(), errors, banners);
+    frmProgress progress(form.Handle(), errors);
+    for (const HWND window : {about.Handle(), progress.Handle()}) {
+        ShowWindow(window, SW_SHOW);
+        PumpMessages();
+        for (const WPARAM command : {SC_MAXIMIZE, SC_MINIMIZE, SC_SIZE}) {
+            SendMessageW(window, WM_SYSCOMMAND, command, 0);
+            EXPECT_EQ(IsZoomed(window), FALSE);
+            EXPECT_EQ(IsIconic(window), FALSE);
+            EXPECT_EQ(GetMenuState(GetSystemMenu(window, FALSE), static_cast<UINT>(command),
+                                   MF_BYCOMMAND),
+                      static_cast<UINT>(-1));
+        }
+    }
+}
+
 TEST_F(AuxiliaryForms, ProgressValuesThatLookAlikeAreNotSentToTheBar) {
     frmProgress progress(form.Handle(), errors, clock);
     const HWND bar = FindChild(progress.Handle(), IDC_prbMain);
@@ -528,6 +586,77 @@ TEST_F(InputBoxes, EscapeCancelAndCloseBoxGiveNothing) {
 TEST_F(InputBoxes, OkButtonGivesTheText) {
     EXPECT_EQ(Ask([](HWND box) { SendMessageW(FindChild(box, IDOK), BM_CLICK, 0, 0); }),
               L"Neue Farbe");
+}
+
+TEST_F(InputBoxes, LongPromptLeavesTheBoxOnTheScreen) {
+    for (const std::wstring& prompt :
+         {std::wstring(5400, L'n'), std::wstring(500, L'\n'), std::wstring(300, L'W')}) {
+        Later([] {
+            const HWND box = FindWindowW(L"InputBox", L"Titel");
+            RECT place{};
+            RECT inner{};
+            GetWindowRect(box, &place);
+            const RECT screen = WorkAreaOf(box);
+            RECT both{};
+            EXPECT_NE(IntersectRect(&inner, &place, &screen), FALSE);
+            EXPECT_NE(UnionRect(&both, &place, &screen), FALSE);
+            EXPECT_NE(EqualRect(&both, &screen), FALSE) << "the box is inside";
+            PostMessageW(box, WM_CLOSE, 0, 0);
+        });
+        static_cast<void>(ShowInputBox(form.Handle(), prompt, L"Titel", L""));
+    }
+}
+
+constexpr RECT kScreen{100, 0, 1100, 800};
+
+TEST(Centring, WindowStandsInTheMiddleOfItsOwner) {
+    const RECT place = CentredIn({300, 200, 700, 600}, {200, 100}, kScreen);
+    EXPECT_EQ(place.left, 400);
+    EXPECT_EQ(place.top, 350);
+    EXPECT_EQ(place.right, 600);
+    EXPECT_EQ(place.bottom, 450);
+}
+
+TEST(Centring, WindowStaysInsideTheWorkArea) {
+    const RECT right = CentredIn({1000, 700, 1400, 1100}, {200, 100}, kScreen);
+    EXPECT_EQ(right.right, kScreen.right);
+    EXPECT_EQ(right.bottom, kScreen.bottom);
+    const RECT left = CentredIn({-100, -200, 100, 0}, {200, 100}, kScreen);
+    EXPECT_EQ(left.left, kScreen.left);
+    EXPECT_EQ(left.top, kScreen.top);
+}
+
+TEST(Centring, WindowThatIsTooLargeShowsItsTopAndLeftEdge) {
+    const RECT place = CentredIn(kScreen, {2000, 1000}, kScreen);
+    EXPECT_EQ(place.left, kScreen.left);
+    EXPECT_EQ(place.top, kScreen.top);
+}
+
+// As a window does that comes to a screen of another scale.
+LRESULT CALLBACK GrowWhenMoved(HWND window, UINT id, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                               DWORD_PTR) {
+    if (id == WM_MOVE) {
+        RemoveWindowSubclass(window, GrowWhenMoved, 1);
+        SetWindowPos(window, nullptr, 0, 0, 300, 200, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    return DefSubclassProc(window, id, wParam, lParam);
+}
+
+TEST_F(AuxiliaryForms, WindowThatTakesAnotherSizeOnItsWayIsStillCentred) {
+    form.Move({1500, 1500, 9000, 6000});
+    PumpMessages();
+    HWND box = CreateWindowW(WC_STATICW, L"", WS_POPUP, 0, 0, 150, 100, form.Handle(), nullptr,
+                             nullptr, nullptr);
+    SetWindowSubclass(box, GrowWhenMoved, 1, 0);
+    CentreOnOwner(box);
+    RECT place{};
+    RECT owner{};
+    GetWindowRect(box, &place);
+    GetWindowRect(form.Handle(), &owner);
+    EXPECT_EQ(WidthOf(place), 300);
+    EXPECT_NEAR(place.left + place.right, owner.left + owner.right, 1);
+    EXPECT_NEAR(place.top + place.bottom, owner.top + owner.bottom, 1);
+    DestroyWindow(box);
 }
 
 } // namespace

@@ -32,6 +32,13 @@ TEST_F(MainEditorPane, TextSetByTheProgramIsNotReported) {
     EXPECT_TRUE(events.lines.empty());
 }
 
+TEST_F(MainEditorPane, TextOfTheLanguageFileGoesTheWayOfATypedOne) {
+    Control("txtActiveColor")->SetProperty("Text", "17"); // the first of the nine
+    EXPECT_EQ(events.lines, std::vector<std::string>{"text 0=17"});
+    Control("txtActiveColor")->SetProperty("Text", "17");
+    EXPECT_EQ(events.lines.size(), 1U) << "it is no other text";
+}
+
 TEST_F(MainEditorPane, TextThatWasSetWhileTheEditorWasHiddenIsShownWhole) {
     form.ShowWindow();
     form.SetValueText(0, "255");

@@ -222,6 +222,23 @@ TEST_F(MainList, ColumnClickCountsFromOne) {
     EXPECT_EQ(events.lines, std::vector<std::string>{"column 2"});
 }
 
+TEST_F(MainList, HeaderMarksTheSortedColumnAndItsDirection) {
+    const auto header = reinterpret_cast<HWND>(SendMessageW(List(), LVM_GETHEADER, 0, 0));
+    const auto mark = [header](WPARAM column) {
+        HDITEMW item{};
+        item.mask = HDI_FORMAT;
+        SendMessageW(header, HDM_GETITEMW, column, reinterpret_cast<LPARAM>(&item));
+        return item.fmt & (HDF_SORTUP | HDF_SORTDOWN);
+    };
+    for (WPARAM column = 0; column < 3; ++column)
+        EXPECT_EQ(mark(column), 0);
+    form.ShowSortOrder(1, true);
+    EXPECT_EQ(mark(0), HDF_SORTDOWN);
+    form.ShowSortOrder(3, false);
+    EXPECT_EQ(mark(0), 0);
+    EXPECT_EQ(mark(2), HDF_SORTUP);
+}
+
 TEST_F(MainList, TypedLettersFindARow) {
     form.SelectRow(0);
     SendMessageW(List(), WM_CHAR, 'x', 1);

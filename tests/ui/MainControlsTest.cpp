@@ -96,6 +96,22 @@ TEST_F(MainControls, LongerLabelMovesItsBox) {
     EXPECT_GT(after.left, before.left + 20);
 }
 
+TEST_F(MainControls, VeryLongLabelLeavesBoxAndSliderInTheWindow) {
+    form.ShowWindow();
+    events.layout.SetHugeFrame(true);
+    Control("lblRed")->SetProperty("Caption", std::string(255, 'W'));
+    PumpMessages();
+    RECT frame{};
+    GetWindowRect(Child(IDC_fraShowColor), &frame);
+    for (int index = 0; index < 9; ++index)
+        for (const int id : {IDC_txtActiveColor + index, IDC_sldActiveColor + index}) {
+            RECT place{};
+            GetWindowRect(Child(id), &place);
+            EXPECT_LE(place.right, frame.right) << id;
+            EXPECT_GT(WidthOf(place), 20) << id;
+        }
+}
+
 TEST_F(MainControls, TabKeyGoesThroughTreeListAndEachBoxFollowedByItsSlider) {
     form.ShowWindow();
     events.layout.SetHugeFrame(true);

@@ -82,6 +82,55 @@ TEST_F(MainPanes, F6LeavesAHiddenEditorOut) {
     EXPECT_EQ(Focused(), IDC_tvColor);
 }
 
+class MainFocus : public MainPanes {
+protected:
+    MainFocus() {
+        form.ShowWindow();
+        events.layout.SetHugeFrame(true);
+        form.AddColumns({{"Name", "Name", 1500}});
+        form.RowsChanged(5);
+        form.SelectRow(1);
+        form.NodeAdded({"0D", "Library", "Colfile", "", "", {}});
+        form.NodeSelected("0D");
+    }
+
+    // To another window of the program and back.
+    [[nodiscard]] int FocusAfterAnotherWindow() {
+        HWND other = CreateWindowW(WC_STATICW, L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr,
+                                   nullptr, nullptr, nullptr);
+        SetActiveWindow(other);
+        SetActiveWindow(form.Handle());
+        DestroyWindow(other);
+        PumpMessages();
+        return Focused();
+    }
+};
+
+TEST_F(MainFocus, EveryControlHasTheFocusAgainAfterAnotherWindowWasUsed) {
+    for (const int id : {IDC_lvColor, IDC_tvColor, IDC_txtActiveColor + 3, IDC_sldActiveColor + 8,
+                         IDC_lvColor}) {
+        SetFocus(Child(id));
+        EXPECT_EQ(FocusAfterAnotherWindow(), id);
+    }
+}
+
+TEST_F(MainFocus, PaneWhoseLabelWasEditedHasTheFocusAgain) {
+    form.EditRowLabel(1);
+    EXPECT_EQ(FocusAfterAnotherWindow(), IDC_lvColor);
+    form.EditNodeLabel("0D");
+    EXPECT_EQ(FocusAfterAnotherWindow(), IDC_tvColor);
+    form.EditRowLabel(1);
+    EXPECT_EQ(FocusAfterAnotherWindow(), IDC_lvColor);
+}
+
+TEST_F(MainFocus, WindowThatWasMinimisedHasTheFocusWhereItWas) {
+    SetFocus(Child(IDC_lvColor));
+    ShowWindow(form.Handle(), SW_MINIMIZE);
+    PumpMessages();
+    ShowWindow(form.Handle(), SW_RESTORE);
+    EXPECT_TRUE(PumpUntil([&] { return Focused() == IDC_lvColor; })) << Focused();
+}
+
 class MainTips : public MainFormTest {
 protected:
     // What the tool-tip window gets when it asks for the tip of a control.
@@ -94,6 +143,74 @@ protected:
         return ToUtf8(request.lpszText);
     }
 };
+
+// The pointer stands over a place of tree or list.
+class PaneTips : public MainTips {
+protected:
+    PaneTips() {
+        form.ShowWindow();
+        form.AddColumns({{"Name", "Name", 1500}, {"R", "red", 600}});
+        form.SetListViewMode(ListViewMode::Details);
+        form.RowsChanged(3);
+        form.NodeAdded({"0D", "Library", "Colfile", "", "", {}});
+        form.NodeAdded({"1D", longName, "Colfile", "", "", {}});
+        Control("tvColor")->SetProperty("ToolTipText", "the tree");
+        Control("lvColor")->SetProperty("ToolTipText", "the list");
+        PumpMessages();
+    }
+    [[nodiscard]] std::string TipAt(int id, POINT at) {
+        ClientToScreen(Child(id), &at);
+        SetCursorPos(at.x, at.y);
+        return TipOf(id);
+    }
+    [[nodiscard]] POINT LineOfTree(int line) const {
+        const auto height =
+            static_cast<int>(SendMessageW(Child(IDC_tvColor), TVM_GETITEMHEIGHT, 0, 0));
+        return {50, height * line + height / 2};
+    }
+    [[nodiscard]] POINT CellOfList(int row, int subItem) const {
+        RECT place{LVIR_BOUNDS, subItem, 0, 0};
+        SendMessageW(Child(IDC_lvColor), LVM_GETSUBITEMRECT, static_cast<WPARAM>(row),
+                     reinterpret_cast<LPARAM>(&place));
+        return {place.left + 30, (place.top + place.bottom) / 2};
+    }
+
+    const std::string longName = std::string(100, 'W');
+};
+
+TEST_F(PaneTips, TreeShowsOnlyCutNamesOverItsNodesAndItsOwnTipBesideThem) {
+    EXPECT_EQ(TipAt(IDC_tvColor, LineOfTree(0)), "");
+    EXPECT_EQ(TipAt(IDC_tvColor, LineOfTree(1)), longName);
+    EXPECT_EQ(TipAt(IDC_tvColor, LineOfTree(5)), "the tree");
+}
+
+TEST_F(PaneTips, ListShowsOnlyCutNamesOverItsRowsAndItsOwnTipBesideThem) {
+    for (const ListViewMode mode : {ListViewMode::LargeIcons, ListViewMode::SmallIcons,
+                                    ListViewMode::List, ListViewMode::Details}) {
+        form.SetListViewMode(mode);
+        events.longCell.clear();
+        EXPECT_EQ(TipAt(IDC_lvColor, CellOfList(0, 0)), "") << static_cast<int>(mode);
+        RECT area{};
+        GetClientRect(Child(IDC_lvColor), &area);
+        EXPECT_EQ(TipAt(IDC_lvColor, {area.right - 3, area.bottom - 3}), "the list");
+    }
+    events.longCell = longName;
+    EXPECT_EQ(TipAt(IDC_lvColor, CellOfList(0, 0)), longName);
+    EXPECT_EQ(TipAt(IDC_lvColor, CellOfList(0, 1)), "");
+}
+
+TEST_F(PaneTips, TipGoesWhenThePointerComesToAnotherRow) {
+    const HWND tips = form.Tips().Window();
+    const auto moveTo = [this](POINT at) {
+        ClientToScreen(Child(IDC_tvColor), &at);
+        SetCursorPos(at.x, at.y);
+    };
+    moveTo(LineOfTree(5));
+    EXPECT_TRUE(PumpUntil([&] { return IsWindowVisible(tips) != FALSE; }));
+    moveTo(LineOfTree(0));
+    EXPECT_TRUE(PumpUntil([&] { return IsWindowVisible(tips) == FALSE; },
+                          std::chrono::seconds(3)));
+}
 
 TEST_F(MainTips, ControlShowsItsToolTipText) {
     Control("tvColor")->SetProperty("ToolTipText", "Bibliotheken und Gruppen");

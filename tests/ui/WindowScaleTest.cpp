@@ -178,6 +178,36 @@ TEST_F(MainScale, LowWindowKeepsPanesOfThreeHundredTwips) {
     EXPECT_EQ(SizeOf(IDC_lvColor).cy, form.Scale().ToPixels(300));
 }
 
+TEST_F(MainScale, WindowMayBeAsSmallAsTheSystemAllowsAndIsLaidOutAgainAfterwards) {
+    form.ShowWindow();
+    for (const bool hugeFrame : {false, true}) {
+        events.layout.SetHugeFrame(hugeFrame);
+        RECT before{};
+        GetWindowRect(form.Handle(), &before);
+        const SIZE list = SizeOf(IDC_lvColor);
+        SetWindowPos(form.Handle(), nullptr, 0, 0, 1, 1, SWP_NOMOVE | SWP_NOZORDER);
+        PumpMessages();
+        RECT smallest{};
+        GetWindowRect(form.Handle(), &smallest);
+        EXPECT_LE(WidthOf(smallest), GetSystemMetrics(SM_CXMINTRACK));
+        EXPECT_LT(HeightOf(smallest), form.Scale().FromDesign(100));
+        EXPECT_GE(SizeOf(IDC_lvColor).cx, 0);
+        SetWindowPos(form.Handle(), nullptr, 0, 0, WidthOf(before), HeightOf(before),
+                     SWP_NOMOVE | SWP_NOZORDER);
+        PumpMessages();
+        EXPECT_EQ(SizeOf(IDC_lvColor).cy, list.cy);
+    }
+}
+
+TEST(IconLists, ListBeforeANewSizeStaysGoodForTheControlsThatStillHaveIt) {
+    IconList icons("imlViewSmall", {"Palette", "Colbrush"});
+    icons.Fit(16);
+    const HIMAGELIST before = icons.Handle();
+    icons.Fit(32);
+    EXPECT_NE(icons.Handle(), before);
+    EXPECT_EQ(ImageList_GetImageCount(before), 2);
+}
+
 TEST_F(MainScale, RepaintIsReported) {
     form.ShowWindow();
     PumpMessages();

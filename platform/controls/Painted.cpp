@@ -1,0 +1,28 @@
+#include "platform/controls/Painted.h"
+
+#include <commctrl.h>
+
+namespace {
+
+LRESULT RepaintAfter(const WindowMessage& message, LRESULT result) {
+    InvalidateRect(message.window, nullptr, FALSE);
+    return result;
+}
+
+} // namespace
+
+MessageResult AnswerUnpainted(const WindowMessage& message) {
+    switch (message.id) {
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_SETTEXT: // past the class, which would draw the text
+    case WM_ENABLE:
+        return RepaintAfter(message, DefWindowProcW(message.window, message.id, message.wParam,
+                                                    message.lParam));
+    case WM_SETFONT:
+        return RepaintAfter(message, DefSubclassProc(message.window, message.id, message.wParam,
+                                                     FALSE));
+    default:
+        return {};
+    }
+}
