@@ -43,8 +43,8 @@ std::string WithBrokenWords(std::string_view text, std::size_t longest) {
 
 std::string WithRoomForWords(std::string_view text, int width, const MessageMeasure& measure) {
     std::string fitted(text);
-    for (std::size_t longest = kLongWord;
-         longest >= kShortWord && measure(fitted).width > width; longest /= 2)
+    for (std::size_t longest = kLongWord; longest >= kShortWord && measure(fitted).width > width;
+         longest /= 2)
         fitted = WithBrokenWords(text, longest);
     return fitted;
 }

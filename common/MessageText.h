@@ -14,7 +14,7 @@ struct MessageSize {
 using MessageMeasure = std::function<MessageSize(const std::string& text)>;
 
 // The text as it is when it has room: a box that outgrows the screen hides its buttons.  Else words
-// that are too wide go on in the next line, and of too many lines the first ones stay, with "..." as
-// the last.  UTF-8.
+// that are too wide go on in the next line, and of too many lines the first ones stay, with "..."
+// as the last.  UTF-8.
 [[nodiscard]] std::string FittedMessage(std::string_view text, const MessageSize& room,
                                         const MessageMeasure& measure);

@@ -35,8 +35,8 @@ constexpr int kBoxWidth = 42;
 constexpr int kSmallestSlider = 80;
 constexpr int kWidestCell = 340;
 constexpr int kWidestLabel = 150; // beside it box and slider find their place
-constexpr int kFirstLine = 22; // below the frame's caption
-constexpr int kBoxPadding = 4; // of a text box, above and below its line together
+constexpr int kFirstLine = 22;    // below the frame's caption
+constexpr int kBoxPadding = 4;    // of a text box, above and below its line together
 
 constexpr int kMostColumns = 2; // more would leave the large swatch no height
 constexpr int kValueCount = static_cast<int>(kColorValueCount);

@@ -17,7 +17,8 @@ struct SearchTraits {
 std::vector<std::wstring> BitmapFiles(const std::string& folder) {
     std::vector<std::wstring> names;
     WIN32_FIND_DATAW found{};
-    const UniqueHandle<SearchTraits> search(FindFirstFileW(ToPlatformPath(folder + "\\*.bmp").c_str(), &found));
+    const UniqueHandle<SearchTraits> search(
+        FindFirstFileW(ToPlatformPath(folder + "\\*.bmp").c_str(), &found));
     if (!search)
         return names;
     do {

@@ -153,6 +153,10 @@ MessageResult Form::OnMessage(const WindowMessage& message) {
     case WM_SETFOCUS:
         RestoreFocus();
         return 0;
+    case WM_SIZE:
+        if (HasOneSize()) // another one was given to it from outside, by a window manager
+            RequestLayout();
+        return {};
     case WM_SYSCOMMAND:
         return IsRefused(message.wParam) ? MessageResult(0) : MessageResult();
     case DM_GETDEFID: {
@@ -251,8 +255,7 @@ bool Form::HasOneSize() const noexcept {
 // The low bits of the command are the system's own.
 bool Form::IsRefused(WPARAM systemCommand) const noexcept {
     const WPARAM command = systemCommand & 0xFFF0U;
-    return HasOneSize() &&
-           (command == SC_SIZE || command == SC_MINIMIZE || command == SC_MAXIMIZE);
+    return HasOneSize() && (command == SC_SIZE || command == SC_MINIMIZE || command == SC_MAXIMIZE);
 }
 
 void Form::LimitSize(MINMAXINFO& limits) const noexcept {

@@ -31,7 +31,8 @@ void IconList::Fit(int size) {
     if (std::exchange(size_, size) == size)
         return;
     const int count = static_cast<int>(keys_.size());
-    before_ = std::exchange(images_, ImageListHandle(ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, count, 1)));
+    before_ = std::exchange(
+        images_, ImageListHandle(ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, count, 1)));
     if (const BitmapHandle strip = LoadIconStrip(keys_, size)) {
         ImageList_Add(images_.Get(), strip.Get(), nullptr);
         return;

@@ -2,6 +2,7 @@
 
 #include "common/MessageText.h"
 #include "platform/BoxOwner.h"
+#include "platform/CentredBox.h"
 #include "platform/DpiScale.h"
 #include "platform/FileDialog.h"
 #include "platform/Fonts.h"
@@ -42,15 +43,15 @@ MessageSize RoomOnScreen(HWND owner, HFONT font) {
 
 std::string FittedToScreen(HWND owner, const std::string& prompt) {
     const FontHandle font = MessageFont(DpiOfScreen());
-    return FittedMessage(prompt, RoomOnScreen(owner, font.Get()), [&font](const std::string& text) {
-        return SizeInBox(font.Get(), text);
-    });
+    return FittedMessage(prompt, RoomOnScreen(owner, font.Get()),
+                         [&font](const std::string& text) { return SizeInBox(font.Get(), text); });
 }
 
 } // namespace
 
 Answer Win32Prompts::ShowMessage(const std::string& prompt, int style, const std::string& title) {
     const BoxOwner owner(mainWindow_());
+    const CentredBox centred(owner.Handle());
     return ToAnswer(MessageBoxW(owner.Handle(),
                                 ToUtf16(FittedToScreen(owner.Handle(), prompt)).c_str(),
                                 ToUtf16(title).c_str(), static_cast<UINT>(style)));

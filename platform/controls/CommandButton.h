@@ -10,8 +10,8 @@ class CommandButton : public Control {
 public:
     CommandButton(Form& form, const ControlPlace& place, ButtonRole role = ButtonRole::Ordinary);
 
-    // Wide enough for its text, and never below the usual width; pixels.  A text that is longer than
-    // the maximum allows (0: any) takes more lines.
+    // Wide enough for its text, and never below the usual width; pixels.  A text that is longer
+    // than the maximum allows (0: any) takes more lines.
     [[nodiscard]] SIZE IdealSize(int maximumWidth = 0) const;
 
     std::function<void()> onClick;

@@ -31,7 +31,7 @@ LRESULT CALLBACK Control::SubclassProcedure(HWND window, UINT id, WPARAM wParam,
     const LRESULT result = control->Answer({window, id, wParam, lParam});
     // Not every class paints the whole of a window that has another size: what it keeps is old.
     if (id == WM_SIZE)
-        InvalidateRect(window, nullptr, TRUE);
+        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     return result;
 }
 
@@ -39,8 +39,7 @@ LRESULT Control::Answer(const WindowMessage& message) noexcept {
     if (message.id == WM_SETFOCUS)
         form_.RememberFocus(window_);
     MessageResult result;
-    const bool succeeded =
-        RunGuarded(form_.Errors(), [&] { result = OnMessage(message); });
+    const bool succeeded = RunGuarded(form_.Errors(), [&] { result = OnMessage(message); });
     if (result || !succeeded)
         return result.value_or(0);
     return Default(message);

@@ -264,13 +264,6 @@ MessageResult ListView::OnMessage(const WindowMessage& message) {
     case LVM_CANCELEDITLABEL:
         label_.GiveUp();
         return {};
-    case WM_SIZE: {
-        // A scrolled list that gets room for its first rows does not repaint all of them
-        // everywhere.
-        const LRESULT result = Default(message);
-        InvalidateRect(message.window, nullptr, TRUE);
-        return result;
-    }
     case WM_CONTEXTMENU:
         if (message.lParam == -1) // the keyboard's menu key
             OpenContextMenu(message);

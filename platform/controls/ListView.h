@@ -23,7 +23,7 @@ public:
     void AddColumn(const std::string& caption, int width); // pixels
     // The header shows that the rows are sorted by this column, from 1, and by no other one.
     void MarkColumn(int column, bool descending);
-    void SetRowCount(int count);                           // all rows are new, none is selected
+    void SetRowCount(int count); // all rows are new, none is selected
     void SelectRow(int row);
     void EnsureVisible(int row);
     void EditLabel(int row);
@@ -69,7 +69,7 @@ private:
     [[nodiscard]] int RowAt(POINT point) const; // -1: none
     [[nodiscard]] Cell CellAt(POINT point) const;
     [[nodiscard]] bool IsNameCut(int row, const std::string& name) const;
-    void ShowSelection(int row);                // without a report
+    void ShowSelection(int row); // without a report
     LRESULT KeepSelection(const WindowMessage& message);
     MessageResult PressLeft(const WindowMessage& message);
     void PressRight(const WindowMessage& message);

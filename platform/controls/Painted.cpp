@@ -17,11 +17,11 @@ MessageResult AnswerUnpainted(const WindowMessage& message) {
         return 1;
     case WM_SETTEXT: // past the class, which would draw the text
     case WM_ENABLE:
-        return RepaintAfter(message, DefWindowProcW(message.window, message.id, message.wParam,
-                                                    message.lParam));
+        return RepaintAfter(
+            message, DefWindowProcW(message.window, message.id, message.wParam, message.lParam));
     case WM_SETFONT:
-        return RepaintAfter(message, DefSubclassProc(message.window, message.id, message.wParam,
-                                                     FALSE));
+        return RepaintAfter(message,
+                            DefSubclassProc(message.window, message.id, message.wParam, FALSE));
     default:
         return {};
     }

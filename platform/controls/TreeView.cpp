@@ -13,9 +13,8 @@ constexpr std::size_t kLongestLabel = 32768; // characters
 
 constexpr ControlKind kTreeView{"TreeView", WC_TREEVIEWW, ""};
 
-constexpr DWORD kTreeStyle =
-    WS_VISIBLE | WS_TABSTOP | TVS_HASBUTTONS | TVS_LINESATROOT | TVS_EDITLABELS |
-    TVS_SHOWSELALWAYS | TVS_NOTOOLTIPS;
+constexpr DWORD kTreeStyle = WS_VISIBLE | WS_TABSTOP | TVS_HASBUTTONS | TVS_LINESATROOT |
+                             TVS_EDITLABELS | TVS_SHOWSELALWAYS | TVS_NOTOOLTIPS;
 
 constexpr int kIconSize = 16;
 

@@ -55,9 +55,9 @@ TEST_F(MainWindowTest, NameThatIsBeingTypedIsTakenBeforeACommandRuns) {
 TEST_F(MainWindowTest, NameThatIsBeingTypedIsTakenBeforeTheRowsAreSortedOrOfAnotherGroup) {
     Drop();
     bool isReported = false;
-    for (const auto& act : std::vector<std::function<void()>>{
-             [this] { program.Main().ColumnClicked(1); },
-             [this] { program.Main().NodeClicked("0DG1"); }}) {
+    for (const auto& act :
+         std::vector<std::function<void()>>{[this] { program.Main().ColumnClicked(1); },
+                                            [this] { program.Main().NodeClicked("0DG1"); }}) {
         isReported = false;
         program.view.rowCount = -1;
         program.view.openEdit = [&] {

@@ -5,6 +5,7 @@
 #include "tests/platform/MessageWindow.h"
 #include "tests/platform/PollUntil.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace {
@@ -16,6 +17,14 @@ int FocusedControl(HWND dialog) {
     info.cbSize = sizeof info;
     GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &info);
     return GetDlgCtrlID(info.hwndFocus);
+}
+
+// As the system does with a box whose size it changes after it has placed it.
+LRESULT CALLBACK MoveNewDialog(int code, WPARAM wParam, LPARAM lParam) {
+    const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
+    if (code == HC_ACTION && message.message == WM_INITDIALOG)
+        SetWindowPos(message.hwnd, nullptr, 7, 9, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
 class Win32PromptsTest : public testing::Test {
@@ -82,8 +91,8 @@ TEST_F(Win32PromptsTest, BoxWithAnyLongTextHasItsButtonsOnTheScreen) {
     while (words.size() < 5400)
         words += "word ab ";
     for (const std::string& prompt :
-         {words, std::string(300, 'W'), "x " + std::string(300, 'n') + "\r\n", std::string(9000, 'n'),
-          std::string(2000, '\n')}) {
+         {words, std::string(300, 'W'), "x " + std::string(300, 'n') + "\r\n",
+          std::string(9000, 'n'), std::string(2000, '\n')}) {
         RECT box{};
         RECT button{};
         const DialogDriver driver(L"long", [&](HWND dialog) {
@@ -100,6 +109,25 @@ TEST_F(Win32PromptsTest, BoxWithAnyLongTextHasItsButtonsOnTheScreen) {
         EXPECT_LE(box.bottom, screen.bottom);
         EXPECT_LT(button.bottom, box.bottom);
     }
+}
+
+TEST_F(Win32PromptsTest, BoxThatWasPlacedBesideTheMiddleAppearsInTheMiddleOfTheScreen) {
+    const HHOOK mover =
+        SetWindowsHookExW(WH_CALLWNDPROCRET, MoveNewDialog, nullptr, GetCurrentThreadId());
+    RECT screen{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+    const DialogDriver driver(L"moved", [&screen](HWND dialog) {
+        const auto isCentred = [&] {
+            RECT box{};
+            GetWindowRect(dialog, &box);
+            return std::abs(box.left + box.right - screen.left - screen.right) <= 2 &&
+                   std::abs(box.top + box.bottom - screen.top - screen.bottom) <= 2;
+        };
+        EXPECT_TRUE(PollUntil(isCentred));
+        Press(dialog, IDCANCEL);
+    });
+    static_cast<void>(prompts.ShowMessage("x", MessageStyle::ConfirmDelete, "moved"));
+    UnhookWindowsHookEx(mover);
 }
 
 TEST_F(Win32PromptsTest, TextThatHasRoomIsShownAsItIs) {

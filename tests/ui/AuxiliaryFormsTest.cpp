@@ -141,6 +141,22 @@ TEST_F(AuxiliaryForms, AboutAndProgressAreNeitherMinimisedNorMaximised) {
     }
 }
 
+TEST_F(AuxiliaryForms, AboutAndProgressTakeTheirOwnSizeAgainWhenTheyAreGivenAnother) {
+    frmAbout about(form.Handle(), errors, banners);
+    frmProgress progress(form.Handle(), errors);
+    for (const HWND window : {about.Handle(), progress.Handle()}) {
+        PumpMessages();
+        RECT before{};
+        RECT after{};
+        GetWindowRect(window, &before);
+        SetWindowPos(window, nullptr, 0, 0, 900, 800, SWP_NOMOVE | SWP_NOZORDER);
+        PumpMessages();
+        GetWindowRect(window, &after);
+        EXPECT_EQ(WidthOf(after), WidthOf(before));
+        EXPECT_EQ(HeightOf(after), HeightOf(before));
+    }
+}
+
 TEST_F(AuxiliaryForms, ProgressValuesThatLookAlikeAreNotSentToTheBar) {
     frmProgress progress(form.Handle(), errors, clock);
     const HWND bar = FindChild(progress.Handle(), IDC_prbMain);

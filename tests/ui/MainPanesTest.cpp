@@ -107,8 +107,8 @@ protected:
 };
 
 TEST_F(MainFocus, EveryControlHasTheFocusAgainAfterAnotherWindowWasUsed) {
-    for (const int id : {IDC_lvColor, IDC_tvColor, IDC_txtActiveColor + 3, IDC_sldActiveColor + 8,
-                         IDC_lvColor}) {
+    for (const int id :
+         {IDC_lvColor, IDC_tvColor, IDC_txtActiveColor + 3, IDC_sldActiveColor + 8, IDC_lvColor}) {
         SetFocus(Child(id));
         EXPECT_EQ(FocusAfterAnotherWindow(), id);
     }
@@ -205,11 +205,13 @@ TEST_F(PaneTips, TipGoesWhenThePointerComesToAnotherRow) {
         ClientToScreen(Child(IDC_tvColor), &at);
         SetCursorPos(at.x, at.y);
     };
-    moveTo(LineOfTree(5));
+    const POINT empty = LineOfTree(5);
+    moveTo(empty);
+    PumpMessages();
+    moveTo({empty.x + 3, empty.y}); // a tip waits for the pointer to stand still
     EXPECT_TRUE(PumpUntil([&] { return IsWindowVisible(tips) != FALSE; }));
     moveTo(LineOfTree(0));
-    EXPECT_TRUE(PumpUntil([&] { return IsWindowVisible(tips) == FALSE; },
-                          std::chrono::seconds(3)));
+    EXPECT_TRUE(PumpUntil([&] { return IsWindowVisible(tips) == FALSE; }, std::chrono::seconds(3)));
 }
 
 TEST_F(MainTips, ControlShowsItsToolTipText) {

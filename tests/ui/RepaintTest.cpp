@@ -13,9 +13,9 @@
 // What is seen depends on the size and the texts of a window, never on those that it had before.
 namespace {
 
-constexpr unsigned char kHeader[] = {'B', 'M', 0, 0, 0, 0, 0, 0, 0, 0, 54, 0, 0, 0, 40, 0, 0, 0,
-                                     120, 0,  0, 0, 40, 0, 0, 0, 1, 0, 24, 0, 0, 0, 0, 0, 0, 0,
-                                     0,   0,  0, 0, 0, 0, 0, 0, 0, 0, 0,  0, 0, 0, 0, 0, 0, 0};
+constexpr unsigned char kHeader[] = {'B', 'M', 0, 0, 0,  0, 0, 0, 0, 0, 54, 0, 0, 0, 40, 0, 0, 0,
+                                     120, 0,   0, 0, 40, 0, 0, 0, 1, 0, 24, 0, 0, 0, 0,  0, 0, 0,
+                                     0,   0,   0, 0, 0,  0, 0, 0, 0, 0, 0,  0, 0, 0, 0,  0, 0, 0};
 
 // 120 by 40 pixels with a slanting pattern, so that a part of it in another place is seen.
 std::string Banner() {

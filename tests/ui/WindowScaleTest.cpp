@@ -179,9 +179,9 @@ TEST_F(MainScale, LowWindowKeepsPanesOfThreeHundredTwips) {
 }
 
 TEST_F(MainScale, WindowMayBeAsSmallAsTheSystemAllowsAndIsLaidOutAgainAfterwards) {
-    form.ShowWindow();
     for (const bool hugeFrame : {false, true}) {
         events.layout.SetHugeFrame(hugeFrame);
+        events.layout.Resize();
         RECT before{};
         GetWindowRect(form.Handle(), &before);
         const SIZE list = SizeOf(IDC_lvColor);
