@@ -80,7 +80,7 @@ std::string FirstLines(const std::string& text, int height, const MessageMeasure
 std::string FittedMessage(std::string_view text, const MessageSize& room,
                           const MessageMeasure& measure) {
     const std::string_view measured = WholeCharacters(text, kMostBytes);
-    const std::string fitted = WithRoomForWords(measured, room.width, measure);
+    std::string fitted = WithRoomForWords(measured, room.width, measure);
     if (measured.size() == text.size() && measure(fitted).height <= room.height)
         return fitted;
     return FirstLines(fitted, room.height, measure);

@@ -31,7 +31,8 @@ LRESULT CALLBACK Control::SubclassProcedure(HWND window, UINT id, WPARAM wParam,
     const LRESULT result = control->Answer({window, id, wParam, lParam});
     // Not every class paints the whole of a window that has another size: what it keeps is old.
     if (id == WM_SIZE)
-        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        RedrawWindow(window, nullptr, nullptr,
+                     RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
     return result;
 }
 

@@ -5,7 +5,6 @@
 #include "tests/platform/MessageWindow.h"
 #include "tests/platform/PollUntil.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace {
@@ -17,14 +16,6 @@ int FocusedControl(HWND dialog) {
     info.cbSize = sizeof info;
     GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &info);
     return GetDlgCtrlID(info.hwndFocus);
-}
-
-// As the system does with a box whose size it changes after it has placed it.
-LRESULT CALLBACK MoveNewDialog(int code, WPARAM wParam, LPARAM lParam) {
-    const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
-    if (code == HC_ACTION && message.message == WM_INITDIALOG)
-        SetWindowPos(message.hwnd, nullptr, 7, 9, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
 class Win32PromptsTest : public testing::Test {
@@ -109,25 +100,6 @@ TEST_F(Win32PromptsTest, BoxWithAnyLongTextHasItsButtonsOnTheScreen) {
         EXPECT_LE(box.bottom, screen.bottom);
         EXPECT_LT(button.bottom, box.bottom);
     }
-}
-
-TEST_F(Win32PromptsTest, BoxThatWasPlacedBesideTheMiddleAppearsInTheMiddleOfTheScreen) {
-    const HHOOK mover =
-        SetWindowsHookExW(WH_CALLWNDPROCRET, MoveNewDialog, nullptr, GetCurrentThreadId());
-    RECT screen{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
-    const DialogDriver driver(L"moved", [&screen](HWND dialog) {
-        const auto isCentred = [&] {
-            RECT box{};
-            GetWindowRect(dialog, &box);
-            return std::abs(box.left + box.right - screen.left - screen.right) <= 2 &&
-                   std::abs(box.top + box.bottom - screen.top - screen.bottom) <= 2;
-        };
-        EXPECT_TRUE(PollUntil(isCentred));
-        Press(dialog, IDCANCEL);
-    });
-    static_cast<void>(prompts.ShowMessage("x", MessageStyle::ConfirmDelete, "moved"));
-    UnhookWindowsHookEx(mover);
 }
 
 TEST_F(Win32PromptsTest, TextThatHasRoomIsShownAsItIs) {
