@@ -54,8 +54,8 @@ TEST(FittedMessage, CharactersStayWhole) {
     std::string umlauts;
     for (int count = 0; count < 50; ++count)
         umlauts += "\xC3\xBC";
-    const std::string five = umlauts.substr(0, 10);
-    EXPECT_EQ(Fitted(umlauts), five + "\r\n" + five + "\r\n" + five + "\r\n...");
+    const std::string ten = umlauts.substr(0, 20);
+    EXPECT_EQ(Fitted(umlauts), ten + "\r\n" + ten + "\r\n" + ten + "\r\n...");
 }
 
 TEST(FittedMessage, HugeTextIsCutAtOnce) {
