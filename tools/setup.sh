@@ -1,20 +1,42 @@
 #!/usr/bin/env bash
-# Installs through apt what building and testing need and this machine lacks; silent when nothing
-# is missing.
+# Installs through apt what this machine lacks; silent when nothing is missing.
+#
+#   tools/setup.sh [--list] SET
+#
+#   run        what building and running the programs needs
+#   package    what making the packages needs
+#   native     what the tests of the portable half and the quick checks need
+#   test       what all tests need
+#   --list     only names the packages of the set
 set -euo pipefail
 
-packages=(
-    g++ cmake ninja-build googletest                         # native build and tests
-    g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64     # build for Windows
-    wine wine64 locales                                      # running it
+readonly build=(cmake ninja-build googletest python3)
+readonly windows_build=("${build[@]}" g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64)
+readonly session=(
+    wine wine64 locales                                      # running Windows programs
     xvfb openbox                                             # on a screen of its own
     libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
     fonts-open-sans fonts-liberation fonts-wine
-    clang-format clang-tidy python3 librsvg2-bin             # checks
-    clang libclang-rt-14-dev                                 # fuzz targets, second compiler
-    cppcheck gcovr                                           # more checks, test coverage
-    nsis                                                     # installer
 )
+readonly native=(
+    "${build[@]}" g++
+    clang-format cppcheck librsvg2-bin fonts-open-sans       # checks; icons and banners
+)
+
+list=no
+[[ ${1-} != --list ]] || { list=yes; shift; }
+case ${1-} in
+run) packages=("${windows_build[@]}" "${session[@]}") ;;
+package) packages=("${windows_build[@]}" nsis) ;;
+native) packages=("${native[@]}") ;;
+test)
+    packages=("${native[@]}" "${windows_build[@]}" "${session[@]}" nsis
+        clang-tidy clang libclang-rt-14-dev gcovr)           # checks, second compiler, fuzzing, coverage
+    ;;
+*) echo "usage: tools/setup.sh [--list] run | package | native | test" >&2; exit 2 ;;
+esac
+mapfile -t packages < <(printf '%s\n' "${packages[@]}" | sort -u)
+[[ $list == no ]] || { printf '%s\n' "${packages[@]}"; exit 0; }
 
 installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null |
     sed -n 's/^installed //p' || true)
@@ -31,6 +53,6 @@ fi
 as_root=(env DEBIAN_FRONTEND=noninteractive)
 [[ $EUID -eq 0 ]] || as_root=(sudo "${as_root[@]}")
 
-echo "Installing ${missing[*]}"
+echo "Installing ${#missing[@]} packages: ${missing[*]}"
 "${as_root[@]}" apt-get update -qq
 "${as_root[@]}" apt-get install -qq -y --no-install-recommends "${missing[@]}" >/dev/null

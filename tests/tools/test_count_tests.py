@@ -2,7 +2,7 @@ import unittest
 
 import tool
 
-count = tool.load("count-tests").count
+count = tool.load("count_tests").count
 
 ALL_PASSED = """[ RUN      ] A.B
 [       OK ] A.B (0 ms)
@@ -27,6 +27,9 @@ CRASHED = """[       OK ] A.A (0 ms)
 class Count(unittest.TestCase):
     def test_of_a_good_run(self):
         self.assertEqual(count(ALL_PASSED, 0), (7, 0, 0))
+
+    def test_of_a_windows_program_whose_lines_end_otherwise(self):
+        self.assertEqual(count(ALL_PASSED.replace("\n", "\r\n"), 0), (7, 0, 0))
 
     def test_of_failed_and_skipped_tests(self):
         self.assertEqual(count(TWO_FAILED_ONE_SKIPPED, 1), (4, 2, 1))

@@ -1,15 +1,11 @@
-#!/usr/bin/env python3
-"""Counts what a test program reported: prints "PASSED FAILED SKIPPED" for its log.
+"""Counts what a test program reported.
 
 Reads the closing lines of GoogleTest, of Python's unittest and of programs that end with
 "N passed, N failed".  A program that ended early (crash, time limit) or reported nothing counts
 as one failure more than it told, and so does one that fails without naming a failed test.
-
-  tools/count-tests.py LOG EXIT_STATUS
 """
 
 import re
-import sys
 
 GTEST_END = re.compile(r"\[==========\] (\d+) tests? from \d+ test (?:suite|case)s? ran")
 GTEST_FAILED = re.compile(r"\[  FAILED  \] (\d+) tests?, listed below")
@@ -54,17 +50,11 @@ def count_unfinished(log):
 
 
 def count(log, status):
+    """Passed, failed and skipped tests by a program's output and its exit status."""
+    log = log.replace("\r\n", "\n")
     counts = count_gtest(log) or count_unittest(log) or count_plain(log)
     passed, failed, skipped = counts or count_unfinished(log)
     if failed == 0 and (status != 0 or passed == 0):
         failed = 1
     return passed, failed, skipped
 
-
-def main():
-    with open(sys.argv[1], encoding="utf-8", errors="replace", newline="") as file:
-        print(*count(file.read().replace("\r\n", "\n"), int(sys.argv[2])))
-
-
-if __name__ == "__main__":
-    main()
