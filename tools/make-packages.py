@@ -4,7 +4,8 @@
   tools/make-packages.py [--build FOLDER] [--output FOLDER]
 
   --build    folder of the built programs (default build/windows/bin)
-  --output   where the packages go (default build/packages), together with SHA256SUMS
+  --output   where the packages go (default build/packages), together with the list of what is in
+             them and SHA256SUMS
 
 The same programs give the same bytes: files stand in their order, every time in the archive is that
 of the commit, or SOURCE_DATE_EPOCH when that is set, and none comes from a clock.
@@ -21,10 +22,13 @@ import sys
 import time
 import zipfile
 
+from contents_list import contents_list, linked_libraries
+
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 NAME = "tnt4swx"
 PROGRAMS = ("tnt4swx.exe", "swx_standin.exe")
 SAMPLES = "samples"
+LEGAL_TEXTS = {"LICENSE.txt": "LICENSE", "NOTICES.txt": "packaging/notices.txt"}
 OLDEST_ZIP_TIME = 315532800  # 1980-01-01; for sources that are in no repository
 
 
@@ -53,6 +57,8 @@ def stage_program(build, folder):
     folder.mkdir(parents=True)
     for program in PROGRAMS:
         shutil.copyfile(build / program, folder / program)
+    for name, source in LEGAL_TEXTS.items():
+        (folder / name).write_bytes(windows_text(ROOT / source, "utf-8"))
     subprocess.run(["cmake", f"-DSOURCE={ROOT / 'resources'}", f"-DTARGET={folder}",
                     "-P", ROOT / "cmake" / "CopyProgramData.cmake"], check=True)
 
@@ -129,8 +135,12 @@ def make_packages(build, output):
     archive, installer = output / f"{top}-portable.zip", output / f"{top}-setup.exe"
     make_zip(work / "program", archive, top, commit_time())
     make_installer(work / "program", work / "installer", installer)
+    contents = {name: (work / "program" / name).read_bytes() for name in files_below(work / "program")}
+    listed = output / f"{top}.spdx.json"
+    listed.write_text(contents_list(NAME, version(), contents, linked_libraries(), commit_time()),
+                      encoding="utf-8")
     shutil.rmtree(work)
-    packages = [archive, installer]
+    packages = [archive, installer, listed]
     (output / "SHA256SUMS").write_text("".join(
         f"{hashlib.sha256(package.read_bytes()).hexdigest()}  {package.name}\n"
         for package in packages))

@@ -5,6 +5,8 @@ Inside a session of tools/wine-session.sh, with the packages made:
   tools/wine-session.sh python3 -m unittest discover -s tests/package
 """
 
+import hashlib
+import json
 import pathlib
 import re
 import shutil
@@ -27,6 +29,7 @@ PACKAGES = ROOT / "build" / "packages"
 VERSION = make.version()
 ARCHIVE = PACKAGES / f"tnt4swx-{VERSION}-portable.zip"
 INSTALLER = PACKAGES / f"tnt4swx-{VERSION}-setup.exe"
+CONTENTS = PACKAGES / f"tnt4swx-{VERSION}.spdx.json"
 PICTURES = ROOT / "build" / "screenshots"
 RESOURCE_VERSION = 16
 
@@ -38,8 +41,9 @@ def program_files():
             for file in (resources / folder).iterdir()}
     data |= {f"{folder}/{file.name}": file.read_bytes() for folder in ("samples", "banners")
              for file in (resources / folder).iterdir() if file.suffix != ".svg"}
-    programs = ROOT / "build" / "windows" / "bin"
-    return data | {name: (programs / name).read_bytes() for name in make.PROGRAMS}
+    data |= {name: make.windows_text(ROOT / source, "utf-8")
+             for name, source in make.LEGAL_TEXTS.items()}
+    return data | {name: (windows.PROGRAMS / name).read_bytes() for name in make.PROGRAMS}
 
 
 def versions(program):
@@ -55,8 +59,7 @@ def named_entries(registry):
     entries = set(registry) | {
         f"{key}\\{name}={value}" for key, values in registry.items()
         for name, value in values.items()}
-    names = re.compile(r"tnt4swx|chromixs|swx_standin|sldworks", re.IGNORECASE)
-    return {entry for entry in entries if names.search(entry)}
+    return {entry for entry in entries if windows.OWN_NAMES.search(entry)}
 
 
 class PackageTest(unittest.TestCase):
@@ -74,7 +77,7 @@ class Version(PackageTest):
     def test_is_the_same_in_both_programs_and_the_installer(self):
         numbers = tuple(map(int, VERSION.split("."))) + (0,)
         for name in make.PROGRAMS:
-            self.assertEqual(versions(ROOT / "build/windows/bin" / name), (numbers, numbers), name)
+            self.assertEqual(versions(windows.PROGRAMS / name), (numbers, numbers), name)
         self.assertEqual(versions(INSTALLER), (numbers, numbers))
 
     def test_is_what_the_lists_of_changes_begin_with(self):
@@ -84,18 +87,29 @@ class Version(PackageTest):
             self.assertEqual(re.search(r"\d+\.\d+\.\d+", text).group(), VERSION, name)
 
 
+@unittest.skipIf(windows.ON_WINDOWS, "the packages are made elsewhere")
 class Bytes(PackageTest):
     def test_are_the_same_when_the_packages_are_made_again_elsewhere(self):
         programs = self.folder / "bin"
-        shutil.copytree(ROOT / "build" / "windows" / "bin", programs)
+        shutil.copytree(windows.PROGRAMS, programs)
         make.make_packages(programs, self.folder / "packages")
-        for package in (ARCHIVE, INSTALLER):
+        for package in (ARCHIVE, INSTALLER, CONTENTS):
             again = self.folder / "packages" / package.name
             self.assertTrue(again.read_bytes() == package.read_bytes(), package.name)
 
     def test_sums_are_those_of_the_packages(self):
         subprocess.run(["sha256sum", "--check", "--strict", "--quiet", "SHA256SUMS"],
                        cwd=PACKAGES, check=True)
+
+
+class Contents(PackageTest):
+    def test_are_listed_with_their_sums_and_the_version(self):
+        listed = json.loads(CONTENTS.read_text(encoding="utf-8"))
+        self.assertEqual(listed["packages"][0]["versionInfo"], VERSION)
+        self.assertEqual({entry["fileName"].removeprefix("./"): entry["checksums"][1]["checksumValue"]
+                          for entry in listed["files"]},
+                         {name: hashlib.sha256(data).hexdigest()
+                          for name, data in program_files().items()})
 
 
 class Archive(PackageTest):
@@ -153,6 +167,11 @@ class Installer(PackageTest):
         entries = named_entries(windows.users_registry(self.folder))
         return (sorted(windows.users_files() - self.files_before) +
                 sorted(entries - named_entries(self.registry_before)))
+
+    @staticmethod
+    def installed_path():
+        below_drive = str(INSTALLED).partition("drive_c")[2].replace("/", "\\")
+        return INSTALLED if windows.ON_WINDOWS else f"C:{below_drive}"
 
     def test_asks_for_no_rights(self):
         image = pe.Image(INSTALLER.read_bytes())
@@ -223,12 +242,12 @@ class Installer(PackageTest):
     def test_nothing_is_removed_while_the_program_runs(self):
         self.install()
         before = windows.contents(INSTALLED)
-        with subprocess.Popen(["wine", INSTALLED / "swx_standin.exe", "--hidden", "--ready-file",
-                               f"Z:{self.folder / 'ready'}"],
+        with subprocess.Popen(windows.command(INSTALLED / "swx_standin.exe", "--hidden",
+                                              "--ready-file", windows.path(self.folder / "ready")),
                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as running:
             self.addCleanup(running.kill)
             windows.wait_until((self.folder / "ready").exists)
-            here = "_?=" + "C:" + str(INSTALLED).partition("drive_c")[2].replace("/", "\\")
+            here = f"_?={self.installed_path()}"
             self.assertEqual(windows.run(INSTALLED / "uninstall.exe", "/S", here), 3)
             self.assertTrue(windows.contents(INSTALLED) == before)
             windows.run("taskkill", "/im", "swx_standin.exe")

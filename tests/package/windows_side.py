@@ -1,4 +1,5 @@
-"""What the tests of the packages see of Windows: files and registry of the session's own prefix."""
+"""What the tests of the packages see of Windows: files and registry of the session's own prefix, or
+those of the user where they run on Windows itself."""
 
 import os
 import pathlib
@@ -8,7 +9,10 @@ import subprocess
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
-USER = next((pathlib.Path(os.environ["WINEPREFIX"]) / "drive_c" / "users").glob("[!P]*"))
+ON_WINDOWS = os.name == "nt"
+PROGRAMS = pathlib.Path(os.environ.get("TNT_PROGRAMS", ROOT / "build" / "windows" / "bin"))
+USER = (pathlib.Path.home() if ON_WINDOWS else
+        next((pathlib.Path(os.environ["WINEPREFIX"]) / "drive_c" / "users").glob("[!P]*")))
 INSTALLED = USER / "AppData" / "Local" / "Programs" / "TNT4SWX"
 START_MENU = USER / "AppData" / "Roaming/Microsoft/Windows/Start Menu/Programs"
 DOCUMENTS = USER / "Documents"
@@ -16,11 +20,22 @@ UNINSTALL_KEY = r"HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Un
 SETTINGS_KEY = r"HKEY_CURRENT_USER\Software\Chromixs\TNT4SWX"
 
 PATIENCE = 30  # seconds
+OWN_NAMES = re.compile(r"tnt4swx|chromixs|swx_standin|sldworks", re.IGNORECASE)
 
 
-def run(*command):
+def command(*parts):
+    """The command that starts a Windows program here."""
+    return ([] if ON_WINDOWS else ["wine"]) + list(map(str, parts))
+
+
+def path(file):
+    """A file's name as a Windows program knows it."""
+    return str(file) if ON_WINDOWS else f"Z:{file}"
+
+
+def run(*parts):
     """Starts a Windows program and waits for it; its exit code."""
-    return subprocess.run(["wine", *map(str, command)], timeout=120, check=False,
+    return subprocess.run(command(*parts), timeout=120, check=False,
                           stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                           stderr=subprocess.DEVNULL).returncode
 
@@ -46,15 +61,17 @@ def contents(folder):
 
 
 def users_files():
-    """Every file and folder of the user, temporary ones aside."""
-    return {entry.relative_to(USER).as_posix() for entry in USER.rglob("*")
-            if "Temp" not in entry.relative_to(USER).parts}
+    """Every file and folder of the user, temporary ones aside; on Windows itself, where others work
+    too, those that bear a name of the program."""
+    names = (entry.relative_to(USER) for entry in USER.rglob("*"))
+    return {name.as_posix() for name in names if "Temp" not in name.parts and
+            (not ON_WINDOWS or OWN_NAMES.search(name.as_posix()))}
 
 
 def users_registry(folder):
     """Values by name of every key of the user; folder: for the exported text."""
     file = folder / "user.reg"
-    run("reg", "export", "HKEY_CURRENT_USER", f"Z:{file}", "/y")
+    run("reg", "export", "HKEY_CURRENT_USER", path(file), "/y")
     keys = {}
     for block in file.read_text(encoding="utf-16").split("\n["):
         key, _, values = block.partition("]\n")
@@ -68,8 +85,9 @@ def play_main_job(programs, pictures):
     failure, and its last one."""
     shutil.rmtree(pictures, ignore_errors=True)
     pictures.mkdir(parents=True)
-    result = subprocess.run([ROOT / "tools" / "play-job.sh", "main", pictures, programs],
-                            timeout=300, check=False, stdin=subprocess.DEVNULL,
+    job = ([PROGRAMS.parent / "play_job.exe", "main", programs, pictures] if ON_WINDOWS else
+           [ROOT / "tools" / "play-job.sh", "main", pictures, programs])
+    result = subprocess.run(job, timeout=300, check=False, stdin=subprocess.DEVNULL,
                             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
     lines = result.stdout.splitlines()
     return [line.strip() for line in lines if "FAILED" in line] + lines[-1:]

@@ -1,0 +1,83 @@
+"""The list of a package's contents: version, files with their sums, and the libraries linked in.
+
+The form is SPDX 2.3 as JSON.  The same files give the same list.
+"""
+
+import hashlib
+import json
+import subprocess
+import time
+import uuid
+
+OWN_TERMS = "LicenseRef-tnt4swx"
+COMPILER = "x86_64-w64-mingw32-g++-posix"
+GCC_TERMS = "GPL-3.0-or-later WITH GCC-exception-3.1"
+
+
+def output_of(*command, text=None):
+    return subprocess.run(command, check=True, input=text, text=True,
+                          stdout=subprocess.PIPE).stdout
+
+
+def linked_libraries():
+    """Name, version, terms and holder of the rights of each library that is linked in."""
+    gcc = output_of(COMPILER, "-dumpfullversion").strip().removesuffix("-posix")
+    parts = "".join(f" __MINGW64_VERSION_{part}" for part in ("MAJOR", "MINOR", "BUGFIX"))
+    mingw = ".".join(output_of(COMPILER, "-E", "-P", "-x", "c++", "-",
+                               text=f"#include <_mingw.h>\nversion{parts}\n")
+                     .rpartition("version")[2].split())
+    project = "2009-2016 the mingw-w64 project"
+    return [(name, gcc, GCC_TERMS, "Free Software Foundation, Inc.")
+            for name in ("libgcc", "libstdc++", "libssp")] + [
+                ("mingw-w64-crt", mingw, "ZPL-2.1", project),
+                ("winpthreads", mingw, "MIT AND BSD-3-Clause", project)]
+
+
+def package_entry(name, version, terms, rights, **more):
+    return {"SPDXID": f"SPDXRef-Package-{name.replace('+', 'x')}", "name": name,
+            "versionInfo": version, "downloadLocation": "NOASSERTION", "filesAnalyzed": False,
+            "licenseConcluded": terms, "licenseDeclared": terms, "copyrightText": rights} | more
+
+
+def file_entry(index, name, data):
+    sums = [{"algorithm": algorithm.upper(), "checksumValue": hashlib.new(algorithm, data).hexdigest()}
+            for algorithm in ("sha1", "sha256")]
+    return {"SPDXID": f"SPDXRef-File-{index}", "fileName": f"./{name}", "checksums": sums,
+            "licenseConcluded": "NOASSERTION" if name == "NOTICES.txt" else OWN_TERMS,
+            "copyrightText": "NOASSERTION"}
+
+
+def verification_code(files):
+    """What the list's form wants of a package whose files are named: the sum of their sums."""
+    sums = sorted(entry["checksums"][0]["checksumValue"] for entry in files)
+    return hashlib.sha1("".join(sums).encode()).hexdigest()
+
+
+def relation(one, kind, other):
+    return {"spdxElementId": one, "relationshipType": kind, "relatedSpdxElement": other}
+
+
+def contents_list(name, version, contents, libraries, moment):
+    """The list as text.  contents: bytes by file name, with LICENSE.txt among them; libraries: as
+    linked_libraries gives them; moment: seconds since 1970."""
+    files = [file_entry(index, *item) for index, item in enumerate(sorted(contents.items()), 1)]
+    code = verification_code(files)
+    program = package_entry(name, version, OWN_TERMS, "NOASSERTION", filesAnalyzed=True,
+                            packageVerificationCode={"packageVerificationCodeValue": code})
+    linked = [package_entry(*library) for library in libraries]
+    programs = [entry["SPDXID"] for entry in files if entry["fileName"].endswith(".exe")]
+    relations = [relation("SPDXRef-DOCUMENT", "DESCRIBES", program["SPDXID"])]
+    relations += [relation(program["SPDXID"], "CONTAINS", entry["SPDXID"]) for entry in files]
+    relations += [relation(one, "STATIC_LINK", entry["SPDXID"]) for one in programs
+                  for entry in linked]
+    terms = contents["LICENSE.txt"].decode("utf-8-sig")
+    return json.dumps({
+        "spdxVersion": "SPDX-2.3", "dataLicense": "CC0-1.0", "SPDXID": "SPDXRef-DOCUMENT",
+        "name": f"{name}-{version}",
+        "documentNamespace": uuid.uuid5(uuid.NAMESPACE_OID, f"{name} {version} {code}").urn,
+        "creationInfo": {"created": time.strftime("%Y-%m-%dT%H:%M:%SZ", time.gmtime(moment)),
+                         "creators": ["Tool: make-packages"]},
+        "packages": [program, *linked], "files": files, "relationships": relations,
+        "hasExtractedLicensingInfos": [{"licenseId": OWN_TERMS, "name": "Terms of use of TNT4SWX",
+                                        "extractedText": terms}],
+    }, indent=1) + "\n"
