@@ -29,7 +29,7 @@ constexpr std::size_t kMemorySlack = 2048U * 1024U; // the allocator's pages com
 // How many rounds: TNT_ENDURANCE, else few enough for every run of the tests.
 int Rounds() {
     const char* number = std::getenv("TNT_ENDURANCE");
-    return std::max(kSamples, number != nullptr ? std::atoi(number) : 100);
+    return std::max(kSamples, number != nullptr ? std::atoi(number) : 30);
 }
 
 void PrintRow(const char* what, int round, const HeldResources& held) {

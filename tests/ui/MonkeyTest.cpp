@@ -9,6 +9,7 @@
 #include "tests/ui/RealProgram.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <iostream>
 #include <psapi.h>
 #include <random>
@@ -19,9 +20,19 @@ namespace {
 using Texts = std::vector<std::string>;
 
 constexpr unsigned kSeed = 20;
-constexpr int kSteps = 100000;
 constexpr int kStepsBetweenChecks = 5000;
-constexpr int kWarmUp = 40000; // what is made when it is first wanted is there then
+constexpr int kFewestSteps = 4 * kStepsBetweenChecks;
+
+// How many steps: TNT_MONKEY, else few enough for every run of the tests.
+int Steps() {
+    const char* number = std::getenv("TNT_MONKEY");
+    return std::max(kFewestSteps, number != nullptr ? std::atoi(number) : 0);
+}
+
+// What is made when it is first wanted is there then.
+int WarmUp(int steps) {
+    return steps / 2 / kStepsBetweenChecks * kStepsBetweenChecks;
+}
 
 constexpr const char* kDivisionSign = "\xC3\xB7";
 
@@ -437,15 +448,16 @@ void Monkey::ExpectAgreement() {
 } // namespace
 
 TEST_F(Monkey, AnyInputLeavesTheProgramWholeAndTreeListAndLibraryInAgreement) {
-    std::cout << "seed " << kSeed << ", " << kSteps << " steps\n";
+    const int steps = Steps();
+    std::cout << "seed " << kSeed << ", " << steps << " steps\n";
     Holdings before;
-    for (int step = 1; step <= kSteps; ++step) {
+    for (int step = 1; step <= steps; ++step) {
         Step();
         if (step % kStepsBetweenChecks != 0)
             continue;
         ComeToRest();
         ASSERT_NO_FATAL_FAILURE(ExpectAgreement()) << "after step " << step;
-        if (step == kWarmUp)
+        if (step == WarmUp(steps))
             std::cout << "after " << step << ": " << (before = Holdings::Count()) << '\n';
     }
     const Holdings after = Holdings::Count();
