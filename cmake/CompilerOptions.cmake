@@ -1,10 +1,15 @@
+# With Visual Studio, too, a program needs no run-time library beside it.
+set(CMAKE_MSVC_RUNTIME_LIBRARY "MultiThreaded$<$<CONFIG:Debug>:Debug>")
+
 # Warnings are errors everywhere; the sanitizers exist only in the native build.  No name of a folder
 # of this machine gets into a program, so that the same sources give the same bytes anywhere.
 function(tnt_target_options target)
     if(MSVC)
-        target_compile_options(${target} PRIVATE /W4 /WX /permissive- /utf-8 /EHsc /guard:cf /GS)
+        target_compile_options(${target} PRIVATE /W4 /WX /permissive- /utf-8 /EHsc
+            /Zc:__cplusplus /guard:cf /guard:ehcont /GS)
     else()
-        target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow -Werror
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion
+            -Wshadow -Werror
             -fstack-protector-strong -ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
         # The linker adds the library of the stack protector only when it is told, too.
         target_link_options(${target} PUBLIC -fstack-protector-strong)

@@ -1,8 +1,20 @@
-# GoogleTest comes as source, so that it is built with the options of this build.
+# GoogleTest comes as source where there is one, so that it is built with the options of this build,
+# and otherwise as a package; for Visual Studio, vcpkg.json names it.
 set(TNT_GOOGLETEST_DIR /usr/src/googletest CACHE PATH "Source folder of GoogleTest")
-set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
-set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
-add_subdirectory(${TNT_GOOGLETEST_DIR} googletest EXCLUDE_FROM_ALL)
+if(EXISTS ${TNT_GOOGLETEST_DIR}/CMakeLists.txt)
+    set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+    set(CMAKE_POLICY_DEFAULT_CMP0091 NEW) # its run-time library is the one of this build
+    set(gtest_force_shared_crt ON CACHE BOOL "" FORCE) # and not changed afterwards
+    add_subdirectory(${TNT_GOOGLETEST_DIR} googletest EXCLUDE_FROM_ALL)
+else()
+    find_package(GTest CONFIG REQUIRED)
+    foreach(library gmock gtest gtest_main)
+        add_library(${library} ALIAS GTest::${library})
+    endforeach()
+endif()
+
+# Paths that a test program is told are those that it sees: of a cross build, the root as Wine shows it.
+set(test_root $<$<BOOL:${CMAKE_CROSSCOMPILING}>:Z:>)
 
 function(tnt_test_program name)
     cmake_parse_arguments(arg "" "" "FOLDERS;LIBRARIES" ${ARGN})
@@ -10,7 +22,8 @@ function(tnt_test_program name)
     add_executable(${name} ${sources})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
-    target_compile_definitions(${name} PRIVATE TNT_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    target_compile_definitions(${name} PRIVATE TNT_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
+        $<$<CXX_COMPILER_ID:MSVC>:_CRT_SECURE_NO_WARNINGS>) # getenv is standard
     tnt_target_options(${name})
     if("gtest" IN_LIST arg_LIBRARIES)
         target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <array> <functional> <map>
@@ -23,13 +36,23 @@ function(tnt_test_program name)
     if(WIN32 AND NOT MSVC)
         target_link_options(${name} PRIVATE -static)
     endif()
-    add_test(NAME ${name} COMMAND ${name})
+endfunction()
+
+# A test that "ctest" can run with nothing else typed.  A window has the screen to itself, since
+# on Windows there is one for all.
+function(tnt_test name)
+    add_test(NAME ${name} COMMAND ${ARGN})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 2400)
+    if(WIN32)
+        set_tests_properties(${name} PROPERTIES RUN_SERIAL TRUE)
+    endif()
 endfunction()
 
 set(portable_test_folders tests/common tests/library tests/solidworks tests/support
     tests/mainwindow tests/app tests/standin tests/fakes)
 tnt_test_program(portable_tests FOLDERS ${portable_test_folders}
     LIBRARIES standin_model tnt_portable gmock gtest gtest_main)
+tnt_test(portable_tests portable_tests)
 
 # Measures the library and its files; its numbers stand in docs/performance.md.
 tnt_sources(bench_sources tests/bench/library)
@@ -52,6 +75,9 @@ if(WIN32)
     target_sources(windows_tests PRIVATE resources/tnt4swx.rc)
     # Started as processes of their own, by the tests of the server and of the program's start.
     add_dependencies(windows_tests swx_standin tnt4swx)
+    set(program_folder TNT_PROGRAM_FOLDER="${test_root}$<TARGET_FILE_DIR:tnt4swx>")
+    target_compile_definitions(windows_tests PRIVATE ${program_folder})
+    tnt_test(windows_tests windows_tests)
     set(remote_sources tests/e2e/RunningProgram.cpp tests/e2e/RemoteWindow.cpp
         tests/e2e/RealInput.cpp)
     target_sources(windows_tests PRIVATE ${remote_sources})
@@ -67,6 +93,8 @@ if(WIN32)
     foreach(bench walk_bench groups_bench)
         target_link_libraries(${bench} PRIVATE standin_model tnt_forms tnt_version)
     endforeach()
+    target_compile_definitions(walk_bench PRIVATE ${program_folder}
+        $<$<CXX_COMPILER_ID:MSVC>:_CRT_SECURE_NO_WARNINGS>)
     add_dependencies(start_bench tnt4swx)
     add_dependencies(walk_bench swx_standin)
     foreach(bench start_bench sort_bench walk_bench groups_bench)
@@ -80,5 +108,16 @@ if(WIN32)
     tnt_test_program(file_faults FOLDERS tests/faults LIBRARIES tnt_platform gtest)
     target_sources(file_faults PRIVATE tests/e2e/RunningProgram.cpp
         tests/platform/ScratchFolder.cpp)
+    if(CMAKE_CROSSCOMPILING)
+        tnt_test(file_faults ${CMAKE_SOURCE_DIR}/tools/wine-session.sh
+            ${CMAKE_SOURCE_DIR}/tools/run-file-faults.sh $<TARGET_FILE:file_faults>)
+    else()
+        tnt_test(file_faults file_faults)
+    endif()
     tnt_test_program(play_job FOLDERS tests/e2e LIBRARIES tnt_platform gdiplus)
+    add_dependencies(play_job tnt4swx swx_standin)
+    foreach(job main files editor mouse windows views)
+        tnt_test(${job}_job play_job ${job} ${test_root}$<TARGET_FILE_DIR:tnt4swx>
+            ${test_root}${CMAKE_BINARY_DIR}/screenshots/${job})
+    endforeach()
 endif()

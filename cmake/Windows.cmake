@@ -4,10 +4,12 @@ add_library(tnt_platform STATIC ${platform_sources})
 target_link_libraries(tnt_platform PUBLIC tnt_portable comctl32 comdlg32 gdi32 user32 shell32 ole32
     oleaut32 uuid advapi32)
 tnt_target_options(tnt_platform)
+target_precompile_headers(tnt_platform PRIVATE ${standard_headers} <windows.h> <commctrl.h>)
 
 add_library(tnt_forms STATIC ${form_sources})
 target_link_libraries(tnt_forms PUBLIC tnt_platform)
 tnt_target_options(tnt_forms)
+target_precompile_headers(tnt_forms REUSE_FROM tnt_platform)
 
 # The version as code and resource scripts see it; its one place is CMakeLists.txt.
 configure_file(${CMAKE_SOURCE_DIR}/resources/tnt4swx.manifest.in
@@ -27,6 +29,7 @@ list(FILTER standin_sources EXCLUDE REGEX "/StandInMain\\.cpp$")
 add_library(standin_com STATIC ${standin_sources})
 target_link_libraries(standin_com PUBLIC standin_model tnt_platform)
 tnt_target_options(standin_com)
+target_precompile_headers(standin_com REUSE_FROM tnt_platform)
 
 add_executable(swx_standin WIN32 standin/com/StandInMain.cpp resources/swx_standin.rc)
 target_link_libraries(swx_standin PRIVATE standin_com tnt_version)
@@ -35,7 +38,8 @@ tnt_target_options(swx_standin)
 foreach(program tnt4swx swx_standin)
     if(MSVC)
         target_link_options(${program} PRIVATE /MANIFEST:NO # the resource script holds it
-            /guard:cf /CETCOMPAT /DEPENDENTLOADFLAG:0x800)
+            /guard:cf /guard:ehcont /CETCOMPAT
+            /DEPENDENTLOADFLAG:0x800)
     else()
         # One file that runs anywhere: no run-time library beside it.  The same sources give the same
         # bytes: no time of the link in it.

@@ -11,12 +11,11 @@ import signal
 import subprocess
 import sys
 
-from steps import Runner, Step
+from steps import JOBS, Runner, Step
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 LOGS = ROOT / "build" / "logs"
 WINE = ("tools/wine-session.sh",)
-JOBS = ("main", "files", "editor", "mouse", "windows")
 OWN_LIBRARIES = ("tnt_portable", "tnt_platform", "tnt_forms", "standin_model")
 BENCHED = {"library-bench": ("native", "library_bench"),
            "library-bench-wine": ("windows", "library_bench"),
@@ -102,8 +101,8 @@ def windows_steps(shards, doses):
         build("windows", 3600, follows=("build-native",)),
         *windows_suites(shards, doses),
         suite("portable-tests-wine", "windows", (*session, "build/windows/portable_tests.exe"), 300),
-        suite("file-faults", "windows", (*WINE, "tools/run-file-faults.sh"), 300,
-              targets=("file_faults",)),
+        suite("file-faults", "windows",
+              (*WINE, "tools/run-file-faults.sh", "build/windows/file_faults.exe"), 300),
         # What protects the programs and their user, and that nothing of this machine is in them.
         check("hardening", "tools/check-hardening.py", *own, f"--forbid={ROOT}", "--forbid=/usr/",
               *programs, needs=("build-windows",), targets=("tnt4swx", "swx_standin")),

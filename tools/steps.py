@@ -14,6 +14,8 @@ import time
 
 from count_tests import count
 
+JOBS = ("main", "files", "editor", "mouse", "windows")  # what a person does, one after the other
+
 TIMED_OUT = 124
 GRACE = 30  # seconds that an ended step has to tidy up
 PAUSE = 0.05  # seconds between two looks at what runs

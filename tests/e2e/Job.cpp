@@ -25,7 +25,9 @@ Job::Job(std::string programFolder, std::string pictureFolder)
       report_([this](int step, const std::string& name) { SavePicture(step, name); }) {}
 
 int Job::Run() {
-    std::filesystem::create_directories(PathOf(pictureFolder_) / "files");
+    const std::filesystem::path files = PathOf(pictureFolder_) / "files";
+    std::filesystem::remove_all(files); // of an earlier run
+    std::filesystem::create_directories(files);
     Work();
     return report_.Finish();
 }

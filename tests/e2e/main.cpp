@@ -7,6 +7,7 @@
 
 #include "platform/Utf16.h"
 
+#include <filesystem>
 #include <functional>
 #include <iostream>
 #include <map>
@@ -24,6 +25,11 @@ std::vector<std::string> Arguments() {
         arguments.push_back(ToUtf8(texts[i]));
     LocalFree(static_cast<void*>(texts));
     return arguments;
+}
+
+// A folder as Windows writes it.
+std::string WindowsPath(const std::string& path) {
+    return ToUtf8(std::filesystem::path(ToUtf16(path)).make_preferred().wstring());
 }
 
 // Every job by its name.
@@ -55,7 +61,9 @@ int main() {
         return 2;
     }
     try {
-        return Jobs().at(arguments[0])(arguments[1], arguments[2])->Run();
+        return Jobs()
+            .at(arguments[0])(WindowsPath(arguments[1]), WindowsPath(arguments[2]))
+            ->Run();
     } catch (const std::exception& error) {
         std::cout << error.what() << "\n0 passed, 1 failed\n";
         return 1;

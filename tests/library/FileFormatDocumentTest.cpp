@@ -1,4 +1,5 @@
 #include "tests/fakes/LibraryOnFakes.h"
+#include "tests/fakes/SourceFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,7 @@ constexpr const char* kFile = "C:\\example.tnt";
 
 // The worked example of docs/file-format.md, as the file that it describes.
 std::string ExampleBytes(const FakeCodePage& codePage) {
-    std::ifstream document(TNT_SOURCE_DIR "/docs/file-format.md");
+    std::ifstream document(SourceFolder() + "/docs/file-format.md");
     std::string example;
     bool inside = false;
     for (std::string line; std::getline(document, line);) {

@@ -1,9 +1,9 @@
 #include "common/ProgramNames.h"
-#include "platform/ProgramFolder.h"
 #include "platform/Utf16.h"
 #include "resources/controls.h"
 #include "tests/e2e/RemoteWindow.h"
 #include "tests/e2e/RunningProgram.h"
+#include "tests/platform/BuiltProgram.h"
 #include "tests/platform/PollUntil.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/SettingsKey.h"
@@ -21,10 +21,6 @@ constexpr std::array kSettingNames = {"Language",      "AlwaysOnTop",        "Co
                                       "ViewStatusBar", "ViewHugeColorDialog"};
 
 constexpr int kMessageText = 0xFFFF; // number of a message box's text
-
-std::filesystem::path BuiltProgram() {
-    return std::filesystem::path(ToUtf16(ProgramFolder())) / L"bin" / L"tnt4swx.exe";
-}
 
 // The shipped program in a process of its own.
 class RunningTnt {

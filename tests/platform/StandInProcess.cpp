@@ -1,6 +1,7 @@
 #include "tests/platform/StandInProcess.h"
 
 #include "platform/Utf16.h"
+#include "tests/platform/BuiltProgram.h"
 #include "tests/platform/PollUntil.h"
 
 #include <array>
@@ -11,12 +12,6 @@
 namespace {
 
 constexpr DWORD kPatience = 20'000; // milliseconds
-
-std::filesystem::path ProgramFolder() {
-    std::array<wchar_t, MAX_PATH> name{};
-    GetModuleFileNameW(nullptr, name.data(), MAX_PATH);
-    return std::filesystem::path(name.data()).parent_path();
-}
 
 std::wstring Quoted(const std::wstring& text) {
     return L"\"" + text + L"\"";
@@ -93,7 +88,7 @@ ProgramResult RunProgram(const std::wstring& commandLine) {
 }
 
 StandInProcess::StandInProcess(const std::wstring& switches, CallLogging logging) {
-    const std::wstring program = (ProgramFolder() / L"bin" / L"swx_standin.exe").wstring();
+    const std::wstring program = BuiltProgram("swx_standin.exe").wstring();
     const std::wstring log = ToUtf16(folder_.File("calls.log"));
     const std::wstring readyFile = ToUtf16(folder_.File("ready"));
     STARTUPINFOW startup{};
