@@ -13,7 +13,7 @@ else()
     endforeach()
 endif()
 
-# Paths that a test program is told are those that it sees: of a cross build, the root as Wine shows it.
+# Paths that a test program is told are those that it sees: of a cross build, as Wine shows them.
 set(test_root $<$<BOOL:${CMAKE_CROSSCOMPILING}>:Z:>)
 
 function(tnt_test_program name)

@@ -40,8 +40,8 @@ def package_entry(name, version, terms, rights, **more):
 
 
 def file_entry(index, name, data):
-    sums = [{"algorithm": algorithm.upper(), "checksumValue": hashlib.new(algorithm, data).hexdigest()}
-            for algorithm in ("sha1", "sha256")]
+    sums = [{"algorithm": kind.upper(), "checksumValue": hashlib.new(kind, data).hexdigest()}
+            for kind in ("sha1", "sha256")]
     return {"SPDXID": f"SPDXRef-File-{index}", "fileName": f"./{name}", "checksums": sums,
             "licenseConcluded": "NOASSERTION" if name == "NOTICES.txt" else OWN_TERMS,
             "copyrightText": "NOASSERTION"}

@@ -130,12 +130,13 @@ def make_packages(build, output):
     """The packages, in their order in SHA256SUMS."""
     work = output / "work"
     shutil.rmtree(output, ignore_errors=True)
-    stage_program(build, work / "program")
+    program = work / "program"
+    stage_program(build, program)
     top = f"{NAME}-{version()}"
     archive, installer = output / f"{top}-portable.zip", output / f"{top}-setup.exe"
-    make_zip(work / "program", archive, top, commit_time())
-    make_installer(work / "program", work / "installer", installer)
-    contents = {name: (work / "program" / name).read_bytes() for name in files_below(work / "program")}
+    make_zip(program, archive, top, commit_time())
+    make_installer(program, work / "installer", installer)
+    contents = {name: (program / name).read_bytes() for name in files_below(program)}
     listed = output / f"{top}.spdx.json"
     listed.write_text(contents_list(NAME, version(), contents, linked_libraries(), commit_time()),
                       encoding="utf-8")

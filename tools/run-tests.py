@@ -100,7 +100,8 @@ def windows_steps(shards, doses):
         # The native tests run beside it, not the native build.
         build("windows", 3600, follows=("build-native",)),
         *windows_suites(shards, doses),
-        suite("portable-tests-wine", "windows", (*session, "build/windows/portable_tests.exe"), 300),
+        suite("portable-tests-wine", "windows", (*session, "build/windows/portable_tests.exe"),
+              300),
         suite("file-faults", "windows",
               (*WINE, "tools/run-file-faults.sh", "build/windows/file_faults.exe"), 300),
         # What protects the programs and their user, and that nothing of this machine is in them.

@@ -31,7 +31,8 @@ package) packages=("${windows_build[@]}" nsis) ;;
 native) packages=("${native[@]}") ;;
 test)
     packages=("${native[@]}" "${windows_build[@]}" "${session[@]}" nsis
-        clang-tidy clang libclang-rt-14-dev gcovr)           # checks, second compiler, fuzzing, coverage
+        clang-tidy gcovr                                     # checks, coverage
+        clang libclang-rt-14-dev)                            # fuzz targets, second compiler
     ;;
 *) echo "usage: tools/setup.sh [--list] run | package | native | test" >&2; exit 2 ;;
 esac

@@ -187,7 +187,8 @@ class Runner:
         step, details = running.step, []
         if step.counts:
             passed, failed, skipped = count(running.text(), status)
-            details = [f"{passed} passed", f"{failed} failed"] + [f"{skipped} skipped"] * (skipped > 0)
+            details = [f"{passed} passed", f"{failed} failed"]
+            details += [f"{skipped} skipped"] if skipped else []
         else:
             passed, failed = int(status == 0), int(status != 0)
         if status == TIMED_OUT:

@@ -25,7 +25,8 @@ def windows_plan(build, root=ROOT):
                   environment=places)
              for name in ("portable_tests", "windows_tests", "file_faults")]
     jobs = [Step(f"{name}-job", (build / "play_job.exe", name, build / "bin",
-                                 root / "build" / "screenshots" / name), 600, counts=True, alone=True)
+                                 root / "build" / "screenshots" / name), 600, counts=True,
+                 alone=True)
             for name in JOBS]
     packages = Step("packages", (sys.executable, "-m", "unittest", "discover", "-s",
                                  root / "tests" / "package"), 1800, counts=True, alone=True,

@@ -106,8 +106,9 @@ class Contents(PackageTest):
     def test_are_listed_with_their_sums_and_the_version(self):
         listed = json.loads(CONTENTS.read_text(encoding="utf-8"))
         self.assertEqual(listed["packages"][0]["versionInfo"], VERSION)
-        self.assertEqual({entry["fileName"].removeprefix("./"): entry["checksums"][1]["checksumValue"]
-                          for entry in listed["files"]},
+        sums = {entry["fileName"].removeprefix("./"): entry["checksums"][1]["checksumValue"]
+                for entry in listed["files"]}
+        self.assertEqual(sums,
                          {name: hashlib.sha256(data).hexdigest()
                           for name, data in program_files().items()})
 

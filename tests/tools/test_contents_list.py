@@ -9,11 +9,13 @@ listing = tool.load("contents_list")
 
 CONTENTS = {"LICENSE.txt": "\ufeffTerms\r\n".encode(), "NOTICES.txt": b"Notices", "b/a.tnt": b"a",
             "tnt4swx.exe": b"MZ"}
-LIBRARIES = [("libstdc++", "12", listing.GCC_TERMS, "Foundation"), ("winpthreads", "10.0.0", "MIT", "x")]
+LIBRARIES = [("libstdc++", "12", listing.GCC_TERMS, "Foundation"),
+             ("winpthreads", "10.0.0", "MIT", "x")]
 
 
 def listed(contents=None, moment=1700000000):
-    return json.loads(listing.contents_list("tnt4swx", "1.2.3", contents or CONTENTS, LIBRARIES, moment))
+    return json.loads(
+        listing.contents_list("tnt4swx", "1.2.3", contents or CONTENTS, LIBRARIES, moment))
 
 
 class ContentsList(unittest.TestCase):
@@ -29,7 +31,8 @@ class ContentsList(unittest.TestCase):
 
     def test_holds_the_terms_themselves(self):
         terms = listed()["hasExtractedLicensingInfos"][0]
-        self.assertEqual((terms["licenseId"], terms["extractedText"]), (listing.OWN_TERMS, "Terms\r\n"))
+        self.assertEqual((terms["licenseId"], terms["extractedText"]),
+                         (listing.OWN_TERMS, "Terms\r\n"))
 
     def test_tells_which_libraries_are_in_each_program(self):
         links = [(relation["spdxElementId"], relation["relatedSpdxElement"])

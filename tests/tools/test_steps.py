@@ -99,12 +99,12 @@ class Run(unittest.TestCase):
         self.assertEqual((totals.passed, totals.failed), (0, 1))
         self.assertIn("time limit of 1 s", self.told[-1])
         end = time.monotonic() + 30
-        while pathlib.Path(f"/proc/{child.read_text()}/stat").exists() and not self.is_zombie(child):
+        while not self.has_ended(child):
             self.assertLess(time.monotonic(), end)
             time.sleep(0.05)
 
     @staticmethod
-    def is_zombie(child):
+    def has_ended(child):
         try:
             stat = pathlib.Path(f"/proc/{child.read_text()}/stat").read_text(encoding="utf-8")
         except OSError:
