@@ -5,7 +5,13 @@
   tools/check-tidy.py windows    the Windows half: what the native build does not compile
 
 A file that was clean is not looked at again until it, a project header that it includes, the
-options or the checks change; what is known lies below build/tidy.  Tests are left out: the test
+options or the checks change; what is known lies below build/tidy.
+
+Most of the time of clang-tidy goes into the headers that every file includes, so several files are
+looked at as if they were one.  When something is found there, or the files do not go together, each
+is looked at by itself, and what is found then is what is told.
+
+Tests are left out: the test
 framework's macros raise checks that say nothing about the program.
 """
 
@@ -19,11 +25,14 @@ import re
 import shlex
 import subprocess
 import sys
+import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build"
 KNOWN = BUILD / "tidy"
 ROOMS = ("app", "common", "library", "mainwindow", "platform", "solidworks", "standin", "support")
+TOGETHER = 6  # files that are looked at as one
+INCLUDE = re.compile(r"\s*#\s*include\s+(\S+)")
 OWN_INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
 MINGW = "x86_64-w64-mingw32"
 
@@ -95,21 +104,57 @@ def tool_fingerprint():
 
 def findings(file, options):
     """What clang-tidy says about one file; empty when it is clean."""
-    command = ["clang-tidy", "--quiet", str(file), "--", *options]
+    command = ["clang-tidy", "--quiet", f"--config-file={ROOT / '.clang-tidy'}", str(file), "--",
+               *options]
     result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
     if result.returncode == 0:
         return ""
     return result.stdout.replace(f"{ROOT}/", "") or result.stderr
 
 
-def check(file, options, tool):
-    marker = KNOWN / fingerprint(file, options, tool)
-    if marker.exists():
-        return None
-    found = findings(file, options)
-    if not found:
-        marker.touch()
+def joined(files):
+    """The text of several files as one, without what an earlier one has included already; every line
+    keeps its own number."""
+    lines, included = [], set()
+    for file in files:
+        lines.append(f'#line 1 "{file}"')
+        for line in file.read_text(encoding="utf-8").splitlines():
+            include = INCLUDE.match(line)
+            if include and include[1] in included:
+                line = ""
+            elif include:
+                included.add(include[1])
+            lines.append(line)
+    return "\n".join(lines) + "\n"
+
+
+def are_clean_together(files, options):
+    with tempfile.NamedTemporaryFile("w", suffix=".cpp", dir=KNOWN, encoding="utf-8") as text:
+        text.write(joined(files))
+        text.flush()
+        return not findings(text.name, options)
+
+
+def check(files, options, tool):
+    """What is found in files that share their options, a text for each."""
+    if len(files) > 1 and are_clean_together(files, options):
+        found = [""] * len(files)
+    else:
+        found = [findings(file, options) for file in files]
+    for file, text in zip(files, found):
+        if not text:
+            (KNOWN / fingerprint(file, options, tool)).touch()
     return found
+
+
+def batches(commands, tool):
+    """The files that nothing is known of, with their options, so many together as is quick."""
+    unknown = {}
+    for file, options in sorted(commands.items()):
+        if not (KNOWN / fingerprint(file, options, tool)).exists():
+            unknown.setdefault(tuple(options), []).append(file)
+    return [(files[start:start + TOGETHER], options) for options, files in unknown.items()
+            for start in range(0, len(files), TOGETHER)]
 
 
 def main():
@@ -120,12 +165,12 @@ def main():
     commands = portable_commands() if half == "native" else windows_commands()
     tool = tool_fingerprint()
     with concurrent.futures.ThreadPoolExecutor(max_workers=os.cpu_count()) as pool:
-        results = list(pool.map(lambda item: check(*item, tool), commands.items()))
+        results = pool.map(lambda batch: check(*batch, tool), batches(commands, tool))
+        found = [text for texts in results for text in texts]
     # A finding in a header shows up in every file that includes it: tell it once.
-    print("\n".join(dict.fromkeys(result for result in results if result)))
-    looked_at = [result for result in results if result is not None]
-    print(f"{len(commands)} files, {len(looked_at)} looked at, {sum(map(bool, looked_at))} not clean")
-    return 1 if any(results) or not commands else 0
+    print("\n".join(dict.fromkeys(text for text in found if text)))
+    print(f"{len(commands)} files, {len(found)} looked at, {sum(map(bool, found))} not clean")
+    return 1 if any(found) or not commands else 0
 
 
 if __name__ == "__main__":
