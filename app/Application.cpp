@@ -63,7 +63,8 @@ void Application::Start() {
     SetFormDefaults();
     // Reported once and only now: the messages have their language since the window has its texts.
     if (!unreadable.empty())
-        errors_.ReportError("Type mismatch", Joined(unreadable));
+        errors_.ReportError(RuntimeError(ErrorNumber::TypeMismatch, ErrorTexts::StoredSettings,
+                                         {Joined(unreadable)}));
     windows_.mainView.ShowWindow();
 }
 
@@ -72,7 +73,7 @@ void Application::SetFormDefaults() {
     try {
         mainWindow_.SetFormDefaults();
     } catch (const RuntimeError& error) {
-        errors_.ReportError(error.Description(), error.Member());
+        errors_.ReportError(error);
     }
 }
 

@@ -6,7 +6,7 @@
 namespace {
 
 [[noreturn]] void ThrowTypeMismatch() {
-    throw RuntimeError(ErrorNumber::TypeMismatch, "Type mismatch");
+    throw RuntimeError(ErrorNumber::TypeMismatch, ErrorTexts::WrongKindOfValue);
 }
 
 std::string WholeOrShortest(double number) {

@@ -8,7 +8,7 @@
 // The user does not want to go on with a long operation, nor to wait for it.
 class OperationStopped : public RuntimeError {
 public:
-    OperationStopped() : RuntimeError(ErrorNumber::UserInterrupt, "Stopped by the user") {}
+    OperationStopped() : RuntimeError(ErrorNumber::UserInterrupt, ErrorTexts::StoppedByUser) {}
 };
 
 // The user's side of calls into another program that is busy.

@@ -48,4 +48,27 @@ inline constexpr std::int32_t EarlierContentKept = 153;
 inline constexpr std::int32_t SolidWorksIsBusy = 160;
 inline constexpr std::int32_t SolidWorksStopped = 161;
 inline constexpr std::int32_t ReadingStandardColors = 162;
+
+// Descriptions in the shared error message; ErrorText.h has their built-in words.
+inline constexpr std::int32_t NotANumber = 110;
+inline constexpr std::int32_t NumberOutOfRange = 111;
+inline constexpr std::int32_t WrongKindOfValue = 112;
+inline constexpr std::int32_t NoSuchNumber = 113;
+inline constexpr std::int32_t GroupNumberTaken = 114;
+inline constexpr std::int32_t NoSuchNode = 115;
+inline constexpr std::int32_t FileNotReadable = 116;
+inline constexpr std::int32_t ClipboardInUse = 117;
+inline constexpr std::int32_t DialogNotShown = 118;
+inline constexpr std::int32_t NoSuchProperty = 119;
+inline constexpr std::int32_t NoSuchListEntry = 120;
+inline constexpr std::int32_t NoSuchButton = 121;
+inline constexpr std::int32_t NotNineNumbers = 122;
+inline constexpr std::int32_t NoObject = 123;
+inline constexpr std::int32_t NoColorForEntry = 124;
+inline constexpr std::int32_t StoppedByUser = 125;
+inline constexpr std::int32_t StoredSettings = 126;
+inline constexpr std::int32_t FileAndLine = 127;
+inline constexpr std::int32_t NoWindow = 128;
+inline constexpr std::int32_t OutOfMemory = 129;
+inline constexpr std::int32_t UnknownError = 130;
 } // namespace InfoTextNumber

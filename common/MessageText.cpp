@@ -3,6 +3,7 @@
 #include "common/Text.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -84,4 +85,14 @@ std::string FittedMessage(std::string_view text, const MessageSize& room,
     if (measured.size() == text.size() && measure(fitted).height <= room.height)
         return fitted;
     return FirstLines(fitted, room.height, measure);
+}
+
+std::string CutText(std::string_view text, std::size_t length) {
+    std::string cut;
+    const std::vector<std::string> characters = CharactersOf(text.substr(0, 4 * (length + 1)));
+    if (characters.size() <= length)
+        return std::string(text);
+    for (std::size_t index = 0; index < length; ++index)
+        cut += characters[index];
+    return cut + kMore;
 }

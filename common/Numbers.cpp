@@ -4,6 +4,7 @@
 #include "common/Text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -76,13 +77,26 @@ ParsedNumber ParseNumber(std::string_view text) noexcept {
     return parsed;
 }
 
+// Without an exponent where that can be read.
+std::string ReadableText(double number) {
+    std::array<char, 40> buffer{};
+    const auto format =
+        std::abs(number) < 1e15 ? std::chars_format::fixed : std::chars_format::general;
+    const auto [end, error] =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, format, 6);
+    return error == std::errc() ? std::string(buffer.data(), end) : std::string();
+}
+
+// text: the number as the user knows it; empty: as it is.
 template <typename Integer>
-Integer RoundTo(double number) {
+Integer RoundTo(double number, std::string_view text = {}) {
+    using Limits = std::numeric_limits<Integer>;
     const double rounded = RoundHalfToEven(number);
     // Written so that a value that is not a number fails too.
-    if (!(rounded >= std::numeric_limits<Integer>::min() &&
-          rounded <= std::numeric_limits<Integer>::max()))
-        throw RuntimeError(ErrorNumber::Overflow, "Overflow");
+    if (!(rounded >= Limits::min() && rounded <= Limits::max()))
+        throw RuntimeError(ErrorNumber::Overflow, ErrorTexts::NumberOutOfRange,
+                           {text.empty() ? ReadableText(number) : Quoted(text),
+                            std::to_string(Limits::min()), std::to_string(Limits::max())});
     return static_cast<Integer>(rounded);
 }
 
@@ -130,18 +144,17 @@ double TextToDouble(std::string_view text) {
     const bool onlyBlanksFollow =
         text.find_first_not_of(kBlanks, parsed.length) == std::string_view::npos;
     if (parsed.length == 0 || !onlyBlanksFollow)
-        throw RuntimeError(ErrorNumber::TypeMismatch,
-                           "Type mismatch: \"" + std::string(text) + "\"");
+        throw RuntimeError(ErrorNumber::TypeMismatch, ErrorTexts::NotANumber, {Quoted(text)});
     return parsed.value;
 }
 
 std::int16_t TextToInt16(std::string_view text) {
     const std::optional<std::int16_t> number = ShortWholeNumber(text);
-    return number ? *number : RoundToInt16(TextToDouble(text));
+    return number ? *number : RoundTo<std::int16_t>(TextToDouble(text), text);
 }
 
 std::int32_t TextToInt32(std::string_view text) {
-    return RoundToInt32(TextToDouble(text));
+    return RoundTo<std::int32_t>(TextToDouble(text), text);
 }
 
 bool TextToBoolean(std::string_view text) {

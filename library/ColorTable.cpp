@@ -47,7 +47,7 @@ ColorKeyIndex::Hash HashOfKey(std::string_view key) {
 }
 
 [[noreturn]] void ThrowOutOfRange() {
-    throw RuntimeError(ErrorNumber::SubscriptOutOfRange, "Subscript out of range");
+    throw RuntimeError(ErrorNumber::SubscriptOutOfRange, ErrorTexts::NoSuchNumber);
 }
 
 } // namespace

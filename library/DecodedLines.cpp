@@ -26,6 +26,7 @@ std::optional<std::string_view> DecodedLines::Next() {
     const std::size_t end = std::min(carriageReturn, lineFeed);
     const std::string_view line = std::string_view(text_).substr(start_, end - start_);
     start_ = carriageReturn + 1 == lineFeed ? lineFeed + 1 : end + 1;
+    ++number_;
     return line;
 }
 

@@ -19,6 +19,9 @@ public:
     // Valid until the next call; nothing after the last line.
     [[nodiscard]] std::optional<std::string_view> Next();
 
+    // Of the line that was given last, from 1.
+    [[nodiscard]] std::size_t Number() const noexcept { return number_; }
+
 private:
     // Where the character is found next; looked for again only when the last place is passed, so
     // that a character that is not there costs one pass over the text.
@@ -40,6 +43,7 @@ private:
     const AnsiCodePage& codePage_;
     std::string text_;
     std::size_t start_ = 0; // of the next line in the text
+    std::size_t number_ = 0;
     Finder carriageReturn_{'\r'};
     Finder lineFeed_{'\n'};
 };

@@ -40,7 +40,11 @@ bool LibraryFiles::ReadContent(std::string_view bytes, const std::string& fileNa
         Reading reading{library_.Tree().Selected(), isHeaderHeld};
         library_.Tree().SetTag(reading.mainKey, fileName);
         keptFiles_.Forget(reading.mainKey);
-        complete = ReadRecords(lines, reading);
+        const auto place = [&] {
+            return ErrorSentence{ErrorTexts::FileAndLine,
+                                 {fileName, std::to_string(lines.Number())}};
+        };
+        complete = NamingPlace(place, [&] { return ReadRecords(lines, reading); });
         if (complete && reading.isHeldWhole)
             keptFiles_.Remember(reading.mainKey, bytes);
     }

@@ -30,8 +30,7 @@ void LibraryTree::AddGroup(const std::string& mainKey, const std::string& key,
 void LibraryTree::Insert(const LibraryNode& node, std::vector<std::string>& siblings) {
     const auto [place, added] = nodes_.try_emplace(node.key, node);
     if (!added)
-        throw RuntimeError(ErrorNumber::DuplicateKey,
-                           "The key is not unique in the tree: " + node.key);
+        throw RuntimeError(ErrorNumber::DuplicateKey, ErrorTexts::GroupNumberTaken);
     siblings.push_back(node.key);
     if (observer_)
         observer_->NodeAdded(node);
@@ -62,8 +61,7 @@ const LibraryNode* LibraryTree::Find(const std::string& key) const {
 const LibraryNode& LibraryTree::At(const std::string& key) const {
     const LibraryNode* node = Find(key);
     if (!node)
-        throw RuntimeError(ErrorNumber::SubscriptOutOfRange,
-                           "There is no node with the key " + key);
+        throw RuntimeError(ErrorNumber::SubscriptOutOfRange, ErrorTexts::NoSuchNode, {Quoted(key)});
     return *node;
 }
 

@@ -9,8 +9,7 @@
 namespace {
 
 [[noreturn]] void ThrowClipboardUnavailable() {
-    throw RuntimeError(ErrorNumber::ClipboardUnavailable,
-                       "The clipboard is in use by another program");
+    throw RuntimeError(ErrorNumber::ClipboardUnavailable, ErrorTexts::ClipboardInUse);
 }
 
 } // namespace

@@ -8,6 +8,6 @@
 void ThrowUnlessCancelled() {
     const DWORD error = CommDlgExtendedError();
     if (error != 0)
-        throw RuntimeError(static_cast<int>(error),
-                           "The dialog could not be shown (error " + std::to_string(error) + ").");
+        throw RuntimeError(static_cast<int>(error), ErrorTexts::DialogNotShown,
+                           {std::to_string(error)});
 }

@@ -99,6 +99,6 @@ AutomationObjectPtr DispatchObject::Wrap(const DispatchPtr& dispatch) const {
 DispatchPtr DispatchObject::Unwrap(const AutomationObjectPtr& object) {
     const auto* other = dynamic_cast<const DispatchObject*>(object.get());
     if (other == nullptr)
-        throw RuntimeError(ErrorNumber::TypeMismatch, "Type mismatch");
+        throw RuntimeError(ErrorNumber::TypeMismatch, ErrorTexts::WrongKindOfValue);
     return other->dispatch_;
 }

@@ -1,5 +1,6 @@
 #include "platform/Form.h"
 
+#include "common/RuntimeError.h"
 #include "platform/Fonts.h"
 #include "platform/Guarded.h"
 #include "platform/Icons.h"
@@ -7,7 +8,6 @@
 #include "platform/WindowGeometry.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace {
 
@@ -68,7 +68,7 @@ Form::Form(const FormDesign& design, ErrorSink& errors)
     CreateWindowExW(design.extendedStyle, design.name, design.caption, design.style, CW_USEDEFAULT,
                     CW_USEDEFAULT, 100, 100, design.owner, nullptr, Module(), this);
     if (window_ == nullptr)
-        throw std::runtime_error("The window could not be created");
+        throw RuntimeError(ErrorNumber::Internal, ErrorTexts::NoWindow, {name_});
     scale_ = DpiScale(DpiOfWindow(window_));
     font_ = MessageFont(static_cast<unsigned>(scale_.Dpi()));
     LoadIcons();

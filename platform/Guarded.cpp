@@ -3,15 +3,32 @@
 #include "common/RuntimeError.h"
 
 #include <exception>
+#include <new>
 
-void ReportCurrentException(ErrorSink& sink) noexcept {
+namespace {
+
+// The exception that is being handled.
+RuntimeError CurrentError() {
     try {
         throw;
     } catch (const RuntimeError& error) {
-        sink.ReportError(error.what(), error.Member());
+        return error;
+    } catch (const std::bad_alloc&) {
+        return {ErrorNumber::OutOfMemory, ErrorTexts::OutOfMemory};
     } catch (const std::exception& error) {
-        sink.ReportError(error.what(), {});
+        return {ErrorNumber::Internal, error.what()};
     } catch (...) {
-        sink.ReportError("Unknown error", {});
+        return {ErrorNumber::Internal, ErrorTexts::UnknownError};
+    }
+}
+
+} // namespace
+
+void ReportCurrentException(ErrorSink& sink) noexcept {
+    try {
+        sink.ReportError(CurrentError());
+    } catch (const std::exception&) {
+        // There is not even the memory to tell it; the program goes on.
+        return;
     }
 }

@@ -19,7 +19,7 @@ constexpr int kGap = 8;
 // Nothing here calls the program's rules: there is nothing to report.
 class NoErrors : public ErrorSink {
 public:
-    void ReportError(const std::string&, const std::string&) noexcept override {}
+    void ReportError(const RuntimeError&) noexcept override {}
 };
 
 // In the system's language, as in the system's own boxes.

@@ -7,7 +7,7 @@ SafeArrayAccess::SafeArrayAccess(SAFEARRAY* array) : array_(array) {
     if (array_ == nullptr)
         return;
     if (SafeArrayGetDim(array_) != 1)
-        throw RuntimeError(ErrorNumber::TypeMismatch, "Type mismatch");
+        throw RuntimeError(ErrorNumber::TypeMismatch, ErrorTexts::WrongKindOfValue);
     const HRESULT result = SafeArrayAccessData(array_, &elements_);
     if (FAILED(result))
         throw RuntimeError(ErrorNumber::Automation, SystemMessage(result));

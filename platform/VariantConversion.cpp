@@ -12,7 +12,7 @@
 namespace {
 
 [[noreturn]] void ThrowTypeMismatch() {
-    throw RuntimeError(ErrorNumber::TypeMismatch, "Type mismatch");
+    throw RuntimeError(ErrorNumber::TypeMismatch, ErrorTexts::WrongKindOfValue);
 }
 
 void Check(HRESULT result) {

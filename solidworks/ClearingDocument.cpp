@@ -51,7 +51,7 @@ AutomationArray Children(AutomationObject& component) {
         return std::move(*array);
     if (!children.AsObject()) // throws for anything else
         return {};
-    throw RuntimeError(ErrorNumber::TypeMismatch, "Type mismatch", kChildren);
+    throw RuntimeError(ErrorNumber::TypeMismatch, ErrorTexts::WrongKindOfValue, {}, kChildren);
 }
 
 } // namespace

@@ -18,8 +18,7 @@ double Element(const AutomationValue& array, std::size_t index) {
     if (const auto* values = std::get_if<AutomationArray>(&array.data))
         if (index < values->size())
             return (*values)[index].AsDouble();
-    throw RuntimeError(ErrorNumber::SubscriptOutOfRange,
-                       "The color array does not have nine numbers");
+    throw RuntimeError(ErrorNumber::SubscriptOutOfRange, ErrorTexts::NotNineNumbers);
 }
 
 } // namespace

@@ -63,6 +63,6 @@ AutomationObjectPtr SolidWorksSelection::ComponentAt(std::int32_t index) const {
 AutomationObjectPtr RequiredObject(const AutomationAnswer& answer) {
     AutomationObjectPtr object = answer.AsObject();
     if (!object)
-        throw RuntimeError(ErrorNumber::ObjectNotSet, "SolidWorks gave no object", answer.Member());
+        throw RuntimeError(ErrorNumber::ObjectNotSet, ErrorTexts::NoObject, {}, answer.Member());
     return object;
 }

@@ -20,7 +20,11 @@ ColorNumber ReadColorNumber(const AutomationAnswer& answer) {
     const double number = answer.AsDouble();
     if (!(number >= std::numeric_limits<std::int32_t>::min() &&
           number <= std::numeric_limits<ColorNumber>::max()))
-        throw RuntimeError(ErrorNumber::Overflow, "Overflow", answer.Member());
+        throw RuntimeError(ErrorNumber::Overflow, ErrorTexts::NumberOutOfRange,
+                           {Quoted(answer.AsString()),
+                            std::to_string(std::numeric_limits<std::int32_t>::min()),
+                            std::to_string(std::numeric_limits<ColorNumber>::max())},
+                           answer.Member());
     return static_cast<ColorNumber>(static_cast<std::int64_t>(number));
 }
 
@@ -74,7 +78,8 @@ std::string modSldTools::SWXSetStandardColors(const std::vector<ColorRecord>& co
     for (std::int32_t index = 0; index < count; ++index) {
         const std::string name = table->Get("GetNameAtIndex", {index}).AsString();
         if (static_cast<std::size_t>(index) >= colors.size())
-            throw RuntimeError(ErrorNumber::SubscriptOutOfRange, "Subscript out of range");
+            throw RuntimeError(ErrorNumber::SubscriptOutOfRange, ErrorTexts::NoColorForEntry,
+                               {std::to_string(index + 1)});
         const ColorRecord& color = colors[static_cast<std::size_t>(index)];
         if (color.name == name)
             WriteEntry(*table, index, color);

@@ -5,10 +5,10 @@
 
 #include <exception>
 
-void ErrorReporter::ReportError(const std::string& description,
-                                const std::string& member) noexcept {
+void ErrorReporter::ReportError(const RuntimeError& error) noexcept {
     try {
-        const std::string what = member.empty() ? description : description + " (" + member + ")";
+        const std::string member = error.Member().empty() ? "" : " (" + error.Member() + ")";
+        const std::string what = error.Description(texts_) + member;
         prompts_.ShowMessage(texts_.GetInfoText(InfoTextNumber::ErrorOccurred) + kLineBreak + what,
                              MessageStyle::Exclamation,
                              texts_.GetInfoText(InfoTextNumber::Attention));

@@ -4,12 +4,13 @@
 #include "common/ports/InfoTexts.h"
 #include "common/ports/Prompts.h"
 
-// Shows the shared error message for whatever no operation handled.
+// Shows the shared error message for whatever no operation handled, in the words of the active
+// language.
 class ErrorReporter : public ErrorSink {
 public:
     ErrorReporter(Prompts& prompts, InfoTexts& texts) : prompts_(prompts), texts_(texts) {}
 
-    void ReportError(const std::string& description, const std::string& member) noexcept override;
+    void ReportError(const RuntimeError& error) noexcept override;
 
 private:
     Prompts& prompts_;

@@ -6,7 +6,7 @@
 void Localisation::Choose(std::int32_t number) {
     const std::string code = LanguageCodeOrNone(number);
     if (code.empty())
-        throw RuntimeError(ErrorNumber::SubscriptOutOfRange, "Subscript out of range");
+        throw RuntimeError(ErrorNumber::SubscriptOutOfRange, ErrorTexts::NoSuchNumber);
     language_.SetIniFile(programFolder_ + "\\tntlng_" + code + ".ini");
     for (LocalizableForm* form : forms_)
         language_.SetAllControlText(*form);

@@ -106,9 +106,13 @@ void clsMultiLanguage::SetIniFile(const std::string& path) {
 std::string clsMultiLanguage::GetInfoText(std::int32_t number) {
     if (!FileExists(iniFile_))
         return "INI file doesn't exists " + iniFile_;
-    const std::string digits = std::to_string(number);
-    return INIGetSettingString(kInfoSection, "Text." + digits, iniFile_,
-                               "unknown infotext " + digits);
+    return GetInfoTextOr(number, "unknown infotext " + std::to_string(number));
+}
+
+std::string clsMultiLanguage::GetInfoTextOr(std::int32_t number, const std::string& builtIn) {
+    if (!FileExists(iniFile_))
+        return builtIn;
+    return INIGetSettingString(kInfoSection, "Text." + std::to_string(number), iniFile_, builtIn);
 }
 
 void clsMultiLanguage::SetAllControlText(LocalizableForm& form) {

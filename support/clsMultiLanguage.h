@@ -48,6 +48,7 @@ public:
 
     // A message text.
     std::string GetInfoText(std::int32_t number) override;
+    std::string GetInfoTextOr(std::int32_t number, const std::string& builtIn) override;
 
     // The file that the template writers write to; not checked.
     void SetNewIniFile(const std::string& path) { templateFile_ = path; }

@@ -7,6 +7,8 @@
     for every entry of a button's menu, and every numbered message text, as the program's own tables
     name them
   - access keys that differ within each menu
+  - the arguments %1, %2 ... of a message text in both languages, and the program's built-in words of
+    an error as those of the English file
 
   tools/check-language.py        names each fault, and fails
 """
@@ -24,6 +26,10 @@ KEY_ROW = re.compile(r'KeyRow\{\s*\w+,\s*"(\w+)"')
 TOOLBAR_ROW = re.compile(r'ToolbarRow\{\s*"([^"]+)",\s*ToolbarButtonStyle::(\w+)')
 BUTTON_MENU_ROW = re.compile(r'ButtonMenuRow\{\s*"([^"]+)",\s*"([^"]+)"')
 INFO_NUMBER = re.compile(r"std::int32_t \w+ = (\d+);")
+INFO_NAME = re.compile(r"std::int32_t (\w+) = (\d+);")
+ERROR_TEXT = re.compile(r'ErrorText \w+\{\s*InfoTextNumber::(\w+),\s*((?:"(?:[^"\\]|\\.)*"\s*)+)\}')
+LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
+ARGUMENT = re.compile(r"%[1-9]")
 ACCESS_KEY = re.compile(r"&([^&])")
 
 
@@ -88,6 +94,22 @@ def access_key_faults(entries, table):
                 yield f"{menu}: {name} and {other} share the access key {found.group(1)}"
 
 
+def built_in_faults(entries, error_texts, info_numbers):
+    """The program's own words of an error are what the English file says."""
+    numbers = dict(INFO_NAME.findall(info_numbers))
+    for name, literals in ERROR_TEXT.findall(error_texts):
+        words = "".join(LITERAL.findall(literals)).replace('\\"', '"')
+        key = f"Text.{numbers.get(name)}"
+        if entries.get(("Info", key)) != words:
+            yield f"Info {key}: not the built-in words of {name}"
+
+
+def argument_faults(german, english):
+    for key in sorted(german.keys() & english.keys()):
+        if sorted(ARGUMENT.findall(german[key])) != sorted(ARGUMENT.findall(english[key])):
+            yield f"{key[0]} {key[1]}: other arguments in the other language"
+
+
 def faults_of(content, table, info_numbers):
     entries, faults = parse(content)
     missing = sorted(required_keys(table, info_numbers) - entries.keys())
@@ -100,8 +122,12 @@ def main():
     info_numbers = (ROOT / "common" / "InfoTextNumber.h").read_text(encoding="utf-8")
     faults = [f"{file.name}: {fault}" for file in FILES
               for fault in faults_of(file.read_bytes(), table, info_numbers)]
-    german, english = (set(parse(file.read_bytes())[0]) for file in FILES)
-    faults += [f"{section} {key}: only in one language" for section, key in german ^ english]
+    error_texts = (ROOT / "common" / "ErrorText.h").read_text(encoding="utf-8")
+    german, english = (parse(file.read_bytes())[0] for file in FILES)
+    faults += [f"{section} {key}: only in one language"
+               for section, key in german.keys() ^ english.keys()]
+    faults += list(built_in_faults(english, error_texts, info_numbers))
+    faults += list(argument_faults(german, english))
     print("\n".join(faults), end="\n" if faults else "")
     return 1 if faults else 0
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string>
+#include "common/RuntimeError.h"
 
 // Where a window procedure hands an error that nothing else handled: the user is told once, and the
 // program goes on.
@@ -8,7 +8,5 @@ class ErrorSink {
 public:
     virtual ~ErrorSink() = default;
 
-    // description: UTF-8; member: the automation member that failed, or empty.
-    virtual void ReportError(const std::string& description,
-                             const std::string& member) noexcept = 0;
+    virtual void ReportError(const RuntimeError& error) noexcept = 0;
 };

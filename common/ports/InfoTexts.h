@@ -10,4 +10,8 @@ public:
 
     // UTF-8.  number: InfoTextNumber.
     [[nodiscard]] virtual std::string GetInfoText(std::int32_t number) = 0;
+
+    // builtIn: what to give while no language file has the text.
+    [[nodiscard]] virtual std::string GetInfoTextOr(std::int32_t number,
+                                                    const std::string& builtIn) = 0;
 };

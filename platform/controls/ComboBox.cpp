@@ -42,9 +42,8 @@ std::int32_t ComboBox::ListIndex() const {
 
 void ComboBox::SetListIndex(std::int32_t index) {
     if (index < -1 || index >= Count())
-        throw RuntimeError(ErrorNumber::InvalidPropertyValue, "The control " + Name() +
-                                                                  " has no entry " +
-                                                                  std::to_string(index) + ".");
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue, ErrorTexts::NoSuchListEntry,
+                           {Name(), std::to_string(index)});
     Send(CB_SETCURSEL, static_cast<WPARAM>(index));
 }
 

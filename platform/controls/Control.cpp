@@ -1,11 +1,11 @@
 #include "platform/controls/Control.h"
 
+#include "common/RuntimeError.h"
 #include "platform/controls/NoSuchMember.h"
 #include "platform/Form.h"
 #include "platform/Guarded.h"
 #include "platform/Utf16.h"
 
-#include <stdexcept>
 #include <utility>
 
 Control::Control(Form& form, const ControlKind& kind, const ControlPlace& place, DWORD style,
@@ -16,7 +16,7 @@ Control::Control(Form& form, const ControlKind& kind, const ControlPlace& place,
                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(place.id)),
                               GetModuleHandleW(nullptr), nullptr)) {
     if (window_ == nullptr)
-        throw std::runtime_error("The control " + name_ + " could not be created");
+        throw RuntimeError(ErrorNumber::Internal, ErrorTexts::NoWindow, {name_});
     SetWindowSubclass(window_, SubclassProcedure, 1, reinterpret_cast<DWORD_PTR>(this));
     SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form.Font()), FALSE);
 }

@@ -7,6 +7,6 @@
 // What a control answers that is asked for a property which it does not have.
 [[noreturn]] inline void ThrowNoSuchMember(const std::string& control,
                                            const std::string& property) {
-    throw RuntimeError(ErrorNumber::NoSuchMember,
-                       "The control " + control + " has no property " + property + ".");
+    throw RuntimeError(ErrorNumber::NoSuchMember, ErrorTexts::NoSuchProperty,
+                       {control, Quoted(property)});
 }

@@ -232,7 +232,7 @@ int Toolbar::CommandOf(const std::string& key) const {
     const auto found = std::find_if(buttons_.begin(), buttons_.end(),
                                     [&key](const Button& b) { return b.design.key == key; });
     if (found == buttons_.end())
-        throw RuntimeError(ErrorNumber::SubscriptOutOfRange,
-                           "The toolbar has no button " + key + ".");
+        throw RuntimeError(ErrorNumber::SubscriptOutOfRange, ErrorTexts::NoSuchButton,
+                           {Quoted(key)});
     return found->design.command;
 }

@@ -22,8 +22,9 @@ constexpr UINT kDeathExitCode = 3;
 
 class MessageBoxSink final : public ErrorSink {
 public:
-    void ReportError(const std::string& description, const std::string& member) noexcept override {
-        const std::string text = member.empty() ? description : description + " (" + member + ")";
+    void ReportError(const RuntimeError& error) noexcept override {
+        const std::string member = error.Member().empty() ? "" : " (" + error.Member() + ")";
+        const std::string text = error.Description() + member;
         MessageBoxW(nullptr, ToUtf16(text).c_str(), kTitle, MB_OK | MB_ICONEXCLAMATION);
     }
 };
@@ -81,7 +82,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     try {
         return Run(errors);
     } catch (const std::exception& error) {
-        errors.ReportError(error.what(), {});
+        errors.ReportError(RuntimeError(ErrorNumber::Internal, error.what()));
         return 2;
     }
 }

@@ -86,7 +86,10 @@ TEST_F(StartUpTest, SettingThatDoesNotConvertIsReportedOnceAndKeepsItsDefault) {
     program.application.Start();
     ASSERT_EQ(program.prompts.messages.size(), 1U);
     EXPECT_EQ(program.prompts.messages[0],
-              (FakePrompts::Message{"<3>\r\nType mismatch (Language, ConfirmDel)", 48, "<98>"}));
+              (FakePrompts::Message{"<3>\r\nStored settings that cannot be understood; their "
+                                    "defaults are used: Language, ConfirmDel. Options, Save "
+                                    "settings, replaces them.",
+                                    48, "<98>"}));
     EXPECT_TRUE(program.view.isShown);
     EXPECT_EQ(program.language.IniFile(), "C:\\prog\\tntlng_us.ini");
     EXPECT_TRUE(program.view.checks.at(IDM_mnuOptionsConfirmDel));
@@ -149,7 +152,9 @@ TEST_F(StartUpTest, DefaultLibraryWithABrokenValueIsReportedAndTheWindowIsShown)
     program.registry.SetText(FakeProgram::Setting("DefaultColorFile"), "C:\\a.tnt");
     program.application.Start();
     ASSERT_EQ(program.prompts.messages.size(), 1U);
-    EXPECT_EQ(program.prompts.messages[0].prompt, "<3>\r\nOverflow");
+    EXPECT_EQ(
+        program.prompts.messages[0].prompt,
+        "<3>\r\nThis number is not between -32768 and 32767: 99999\r\nFile: C:\\a.tnt, line 3");
     EXPECT_EQ(program.view.nodes.at("0DG1"), "g") << "what was read stays";
     EXPECT_TRUE(program.view.isShown);
 }

@@ -71,7 +71,8 @@ public:
 };
 
 // The whole program on fakes, with the stand-in's model as the running SolidWorks.  The language
-// file of both languages is there: its message texts are their numbers in angle brackets.
+// file of both languages is there: its message texts are their numbers in angle brackets; for the
+// descriptions of errors, which have arguments, it has none.
 class FakeProgram {
 public:
     // running: gets the running SolidWorks instead of the model.
@@ -80,11 +81,15 @@ public:
         : solidWorks(scenario), automation(running ? *running : retryingService) {
         files.contents["C:\\prog\\tntlng_de.ini"] = "";
         files.contents["C:\\prog\\tntlng_us.ini"] = "";
-        for (int number = 0; number <= 199; ++number)
+        for (int number = 0; number < 300; ++number) {
+            const bool hasArguments = number >= 110 && number < 150;
+            if (hasArguments)
+                continue;
             for (const char* code : {"de", "us"})
                 profile.values[{std::string("C:\\prog\\tntlng_") + code + ".ini", "Info",
                                 "Text." + std::to_string(number)}] =
                     "<" + std::to_string(number) + ">";
+        }
         textViewer.events = &application.TextViewerWindowEvents();
     }
 

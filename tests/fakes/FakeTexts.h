@@ -8,4 +8,7 @@ public:
     std::string GetInfoText(std::int32_t number) override {
         return "<" + std::to_string(number) + ">";
     }
+    std::string GetInfoTextOr(std::int32_t number, const std::string&) override {
+        return GetInfoText(number);
+    }
 };

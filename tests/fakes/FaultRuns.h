@@ -48,7 +48,7 @@ public:
         try {
             program.Main().RunCommand(command_.number);
         } catch (const RuntimeError& error) {
-            program.errors.ReportError(error.Description(), error.Member());
+            program.errors.ReportError(error);
         }
         return Seen();
     }

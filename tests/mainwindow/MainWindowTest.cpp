@@ -102,10 +102,12 @@ TEST_F(MainWindowTest, OpenedFileWithOneBrokenValueKeepsWhatStoodBeforeItAndTell
         program.Main().RunCommand(IDM_mnuFileOpen);
         FAIL() << "nothing is told";
     } catch (const RuntimeError& error) {
-        program.errors.ReportError(error.Description(), error.Member());
+        program.errors.ReportError(error);
     }
     ASSERT_EQ(program.prompts.messages.size(), 1U) << "and no question about every start";
-    EXPECT_EQ(program.prompts.messages[0].prompt, "<3>\r\nOverflow");
+    EXPECT_EQ(program.prompts.messages[0].prompt,
+              "<3>\r\nThis number is not between -32768 and 32767: 99999\r\nFile: " +
+                  std::string(kFile) + ", line 4");
     EXPECT_EQ(program.view.nodes.at("0D"), "Broken");
     ASSERT_EQ(program.view.rowCount, 1);
     EXPECT_EQ(program.Main().CellText(0, 1), "a");

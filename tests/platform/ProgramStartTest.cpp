@@ -131,9 +131,10 @@ TEST_F(ProgramStart, CorruptSettingsAreReportedInOneMessageAndTheWindowIsUsable)
     settings.SetText(ProgramNames::FormPositionsKey, "frmMain", "rubbish");
     const RunningTnt program;
     EXPECT_EQ(program.DismissMessage(),
-              "An error occurred:\r\nType mismatch (Language, AlwaysOnTop, ConfirmDel, "
-              "CreateBackups, ViewToolbar, ViewBarStandards, ViewBarColor, ViewBarListview, "
-              "ViewBarSolidWorks, ViewStatusBar, ViewHugeColorDialog)");
+              "An error occurred:\r\nStored settings that cannot be understood; their defaults "
+              "are used: Language, AlwaysOnTop, ConfirmDel, CreateBackups, ViewToolbar, "
+              "ViewBarStandards, ViewBarColor, ViewBarListview, ViewBarSolidWorks, ViewStatusBar, "
+              "ViewHugeColorDialog. Options, Save settings, replaces them.");
     EXPECT_TRUE(program.IsUsable());
     EXPECT_EQ(program.Quit(), 0U);
 }

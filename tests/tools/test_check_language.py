@@ -53,6 +53,21 @@ class LanguageFile(unittest.TestCase):
         self.assertEqual(faults(b"=Save", b"=" + b"x" * 255), [])
         self.assertEqual(len(faults(b"=Save", b"=" + b"x" * 256)), 1)
 
+    def test_lacks_the_built_in_words_of_an_error(self):
+        words = """ErrorText Long{
+            InfoTextNumber::Long, "Not \\"%1\\", " "nor %2"};"""
+        number = "std::int32_t Long = 110;"
+        entries = {("Info", "Text.110"): 'Not "%1", nor %2'}
+        self.assertEqual(list(check.built_in_faults(entries, words, number)), [])
+        entries["Info", "Text.110"] = "Other"
+        self.assertEqual(list(check.built_in_faults(entries, words, number)),
+                         ["Info Text.110: not the built-in words of Long"])
+
+    def test_with_other_arguments_in_the_other_language_is_faulty(self):
+        key = ("Info", "Text.110")
+        self.assertEqual(list(check.argument_faults({key: "%2 %1"}, {key: "%1 %2"})), [])
+        self.assertEqual(len(list(check.argument_faults({key: "%1"}, {key: "%1 %2"}))), 1)
+
 
 if __name__ == "__main__":
     unittest.main()

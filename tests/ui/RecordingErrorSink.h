@@ -8,8 +8,8 @@
 // Keeps what was reported, as "description|member".
 class RecordingErrorSink : public ErrorSink {
 public:
-    void ReportError(const std::string& description, const std::string& member) noexcept override {
-        reports.push_back(description + "|" + member);
+    void ReportError(const RuntimeError& error) noexcept override {
+        reports.push_back(error.Description() + "|" + error.Member());
     }
 
     std::vector<std::string> reports;
