@@ -4,6 +4,7 @@
 #include "platform/BannerPictures.h"
 #include "platform/BusyMessageFilter.h"
 #include "platform/ComApartment.h"
+#include "platform/LastResort.h"
 #include "platform/LibrarySearch.h"
 #include "platform/MessageLoop.h"
 #include "platform/ProgramFolder.h"
@@ -24,7 +25,6 @@
 #include "support/frmProgress.h"
 #include "support/frmTxtView.h"
 
-#include <algorithm>
 #include <chrono>
 #include <windows.h>
 
@@ -33,16 +33,6 @@ namespace {
 constexpr const char* kVersion = TNT_VERSION;
 // To make and paint the window takes longer than most of what it could tell of.
 constexpr std::chrono::milliseconds kProgressPatience(1000);
-
-// An address for each picture; pictures beyond the addresses, and addresses beyond the pictures,
-// are not shown.
-std::vector<std::string> BannerAddresses(Files& files, const std::string& folder,
-                                         const BannerPictures& pictures) {
-    std::vector<std::string> addresses =
-        ParseBannerAddresses(files.ReadWhole(folder + "\\banners.txt").value_or(""));
-    addresses.resize(std::min(addresses.size(), static_cast<std::size_t>(pictures.Count())));
-    return addresses;
-}
 
 // Joins the ports, the forms and the program, and runs it.
 int RunProgram() {
@@ -76,11 +66,14 @@ int RunProgram() {
     TextViewerOnDemand textViewer(mainWindow, errors, banners);
     frmProgress progress(mainWindow, errors, clock, kProgressPatience);
 
-    Application application({files, codePage, registry, prompts, clipboard, collation, shell,
-                             events, automation, retry, language, errors, calendar},
-                            {main, main, main, about, textViewer, progress, progress, progress},
-                            {programFolder, kVersion, BannerAddresses(files, bannerFolder, banners),
-                             FolderForCodePage(programFolder, codePage)});
+    Application application(
+        {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
+         language, errors, calendar},
+        {main, main, main, about, textViewer, progress, progress, progress},
+        {programFolder, kVersion,
+         AddressesOfBanners(files.ReadWhole(bannerFolder + "\\banners.txt").value_or(""),
+                            banners.Numbers()),
+         FolderForCodePage(programFolder, codePage)});
     // The application goes first, and the forms after it: the main window still gets messages then,
     // such as the focus from a text viewer that is destroyed.
     const SilenceAtScopeEnd silence(main);
@@ -98,10 +91,5 @@ int WINAPI wWinMain(_In_ HINSTANCE, _In_opt_ HINSTANCE, _In_ LPWSTR, _In_ int) {
     SearchSystemLibrariesOnly();
     // A library on a drive without a disk is a file that is not there, not a question.
     SetErrorMode(SEM_FAILCRITICALERRORS);
-    try {
-        return RunProgram();
-    } catch (const std::exception& error) {
-        MessageBoxA(nullptr, error.what(), "TNT4SWX", MB_OK | MB_ICONERROR);
-        return 1;
-    }
+    return RunWithLastResort(RunProgram, "TNT4SWX");
 }

@@ -57,6 +57,7 @@ inline constexpr ErrorText NoWindow{InfoTextNumber::NoWindow,
                                     "The window or control %1 could not be made."};
 inline constexpr ErrorText OutOfMemory{InfoTextNumber::OutOfMemory, "There is not enough memory."};
 inline constexpr ErrorText UnknownError{InfoTextNumber::UnknownError, "Unknown error"};
+inline constexpr ErrorText TextTooLong{InfoTextNumber::TextTooLong, "The text is too long."};
 } // namespace ErrorTexts
 
 // What an error says: a text and its arguments.

@@ -22,6 +22,16 @@
                       [&](char wanted, char found) { return wanted == lower(found); });
 }
 
+// The number that ends a file's name before its extension: 12 for "banner12.bmp"; 0 when it ends
+// with none, or with one of more than nine digits.
+[[nodiscard]] inline int NumberOfFile(const std::string& path) {
+    const std::string name = FileNamePart(path);
+    const std::string stem = name.substr(0, name.rfind('.'));
+    const std::string digits = stem.substr(stem.find_last_not_of("0123456789") + 1);
+    constexpr std::size_t kMostDigits = 9; // of an int
+    return digits.empty() || digits.size() > kMostDigits ? 0 : std::stoi(digits);
+}
+
 // The characters up to and including the last "\"; empty when the text holds none.
 [[nodiscard]] inline std::string FilePathPart(const std::string& path) {
     return path.substr(0, path.rfind('\\') + 1);

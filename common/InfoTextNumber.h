@@ -71,4 +71,5 @@ inline constexpr std::int32_t FileAndLine = 127;
 inline constexpr std::int32_t NoWindow = 128;
 inline constexpr std::int32_t OutOfMemory = 129;
 inline constexpr std::int32_t UnknownError = 130;
+inline constexpr std::int32_t TextTooLong = 131;
 } // namespace InfoTextNumber

@@ -444,5 +444,6 @@ bool frmMain::ShowsWaiting() const noexcept {
 }
 
 void frmMain::EndProgram() {
+    EndMenu(); // the loop of an open menu would take the end for itself
     PostQuitMessage(0);
 }

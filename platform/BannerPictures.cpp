@@ -1,10 +1,13 @@
 #include "platform/BannerPictures.h"
 
+#include "common/FileNames.h"
 #include "platform/PlatformPath.h"
 #include "platform/Utf16.h"
 
 #include <algorithm>
 #include <array>
+#include <limits>
+#include <utility>
 
 namespace {
 
@@ -14,18 +17,30 @@ struct SearchTraits {
     static bool Close(Handle search) noexcept { return FindClose(search) != FALSE; }
 };
 
-std::vector<std::wstring> BitmapFiles(const std::string& folder) {
-    std::vector<std::wstring> names;
+struct BitmapFile {
+    int number; // 0: none
+    std::wstring name;
+};
+
+bool ComesBefore(const BitmapFile& one, const BitmapFile& other) {
+    const auto rank = [](const BitmapFile& file) {
+        return file.number != 0 ? file.number : std::numeric_limits<int>::max();
+    };
+    return std::pair(rank(one), one.name) < std::pair(rank(other), other.name);
+}
+
+std::vector<BitmapFile> BitmapFiles(const std::string& folder) {
+    std::vector<BitmapFile> files;
     WIN32_FIND_DATAW found{};
     const UniqueHandle<SearchTraits> search(
         FindFirstFileW(ToPlatformPath(folder + "\\*.bmp").c_str(), &found));
     if (!search)
-        return names;
+        return files;
     do {
-        names.emplace_back(found.cFileName);
+        files.push_back({NumberOfFile(ToUtf8(found.cFileName)), found.cFileName});
     } while (FindNextFileW(search.Get(), &found) != FALSE);
-    std::sort(names.begin(), names.end());
-    return names;
+    std::ranges::sort(files, ComesBefore);
+    return files;
 }
 
 BitmapHandle LoadBitmapFile(const std::wstring& path) {
@@ -53,9 +68,11 @@ BitmapHandle LoadPicture(const std::wstring& path) {
 } // namespace
 
 BannerPictures::BannerPictures(const std::string& folder) {
-    // One that cannot be loaded keeps its place, so that the others keep their addresses.
-    for (const std::wstring& name : BitmapFiles(folder))
-        pictures_.push_back(LoadPicture(ToPlatformPath(folder + "\\" + ToUtf8(name))));
+    for (const BitmapFile& bitmap : BitmapFiles(folder)) {
+        numbers_.push_back(bitmap.number);
+        // One that cannot be loaded keeps its place, so that the others keep their addresses.
+        pictures_.push_back(LoadPicture(ToPlatformPath(folder + "\\" + ToUtf8(bitmap.name))));
+    }
 }
 
 HBITMAP BannerPictures::Picture(int index) const noexcept {

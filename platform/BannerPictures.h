@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-// The banner pictures beside the program: the bitmap files of a folder in the order of their names.
+// The banner pictures beside the program: the bitmap files of a folder in the order of the numbers
+// at the end of their names, then those without a number in the order of their names.
 class BannerPictures {
 public:
     BannerPictures() = default;                         // none
@@ -13,9 +14,13 @@ public:
 
     [[nodiscard]] int Count() const noexcept { return static_cast<int>(pictures_.size()); }
 
+    // The number of each picture in its order; 0: it has none.
+    [[nodiscard]] const std::vector<int>& Numbers() const noexcept { return numbers_; }
+
     // index: from 1; null for any other number.
     [[nodiscard]] HBITMAP Picture(int index) const noexcept;
 
 private:
+    std::vector<int> numbers_;
     std::vector<BitmapHandle> pictures_;
 };

@@ -17,20 +17,6 @@ HINSTANCE Module() noexcept {
     return GetModuleHandleW(nullptr);
 }
 
-void RegisterFormClass(const wchar_t* name, WNDPROC procedure) {
-    WNDCLASSEXW windowClass{};
-    windowClass.cbSize = sizeof windowClass;
-    if (GetClassInfoExW(Module(), name, &windowClass) != FALSE)
-        return;
-    windowClass.cbSize = sizeof windowClass;
-    windowClass.lpfnWndProc = procedure;
-    windowClass.hInstance = Module();
-    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    windowClass.hbrBackground = GetSysColorBrush(COLOR_3DFACE);
-    windowClass.lpszClassName = name;
-    RegisterClassExW(&windowClass);
-}
-
 int ShowCommand(WindowState state) noexcept {
     switch (state) {
     case WindowState::Minimised:
@@ -63,8 +49,8 @@ void ForwardToControls(const WindowMessage& message) {
 } // namespace
 
 Form::Form(const FormDesign& design, ErrorSink& errors)
-    : name_(ToUtf8(design.name)), errors_(errors), minimumSize_(design.minimumSize) {
-    RegisterFormClass(design.name, WindowProcedure);
+    : class_(design.name, WindowProcedure), name_(ToUtf8(design.name)), errors_(errors),
+      minimumSize_(design.minimumSize) {
     CreateWindowExW(design.extendedStyle, design.name, design.caption, design.style, CW_USEDEFAULT,
                     CW_USEDEFAULT, 100, 100, design.owner, nullptr, Module(), this);
     if (window_ == nullptr)
@@ -88,7 +74,8 @@ Form* Form::FromWindow(HWND window) noexcept {
     const HWND root = GetAncestor(window, GA_ROOT);
     if (root == nullptr || GetWindowThreadProcessId(root, nullptr) != GetCurrentThreadId())
         return nullptr;
-    const auto procedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(root, GWLP_WNDPROC));
+    // The class's: other programs put procedures of their own before that of a single window.
+    const auto procedure = reinterpret_cast<WNDPROC>(GetClassLongPtrW(root, GCLP_WNDPROC));
     if (procedure != &Form::WindowProcedure)
         return nullptr;
     return reinterpret_cast<Form*>(GetWindowLongPtrW(root, GWLP_USERDATA));

@@ -5,6 +5,7 @@
 #include "common/ports/LocalizableForm.h"
 #include "platform/controls/Control.h"
 #include "platform/DpiScale.h"
+#include "platform/FormClass.h"
 #include "platform/Handles.h"
 #include "platform/ToolTips.h"
 #include "platform/Topmost.h"
@@ -122,6 +123,7 @@ private:
     void RestoreFocus() noexcept;
     void LoadIcons();
 
+    FormClass class_;
     std::string name_;
     ErrorSink& errors_;
     HWND window_ = nullptr;

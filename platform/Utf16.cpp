@@ -1,7 +1,8 @@
 #include "platform/Utf16.h"
 
+#include "common/RuntimeError.h"
+
 #include <limits>
-#include <stdexcept>
 #include <windows.h>
 
 namespace {
@@ -9,7 +10,7 @@ namespace {
 // The platform counts characters in an int; UTF-8 may need three bytes for one UTF-16 unit.
 int PlatformLength(std::size_t length) {
     if (length > static_cast<std::size_t>(std::numeric_limits<int>::max() / 3))
-        throw std::length_error("Text too long");
+        throw RuntimeError(ErrorNumber::Overflow, ErrorTexts::TextTooLong);
     return static_cast<int>(length);
 }
 

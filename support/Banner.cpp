@@ -2,8 +2,7 @@
 
 #include "common/Numbers.h"
 #include "common/RuntimeError.h"
-
-#include <sstream>
+#include "common/Text.h"
 
 namespace {
 
@@ -15,18 +14,25 @@ int NumberOrFirst(const std::string& text) {
     }
 }
 
+std::string WithoutBlanksAround(const std::string& line) {
+    constexpr const char* kBlanks = " \t\r";
+    const std::size_t start = line.find_first_not_of(kBlanks);
+    return start == std::string::npos
+               ? std::string()
+               : line.substr(start, line.find_last_not_of(kBlanks) - start + 1);
+}
+
 } // namespace
 
-std::vector<std::string> ParseBannerAddresses(const std::string& text) {
-    std::vector<std::string> addresses;
-    std::istringstream lines(text);
-    for (std::string line; std::getline(lines, line);) {
-        while (!line.empty() && (line.back() == '\r' || line.back() == ' '))
-            line.pop_back();
-        if (!line.empty())
-            addresses.push_back(line);
+std::vector<std::string> AddressesOfBanners(const std::string& lines,
+                                            const std::vector<int>& numbers) {
+    const std::vector<std::string> addresses = SplitFields(lines, "\n");
+    std::vector<std::string> ofPictures;
+    for (const int number : numbers) {
+        const auto line = static_cast<std::size_t>(number) - 1; // far beyond the end for 0
+        ofPictures.push_back(line < addresses.size() ? WithoutBlanksAround(addresses[line]) : "");
     }
-    return addresses;
+    return ofPictures;
 }
 
 void Banner::Start(const std::string& storedIndex) {
@@ -47,8 +53,11 @@ void Banner::Tick() {
 }
 
 void Banner::Click() const {
-    if (index_ > 0)
-        links_.OpenURL(addresses_[static_cast<std::size_t>(index_ - 1)]);
+    if (index_ == 0)
+        return;
+    const std::string& address = addresses_[static_cast<std::size_t>(index_) - 1];
+    if (!address.empty())
+        links_.OpenURL(address);
 }
 
 void Banner::Show(int index) {

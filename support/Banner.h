@@ -7,14 +7,18 @@
 #include <utility>
 #include <vector>
 
-// The addresses of the banner's data file: one in each line that is not empty.
-[[nodiscard]] std::vector<std::string> ParseBannerAddresses(const std::string& text);
+// The address of each banner picture.  lines: of the addresses' file; the picture with the number n
+// has line n, and none when that line is empty or not there.  numbers: of the pictures in their
+// order, from 1; 0: a picture without a number, which has no address.
+[[nodiscard]] std::vector<std::string> AddressesOfBanners(const std::string& lines,
+                                                          const std::vector<int>& numbers);
 
-// One picture at a time out of a list, each with the web address that a click on it opens.
+// One picture at a time out of a list, each with the web address that a click on it opens, if it
+// has one.
 class Banner {
 public:
-    // addresses: one for each picture.  show: puts the picture with an index (from 1; 0: none) into
-    // the banner picture boxes.
+    // addresses: one for each picture, or empty.  show: puts the picture with an index (from 1; 0:
+    // none) into the banner picture boxes.
     Banner(const modinternet& links, std::vector<std::string> addresses,
            std::function<void(int)> show)
         : links_(links), addresses_(std::move(addresses)), show_(std::move(show)) {}

@@ -8,7 +8,7 @@
     name them
   - access keys that differ within each menu
   - the arguments %1, %2 ... of a message text in both languages, and the program's built-in words of
-    an error as those of the English file
+    an error as those of the English file; no error that brings words of its own
 
   tools/check-language.py        names each fault, and fails
 """
@@ -28,6 +28,8 @@ BUTTON_MENU_ROW = re.compile(r'ButtonMenuRow\{\s*"([^"]+)",\s*"([^"]+)"')
 INFO_NUMBER = re.compile(r"std::int32_t \w+ = (\d+);")
 INFO_NAME = re.compile(r"std::int32_t (\w+) = (\d+);")
 ERROR_TEXT = re.compile(r'ErrorText \w+\{\s*InfoTextNumber::(\w+),\s*((?:"(?:[^"\\]|\\.)*"\s*)+)\}')
+OWN_WORDS = re.compile(r'RuntimeError(?: \w+)?[({]\s*[^,;"]*,\s*"')
+ROOMS = ("app", "common", "library", "mainwindow", "platform", "solidworks", "support")
 LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
 ARGUMENT = re.compile(r"%[1-9]")
 ACCESS_KEY = re.compile(r"&([^&])")
@@ -104,6 +106,13 @@ def built_in_faults(entries, error_texts, info_numbers):
             yield f"Info {key}: not the built-in words of {name}"
 
 
+def own_words_faults(name, source):
+    """An error that brings its words along speaks English in every language."""
+    for found in OWN_WORDS.finditer(source):
+        line = source.count("\n", 0, found.start()) + 1
+        yield f"{name}:{line}: words of an error that no language file has"
+
+
 def argument_faults(german, english):
     for key in sorted(german.keys() & english.keys()):
         if sorted(ARGUMENT.findall(german[key])) != sorted(ARGUMENT.findall(english[key])):
@@ -128,6 +137,9 @@ def main():
                for section, key in german.keys() ^ english.keys()]
     faults += list(built_in_faults(english, error_texts, info_numbers))
     faults += list(argument_faults(german, english))
+    for source in sorted(file for room in ROOMS for file in (ROOT / room).rglob("*.*")
+                         if file.suffix in (".cpp", ".h")):
+        faults += own_words_faults(source.relative_to(ROOT), source.read_text(encoding="utf-8"))
     print("\n".join(faults), end="\n" if faults else "")
     return 1 if faults else 0
 

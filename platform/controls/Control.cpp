@@ -8,6 +8,12 @@
 
 #include <utility>
 
+namespace {
+
+constexpr UINT_PTR kSubclass = 1;
+
+} // namespace
+
 Control::Control(Form& form, const ControlKind& kind, const ControlPlace& place, DWORD style,
                  DWORD extendedStyle)
     : form_(form), kind_(kind), name_(place.name),
@@ -17,15 +23,25 @@ Control::Control(Form& form, const ControlKind& kind, const ControlPlace& place,
                               GetModuleHandleW(nullptr), nullptr)) {
     if (window_ == nullptr)
         throw RuntimeError(ErrorNumber::Internal, ErrorTexts::NoWindow, {name_});
-    SetWindowSubclass(window_, SubclassProcedure, 1, reinterpret_cast<DWORD_PTR>(this));
+    SetWindowSubclass(window_, SubclassProcedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
     SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form.Font()), FALSE);
+}
+
+// Only a control that could not be built to its end still has its window: the form's goes first.
+Control::~Control() {
+    if (window_ == nullptr)
+        return;
+    RemoveWindowSubclass(window_, SubclassProcedure, kSubclass);
+    DestroyWindow(window_);
 }
 
 LRESULT CALLBACK Control::SubclassProcedure(HWND window, UINT id, WPARAM wParam, LPARAM lParam,
                                             UINT_PTR subclass, DWORD_PTR reference) noexcept {
     auto* control = reinterpret_cast<Control*>(reference);
-    if (id == WM_NCDESTROY)
+    if (id == WM_NCDESTROY) {
         RemoveWindowSubclass(window, SubclassProcedure, subclass);
+        control->window_ = nullptr; // the system gives the handle to other windows
+    }
     if (id == WM_NCDESTROY || control->form_.IsClosing())
         return DefSubclassProc(window, id, wParam, lParam);
     const LRESULT result = control->Answer({window, id, wParam, lParam});

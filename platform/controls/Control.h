@@ -29,7 +29,7 @@ class Control : public FormControl {
 public:
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
-    ~Control() override = default;
+    ~Control() override;
 
     [[nodiscard]] HWND Handle() const noexcept { return window_; }
     [[nodiscard]] std::string Name() const override { return name_; }

@@ -3,6 +3,7 @@
 #include "platform/Utf16.h"
 
 #include <commctrl.h>
+#include <utility>
 
 namespace {
 
@@ -19,7 +20,7 @@ LabelEdit::~LabelEdit() {
 }
 
 void LabelEdit::Begin(HWND box, const std::string& text) {
-    isGivenUp_ = false;
+    isOpen_ = true;
     box_ = box;
     SetWindowSubclass(box, &LabelEdit::Watch, kSubclass, reinterpret_cast<DWORD_PTR>(this));
     SendMessageW(box, EM_SETLIMITTEXT, 0, 0); // the most that a box can hold
@@ -28,7 +29,9 @@ void LabelEdit::Begin(HWND box, const std::string& text) {
         SetWindowTextW(box, whole.c_str());
 }
 
-std::string LabelEdit::Text() const {
+std::optional<std::string> LabelEdit::End() {
+    if (!std::exchange(isOpen_, false) || box_ == nullptr)
+        return {};
     std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(box_)) + 1, L'\0');
     text.resize(
         static_cast<std::size_t>(GetWindowTextW(box_, text.data(), static_cast<int>(text.size()))));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <windows.h>
 
@@ -15,15 +16,16 @@ public:
     // The box has just been made.  text: the whole label.
     void Begin(HWND box, const std::string& text);
     // The edit ends without a new label, whatever the box holds.
-    void GiveUp() noexcept { isGivenUp_ = true; }
+    void GiveUp() noexcept { isOpen_ = false; }
 
-    [[nodiscard]] bool IsGivenUp() const noexcept { return isGivenUp_; }
-    [[nodiscard]] std::string Text() const; // of the box, while it is there
+    // The platform told the end of an edit: the text of the box.  Nothing when the edit was given
+    // up or its box has gone, and when the same end is told again.
+    [[nodiscard]] std::optional<std::string> End();
 
 private:
     static LRESULT CALLBACK Watch(HWND box, UINT message, WPARAM wParam, LPARAM lParam,
                                   UINT_PTR subclass, DWORD_PTR reference) noexcept;
 
     HWND box_ = nullptr;
-    bool isGivenUp_ = false;
+    bool isOpen_ = false;
 };

@@ -6,6 +6,7 @@
 #include "platform/Utf16.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -232,11 +233,11 @@ bool ListView::BeginLabelEdit(int row) {
 
 // Without a text the label is unchanged, unless the box is empty.
 void ListView::EndLabelEdit(const NMLVDISPINFOW& info) {
-    const std::string text = label_.Text();
-    if (label_.IsGivenUp() || (info.item.pszText == nullptr && !text.empty()))
+    const std::optional<std::string> text = label_.End();
+    if (!text || (info.item.pszText == nullptr && !text->empty()))
         return;
     const int row = info.item.iItem;
-    Raise(onLabelEdited, row, text);
+    Raise(onLabelEdited, row, *text);
     Send(LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
 }
 

@@ -4,6 +4,7 @@
 #include "platform/Utf16.h"
 
 #include <cstring>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -249,16 +250,13 @@ MessageResult TreeView::OnNotify(NMHDR& header) {
 }
 
 void TreeView::BeginLabelEdit(HTREEITEM item) {
-    editing_ = true;
     label_.Begin(reinterpret_cast<HWND>(Send(TVM_GETEDITCONTROL)), TextOf(item));
 }
 
-// The platform may tell the end of one edit twice.
 void TreeView::EndLabelEdit(const NMTVDISPINFOW& info) {
-    if (!std::exchange(editing_, false) || info.item.pszText == nullptr)
-        return;
-    const std::string text = label_.Text();
-    Raise(onLabelEdited, KeyOf(info.item.hItem), text);
+    const std::optional<std::string> text = label_.End();
+    if (text && info.item.pszText != nullptr)
+        Raise(onLabelEdited, KeyOf(info.item.hItem), *text);
 }
 
 // Over a node only its name, when it is cut off: anything else would hide what is to be clicked.

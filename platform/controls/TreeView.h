@@ -66,7 +66,6 @@ private:
     std::unordered_map<std::string, HTREEITEM> items_; // an item's lParam points at its key here
     bool silent_ = false;                              // the program itself changes the selection
     LabelEdit label_;
-    bool editing_ = false;
     bool drawingPaused_ = false;
     bool inserting_ = false;
     HTREEITEM folded_ = nullptr; // while drawing is paused

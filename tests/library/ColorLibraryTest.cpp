@@ -99,6 +99,7 @@ TEST_F(ColorLibraryTest, GroupNumberIsCountBasedAndADuplicateIsRefused) {
         FAIL() << "the key 0DG2 is taken";
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.Number(), ErrorNumber::DuplicateKey);
+        EXPECT_EQ(error.Description(), ErrorTexts::GroupNumberTaken.builtIn);
     }
     EXPECT_EQ(library.GetGroupInMainnode("0D"), std::vector<std::string>{"0DG2"});
     EXPECT_EQ(library.Tree().At("0DG2").text, "two");

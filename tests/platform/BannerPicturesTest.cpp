@@ -28,6 +28,13 @@ TEST(BannerPictures, AreTheBitmapsOfTheFolderInTheOrderOfTheirNames) {
     EXPECT_EQ(pictures.Picture(3), nullptr);
 }
 
+TEST(BannerPictures, NumbersCountAsNumbersAndPicturesWithoutOneComeLast) {
+    const ScratchFolder folder;
+    for (const char* name : {"banner10.bmp", "spring.bmp", "banner2.bmp", "banner1.bmp"})
+        folder.Write(name, Bitmap());
+    EXPECT_EQ(BannerPictures(folder.Path()).Numbers(), (std::vector<int>{1, 2, 10, 0}));
+}
+
 TEST(BannerPictures, OneThatCannotBeLoadedKeepsItsPlace) {
     const ScratchFolder folder;
     folder.Write("1.bmp", Bitmap());

@@ -318,9 +318,27 @@ TEST(Banner, WithoutPicturesTheStoredNumberIsStoredAgain) {
     EXPECT_EQ(three.IndexToStore(), 3);
 }
 
-TEST(Banner, AddressesAreTheLinesThatAreNotEmpty) {
-    EXPECT_EQ(ParseBannerAddresses("a\r\n\r\nb \nc"), (std::vector<std::string>{"a", "b", "c"}));
-    EXPECT_TRUE(ParseBannerAddresses("").empty());
+TEST(Banner, PictureHasTheLineOfItsNumberAsItsAddress) {
+    const std::string lines = "a\r\n\r\n c \n";
+    using Addresses = std::vector<std::string>;
+    EXPECT_EQ(AddressesOfBanners(lines, {1, 2, 3}), (Addresses{"a", "", "c"}));
+    EXPECT_EQ(AddressesOfBanners(lines, {3, 9, 0, 1}), (Addresses{"c", "", "", "a"}));
+    EXPECT_EQ(AddressesOfBanners("", {1, 2}), (Addresses{"", ""})) << "without the addresses' file";
+    EXPECT_TRUE(AddressesOfBanners(lines, {}).empty());
+}
+
+TEST(Banner, PictureWithoutAnAddressIsShownAndIsNoLink) {
+    FakeShell shell;
+    const modinternet links(shell);
+    int shown = -1;
+    Banner banner(links, {"a", ""}, [&](int index) { shown = index; });
+    banner.Start("2");
+    EXPECT_EQ(shown, 2);
+    banner.Click();
+    EXPECT_TRUE(shell.requests.empty());
+    banner.Tick();
+    banner.Click();
+    EXPECT_EQ(shell.requests.at(0).file, "a");
 }
 
 TEST_F(AuxiliaryWindowsTest, LanguageIsAppliedToTheFormsAtOnceAndMarksExcludeEachOther) {

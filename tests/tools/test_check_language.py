@@ -68,6 +68,16 @@ class LanguageFile(unittest.TestCase):
         self.assertEqual(list(check.argument_faults({key: "%2 %1"}, {key: "%1 %2"})), [])
         self.assertEqual(len(list(check.argument_faults({key: "%1"}, {key: "%1 %2"}))), 1)
 
+    def test_has_all_words_of_errors(self):
+        good = """throw RuntimeError(ErrorNumber::Automation, SystemMessage(result));
+            throw RuntimeError(ErrorNumber::Overflow, ErrorTexts::Long, {"a", "b"}, "Member");"""
+        self.assertEqual(list(check.own_words_faults("x.cpp", good)), [])
+        for bad in ('throw RuntimeError(1, "Wrong");', 'RuntimeError(static_cast<int>(error),\n "W");',
+                    'OperationStopped() : RuntimeError(ErrorNumber::X, "Stopped") {}'):
+            with self.subTest(bad):
+                self.assertEqual(list(check.own_words_faults("x.cpp", bad)),
+                                 ["x.cpp:1: words of an error that no language file has"])
+
 
 if __name__ == "__main__":
     unittest.main()

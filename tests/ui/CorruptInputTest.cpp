@@ -92,7 +92,7 @@ TEST_F(CorruptInput, LargestNumberInEverySettingIsNoLanguage) {
     PutEverywhere({REG_DWORD, "\xFF\xFF\xFF\x7F"});
     ExpectRuns();
     ASSERT_EQ(program->prompts.messages.size(), 1U);
-    EXPECT_NE(program->prompts.messages[0].prompt.find("(Language)"), std::string::npos);
+    EXPECT_NE(program->prompts.messages[0].prompt.find(": Language."), std::string::npos);
 }
 
 TEST_F(CorruptInput, MegabyteInEverySettingDoesNotStopTheProgram) {

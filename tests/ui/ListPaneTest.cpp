@@ -197,6 +197,19 @@ TEST_F(MainList, EditThatIsOpenWhenACommandComesIsReportedWithItsText) {
     EXPECT_EQ(LabelBox(), nullptr);
 }
 
+// Some platforms tell the end of one edit twice.
+TEST_F(MainList, EndOfAnEditThatIsToldAgainRenamesNothing) {
+    std::wstring text = L"again";
+    NMLVDISPINFOW end{};
+    end.hdr = {List(), IDC_lvColor, LVN_ENDLABELEDITW};
+    end.item.iItem = 2;
+    for (wchar_t* told : {text.data(), static_cast<wchar_t*>(nullptr)}) {
+        end.item.pszText = told;
+        SendMessageW(form.Handle(), WM_NOTIFY, IDC_lvColor, reinterpret_cast<LPARAM>(&end));
+    }
+    EXPECT_TRUE(events.lines.empty());
+}
+
 TEST_F(MainList, SecondClickOnTheSelectedNameStartsItsEdit) {
     form.ShowWindow();
     SetFocus(List());

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <map>
+#include <utility>
 
 namespace {
 
@@ -47,6 +49,39 @@ TEST_F(MainMenu, EveryCommandReachesRunCommand) {
         expected.push_back(row.command);
     }
     EXPECT_EQ(events.commands, expected);
+}
+
+bool MenuIsOpen() {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetCurrentThreadId(), &info);
+    return (info.flags & GUI_INMENUMODE) != 0;
+}
+
+TEST_F(MainMenu, EndOfTheProgramLeavesAnOpenMenu) {
+    constexpr std::chrono::seconds kPatience(30);
+    static frmMain* ending;
+    static std::chrono::steady_clock::time_point deadline;
+    static bool isEnded;
+    static bool isLate;
+    ending = &form;
+    deadline = std::chrono::steady_clock::now() + kPatience;
+    isEnded = isLate = false;
+    form.ShowWindow();
+    const UINT_PTR timer = SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) {
+        if (MenuIsOpen() && !std::exchange(isEnded, true))
+            ending->EndProgram();
+        isLate = std::chrono::steady_clock::now() > deadline;
+        if (isLate)
+            EndMenu(); // which the program should have done
+    });
+    SendMessageW(Child(IDC_tvColor), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Child(IDC_tvColor)),
+                 -1);
+    KillTimer(nullptr, timer);
+    EXPECT_TRUE(isEnded);
+    EXPECT_FALSE(isLate);
+    MSG quit{};
+    EXPECT_NE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE), FALSE);
 }
 
 TEST_F(MainMenu, UnknownNumberRunsNothing) {
