@@ -29,8 +29,6 @@ inline constexpr ErrorText GroupNumberTaken{
     "been saved and opened again."};
 inline constexpr ErrorText NoSuchNode{InfoTextNumber::NoSuchNode,
                                       "There is no library or group with the key \"%1\"."};
-inline constexpr ErrorText FileNotReadable{InfoTextNumber::FileNotReadable,
-                                           "The file cannot be read: %1"};
 inline constexpr ErrorText ClipboardInUse{InfoTextNumber::ClipboardInUse,
                                           "The clipboard is in use by another program."};
 inline constexpr ErrorText DialogNotShown{InfoTextNumber::DialogNotShown,

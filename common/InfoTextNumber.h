@@ -56,7 +56,6 @@ inline constexpr std::int32_t WrongKindOfValue = 112;
 inline constexpr std::int32_t NoSuchNumber = 113;
 inline constexpr std::int32_t GroupNumberTaken = 114;
 inline constexpr std::int32_t NoSuchNode = 115;
-inline constexpr std::int32_t FileNotReadable = 116;
 inline constexpr std::int32_t ClipboardInUse = 117;
 inline constexpr std::int32_t DialogNotShown = 118;
 inline constexpr std::int32_t NoSuchProperty = 119;
