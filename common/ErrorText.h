@@ -56,6 +56,21 @@ inline constexpr ErrorText NoWindow{InfoTextNumber::NoWindow,
 inline constexpr ErrorText OutOfMemory{InfoTextNumber::OutOfMemory, "There is not enough memory."};
 inline constexpr ErrorText UnknownError{InfoTextNumber::UnknownError, "Unknown error"};
 inline constexpr ErrorText TextTooLong{InfoTextNumber::TextTooLong, "The text is too long."};
+inline constexpr ErrorText ServerRejectsCall{InfoTextNumber::ServerRejectsCall,
+                                             "The other program rejects the call (%1)"};
+inline constexpr ErrorText ObjectIsGone{
+    InfoTextNumber::ObjectIsGone, "The object is gone: it was closed or deleted meanwhile (%1)"};
+inline constexpr ErrorText ServerWantsOtherKind{
+    InfoTextNumber::ServerWantsOtherKind,
+    "The other program takes no value of this kind here (%1)"};
+inline constexpr ErrorText ServerLacksMember{
+    InfoTextNumber::ServerLacksMember,
+    "This version of the other program does not know the member (%1)"};
+inline constexpr ErrorText ServerWantsOtherCount{
+    InfoTextNumber::ServerWantsOtherCount,
+    "The other program takes another number of values here (%1)"};
+inline constexpr ErrorText ServerIsDisconnected{InfoTextNumber::ServerIsDisconnected,
+                                                "The connection to the other program is lost (%1)"};
 } // namespace ErrorTexts
 
 // What an error says: a text and its arguments.

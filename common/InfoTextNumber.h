@@ -49,6 +49,14 @@ inline constexpr std::int32_t SolidWorksIsBusy = 160;
 inline constexpr std::int32_t SolidWorksStopped = 161;
 inline constexpr std::int32_t ReadingStandardColors = 162;
 
+// Of a failed automation call, where the system has no words; ErrorText.h has the built-in ones.
+inline constexpr std::int32_t ServerRejectsCall = 163;
+inline constexpr std::int32_t ObjectIsGone = 164;
+inline constexpr std::int32_t ServerWantsOtherKind = 165;
+inline constexpr std::int32_t ServerLacksMember = 166;
+inline constexpr std::int32_t ServerWantsOtherCount = 167;
+inline constexpr std::int32_t ServerIsDisconnected = 168;
+
 // Descriptions in the shared error message; ErrorText.h has their built-in words.
 inline constexpr std::int32_t NotANumber = 110;
 inline constexpr std::int32_t NumberOutOfRange = 111;

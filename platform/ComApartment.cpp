@@ -8,7 +8,7 @@
 ComApartment::ComApartment() {
     const HRESULT result = OleInitialize(nullptr);
     if (FAILED(result))
-        throw RuntimeError(ErrorNumber::Automation, SystemMessage(result));
+        throw SystemError(result);
 }
 
 ComApartment::~ComApartment() {

@@ -25,9 +25,9 @@ bool IsConnectionLost(HRESULT result) noexcept {
 
 [[noreturn]] void ThrowCallFailed(HRESULT result, ExceptionInfo& exception,
                                   const std::string& member) {
-    throw RuntimeError(IsConnectionLost(result) ? ErrorNumber::ConnectionLost
-                                                : ErrorNumber::Automation,
-                       exception.Describe(result), member);
+    throw exception.ToError(
+        result, IsConnectionLost(result) ? ErrorNumber::ConnectionLost : ErrorNumber::Automation,
+        member);
 }
 
 // Calls take their arguments as an array of plain variants.

@@ -10,15 +10,15 @@ EXCEPINFO* ExceptionInfo::Receive() noexcept {
     return &info_;
 }
 
-std::string ExceptionInfo::Describe(HRESULT result) {
+RuntimeError ExceptionInfo::ToError(HRESULT result, int number, const std::string& member) {
     if (result != DISP_E_EXCEPTION)
-        return SystemMessage(result);
+        return SystemError(result, number, member);
     if (info_.pfnDeferredFillIn != nullptr)
         info_.pfnDeferredFillIn(&info_);
-    if (SysStringLen(info_.bstrDescription) != 0)
-        return ToUtf8(
-            std::wstring_view(info_.bstrDescription, SysStringLen(info_.bstrDescription)));
-    return SystemMessage(FAILED(info_.scode) ? info_.scode : result);
+    const std::wstring_view words(info_.bstrDescription, SysStringLen(info_.bstrDescription));
+    if (!words.empty())
+        return {number, ToUtf8(words), member};
+    return SystemError(FAILED(info_.scode) ? info_.scode : result, number, member);
 }
 
 void ExceptionInfo::Clear() noexcept {

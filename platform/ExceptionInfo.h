@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/RuntimeError.h"
+
 #include <string>
 #include <windows.h>
 #include <oaidl.h>
@@ -15,8 +17,8 @@ public:
     // For IDispatch::Invoke; what was held before is freed.
     [[nodiscard]] EXCEPINFO* Receive() noexcept;
 
-    // The other side's own words, or the system's for the result.
-    [[nodiscard]] std::string Describe(HRESULT result);
+    // The error for the result: in the other side's own words, or as SystemError says.
+    [[nodiscard]] RuntimeError ToError(HRESULT result, int number, const std::string& member);
 
 private:
     void Clear() noexcept;

@@ -10,7 +10,7 @@ SafeArrayAccess::SafeArrayAccess(SAFEARRAY* array) : array_(array) {
         throw RuntimeError(ErrorNumber::TypeMismatch, ErrorTexts::WrongKindOfValue);
     const HRESULT result = SafeArrayAccessData(array_, &elements_);
     if (FAILED(result))
-        throw RuntimeError(ErrorNumber::Automation, SystemMessage(result));
+        throw SystemError(result);
     count_ = array_->rgsabound[0].cElements;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Utf16.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -12,6 +13,22 @@ std::string HexNumber(HRESULT result) {
     std::snprintf(text.data(), text.size(), "%08lX", static_cast<unsigned long>(result));
     return text.data();
 }
+
+struct OwnWords {
+    HRESULT result;
+    ErrorText text;
+};
+
+// Not every platform has words for these.
+constexpr std::array kOwnWords = {
+    OwnWords{RPC_E_CALL_REJECTED, ErrorTexts::ServerRejectsCall},
+    OwnWords{RPC_E_DISCONNECTED, ErrorTexts::ObjectIsGone},
+    OwnWords{DISP_E_TYPEMISMATCH, ErrorTexts::ServerWantsOtherKind},
+    OwnWords{DISP_E_UNKNOWNNAME, ErrorTexts::ServerLacksMember},
+    OwnWords{DISP_E_MEMBERNOTFOUND, ErrorTexts::ServerLacksMember},
+    OwnWords{DISP_E_BADPARAMCOUNT, ErrorTexts::ServerWantsOtherCount},
+    OwnWords{CO_E_OBJNOTCONNECTED, ErrorTexts::ServerIsDisconnected},
+};
 
 std::wstring SystemWords(HRESULT result) {
     std::array<wchar_t, 1024> text{};
@@ -30,4 +47,11 @@ std::string SystemMessage(HRESULT result) {
     const std::string number = "(" + HexNumber(result) + ")";
     const std::wstring words = SystemWords(result);
     return words.empty() ? number : ToUtf8(words) + " " + number;
+}
+
+RuntimeError SystemError(HRESULT result, int number, const std::string& member) {
+    const auto own = std::ranges::find(kOwnWords, result, &OwnWords::result);
+    if (own != kOwnWords.end() && SystemWords(result).empty())
+        return {number, own->text, {HexNumber(result)}, member};
+    return {number, SystemMessage(result), member};
 }

@@ -17,7 +17,7 @@ namespace {
 
 void Check(HRESULT result) {
     if (FAILED(result))
-        throw RuntimeError(ErrorNumber::Automation, SystemMessage(result));
+        throw SystemError(result);
 }
 
 AutomationValue Whole(std::integral auto number) {

@@ -40,7 +40,7 @@ RunningRegistration::RunningRegistration(const CLSID& classId, DispatchPtr appli
                                        REGCLS_MULTIPLEUSE, &classObject_);
     if (FAILED(result)) {
         Revoke();
-        throw RuntimeError(ErrorNumber::Automation, SystemMessage(result));
+        throw SystemError(result);
     }
 }
 
