@@ -17,9 +17,6 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 LOGS = ROOT / "build" / "logs"
 WINE = ("tools/wine-session.sh",)
 OWN_LIBRARIES = ("tnt_portable", "tnt_platform", "tnt_forms", "standin_model")
-BENCHED = {"library-bench": ("native", "library_bench"),
-           "library-bench-wine": ("windows", "library_bench"),
-           "walk-bench": ("windows", "walk_bench")}
 LONG_DOSES = (("TNT_MONKEY", "100000"), ("TNT_ENDURANCE", "1000"))
 
 USAGE = """usage: ./test                      everything that is for every hour
