@@ -61,9 +61,7 @@ int main() {
         return 2;
     }
     try {
-        return Jobs()
-            .at(arguments[0])(WindowsPath(arguments[1]), WindowsPath(arguments[2]))
-            ->Run();
+        return Jobs().at(arguments[0])(WindowsPath(arguments[1]), WindowsPath(arguments[2]))->Run();
     } catch (const std::exception& error) {
         std::cout << error.what() << "\n0 passed, 1 failed\n";
         return 1;
