@@ -29,33 +29,71 @@ Application::Application(const Platform& platform, const Windows& windows, const
           {platform.registry, platform.codePage, platform.files, platform.shell, platform.prompts}),
       localisation_(language_, data.languageFolder,
                     {&windows.mainForm, &windows.about, &windows.progressForm}),
-      options_({settings_, localisation_, windows.mainView, windows.mainWindow,
+      options_({settings_, localisation_, windows.mainView.bars, windows.mainWindow,
                 [this] { settingsStore_.Save(settings_); }}),
       about_({windows.about, language_, settings_, registry_, links_, systemInformation_, banner_,
               data.version}),
       textViewer_({windows.textViewer, language_, platform.files, platform.codePage, settings_,
                    banner_, data.programFolder}),
       progress_(windows.progressWindow, windows.progressForm, language_, settings_, stopFlag_),
-      mainWindow_({windows.mainView,
-                   windows.mainWindow,
-                   settings_,
-                   library_,
-                   libraryFiles_,
-                   fileCommands_,
-                   solidWorks_,
-                   platform.retry,
-                   platform.events,
-                   options_,
-                   about_,
-                   textViewer_,
-                   banner_,
-                   registry_,
-                   platform.prompts,
-                   language_,
-                   platform.clipboard,
-                   platform.collation,
-                   stopFlag_,
-                   [this] { Quit(); }}) {}
+      panes_(windows.mainView, library_, platform.prompts, language_, platform.collation),
+      viewCommands_(windows.mainView.bars, windows.mainView.list, panes_.layout, settings_),
+      editing_({.library = library_,
+                .list = panes_.list,
+                .panes = panes_.library,
+                .settings = settings_,
+                .clipboard = platform.clipboard,
+                .prompts = platform.prompts,
+                .texts = language_}),
+      drag_({.pane = windows.mainView.drag,
+             .tree = library_.Tree(),
+             .list = panes_.list,
+             .editing = editing_,
+             .prompts = platform.prompts,
+             .texts = language_,
+             .activity = panes_.activity}),
+      solidWorksCommands_({.tools = solidWorks_,
+                           .library = library_,
+                           .list = panes_.list,
+                           .panes = panes_.library,
+                           .editor = panes_.editor,
+                           .bars = windows.mainView.bars,
+                           .prompts = platform.prompts,
+                           .texts = language_,
+                           .activity = panes_.activity}),
+      mainWindow_({.view = windows.mainView,
+                   .form = windows.mainWindow,
+                   .panes = panes_,
+                   .drag = drag_,
+                   .commands = {.file = fileCommands_,
+                                .library = library_,
+                                .editing = editing_,
+                                .panes = panes_.library,
+                                .editor = panes_.editor,
+                                .view = viewCommands_,
+                                .solidWorks = solidWorksCommands_,
+                                .options = options_,
+                                .about = about_,
+                                .textViewer = textViewer_,
+                                .quit = [this] { Quit(); }},
+                   .libraryFiles = libraryFiles_,
+                   .settings = settings_,
+                   .registry = registry_,
+                   .texts = language_,
+                   .retry = platform.retry,
+                   .events = platform.events,
+                   .stopFlag = stopFlag_}) {}
+
+MainEvents Application::MainWindowEvents() noexcept {
+    return {.frame = mainWindow_,
+            .tree = panes_.library,
+            .rows = panes_.list,
+            .list = panes_.library,
+            .editor = panes_.editor,
+            .layout = panes_.layout,
+            .drag = drag_,
+            .banner = banner_};
+}
 
 void Application::Start() {
     const std::vector<std::string> unreadable = settingsStore_.Load(settings_);
@@ -65,7 +103,7 @@ void Application::Start() {
     if (!unreadable.empty())
         errors_.ReportError(RuntimeError(ErrorNumber::TypeMismatch, ErrorTexts::StoredSettings,
                                          {Joined(unreadable)}));
-    windows_.mainView.ShowWindow();
+    windows_.mainView.frame.ShowWindow();
 }
 
 // A library that cannot be read must not keep the window from being shown.
@@ -78,13 +116,13 @@ void Application::SetFormDefaults() {
 }
 
 void Application::Quit() {
-    windows_.mainView.StopBannerTimer();
+    windows_.mainView.frame.StopBannerTimer();
     settingsStore_.SaveLastSponsorShown(banner_.IndexToStore());
-    windows_.mainView.EndProgram();
+    windows_.mainView.frame.EndProgram();
 }
 
 void Application::ShowBanner(int index) {
-    windows_.mainView.SetBanner(index);
+    windows_.mainView.frame.SetBanner(index);
     windows_.about.SetBanner(index);
     windows_.textViewer.SetBanner(index);
 }

@@ -58,7 +58,7 @@ public:
     };
 
     struct Windows {
-        MainView& mainView;
+        MainView mainView;
         FormWindow& mainWindow;
         LocalizableForm& mainForm;
         AboutView& about;
@@ -86,7 +86,7 @@ public:
     // Stops the banner, stores its index and ends the program at once; asks and saves nothing else.
     void Quit();
 
-    [[nodiscard]] MainViewEvents& MainEvents() noexcept { return mainWindow_; }
+    [[nodiscard]] MainEvents MainWindowEvents() noexcept;
     [[nodiscard]] AboutEvents& AboutWindowEvents() noexcept { return about_; }
     [[nodiscard]] TextViewerEvents& TextViewerWindowEvents() noexcept { return textViewer_; }
     [[nodiscard]] ProgressEvents& ProgressWindowEvents() noexcept { return progress_; }
@@ -114,5 +114,10 @@ private:
     About about_;
     TextViewer textViewer_;
     Progress progress_;
+    MainPanes panes_;
+    ViewCommands viewCommands_;
+    EditingCommands editing_;
+    ColorDrag drag_;
+    SolidWorksCommands solidWorksCommands_;
     MainWindow mainWindow_;
 };

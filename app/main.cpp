@@ -69,7 +69,7 @@ int RunProgram() {
     Application application(
         {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
          language, errors, calendar},
-        {main, main, main, about, textViewer, progress, progress, progress},
+        {main.View(), main, main, about, textViewer, progress, progress, progress},
         {programFolder, kVersion,
          AddressesOfBanners(files.ReadWhole(bannerFolder + "\\banners.txt").value_or(""),
                             banners.Numbers()),
@@ -77,7 +77,7 @@ int RunProgram() {
     // The application goes first, and the forms after it: the main window still gets messages then,
     // such as the focus from a text viewer that is destroyed.
     const SilenceAtScopeEnd silence(main);
-    main.Attach(application.MainEvents());
+    main.Attach(application.MainWindowEvents());
     about.Attach(application.AboutWindowEvents());
     textViewer.Attach(application.TextViewerWindowEvents());
     progress.Attach(application.ProgressWindowEvents());

@@ -3,7 +3,7 @@
 #include "common/BusyRetry.h"
 #include "common/ports/EventPump.h"
 #include "common/ports/InfoTexts.h"
-#include "mainwindow/MainView.h"
+#include "mainwindow/BarsPane.h"
 
 // While SolidWorks is busy the status bar says so, the window is alive but takes no input, and
 // Escape gives up.

@@ -12,15 +12,18 @@ std::string GroupUnder(const DragPoint& at) {
 
 } // namespace
 
-void ColorDrag::Start(const HeldKeys& keys, const DragPoint& at) {
+bool ColorDrag::DragStarted(const HeldKeys& keys, const DragPoint& at) {
+    if (parts_.activity.operationRuns || parts_.list.SelectedKey().empty())
+        return false;
     const bool ctrlAlone = keys.ctrl && !keys.shift && !keys.alt;
-    mode_ = ctrlAlone ? DragMode::Copy : DragMode::Move;
+    parts_.activity.drag = ctrlAlone ? DragMode::Copy : DragMode::Move;
     underWay_ = true;
     restsOn_.clear();
     Show(at);
+    return true;
 }
 
-void ColorDrag::Move(const DragPoint& at) {
+void ColorDrag::DragMoved(const DragPoint& at) {
     if (underWay_)
         Show(at);
 }
@@ -29,7 +32,8 @@ void ColorDrag::Show(const DragPoint& at) {
     Rest(at);
     const std::string group = GroupUnder(at);
     parts_.pane.MarkDropNode(group);
-    parts_.pane.ShowDrag(at.left, at.top, at.isOverList || !group.empty() ? mode_ : DragMode::None);
+    parts_.pane.ShowDrag(at.left, at.top,
+                         at.isOverList || !group.empty() ? parts_.activity.drag : DragMode::None);
 }
 
 void ColorDrag::Rest(const DragPoint& at) {
@@ -37,7 +41,7 @@ void ColorDrag::Rest(const DragPoint& at) {
         ticks_ = 0;
 }
 
-void ColorDrag::Tick(const DragPoint& at) {
+void ColorDrag::DragTicked(const DragPoint& at) {
     if (!underWay_)
         return;
     if (at.edge != TreeEdge::None)
@@ -47,19 +51,19 @@ void ColorDrag::Tick(const DragPoint& at) {
         parts_.tree.Expand(restsOn_);
 }
 
-void ColorDrag::Drop(const DragPoint& at) {
+void ColorDrag::DragDropped(const DragPoint& at) {
     if (!underWay_)
         return;
     End();
     if (at.isOverList)
-        mode_ = DragMode::None;
+        parts_.activity.drag = DragMode::None;
     else if (!at.node.empty())
         DropOnNode(at.node);
 }
 
 void ColorDrag::DropOnNode(const std::string& key) {
     // Idle whatever happens from here on.
-    const DragMode mode = std::exchange(mode_, DragMode::None);
+    const DragMode mode = std::exchange(parts_.activity.drag, DragMode::None);
     if (!IsGroupKey(key))
         parts_.prompts.ShowMessage(parts_.texts.GetInfoText(InfoTextNumber::DropOnGroupOnly),
                                    MessageStyle::Information,
@@ -70,10 +74,10 @@ void ColorDrag::DropOnNode(const std::string& key) {
         parts_.editing.CopyInto(key);
 }
 
-void ColorDrag::Cancel() {
+void ColorDrag::DragCancelled() {
     if (!underWay_)
         return;
-    mode_ = DragMode::None;
+    parts_.activity.drag = DragMode::None;
     End();
 }
 
@@ -84,5 +88,5 @@ void ColorDrag::End() {
 }
 
 void ColorDrag::ListPressed() {
-    mode_ = DragMode::None;
+    parts_.activity.drag = DragMode::None;
 }

@@ -4,20 +4,24 @@
 #include "common/ports/Prompts.h"
 #include "library/LibraryTree.h"
 #include "mainwindow/EditingCommands.h"
-#include "mainwindow/MainView.h"
+#include "mainwindow/MainActivity.h"
+#include "mainwindow/ColorList.h"
+#include "mainwindow/DragPane.h"
 
 #include <string>
 
 // Drags the list's selected colour onto a group of the tree: a move, or a copy when Ctrl alone was
 // held as the drag began.  Over the tree the drag scrolls and expands what the pointer rests on.
-class ColorDrag {
+class ColorDrag : public DragEvents {
 public:
     struct Parts {
         DragPane& pane;
         LibraryTree& tree;
+        const ColorList& list;
         EditingCommands& editing;
         Prompts& prompts;
         InfoTexts& texts;
+        MainActivity& activity;
     };
 
     // How many ticks the pointer rests on a library until its groups are shown.
@@ -28,22 +32,18 @@ public:
     // The pointer carries a colour.
     [[nodiscard]] bool IsUnderWay() const noexcept { return underWay_; }
 
-    // A row's label is not edited while a mode is set.  A drop that hit no node leaves the mode as
-    // it was until the list is pressed the next time, on purpose.
-    [[nodiscard]] DragMode Mode() const noexcept { return mode_; }
-
-    void Start(const HeldKeys& keys, const DragPoint& at);
-    void Move(const DragPoint& at);
-    void Tick(const DragPoint& at);
+    bool DragStarted(const HeldKeys& keys, const DragPoint& at) override;
+    void DragMoved(const DragPoint& at) override;
+    void DragTicked(const DragPoint& at) override;
 
     // On a group: the colour is put there.  On a library: a note, nothing is moved.  Elsewhere
     // nothing happens.
-    void Drop(const DragPoint& at);
+    void DragDropped(const DragPoint& at) override;
 
     // Gives the drag up, if one is under way.
-    void Cancel();
+    void DragCancelled() override;
 
-    void ListPressed();
+    void ListPressed() override;
 
 private:
     void Show(const DragPoint& at);
@@ -53,7 +53,6 @@ private:
 
     Parts parts_;
     bool underWay_ = false;
-    DragMode mode_ = DragMode::None;
     std::string restsOn_; // node under the pointer
     int ticks_ = 0;       // since the pointer came onto it
 };

@@ -83,7 +83,7 @@ void ColorEditor::SetRedGreenBlue(const RedGreenBlue& color) {
 
 void ColorEditor::SetText(std::size_t index, const std::string& text) {
     pane_.SetValueText(index, text);
-    TextChanged(index, text);
+    ValueTextChanged(index, text);
 }
 
 ColorValueArray ColorEditor::Values() const {
@@ -93,7 +93,7 @@ ColorValueArray ColorEditor::Values() const {
     return values;
 }
 
-void ColorEditor::TextChanged(std::size_t index, const std::string& text) {
+void ColorEditor::ValueTextChanged(std::size_t index, const std::string& text) {
     texts_.at(index) = text;
     const int maximum = MaximumOfColorValue(index);
     const int value = text.empty() ? 0 : std::clamp(TextToInt32(text), 0, maximum);
@@ -111,12 +111,12 @@ void ColorEditor::TextChanged(std::size_t index, const std::string& text) {
     ShowCaption();
 }
 
-bool ColorEditor::IsValueCharacter(char32_t character) noexcept {
+bool ColorEditor::IsValueCharacter(char32_t character) const noexcept {
     return (character >= U'0' && character <= U'9') || character == kBackspace ||
            character == kFullStop;
 }
 
-void ColorEditor::Focused(std::size_t index) {
+void ColorEditor::ValueFocused(std::size_t index) {
     pane_.SelectWholeValueText(index);
 }
 

@@ -4,7 +4,7 @@
 #include "common/ColorRecord.h"
 #include "common/ports/InfoTexts.h"
 #include "common/ports/Prompts.h"
-#include "mainwindow/MainView.h"
+#include "mainwindow/EditorPane.h"
 
 #include <array>
 #include <span>
@@ -12,7 +12,7 @@
 
 // The active-colour editor: a scratch copy of a colour in nine text boxes with sliders, a name
 // label and two swatches.  It knows nothing of the library.
-class ColorEditor {
+class ColorEditor : public EditorEvents {
 public:
     ColorEditor(EditorPane& pane, Prompts& prompts, InfoTexts& texts);
 
@@ -47,17 +47,17 @@ public:
     [[nodiscard]] ColorValueArray Values() const;
 
     // The user changed a text.  Throws RuntimeError when it does not convert; the text then stays.
-    void TextChanged(std::size_t index, const std::string& text);
+    void ValueTextChanged(std::size_t index, const std::string& text) override;
 
     // Digits, backspace and the full stop.
-    [[nodiscard]] static bool IsValueCharacter(char32_t character) noexcept;
+    [[nodiscard]] bool IsValueCharacter(char32_t character) const noexcept override;
 
-    void Focused(std::size_t index);
-    void SliderMoved(std::size_t index, int position);
+    void ValueFocused(std::size_t index) override;
+    void SliderMoved(std::size_t index, int position) override;
     void PickActiveColorFromDialog();
 
     // The window is repainted: the small swatch's text takes the partial complement, on purpose.
-    void Repainted();
+    void Repainted() override;
 
 private:
     void Load(const ColorRecord& color, ColorNumber complementMask);

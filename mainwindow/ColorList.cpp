@@ -92,6 +92,11 @@ void ColorList::ShowSelected() {
         pane_.EnsureRowVisible(*selected_);
 }
 
+void ColorList::EditSelected() {
+    if (selected_)
+        pane_.EditRowLabel(*selected_);
+}
+
 void ColorList::ColorLeaves(int index) {
     keysOfGone_[library_.Colors().IdAt(index)] = library_.Colors().At(index).key;
 }
@@ -108,7 +113,7 @@ void ColorList::RemoveSelected() {
     ShowSelected();
 }
 
-void ColorList::ColumnClicked(int column) {
+void ColorList::SortByColumn(int column) {
     descending_ = sortKey_ == column - 1 && !descending_;
     sortKey_ = column - 1;
     sorted_ = true;

@@ -2,7 +2,7 @@
 
 #include "common/ports/TextCollation.h"
 #include "library/ColorLibrary.h"
-#include "mainwindow/MainView.h"
+#include "mainwindow/ListPane.h"
 
 #include <map>
 #include <optional>
@@ -11,7 +11,7 @@
 
 // The rows of lvColor: one for each colour of the current group, with the selected one, sorted by a
 // column once the user asked for it.  Rows count from 0, columns from 1.
-class ColorList {
+class ColorList : public ListRows {
 public:
     ColorList(const ColorLibrary& library, ListPane& pane, const TextCollation& collation)
         : library_(library), pane_(pane), collation_(collation) {}
@@ -35,6 +35,8 @@ public:
     [[nodiscard]] std::optional<int> SelectedRow() const noexcept { return selected_; }
     [[nodiscard]] std::string SelectedKey() const; // empty: none
     void ShowSelected();
+    void EditSelected(); // its label; nothing without one
+    void FinishEdit() { pane_.FinishLabelEdit(); }
 
     // A colour is about to leave the library: a row that it has keeps its key, and shows nothing.
     void ColorLeaves(int index);
@@ -43,12 +45,11 @@ public:
     void RemoveSelected();
 
     // Sorts by the column as text; the column that sorts already flips the order.
-    void ColumnClicked(int column);
+    void SortByColumn(int column);
 
-    [[nodiscard]] std::string CellText(int row, int column) const;
+    [[nodiscard]] std::string CellText(int row, int column) const override;
 
-    // First row from start (wrapping at the end) whose name begins with the text; -1: none.
-    [[nodiscard]] int FindRow(const std::string& text, int start) const;
+    [[nodiscard]] int FindRow(const std::string& text, int start) const override;
 
 private:
     void Sort();

@@ -5,134 +5,59 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 
 // The one table of everything that can be commanded: menus, toolbar, button menus and shortcuts are
-// made from it, and each row's number runs its command.
+// made from it, and each row of the menus runs its command.
 
-// Key numbers are those of the platform's virtual keys; 0: no shortcut.
+// The platform's virtual keys that have no character.
+namespace Key {
+inline constexpr std::uint8_t Shift = 0x10;
+inline constexpr std::uint8_t Control = 0x11;
+inline constexpr std::uint8_t Delete = 0x2E;
+inline constexpr std::uint8_t F1 = 0x70;
+} // namespace Key
+
+// Where the focus must be for a shortcut to be taken.
+enum class ShortcutReach : std::uint8_t {
+    Everywhere,
+    OutsideText, // not while text is typed, which needs the key itself
+    ListOnly     // anywhere else the user is not looking at what the command would change
+};
+
 struct Shortcut {
     bool ctrl = false;
     bool shift = false;
-    std::uint8_t key = 0;
-    bool leavesTextEntryAlone = false; // not taken while a text box has the focus
+    std::uint8_t key = 0; // virtual key; 0: no shortcut
+    ShortcutReach reach = ShortcutReach::Everywhere;
 };
 
+struct MainCommands;
+using CommandHandler = void (*)(const MainCommands&);
+
 enum class MenuKind : std::uint8_t { Title, Submenu, Entry, SubmenuEntry, Separator };
+
+enum class CommandKind : std::uint8_t {
+    Plain,
+    Reports,  // shows how it went in the status panel, which is empty when it begins
+    Operation // as Reports, and calls SolidWorks: nothing else is commanded until it is over
+};
 
 struct MenuRow {
     int command;
     const char* name;
     const char* caption; // built in, German; the language file replaces it
-    MenuKind kind;
+    MenuKind place;
+    CommandHandler run = nullptr; // of an entry
+    CommandKind kind = CommandKind::Plain;
     Shortcut shortcut{};
 };
 
 // Menu titles, each followed by its entries, in order.
-inline constexpr std::array kMenuRows = {
-    MenuRow{IDM_mnuFile, "mnuFile", "Datei", MenuKind::Title},
-    MenuRow{IDM_mnuFileNew, "mnuFileNew", "Neu", MenuKind::Entry, {true, false, 'N'}},
-    MenuRow{IDM_mnuFileOpen, "mnuFileOpen", "Öffnen ...", MenuKind::Entry, {true, false, 'O'}},
-    MenuRow{IDM_mnuFileSave, "mnuFileSave", "Speichern", MenuKind::Entry, {true, false, 'S'}},
-    MenuRow{IDM_mnuFileSaveAs,
-            "mnuFileSaveAs",
-            "Speichern unter ...",
-            MenuKind::Entry,
-            {true, true, 'S'}},
-    MenuRow{IDM_mnuFileClose, "mnuFileClose", "Schließen", MenuKind::Entry},
-    MenuRow{IDM_mnuFileCancelAutoload, "mnuFileCancelAutoload", "Automatisches Laden aufheben",
-            MenuKind::Entry},
-    MenuRow{IDM_mnuFileHR, "mnuFileHR", "-", MenuKind::Separator},
-    MenuRow{IDM_mnuQuit, "mnuQuit", "Beenden", MenuKind::Entry},
+[[nodiscard]] std::span<const MenuRow> MenuRows() noexcept;
 
-    MenuRow{IDM_mnuColor, "mnuColor", "Farbe", MenuKind::Title},
-    MenuRow{IDM_mnuColorNewMainNode, "mnuColorNewMainNode", "Neue Bibliothek", MenuKind::Entry},
-    MenuRow{IDM_mnuColorNewGroup, "mnuColorNewGroup", "Neue Gruppe", MenuKind::Entry},
-    MenuRow{IDM_mnuColorNewColor, "mnuColorNewColor", "Neue Farbe", MenuKind::Entry},
-    MenuRow{IDM_mnuColorHR1, "mnuColorHR1", "-", MenuKind::Separator},
-    MenuRow{IDM_mnuColorRenameNode, "mnuColorRenameNode", "Bibliothek oder Gruppe umbenennen",
-            MenuKind::Entry},
-    MenuRow{IDM_mnuColorHR2, "mnuColorHR2", "-", MenuKind::Separator},
-    MenuRow{IDM_mnuColorDelMainNode, "mnuColorDelMainNode", "Bibliothek löschen", MenuKind::Entry},
-    MenuRow{IDM_mnuColorDelGroup, "mnuColorDelGroup", "Gruppe löschen", MenuKind::Entry},
-    MenuRow{IDM_mnuColorDelColor,
-            "mnuColorDelColor",
-            "Farbe löschen",
-            MenuKind::Entry,
-            {false, false, 0x2E, true}},
-    MenuRow{IDM_mnuColorHR3, "mnuColorHR3", "-", MenuKind::Separator},
-    MenuRow{
-        IDM_mnuColorCopy, "mnuColorCopy", "Kopieren", MenuKind::Entry, {true, false, 'C', true}},
-    MenuRow{
-        IDM_mnuColorCut, "mnuColorCut", "Ausschneiden", MenuKind::Entry, {true, false, 'X', true}},
-    MenuRow{
-        IDM_mnuColorPaste, "mnuColorPaste", "Einfügen", MenuKind::Entry, {true, false, 'V', true}},
-    MenuRow{IDM_mnuColorHR4, "mnuColorHR4", "-", MenuKind::Separator},
-    MenuRow{IDM_mnuColorChange, "mnuColorChange", "Farbwert wählen ...", MenuKind::Entry},
-    MenuRow{IDM_mnuColorUpdateColor, "mnuColorUpdateColor", "Farbe aktualisieren", MenuKind::Entry},
-
-    MenuRow{IDM_mnuView, "mnuView", "Ansicht", MenuKind::Title},
-    MenuRow{IDM_mnuViewToolbar, "mnuViewToolbar", "Symbolleiste", MenuKind::Entry},
-    MenuRow{IDM_mnuViewStatusBar, "mnuViewStatusBar", "Statusleiste", MenuKind::Entry},
-    MenuRow{IDM_mnuViewBarStandards, "mnuViewBarStandards", "Leiste Standard", MenuKind::Entry},
-    MenuRow{IDM_mnuViewBarColor, "mnuViewBarColor", "Leiste Farbe", MenuKind::Entry},
-    MenuRow{IDM_mnuViewBarListview, "mnuViewBarListview", "Leiste Listenansicht", MenuKind::Entry},
-    MenuRow{IDM_mnuViewBarSolidWorks, "mnuViewBarSolidWorks", "Leiste SolidWorks", MenuKind::Entry},
-    MenuRow{IDM_mnuViewHR1, "mnuViewHR1", "-", MenuKind::Separator},
-    MenuRow{IDM_mnuViewHugeColorDialog, "mnuViewHugeColorDialog", "Großes Farbfeld",
-            MenuKind::Entry},
-    MenuRow{IDM_mnuViewHR2, "mnuViewHR2", "-", MenuKind::Separator},
-    MenuRow{IDM_mnuViewColorLargeIcons, "mnuViewColorLargeIcons", "Große Symbole", MenuKind::Entry},
-    MenuRow{IDM_mnuViewColorSmallIcons, "mnuViewColorSmallIcons", "Kleine Symbole",
-            MenuKind::Entry},
-    MenuRow{IDM_mnuViewColorList, "mnuViewColorList", "Liste", MenuKind::Entry},
-    MenuRow{IDM_mnuViewColorDetails, "mnuViewColorDetails", "Details", MenuKind::Entry},
-
-    MenuRow{IDM_mnuSWX, "mnuSWX", "SolidWorks", MenuKind::Title},
-    MenuRow{IDM_mnuSWXGetColor, "mnuSWXGetColor", "Farbe aus SolidWorks holen", MenuKind::Entry},
-    MenuRow{IDM_mnuSWXNewColorUpdate, "mnuSWXNewColorUpdate", "Neue Farbe aus SolidWorks holen",
-            MenuKind::Entry},
-    MenuRow{IDM_mnuSWXHR1, "mnuSWXHR1", "-", MenuKind::Separator},
-    MenuRow{IDM_mnuSWXSetColor, "mnuSWXSetColor", "Farbe in SolidWorks setzen", MenuKind::Entry},
-    MenuRow{IDM_mnuSWXSetColorComponent, "mnuSWXSetColorComponent",
-            "Farbe der Komponente in SolidWorks setzen", MenuKind::Entry},
-    MenuRow{IDM_mnuSWXHR2, "mnuSWXHR2", "-", MenuKind::Separator},
-    MenuRow{IDM_mnuSWXClearColorFromSelection, "mnuSWXClearColorFromSelection",
-            "Farbe der Auswahl entfernen", MenuKind::Entry},
-    MenuRow{IDM_mnuSWXClearComponentColorFromSelection, "mnuSWXClearComponentColorFromSelection",
-            "Farbe der gewählten Komponenten entfernen", MenuKind::Entry},
-    MenuRow{IDM_mnuSWXClearColorPart, "mnuSWXClearColorPart", "Alle Farben des Teils entfernen",
-            MenuKind::Entry},
-    MenuRow{IDM_mnuSWXClearColorAssembly, "mnuSWXClearColorAssembly",
-            "Farben aller Komponenten entfernen", MenuKind::Entry},
-    MenuRow{IDM_mnuSWXHR3, "mnuSWXHR3", "-", MenuKind::Separator},
-    MenuRow{IDM_mnuSWXGetStandardColor, "mnuSWXGetStandardColor", "Standardfarben holen",
-            MenuKind::Entry},
-    MenuRow{IDM_mnuSWXSetStandardColor, "mnuSWXSetStandardColor", "Standardfarben setzen",
-            MenuKind::Entry},
-
-    MenuRow{IDM_mnuOptions, "mnuOptions", "Optionen", MenuKind::Title},
-    MenuRow{IDM_mnuOptionsLanguage, "mnuOptionsLanguage", "Sprache", MenuKind::Submenu},
-    MenuRow{IDM_mnuOptionsLngGerman, "mnuOptionsLngGerman", "Deutsch", MenuKind::SubmenuEntry},
-    MenuRow{IDM_mnuOptionsLngEnglish, "mnuOptionsLngEnglish", "Englisch", MenuKind::SubmenuEntry},
-    MenuRow{IDM_mnuOptionsConfirmDel, "mnuOptionsConfirmDel", "Löschen immer bestätigen",
-            MenuKind::Entry},
-    MenuRow{IDM_mnuOptionsCreateBackups, "mnuOptionsCreateBackups", "Erzeuge Sicherungskopien",
-            MenuKind::Entry},
-    MenuRow{IDM_mnuOptionsAlwaysOnTop, "mnuOptionsAlwaysOnTop", "Immer im Vordergrund",
-            MenuKind::Entry},
-    MenuRow{IDM_mnuOptionsHR, "mnuOptionsHR", "-", MenuKind::Separator},
-    MenuRow{IDM_mnuOptionsSaveSettings, "mnuOptionsSaveSettings", "Einstellungen speichern",
-            MenuKind::Entry},
-
-    MenuRow{IDM_mnuHlp, "mnuHlp", "Hilfe", MenuKind::Title},
-    MenuRow{IDM_mnuHlpAbout, "mnuHlpAbout", "Info ...", MenuKind::Entry},
-    MenuRow{IDM_mnuHlpShowReadme,
-            "mnuHlpShowReadme",
-            "Liesmich",
-            MenuKind::Entry,
-            {false, false, 0x70}},
-    MenuRow{IDM_mnuHlpShowLizenz, "mnuHlpShowLizenz", "Nutzungsbedingungen", MenuKind::Entry},
-};
+// The row of an entry; null: the number is none's.
+[[nodiscard]] const MenuRow* FindCommand(int command) noexcept;
 
 // The keys of the shortcuts that have a name in each language.
 struct KeyRow {
@@ -142,9 +67,9 @@ struct KeyRow {
 };
 
 inline constexpr std::array kKeyRows = {
-    KeyRow{0x11, "keyCtrl", "Strg"},
-    KeyRow{0x10, "keyShift", "Umschalt"},
-    KeyRow{0x2E, "keyDelete", "Entf"},
+    KeyRow{Key::Control, "keyCtrl", "Strg"},
+    KeyRow{Key::Shift, "keyShift", "Umschalt"},
+    KeyRow{Key::Delete, "keyDelete", "Entf"},
 };
 
 enum class ToolbarGroup : std::uint8_t { Standard, Color, ListView, SolidWorks };

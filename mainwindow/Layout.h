@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mainwindow/MainView.h"
+#include "mainwindow/LayoutPane.h"
 
 // The main window's geometry as plain arithmetic, in twips.
 namespace Layout {

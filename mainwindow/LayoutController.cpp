@@ -2,7 +2,7 @@
 
 #include "mainwindow/Layout.h"
 
-void LayoutController::Resize() {
+void LayoutController::Resized() {
     const LayoutMetrics metrics = pane_.Metrics();
     if (metrics.state != WindowState::Normal)
         return;

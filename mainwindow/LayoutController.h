@@ -1,9 +1,9 @@
 #pragma once
 
-#include "mainwindow/MainView.h"
+#include "mainwindow/LayoutPane.h"
 
 // Runs the layout pass and the splitter drag of the main window.
-class LayoutController {
+class LayoutController : public LayoutEvents {
 public:
     static constexpr float kInitialSplitter = 3000; // left edge as designed
 
@@ -13,18 +13,18 @@ public:
 
     // The layout pass.  Nothing happens while the window is minimised or maximised, on purpose: it
     // keeps the geometry of its last normal size.
-    void Resize();
+    void Resized() override;
 
     // The controls take their places anew: the pixels of a twip are others now.  In every window
     // state.
-    void Apply() { pane_.ApplyLayout(layout_); }
+    void ScaleChanged() override { pane_.ApplyLayout(layout_); }
 
     // The large frame instead of the small swatch, at once and in every window state.
     void SetHugeFrame(bool shown);
 
-    void SplitterPressed();
-    void SplitterDragged(float x); // x: from the splitter's left edge
-    void SplitterReleased();
+    void SplitterPressed() override;
+    void SplitterDragged(float x) override;
+    void SplitterReleased() override;
 
 private:
     LayoutPane& pane_;

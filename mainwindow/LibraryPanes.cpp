@@ -54,7 +54,19 @@ void LibraryPanes::UpdateFromColorPreview() {
     ShowColorNodes(color.groupKey, color.key);
 }
 
+void LibraryPanes::EditSelectedNode() {
+    if (!library_.Tree().Selected().empty())
+        tree_.EditNodeLabel(library_.Tree().Selected());
+}
+
+void LibraryPanes::FinishLabelEdit() {
+    tree_.FinishLabelEdit();
+    list_.FinishEdit();
+}
+
+// The rows of another group end an edit in the list; what stands in the box is meant.
 void LibraryPanes::NodeClicked(const std::string& key) {
+    FinishLabelEdit();
     library_.Tree().Select(key);
     ShowColorNodes({}, {});
 }
@@ -70,6 +82,15 @@ void LibraryPanes::RowClicked(int row) {
     library_.RememberActiveColorNode();
 }
 
+void LibraryPanes::RowEditRequested() {
+    if (MayEditRow())
+        list_.EditSelected();
+}
+
+bool LibraryPanes::MayEditRow() const {
+    return !activity_.operationRuns && activity_.drag == DragMode::None;
+}
+
 // Any text is accepted as typed, also an empty one.
 void LibraryPanes::RowLabelEdited(int row, const std::string& text) {
     const int index = library_.GetColornodeIndex(list_.KeyOfRow(row));
@@ -78,4 +99,9 @@ void LibraryPanes::RowLabelEdited(int row, const std::string& text) {
     library_.Colors().SetNames(index, text);
     if (list_.SelectedRow() == row && editor_.IsNameOfLibrary())
         editor_.Rename(text);
+}
+
+void LibraryPanes::ColumnClicked(int column) {
+    FinishLabelEdit(); // the header leaves the focus where it is
+    list_.SortByColumn(column);
 }

@@ -2,19 +2,30 @@
 
 #include "library/ColorLibrary.h"
 #include "library/LibraryHost.h"
+#include "mainwindow/MainActivity.h"
 #include "mainwindow/ColorEditor.h"
 #include "mainwindow/ColorList.h"
-#include "mainwindow/MainView.h"
+#include "mainwindow/ListPane.h"
+#include "mainwindow/TreePane.h"
 
 #include <optional>
 #include <string>
 
 // Tree, list and editor together: how a selection in one is carried into the others, and how the
 // editor's colour gets into the library.
-class LibraryPanes : public LibraryHost {
+class LibraryPanes : public LibraryHost, public TreeEvents, public ListEvents {
 public:
-    LibraryPanes(ColorLibrary& library, ColorList& list, ColorEditor& editor)
-        : library_(library), list_(list), editor_(editor) {}
+    struct Parts {
+        ColorLibrary& library;
+        TreePane& tree;
+        ColorList& list;
+        ColorEditor& editor;
+        const MainActivity& activity;
+    };
+
+    explicit LibraryPanes(const Parts& parts)
+        : library_(parts.library), tree_(parts.tree), list_(parts.list), editor_(parts.editor),
+          activity_(parts.activity) {}
 
     ColorValueArray ActiveColorValues() override { return editor_.Values(); }
     void ShowColorNodes(const std::optional<std::string>& groupKey,
@@ -30,15 +41,26 @@ public:
     // Writes the editor into the list's selected colour; nothing without one.
     void UpdateFromColorPreview();
 
-    void NodeClicked(const std::string& key);
-    void NodeLabelEdited(const std::string& key, const std::string& text);
-    void RowClicked(int row);
-    void RowLabelEdited(int row, const std::string& text);
+    void EditSelectedNode(); // its label; nothing without one
+    // An open edit of a label, in the tree or in the list, ends and reports its text.
+    void FinishLabelEdit();
+
+    void NodeClicked(const std::string& key) override;
+    bool MayEditNode() const override { return !activity_.operationRuns; }
+    void NodeLabelEdited(const std::string& key, const std::string& text) override;
+
+    void RowClicked(int row) override;
+    void RowEditRequested() override;
+    bool MayEditRow() const override;
+    void RowLabelEdited(int row, const std::string& text) override;
+    void ColumnClicked(int column) override;
 
 private:
     void SelectRememberedColor(const std::string& groupKey);
 
     ColorLibrary& library_;
+    TreePane& tree_;
     ColorList& list_;
     ColorEditor& editor_;
+    const MainActivity& activity_;
 };

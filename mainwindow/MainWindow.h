@@ -1,59 +1,35 @@
 #pragma once
 
 #include "common/Settings.h"
-#include "common/ports/Clipboard.h"
-#include "common/ports/InfoTexts.h"
-#include "common/ports/Prompts.h"
-#include "common/ports/TextCollation.h"
-#include "library/ColorLibrary.h"
-#include "library/FileCommands.h"
 #include "library/LibraryFiles.h"
 #include "mainwindow/BusyStatus.h"
 #include "mainwindow/ColorDrag.h"
-#include "mainwindow/ColorEditor.h"
-#include "mainwindow/ColorList.h"
-#include "mainwindow/EditingCommands.h"
-#include "mainwindow/LayoutController.h"
-#include "mainwindow/LibraryPanes.h"
+#include "mainwindow/CommandTable.h"
+#include "mainwindow/MainCommands.h"
+#include "mainwindow/MainPanes.h"
 #include "mainwindow/MainView.h"
-#include "mainwindow/SolidWorksCommands.h"
-#include "mainwindow/ViewCommands.h"
-#include "solidworks/modSldTools.h"
-#include "support/About.h"
-#include "support/Banner.h"
 #include "support/CFormPos.h"
-#include "support/Options.h"
-#include "support/TextViewer.h"
 #include "support/modRegistry.h"
 
-#include <functional>
-#include <map>
+#include <string>
+#include <vector>
 
-// The main window's rules: joins library, editor, list, layout and SolidWorks commands, runs every
-// command by its number and handles what the user did in frmMain.
-class MainWindow : public MainViewEvents, public FileCommandsHost {
+// The main window as a whole: its set-up at start, its end, and the gate that every command passes.
+class MainWindow : public MainFrameEvents, public FileCommandsHost {
 public:
     struct Parts {
-        MainView& view;
+        MainView view;
         FormWindow& form;
-        Settings& settings;
-        ColorLibrary& library;
+        MainPanes& panes;
+        ColorDrag& drag;
+        MainCommands commands;
         LibraryFiles& libraryFiles;
-        FileCommands& fileCommands;
-        modSldTools& solidWorks;
-        BusyRetry& retry; // repeats its calls
-        EventPump& events;
-        Options& options;
-        About& about;
-        TextViewer& textViewer;
-        Banner& banner;
+        const Settings& settings;
         const modRegistry& registry;
-        Prompts& prompts;
         InfoTexts& texts;
-        Clipboard& clipboard;
-        const TextCollation& collation;
+        BusyRetry& retry; // repeats the calls to SolidWorks
+        EventPump& events;
         bool& stopFlag;
-        std::function<void()> quit; // ends the program
     };
 
     explicit MainWindow(const Parts& parts);
@@ -67,40 +43,8 @@ public:
     // While a SolidWorks operation runs, every command is refused silently; Quit stops a walk
     // first.  A drag that is under way is given up.
     void RunCommand(int command) override;
-
     // Stops an operation that runs, also before its progress window is shown.
     void EscapePressed() override;
-
-    void NodeClicked(const std::string& key) override;
-    void NodeLabelEdited(const std::string& key, const std::string& text) override;
-    void NodeEditRequested() override;
-    std::string CellText(int row, int column) const override;
-    int FindRow(const std::string& text, int start) const override;
-    void RowClicked(int row) override;
-    void RowEditRequested() override;
-    bool MayEditNode() const override;
-    bool MayEditRow() const override;
-    void RowLabelEdited(int row, const std::string& text) override;
-    void ColumnClicked(int column) override;
-    void ListPressed() override;
-    bool DragStarted(const HeldKeys& keys, const DragPoint& at) override;
-    void DragMoved(const DragPoint& at) override;
-    void DragTicked(const DragPoint& at) override;
-    void DragDropped(const DragPoint& at) override;
-    void DragCancelled() override;
-    void ValueTextChanged(std::size_t index, const std::string& text) override;
-    bool IsValueCharacter(char32_t character) const override;
-    void ValueFocused(std::size_t index) override;
-    void SliderMoved(std::size_t index, int position) override;
-    void SwatchDoubleClicked() override;
-    void Resized() override;
-    void ScaleChanged() override;
-    void Repainted() override;
-    void SplitterPressed() override;
-    void SplitterDragged(float x) override;
-    void SplitterReleased() override;
-    void BannerTicked() override;
-    void BannerClicked() override;
     void FilesDropped(const std::vector<std::string>& paths) override;
     void WindowClosing() override;
     void SessionEnding() override;
@@ -109,35 +53,16 @@ public:
     void DeleteSelectedNode() override;
 
 private:
-    using Handler = std::function<void()>;
-    void AddFileHandlers();
-    // Of a command that shows how it went in the status panel: the panel is empty when it begins.
-    void AddReportingHandler(int command, std::function<void()> handler);
+    void Run(const MenuRow& row);
+    void RunOperation(const MenuRow& row);
+    void RunWatched(const MenuRow& row);
     void ForgetStatus();
-    void AddColorHandlers();
-    void AddViewHandlers();
-    void AddSolidWorksHandlers();
-    void AddOptionAndHelpHandlers();
-    void AddSolidWorksHandler(int command, void (SolidWorksCommands::*handler)());
-    void RunSolidWorks(void (SolidWorksCommands::*handler)());
-    void RunWatched(void (SolidWorksCommands::*handler)());
     void EndAfterOperation();
-    void EditSelectedNode();
     void PlaceWindow();
     void ApplyLanguage();
+    [[nodiscard]] MainActivity& Activity() noexcept { return parts_.panes.activity; }
 
     Parts parts_;
-    ColorEditor editor_;
-    ColorList list_;
-    LibraryPanes panes_;
-    LayoutController layout_;
-    ViewCommands views_;
-    EditingCommands editing_;
-    ColorDrag drag_;
-    SolidWorksCommands solidWorks_;
     CFormPos position_;
-    std::map<int, Handler> handlers_; // by command number
-    bool operationRuns_ = false;
-    bool endRequested_ = false; // the user wants the program to end as soon as it is over
     BusyStatus busy_;
 };

@@ -46,7 +46,7 @@ void CompleteStandardColors(std::vector<ColorRecord>& colors, const ColorValueAr
 } // namespace
 
 void SolidWorksCommands::ShowMessage(const std::string& text) {
-    if (parts_.endRequested)
+    if (parts_.activity.endRequested)
         return;
     parts_.prompts.ShowMessage(text, MessageStyle::Information,
                                ProgramNames::SolidWorksMessageTitle);

@@ -7,7 +7,8 @@
 #include "mainwindow/ColorEditor.h"
 #include "mainwindow/ColorList.h"
 #include "mainwindow/LibraryPanes.h"
-#include "mainwindow/MainView.h"
+#include "mainwindow/BarsPane.h"
+#include "mainwindow/MainActivity.h"
 #include "solidworks/modSldTools.h"
 
 #include <string>
@@ -26,7 +27,7 @@ public:
         BarsPane& bars;
         Prompts& prompts;
         InfoTexts& texts;
-        const bool& endRequested; // the program is about to end: nothing is told any more
+        const MainActivity& activity; // when the program is about to end, nothing is told any more
     };
 
     explicit SolidWorksCommands(const Parts& parts) : parts_(parts) {}

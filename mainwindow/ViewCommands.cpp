@@ -84,7 +84,7 @@ void ViewCommands::Turn(int command) {
 
 void ViewCommands::ArrangeWindow() {
     bars_.ArrangeBars();
-    layout_.Resize();
+    layout_.Resized();
 }
 
 void ViewCommands::Show(int command, bool visible) {

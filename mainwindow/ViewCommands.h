@@ -1,9 +1,9 @@
 #pragma once
 
 #include "common/Settings.h"
-#include "mainwindow/ColorList.h"
+#include "mainwindow/BarsPane.h"
 #include "mainwindow/LayoutController.h"
-#include "mainwindow/MainView.h"
+#include "mainwindow/ListPane.h"
 
 #include <map>
 

@@ -1,7 +1,6 @@
 #include "mainwindow/frmMain.h"
 
-#include "mainwindow/CommandTable.h"
-#include "mainwindow/frmMainBars.h"
+#include "library/LibraryNode.h"
 #include "platform/DroppedFiles.h"
 #include "resources/controls.h"
 
@@ -38,7 +37,15 @@ frmMain::frmMain(ErrorSink& errors, const BannerPictures& banners)
       picSponsor_(Add<PictureBox>(At("picSponsor", IDC_picSponsor))),
       picSplitter_(Add<SolidBar>(At("picSplitter", IDC_picSplitter))),
       lblDrag_(Add<Label>(At("lblDrag", IDC_lblDrag))),
-      drag_(*this, {lvColor_, tvColor_, lblDrag_}) {
+      bars_({.menu = menu_, .toolbar = tlbarMain_, .statusBar = stbarMain_}), tree_(tvColor_),
+      list_(lvColor_, Scale()), area_(*this, {.toolbar = tlbarMain_,
+                                              .tree = tvColor_,
+                                              .splitter = imgSplitter_,
+                                              .list = lvColor_,
+                                              .editor = editor_,
+                                              .statusBar = stbarMain_,
+                                              .splitterBar = picSplitter_}),
+      drag_(*this, {.list = lvColor_, .tree = tvColor_, .label = lblDrag_}) {
     MainBars::BuildMenu(menu_);
     menu_.AttachTo(Handle());
     for (FormControl* entry : menu_.Entries())
@@ -50,7 +57,8 @@ frmMain::frmMain(ErrorSink& errors, const BannerPictures& banners)
     for (HiddenCaption& name : accessibleNames_)
         AddDesigned(name);
     lblDrag_.Show(false);
-    FollowSize();
+    bars_.onArranged = [this] { PlaceBanner(); };
+    bars_.ArrangeBars();
 }
 
 // The control is announced by the name, which the language file may replace.
@@ -59,42 +67,33 @@ HiddenCaption frmMain::Announce(Control& control, const char* captionName, const
     return {captionName, name, [&control](const std::string& text) { control.SetText(text); }};
 }
 
-void frmMain::Attach(MainViewEvents& events) {
-    events_ = &events;
-    ConnectTree(events);
-    ConnectList(events);
-    editor_.Attach(events);
-    drag_.Attach(events);
-    tlbarMain_.onCommand = [&events](int command) { events.RunCommand(command); };
-    imgSplitter_.onPress = [&events] { events.SplitterPressed(); };
-    imgSplitter_.onDrag = [this, &events](int x) { events.SplitterDragged(Scale().ToTwips(x)); };
-    imgSplitter_.onRelease = [&events] { events.SplitterReleased(); };
-    picSponsor_.onClick = [&events] { events.BannerClicked(); };
+MainView frmMain::View() {
+    return {.frame = *this,
+            .tree = tree_,
+            .list = list_,
+            .editor = editor_,
+            .bars = bars_,
+            .layout = area_,
+            .drag = drag_};
+}
+
+void frmMain::Attach(const MainEvents& events) {
+    events_.emplace(events);
+    tree_.Attach(events.tree);
+    list_.Attach(events.rows, events.list);
+    editor_.Attach(events.editor);
+    area_.Attach(events.layout);
+    drag_.Attach(events.drag);
+    ConnectCommands(events.frame);
+    picSponsor_.onClick = [&banner = events.banner] { banner.BannerClicked(); };
     OnLayout(); // the list's columns are made for the width that it has in the window as designed
 }
 
-void frmMain::ConnectTree(MainViewEvents& events) {
-    tvColor_.onClick = [&events](const std::string& key) { events.NodeClicked(key); };
-    tvColor_.onEditRequested = [&events] { events.NodeEditRequested(); };
-    tvColor_.mayEdit = [&events] { return events.MayEditNode(); };
-    tvColor_.onLabelEdited = [&events](const std::string& key, const std::string& text) {
-        events.NodeLabelEdited(key, text);
-    };
+void frmMain::ConnectCommands(MainFrameEvents& events) {
+    tlbarMain_.onCommand = [&events](int command) { events.RunCommand(command); };
+    tvColor_.onEditRequested = [&events] { events.RunCommand(IDM_mnuColorRenameNode); };
+    editor_.OnSwatchDoubleClick([&events] { events.RunCommand(IDM_mnuColorChange); });
     tvColor_.onContextMenu = [this](POINT at) { OpenColorMenu(at); };
-}
-
-void frmMain::ConnectList(MainViewEvents& events) {
-    lvColor_.cellText = [&events](int row, int column) { return events.CellText(row, column); };
-    lvColor_.findRow = [&events](const std::string& text, int start) {
-        return events.FindRow(text, start);
-    };
-    lvColor_.onClick = [&events](int row) { events.RowClicked(row); };
-    lvColor_.onEditRequested = [&events] { events.RowEditRequested(); };
-    lvColor_.mayEdit = [&events] { return events.MayEditRow(); };
-    lvColor_.onLabelEdited = [&events](int row, const std::string& text) {
-        events.RowLabelEdited(row, text);
-    };
-    lvColor_.onColumnClick = [&events](int column) { events.ColumnClicked(column); };
     lvColor_.onContextMenu = [this](POINT at) { OpenColorMenu(at); };
 }
 
@@ -103,27 +102,27 @@ void frmMain::OpenColorMenu(POINT at) const {
 }
 
 MessageResult frmMain::OnMessage(const WindowMessage& message) {
-    if (events_ == nullptr)
+    if (!events_)
         return Form::OnMessage(message);
     switch (message.id) {
     case WM_SIZE:
-        FollowSize();
-        events_->Resized();
+        bars_.ArrangeBars();
+        events_->layout.Resized();
         return 0;
     case WM_PAINT:
-        events_->Repainted();
+        events_->editor.Repainted();
         return {};
     case WM_TIMER:
         if (message.wParam == MainDrag::kTimer)
-            events_->DragTicked(drag_.Point());
+            drag_.Tick();
         else
-            events_->BannerTicked();
+            events_->banner.BannerTicked();
         return 0;
     case WM_DROPFILES: {
         const std::vector<std::string> files = TakeDroppedFiles(message.wParam);
         // The shell drops them also while a question is open, in the middle of a command.
         if (IsWindowEnabled(message.window) != FALSE)
-            events_->FilesDropped(files);
+            events_->frame.FilesDropped(files);
         return 0;
     }
     case WM_SETCURSOR: // the controls ask here before they show their own
@@ -133,7 +132,7 @@ MessageResult frmMain::OnMessage(const WindowMessage& message) {
         return TRUE;
     case WM_ENDSESSION: // the session ends without asking for the close box
         if (message.wParam != FALSE)
-            events_->SessionEnding();
+            events_->frame.SessionEnding();
         return 0;
     default:
         return Form::OnMessage(message);
@@ -141,26 +140,23 @@ MessageResult frmMain::OnMessage(const WindowMessage& message) {
 }
 
 void frmMain::OnMenuCommand(int command) {
-    if (events_ != nullptr && MainBars::IsMenuCommand(command))
-        events_->RunCommand(command);
+    if (events_ && MainBars::IsMenuCommand(command))
+        events_->frame.RunCommand(command);
 }
 
 void frmMain::OnCancelKey() {
-    if (events_ != nullptr)
-        events_->EscapePressed();
+    if (events_)
+        events_->frame.EscapePressed();
 }
 
 void frmMain::OnCloseBox() {
-    if (events_ != nullptr)
-        events_->WindowClosing();
+    if (events_)
+        events_->frame.WindowClosing();
 }
 
 bool frmMain::TranslateShortcut(MSG& message) {
     if (drag_.TakeKey(message))
         return true;
-    // Anywhere but in the list the key would delete a colour that the user is not looking at.
-    if (message.wParam == VK_DELETE && GetFocus() != lvColor_.Handle())
-        return false;
     if (message.message == WM_KEYDOWN && message.wParam == VK_F6) {
         FocusNextPane(GetKeyState(VK_SHIFT) < 0);
         return true;
@@ -183,221 +179,26 @@ void frmMain::FocusNextPane(bool backwards) {
         next = (index + (backwards ? panes.size() - 1 : 1)) % panes.size();
     }
     if (panes[next] == editor_.FrameControl().Handle())
-        editor_.Box(0).Focus();
+        editor_.FocusFirstBox();
     else
         SetFocus(panes[next]);
 }
 
 void frmMain::OnScaleChanged() {
-    FollowSize();
-    if (events_ != nullptr)
-        events_->ScaleChanged();
+    bars_.ArrangeBars();
+    if (events_)
+        events_->layout.ScaleChanged();
 }
 
 void frmMain::OnLayout() {
-    FollowSize();
-    if (events_ != nullptr)
-        events_->Resized();
+    bars_.ArrangeBars();
+    if (events_)
+        events_->layout.Resized();
     if (editor_.FrameControl().IsShown()) // a hidden one is arranged when it is shown
         editor_.Arrange();
 }
 
-// The bars place themselves, also while the window is maximised.
-void frmMain::FollowSize() {
-    tlbarMain_.FollowForm();
-    stbarMain_.FollowForm();
-    PlaceBanner();
-}
-
-// TreePane
-
-void frmMain::NodeAdded(const LibraryNode& node) {
-    tvColor_.AddNode(node.key, node.parent, node.text, node.image);
-}
-
-void frmMain::NodeRemoved(const std::string& key) {
-    tvColor_.RemoveNode(key);
-}
-
-void frmMain::NodeTextChanged(const std::string& key, const std::string& text) {
-    tvColor_.SetNodeText(key, text);
-}
-
-void frmMain::NodeExpanded(const std::string& key) {
-    tvColor_.ExpandNode(key);
-}
-
-void frmMain::NodeSelected(const std::string& key) {
-    tvColor_.SelectNode(key);
-}
-
-void frmMain::EditNodeLabel(const std::string& key) {
-    tvColor_.EditLabel(key);
-}
-
-// ListPane
-
-float frmMain::ListWidth() const {
-    return Scale().ToTwips(WidthOf(lvColor_.Bounds()));
-}
-
-void frmMain::AddColumns(const std::vector<ListColumn>& columns) {
-    for (const ListColumn& column : columns)
-        lvColor_.AddColumn(column.caption, Scale().ToPixels(column.width));
-}
-
-void frmMain::ShowSortOrder(int column, bool descending) {
-    lvColor_.MarkColumn(column, descending);
-}
-
-void frmMain::RowsChanged(int rowCount) {
-    lvColor_.SetRowCount(rowCount);
-}
-
-void frmMain::SelectRow(int row) {
-    lvColor_.SelectRow(row);
-}
-
-void frmMain::EnsureRowVisible(int row) {
-    lvColor_.EnsureVisible(row);
-}
-
-void frmMain::EditRowLabel(int row) {
-    lvColor_.EditLabel(row);
-}
-
-void frmMain::FinishLabelEdit() {
-    tvColor_.FinishEdit();
-    lvColor_.FinishEdit();
-}
-
-void frmMain::SetListViewMode(ListViewMode mode) {
-    lvColor_.SetMode(static_cast<int>(mode));
-}
-
-// EditorPane
-
-void frmMain::SetColorName(const std::string& name) {
-    editor_.ColorName().SetText(name);
-}
-
-void frmMain::SetValueText(std::size_t index, const std::string& text) {
-    editor_.Box(index).SetText(text);
-}
-
-void frmMain::SelectWholeValueText(std::size_t index) {
-    editor_.Box(index).SelectAll();
-}
-
-void frmMain::SetSlider(std::size_t index, int position) {
-    editor_.SliderAt(index).SetPosition(position);
-}
-
-void frmMain::SetLargeSwatch(ColorNumber background) {
-    editor_.LargeSwatch().SetColors(background, 0);
-}
-
-void frmMain::SetSmallSwatch(ColorNumber background, ColorNumber text) {
-    editor_.SmallSwatch().SetColors(background, text);
-}
-
-void frmMain::SetSmallSwatchCaption(const std::string& caption) {
-    editor_.SmallSwatch().SetText(caption);
-}
-
-// BarsPane
-
-void frmMain::SetMenuChecked(int command, bool checked) {
-    menu_.SetChecked(command, checked);
-}
-
-void frmMain::SetButtonPressed(const std::string& buttonKey, bool pressed) {
-    tlbarMain_.SetPressed(buttonKey, pressed);
-}
-
-void frmMain::SetButtonVisible(const std::string& buttonKey, bool visible) {
-    tlbarMain_.SetVisible(buttonKey, visible);
-}
-
-void frmMain::SetToolbarVisible(bool visible) {
-    tlbarMain_.Show(visible);
-}
-
-void frmMain::SetStatusBarVisible(bool visible) {
-    stbarMain_.Show(visible);
-}
-
-void frmMain::ArrangeBars() {
-    FollowSize();
-}
-
-void frmMain::SetInfoPanelText(const std::string& text) {
-    stbarMain_.SetPanelText(text);
-}
-
-// LayoutPane
-
-LayoutMetrics frmMain::Metrics() const {
-    const RECT inner = ClientArea();
-    const auto heightWhenShown = [this](const Control& control) {
-        return control.IsShown() ? Scale().ToTwips(HeightOf(control.Bounds())) : 0.0F;
-    };
-    LayoutMetrics metrics;
-    metrics.state = ShownState();
-    metrics.formWidth = Scale().ToTwips(VisibleWidth(Handle()));
-    metrics.innerWidth = Scale().ToTwips(WidthOf(inner));
-    metrics.innerHeight = Scale().ToTwips(HeightOf(inner));
-    metrics.toolbarHeight = heightWhenShown(tlbarMain_);
-    metrics.statusBarHeight = heightWhenShown(stbarMain_);
-    metrics.hugeFrameHeight = Scale().ToTwips(editor_.FrameHeight(WidthOf(inner)));
-    metrics.smallSwatchHeight = Scale().ToTwips(editor_.SmallSwatchHeight());
-    return metrics;
-}
-
-void frmMain::ApplyLayout(const MainLayout& layout) {
-    tvColor_.Place(Scale().ToPixels(layout.tree));
-    imgSplitter_.Place(Scale().ToPixels(layout.splitter));
-    lvColor_.Place(Scale().ToPixels(layout.list));
-    editor_.FrameControl().Place(Scale().ToPixels(layout.frame));
-    editor_.SmallSwatch().Place(Scale().ToPixels(layout.smallSwatch));
-    // Nothing may be typed into a box that nobody sees.
-    if (!layout.hugeFrameShown && IsChild(editor_.FrameControl().Handle(), GetFocus()) != FALSE)
-        SetFocus(lvColor_.Handle());
-    if (layout.hugeFrameShown)
-        editor_.Arrange();
-    editor_.FrameControl().Show(layout.hugeFrameShown);
-    editor_.SmallSwatch().Show(!layout.hugeFrameShown);
-}
-
-void frmMain::ShowSplitterBar(const TwipsRect& bounds) {
-    picSplitter_.Place(Scale().ToPixels(bounds));
-    SetWindowPos(picSplitter_.Handle(), HWND_TOP, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
-}
-
-void frmMain::HideSplitterBar() {
-    picSplitter_.Show(false);
-}
-
-// DragPane
-
-void frmMain::ShowDrag(float left, float top, DragMode picture) {
-    drag_.Show(left, top, picture);
-}
-
-void frmMain::MarkDropNode(const std::string& key) {
-    drag_.Mark(key);
-}
-
-void frmMain::ScrollTree(TreeEdge towards) {
-    drag_.Scroll(towards);
-}
-
-void frmMain::EndDrag() {
-    drag_.End();
-}
-
-// MainView
+// MainFrame
 
 // The visible part of the border is known only once the window is on the screen.
 void frmMain::ShowWindow() {

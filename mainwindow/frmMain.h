@@ -1,8 +1,12 @@
 #pragma once
 
-#include "mainwindow/frmMainDrag.h"
-#include "mainwindow/frmMainEditor.h"
 #include "mainwindow/MainView.h"
+#include "mainwindow/panes/MainArea.h"
+#include "mainwindow/panes/MainBars.h"
+#include "mainwindow/panes/MainDrag.h"
+#include "mainwindow/panes/MainEditor.h"
+#include "mainwindow/panes/MainList.h"
+#include "mainwindow/panes/MainTree.h"
 #include "platform/BannerPictures.h"
 #include "platform/controls/DesignComponent.h"
 #include "platform/controls/HiddenCaption.h"
@@ -21,64 +25,18 @@
 #include <optional>
 
 // The main window.  It shows what it is told and reports what the user did; it decides nothing.
-class frmMain : public FormOf<MainView, FormWindow, LocalizableForm> {
+class frmMain : public FormOf<MainFrame, FormWindow, LocalizableForm> {
 public:
     // Makes the window, hidden.  The pictures must outlive it.
     frmMain(ErrorSink& errors, const BannerPictures& banners);
 
+    // The panes, for as long as this form is there.
+    [[nodiscard]] MainView View();
+
     // Reports go to events from then on.
-    void Attach(MainViewEvents& events);
+    void Attach(const MainEvents& events);
 
-    // TreePane
-    void NodeAdded(const LibraryNode& node) override;
-    void NodeRemoved(const std::string& key) override;
-    void NodeTextChanged(const std::string& key, const std::string& text) override;
-    void NodeExpanded(const std::string& key) override;
-    void NodeSelected(const std::string& key) override;
-    void EditNodeLabel(const std::string& key) override;
-
-    // ListPane
-    [[nodiscard]] float ListWidth() const override;
-    void AddColumns(const std::vector<ListColumn>& columns) override;
-    void ShowSortOrder(int column, bool descending) override;
-    void RowsChanged(int rowCount) override;
-    void SelectRow(int row) override;
-    void EnsureRowVisible(int row) override;
-    void EditRowLabel(int row) override;
-    void FinishLabelEdit() override;
-    void SetListViewMode(ListViewMode mode) override;
-
-    // EditorPane
-    void SetColorName(const std::string& name) override;
-    void SetValueText(std::size_t index, const std::string& text) override;
-    void SelectWholeValueText(std::size_t index) override;
-    void SetSlider(std::size_t index, int position) override;
-    void SetLargeSwatch(ColorNumber background) override;
-    void SetSmallSwatch(ColorNumber background, ColorNumber text) override;
-    void SetSmallSwatchCaption(const std::string& caption) override;
-
-    // BarsPane
-    void SetMenuChecked(int command, bool checked) override;
-    void SetButtonPressed(const std::string& buttonKey, bool pressed) override;
-    void SetButtonVisible(const std::string& buttonKey, bool visible) override;
-    void SetToolbarVisible(bool visible) override;
-    void SetStatusBarVisible(bool visible) override;
-    void ArrangeBars() override;
-    void SetInfoPanelText(const std::string& text) override;
-
-    // LayoutPane
-    [[nodiscard]] LayoutMetrics Metrics() const override;
-    void ApplyLayout(const MainLayout& layout) override;
-    void ShowSplitterBar(const TwipsRect& bounds) override;
-    void HideSplitterBar() override;
-
-    // DragPane
-    void ShowDrag(float left, float top, DragMode picture) override;
-    void MarkDropNode(const std::string& key) override;
-    void ScrollTree(TreeEdge towards) override;
-    void EndDrag() override;
-
-    // MainView
+    // MainFrame
     void ShowWindow() override;
     void SetBanner(int index) override;
     void StopBannerTimer() override;
@@ -98,17 +56,14 @@ private:
     [[nodiscard]] static HiddenCaption Announce(Control& control, const char* captionName,
                                                 const char* name);
     [[nodiscard]] ControlPlace At(const char* name, int id) const { return {name, id, Handle()}; }
-    void ConnectTree(MainViewEvents& events);
-    void ConnectList(MainViewEvents& events);
+    void ConnectCommands(MainFrameEvents& events);
     void OpenColorMenu(POINT at) const;
-    void FollowSize();
     void FocusNextPane(bool backwards);
     void PlaceBanner();
-
     [[nodiscard]] bool ShowsWaiting() const noexcept;
 
     const BannerPictures& banners_;
-    MainViewEvents* events_ = nullptr; // until it is attached, there is nothing to report
+    std::optional<MainEvents> events_; // until it is attached, there is nothing to report
     MenuBar menu_;
     Shortcuts shortcuts_;
     IconList imlToolbarIcons_;
@@ -126,6 +81,10 @@ private:
     PictureBox& picSponsor_;
     SolidBar& picSplitter_;
     Label& lblDrag_;
+    MainBars bars_;
+    MainTree tree_;
+    MainList list_;
+    MainArea area_;
     MainDrag drag_;
     std::optional<WaitCursor> waiting_;
     std::array<HiddenCaption, 3> accessibleNames_ = {

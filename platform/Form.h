@@ -62,6 +62,10 @@ public:
     // Shortcuts first, then Tab, Enter, Escape and access keys.  True: the message is done with.
     bool TranslateKeys(MSG& message);
 
+    [[nodiscard]] RECT ClientArea() const noexcept;
+    // The real state, also while a hidden window waits to be shown in another one.
+    [[nodiscard]] WindowState ShownState() const;
+
     // From now on nothing is reported, whatever happens to the window.
     void StopReporting() noexcept { closing_ = true; }
 
@@ -99,9 +103,6 @@ protected:
     void MakeTopmost(bool onTop) { MakeWindowTopmost(window_, onTop); }
     [[nodiscard]] const std::vector<FormControl*>& DesignedControls() const { return designed_; }
 
-    [[nodiscard]] RECT ClientArea() const noexcept;
-    // The real state, also while a hidden window waits to be shown in another one.
-    [[nodiscard]] WindowState ShownState() const;
     void Show();
     void Hide();
 

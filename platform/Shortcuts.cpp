@@ -5,10 +5,11 @@
 
 namespace {
 
-AcceleratorHandle MakeTable(const std::vector<ShortcutDesign>& designs, bool leavesTextEntryAlone) {
+template <typename Condition>
+AcceleratorHandle MakeTable(const std::vector<ShortcutDesign>& designs, Condition belongs) {
     std::vector<ACCEL> keys;
     for (const ShortcutDesign& design : designs) {
-        if (design.leavesTextEntryAlone != leavesTextEntryAlone)
+        if (!belongs(design))
             continue;
         const int flags = FVIRTKEY | (design.ctrl ? FCONTROL : 0) | (design.shift ? FSHIFT : 0);
         keys.push_back({static_cast<BYTE>(flags), design.key, static_cast<WORD>(design.command)});
@@ -16,6 +17,10 @@ AcceleratorHandle MakeTable(const std::vector<ShortcutDesign>& designs, bool lea
     if (keys.empty())
         return {};
     return AcceleratorHandle(CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));
+}
+
+bool Takes(const AcceleratorHandle& table, HWND form, MSG& message) {
+    return table && TranslateAcceleratorW(form, table.Get(), &message) != 0;
 }
 
 bool IsTextEntry(HWND window) {
@@ -46,11 +51,26 @@ std::string ShortcutName(const ShortcutDesign& design, const KeyNames& names) {
 }
 
 Shortcuts::Shortcuts(const std::vector<ShortcutDesign>& designs)
-    : always_(MakeTable(designs, false)), outsideText_(MakeTable(designs, true)) {}
+    : always_(MakeTable(designs,
+                        [](const ShortcutDesign& design) {
+                            return !design.leavesTextEntryAlone && design.onlyInControl == 0;
+                        })),
+      outsideText_(MakeTable(
+          designs, [](const ShortcutDesign& design) { return design.leavesTextEntryAlone; })) {
+    for (const ShortcutDesign& wanted : designs)
+        if (wanted.onlyInControl != 0)
+            inControl_.try_emplace(
+                wanted.onlyInControl,
+                MakeTable(designs, [control = wanted.onlyInControl](const ShortcutDesign& design) {
+                    return design.onlyInControl == control;
+                }));
+}
 
 bool Shortcuts::Translate(HWND form, MSG& message) const {
-    if (always_ && TranslateAcceleratorW(form, always_.Get(), &message) != 0)
+    if (Takes(always_, form, message))
         return true;
-    return outsideText_ && !IsTextEntry(message.hwnd) &&
-           TranslateAcceleratorW(form, outsideText_.Get(), &message) != 0;
+    if (!IsTextEntry(message.hwnd) && Takes(outsideText_, form, message))
+        return true;
+    const auto here = inControl_.find(GetDlgCtrlID(message.hwnd));
+    return here != inControl_.end() && Takes(here->second, form, message);
 }

@@ -13,6 +13,7 @@ struct ShortcutDesign {
     bool shift;
     WORD key;                  // virtual key
     bool leavesTextEntryAlone; // not taken while text is typed
+    int onlyInControl; // taken only while the control with this number has the focus; 0: any
 };
 
 // What keys are called, by their virtual keys.
@@ -21,8 +22,7 @@ using KeyNames = std::map<WORD, std::string>;
 // "Ctrl+S".  Letters, digits and function keys need no name in names.
 [[nodiscard]] std::string ShortcutName(const ShortcutDesign& design, const KeyNames& names);
 
-// The keys that run commands; while text is typed, a label edit included, those that the text
-// itself needs are left alone.
+// The keys that run commands, each where it may be taken; a label edit is typed text.
 class Shortcuts {
 public:
     explicit Shortcuts(const std::vector<ShortcutDesign>& designs);
@@ -33,4 +33,5 @@ public:
 private:
     AcceleratorHandle always_;
     AcceleratorHandle outsideText_;
+    std::map<int, AcceleratorHandle> inControl_; // by the control's number
 };

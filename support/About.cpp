@@ -42,5 +42,5 @@ void About::MailClicked() {
 }
 
 void About::BannerClicked() {
-    parts_.banner.Click();
+    parts_.banner.BannerClicked();
 }

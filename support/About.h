@@ -20,7 +20,7 @@ public:
         const modRegistry& registry;
         const modinternet& links;
         SystemInformation& systemInformation;
-        const Banner& banner;
+        Banner& banner;
         std::string version; // major, minor and revision joined by "."
     };
 

@@ -41,7 +41,7 @@ void Banner::Start(const std::string& storedIndex) {
     Show(addresses_.empty() ? 0 : (isPicture ? stored_ : 1));
 }
 
-void Banner::Tick() {
+void Banner::BannerTicked() {
     if (addresses_.empty())
         return;
     if (counter_ == 0)
@@ -52,7 +52,7 @@ void Banner::Tick() {
     Show(counter_);
 }
 
-void Banner::Click() const {
+void Banner::BannerClicked() {
     if (index_ == 0)
         return;
     const std::string& address = addresses_[static_cast<std::size_t>(index_) - 1];

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/BannerEvents.h"
 #include "support/modinternet.h"
 
 #include <functional>
@@ -15,7 +16,7 @@
 
 // One picture at a time out of a list, each with the web address that a click on it opens, if it
 // has one.
-class Banner {
+class Banner : public BannerEvents {
 public:
     // addresses: one for each picture, or empty.  show: puts the picture with an index (from 1; 0:
     // none) into the banner picture boxes.
@@ -26,9 +27,9 @@ public:
     // The index that start-up read as text; anything but the number of a picture gives 1.
     void Start(const std::string& storedIndex);
 
-    // The timer: the next picture, after the last one the first.
-    void Tick();
-    void Click() const;
+    // The next picture, after the last one the first.
+    void BannerTicked() override;
+    void BannerClicked() override;
 
     // From 1; 0: there are no pictures.
     [[nodiscard]] int Index() const noexcept { return index_; }

@@ -36,7 +36,7 @@ void TextViewer::EntryChosen(int index) {
 }
 
 void TextViewer::BannerClicked() {
-    parts_.banner.Click();
+    parts_.banner.BannerClicked();
 }
 
 TwipsSize TextViewer::TextSize(const TwipsSize& innerArea) const {

@@ -18,7 +18,7 @@ public:
         Files& files;
         const AnsiCodePage& codePage;
         const Settings& settings;
-        const Banner& banner;
+        Banner& banner;
         std::string programFolder; // without a backslash at its end
     };
 

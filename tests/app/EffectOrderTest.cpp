@@ -94,14 +94,14 @@ TEST_F(EffectOrder,
 TEST_F(EffectOrder, QuitStopsTheBannerThenStoresItsIndexThenEnds) {
     program.application.Start();
     program.effects.clear();
-    program.application.MainEvents().RunCommand(IDM_mnuQuit);
+    program.application.MainWindowEvents().frame.RunCommand(IDM_mnuQuit);
     EXPECT_EQ(program.effects, (Effects{"stop banner", "write LastSponsorShown", "end"}));
 }
 
 TEST_F(EffectOrder, CloseBoxStoresThePositionAndThenQuits) {
     program.application.Start();
     program.effects.clear();
-    program.application.MainEvents().WindowClosing();
+    program.application.MainWindowEvents().frame.WindowClosing();
     EXPECT_EQ(program.effects,
               (Effects{"write frmMain", "stop banner", "write LastSponsorShown", "end"}));
 }

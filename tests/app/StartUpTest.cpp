@@ -172,9 +172,9 @@ TEST_F(StartUpTest, BannerStartsAtTheStoredIndexOrAtOne) {
 
 TEST_F(StartUpTest, QuitFromTheMenuStoresTheBannerAloneAndAsksNothing) {
     program.application.Start();
-    program.Main().BannerTicked();
+    program.Main().banner.BannerTicked();
     program.registry.written.clear();
-    program.Main().RunCommand(IDM_mnuQuit);
+    program.Main().frame.RunCommand(IDM_mnuQuit);
     EXPECT_EQ(program.registry.written,
               std::vector<std::string>{FakeProgram::Setting("LastSponsorShown")});
     EXPECT_EQ(program.registry.Text(FakeProgram::Setting("LastSponsorShown")), "2");
@@ -185,7 +185,7 @@ TEST_F(StartUpTest, QuitFromTheMenuStoresTheBannerAloneAndAsksNothing) {
 TEST_F(StartUpTest, CloseBoxStoresThePositionBeforeItQuits) {
     program.application.Start();
     program.registry.written.clear();
-    program.Main().WindowClosing();
+    program.Main().frame.WindowClosing();
     EXPECT_EQ(program.registry.written,
               (std::vector<std::string>{"SOFTWARE\\Chromixs\\TNT4SWX\\Form Positions|frmMain",
                                         FakeProgram::Setting("LastSponsorShown")}));
@@ -194,9 +194,9 @@ TEST_F(StartUpTest, CloseBoxStoresThePositionBeforeItQuits) {
 
 TEST_F(StartUpTest, OptionsAreStoredByTheSaveCommandAlone) {
     program.application.Start();
-    program.Main().RunCommand(IDM_mnuOptionsConfirmDel);
+    program.Main().frame.RunCommand(IDM_mnuOptionsConfirmDel);
     EXPECT_EQ(program.registry.Text(FakeProgram::Setting("ConfirmDel")), "(none)");
-    program.Main().RunCommand(IDM_mnuOptionsSaveSettings);
+    program.Main().frame.RunCommand(IDM_mnuOptionsSaveSettings);
     EXPECT_EQ(program.registry.Text(FakeProgram::Setting("ConfirmDel")), "False");
     EXPECT_EQ(program.registry.Text(FakeProgram::Setting("Language")), "1");
     EXPECT_EQ(program.registry.Text(FakeProgram::Setting("ViewToolbar")), "True");

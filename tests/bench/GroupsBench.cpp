@@ -46,7 +46,7 @@ double LoadTime(const ScratchFolder& folder, const std::string& name, int groups
     Win32EventPump pump;
     pump.ProcessPendingEvents();
     const auto begin = Clock::now();
-    program.application.MainEvents().FilesDropped({folder.File(name)});
+    program.application.MainWindowEvents().frame.FilesDropped({folder.File(name)});
     pump.ProcessPendingEvents();
     const double time = Milliseconds(Clock::now() - begin).count();
     const LRESULT nodes =

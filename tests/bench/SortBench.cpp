@@ -120,7 +120,7 @@ bool MeasureColumn(const char* title, int column, int colors, int repetitions) {
         auto sameTexts = texts;
         Time(plain, [&] { std::ranges::sort(texts, ComesBefore); });
         Time(stable, [&] { std::ranges::stable_sort(sameTexts, ComesBefore); });
-        Time(click, [&] { big.list.ColumnClicked(column); });
+        Time(click, [&] { big.list.SortByColumn(column); });
         isRight = isRight && IsSorted(big, column);
     }
     std::printf("\n| %s | median, ms | least - most, ms |\n| --- | --- | --- |\n", title);

@@ -11,8 +11,24 @@
 #include <vector>
 
 // A main window in memory: keeps what it is told as a person would see it.
-class FakeMainView : public MainView {
+class FakeMainView : public MainFrame,
+                     public TreePane,
+                     public ListPane,
+                     public EditorPane,
+                     public BarsPane,
+                     public LayoutPane,
+                     public DragPane {
 public:
+    [[nodiscard]] MainView View() {
+        return {.frame = *this,
+                .tree = *this,
+                .list = *this,
+                .editor = *this,
+                .bars = *this,
+                .layout = *this,
+                .drag = *this};
+    }
+
     // Tree
     void NodeAdded(const LibraryNode& node) override { nodes[node.key] = node.text; }
     void NodeRemoved(const std::string& key) override {

@@ -93,7 +93,7 @@ public:
         textViewer.events = &application.TextViewerWindowEvents();
     }
 
-    MainViewEvents& Main() { return application.MainEvents(); }
+    MainEvents Main() { return application.MainWindowEvents(); }
 
     // The settings' key of the registry.
     static std::string Setting(const std::string& name) {
@@ -129,7 +129,8 @@ public:
     Application application{
         {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
          language, errors, calendar},
-        {view, mainWindow, mainForm, about, textViewer, progress, progressWindow, progressForm},
+        {view.View(), mainWindow, mainForm, about, textViewer, progress, progressWindow,
+         progressForm},
         {"C:\\prog",
          "1.2.7",
          {"https://www.example.org/1", "https://www.example.org/2", "https://www.example.org/3"},

@@ -28,9 +28,9 @@ public:
         program.files.contents["C:\\a.tnt"] = "\"D#Lib=0D:1\"\r\n\"G#g=0DG1\"\r\n";
         program.registry.SetText(FakeProgram::Setting("DefaultColorFile"), "C:\\a.tnt");
         program.application.Start();
-        program.Main().NodeClicked("0DG1");
+        program.Main().tree.NodeClicked("0DG1");
         program.prompts.typed = {"one"};
-        program.Main().RunCommand(IDM_mnuColorNewColor);
+        program.Main().frame.RunCommand(IDM_mnuColorNewColor);
         if (command.prepare)
             command.prepare(program);
         if (command.select)
@@ -46,7 +46,7 @@ public:
         program.view.infoPanel.clear();
         program.progress.calls.clear();
         try {
-            program.Main().RunCommand(command_.number);
+            program.Main().frame.RunCommand(command_.number);
         } catch (const RuntimeError& error) {
             program.errors.ReportError(error);
         }
@@ -60,7 +60,7 @@ public:
             state.push_back(key + "=" + text);
         for (int row = 0; row < program.view.rowCount; ++row)
             for (int column = 1; column <= 10; ++column)
-                state.push_back(program.Main().CellText(row, column));
+                state.push_back(program.Main().rows.CellText(row, column));
         state.push_back(program.view.colorName);
         state.insert(state.end(), program.view.valueTexts.begin(), program.view.valueTexts.end());
         return state;

@@ -28,16 +28,16 @@ inline void AComponent(const StandInClient& client) {
 namespace FaultyGroup {
 
 inline void AsTheTable(FakeProgram& program) {
-    program.Main().RunCommand(IDM_mnuSWXGetStandardColor);
+    program.Main().frame.RunCommand(IDM_mnuSWXGetStandardColor);
 }
 inline void WithAnotherName(FakeProgram& program) {
     AsTheTable(program);
-    program.Main().RowLabelEdited(0, "another");
+    program.Main().list.RowLabelEdited(0, "another");
 }
 inline void WithOneMore(FakeProgram& program) {
     AsTheTable(program);
     program.prompts.typed = {"one more"};
-    program.Main().RunCommand(IDM_mnuColorNewColor);
+    program.Main().frame.RunCommand(IDM_mnuColorNewColor);
 }
 
 } // namespace FaultyGroup

@@ -48,9 +48,9 @@ protected:
         program.registry.SetText(FakeProgram::Setting("DefaultColorFile"), "C:\\a.tnt");
         program.application.Start();
         program.prompts.typed = {"Other", "o", ""};
-        program.Main().RunCommand(IDM_mnuColorNewMainNode);
-        program.Main().NodeClicked("0DG1");
-        program.Main().RowClicked(1);
+        program.Main().frame.RunCommand(IDM_mnuColorNewMainNode);
+        program.Main().tree.NodeClicked("0DG1");
+        program.Main().list.RowClicked(1);
         program.prompts.messages.clear();
     }
 
@@ -61,19 +61,19 @@ protected:
         return line + "\"\r\n";
     }
     void Drag(const HeldKeys& keys, const DragPoint& to) {
-        program.Main().ListPressed();
-        ASSERT_TRUE(program.Main().DragStarted(keys, OverList()));
-        program.Main().DragMoved(to);
-        program.Main().DragDropped(to);
+        program.Main().drag.ListPressed();
+        ASSERT_TRUE(program.Main().drag.DragStarted(keys, OverList()));
+        program.Main().drag.DragMoved(to);
+        program.Main().drag.DragDropped(to);
     }
     [[nodiscard]] Names ShownNames() {
         Names names;
         for (int row = 0; row < program.view.rowCount; ++row)
-            names.push_back(program.Main().CellText(row, 1));
+            names.push_back(program.Main().rows.CellText(row, 1));
         return names;
     }
     [[nodiscard]] Names NamesIn(const std::string& group) {
-        program.Main().NodeClicked(group);
+        program.Main().tree.NodeClicked(group);
         return ShownNames();
     }
 
@@ -98,8 +98,8 @@ TEST_F(ColorDragTest, CopyLeavesTheColorInItsGroup) {
 
 TEST_F(ColorDragTest, OnlyCtrlAloneCopies) {
     const auto modeWith = [this](bool shift, bool ctrl, bool alt) {
-        EXPECT_TRUE(program.Main().DragStarted({shift, ctrl, alt}, OverList()));
-        program.Main().DragCancelled();
+        EXPECT_TRUE(program.Main().drag.DragStarted({shift, ctrl, alt}, OverList()));
+        program.Main().drag.DragCancelled();
         return program.view.dragPicture;
     };
     EXPECT_EQ(modeWith(false, true, false), DragMode::Copy);
@@ -112,14 +112,14 @@ TEST_F(ColorDragTest, OnlyCtrlAloneCopies) {
 TEST_F(ColorDragTest, MovedColorKeepsItsNineValuesAndStaysOnTheClipboard) {
     Drag(kNoKey, OverNode("1DG1"));
     for (int value = 1; value <= 9; ++value)
-        EXPECT_EQ(program.Main().CellText(0, 1 + value), std::to_string(value));
+        EXPECT_EQ(program.Main().rows.CellText(0, 1 + value), std::to_string(value));
     EXPECT_EQ(program.clipboard.text, "E#b=0DG1:b,1,2,3,4,5,6,7,8,9");
-    program.Main().RunCommand(IDM_mnuColorPaste);
+    program.Main().frame.RunCommand(IDM_mnuColorPaste);
     EXPECT_EQ(ShownNames(), (Names{"b", "b"})) << "a second paste makes a second copy";
 }
 
 TEST_F(ColorDragTest, MoveThatWouldRenameTheColorTellsSoAndMovesNothing) {
-    program.Main().RowLabelEdited(1, "a=b");
+    program.Main().list.RowLabelEdited(1, "a=b");
     Drag(kNoKey, OverNode("0DG2"));
     EXPECT_EQ(program.prompts.messages, (std::vector<Message>{{"<5> CLIPBOARD", 48, "<98>"}}));
     EXPECT_EQ(program.view.selectedNode, "0DG1");
@@ -155,61 +155,61 @@ TEST_F(ColorDragTest, DropOnTheListChangesNothing) {
 }
 
 TEST_F(ColorDragTest, LabelEditIsRefusedWhileTheColorIsDragged) {
-    EXPECT_TRUE(program.Main().MayEditRow());
-    ASSERT_TRUE(program.Main().DragStarted(kCtrl, OverList()));
-    EXPECT_FALSE(program.Main().MayEditRow());
-    program.Main().RowEditRequested();
+    EXPECT_TRUE(program.Main().list.MayEditRow());
+    ASSERT_TRUE(program.Main().drag.DragStarted(kCtrl, OverList()));
+    EXPECT_FALSE(program.Main().list.MayEditRow());
+    program.Main().list.RowEditRequested();
     EXPECT_EQ(program.view.editedRow, -1);
-    program.Main().DragDropped(OverList());
-    EXPECT_TRUE(program.Main().MayEditRow());
+    program.Main().drag.DragDropped(OverList());
+    EXPECT_TRUE(program.Main().list.MayEditRow());
 }
 
 TEST_F(ColorDragTest, DropBesideTheNodesLeavesTheModeUntilTheListIsPressed) {
     Drag(kNoKey, kNowhere);
-    EXPECT_FALSE(program.Main().MayEditRow());
-    program.Main().ListPressed();
-    EXPECT_TRUE(program.Main().MayEditRow());
+    EXPECT_FALSE(program.Main().list.MayEditRow());
+    program.Main().drag.ListPressed();
+    EXPECT_TRUE(program.Main().list.MayEditRow());
 }
 
 TEST_F(ColorDragTest, EveryDropOnANodeEndsTheDrag) {
     for (const char* node : {"1D", "0DG2"}) {
         Drag(kCtrl, OverNode(node));
-        EXPECT_TRUE(program.Main().MayEditRow()) << node;
+        EXPECT_TRUE(program.Main().list.MayEditRow()) << node;
         EXPECT_FALSE(program.view.isDragShown) << node;
         EXPECT_EQ(program.view.dropNode, "") << node;
     }
 }
 
 TEST_F(ColorDragTest, CancelledDragDropsNothingAndEndsIt) {
-    ASSERT_TRUE(program.Main().DragStarted(kNoKey, OverList()));
-    program.Main().DragMoved(OverNode("0DG2"));
-    program.Main().DragCancelled();
+    ASSERT_TRUE(program.Main().drag.DragStarted(kNoKey, OverList()));
+    program.Main().drag.DragMoved(OverNode("0DG2"));
+    program.Main().drag.DragCancelled();
     EXPECT_FALSE(program.view.isDragShown);
     EXPECT_EQ(program.view.dropNode, "");
-    EXPECT_TRUE(program.Main().MayEditRow());
-    program.Main().DragDropped(OverNode("0DG2"));
+    EXPECT_TRUE(program.Main().list.MayEditRow());
+    program.Main().drag.DragDropped(OverNode("0DG2"));
     EXPECT_EQ(NamesIn("0DG2"), (Names{"x"}));
 }
 
 TEST_F(ColorDragTest, CommandGivesTheDragUp) {
-    ASSERT_TRUE(program.Main().DragStarted(kNoKey, OverList()));
-    program.Main().RunCommand(IDM_mnuColorDelColor);
-    program.Main().DragDropped(OverNode("0DG2"));
+    ASSERT_TRUE(program.Main().drag.DragStarted(kNoKey, OverList()));
+    program.Main().frame.RunCommand(IDM_mnuColorDelColor);
+    program.Main().drag.DragDropped(OverNode("0DG2"));
     EXPECT_EQ(NamesIn("0DG1"), (Names{"a", "c"})) << "deleted by the command alone";
     EXPECT_EQ(NamesIn("0DG2"), (Names{"x"}));
 }
 
 TEST_F(ColorDragTest, EmptyListStartsNoDrag) {
-    program.Main().NodeClicked("1DG1");
-    EXPECT_FALSE(program.Main().DragStarted(kNoKey, OverList()));
+    program.Main().tree.NodeClicked("1DG1");
+    EXPECT_FALSE(program.Main().drag.DragStarted(kNoKey, OverList()));
     EXPECT_FALSE(program.view.isDragShown);
 }
 
 TEST_F(ColorDragTest, LabelFollowsThePointer) {
-    ASSERT_TRUE(program.Main().DragStarted(kNoKey, OverList()));
+    ASSERT_TRUE(program.Main().drag.DragStarted(kNoKey, OverList()));
     EXPECT_EQ(program.view.dragLeft, 4000);
     EXPECT_EQ(program.view.dragTop, 900);
-    program.Main().DragMoved(OverNode("0DG2"));
+    program.Main().drag.DragMoved(OverNode("0DG2"));
     EXPECT_EQ(program.view.dragLeft, 300);
     EXPECT_EQ(program.view.dragTop, 600);
 }
@@ -217,32 +217,32 @@ TEST_F(ColorDragTest, LabelFollowsThePointer) {
 TEST_F(ColorDragTest, PointerShowsTheModeWhereADropIsPossible) {
     for (const auto& [keys, mode] :
          {std::pair{kNoKey, DragMode::Move}, std::pair{kCtrl, DragMode::Copy}}) {
-        ASSERT_TRUE(program.Main().DragStarted(keys, OverList()));
+        ASSERT_TRUE(program.Main().drag.DragStarted(keys, OverList()));
         EXPECT_EQ(program.view.dragPicture, mode);
-        program.Main().DragMoved(OverNode("0DG2"));
+        program.Main().drag.DragMoved(OverNode("0DG2"));
         EXPECT_EQ(program.view.dragPicture, mode);
         for (const DragPoint& refusing : {OverNode("1D"), kNowhere}) {
-            program.Main().DragMoved(refusing);
+            program.Main().drag.DragMoved(refusing);
             EXPECT_EQ(program.view.dragPicture, DragMode::None);
         }
-        program.Main().DragCancelled();
+        program.Main().drag.DragCancelled();
     }
 }
 
 TEST_F(ColorDragTest, OnlyAGroupIsMarkedAsTheTarget) {
-    ASSERT_TRUE(program.Main().DragStarted(kNoKey, OverList()));
-    program.Main().DragMoved(OverNode("0DG2"));
+    ASSERT_TRUE(program.Main().drag.DragStarted(kNoKey, OverList()));
+    program.Main().drag.DragMoved(OverNode("0DG2"));
     EXPECT_EQ(program.view.dropNode, "0DG2");
-    program.Main().DragMoved(OverNode("1D"));
+    program.Main().drag.DragMoved(OverNode("1D"));
     EXPECT_EQ(program.view.dropNode, "");
 }
 
 TEST_F(ColorDragTest, LibraryOnWhichThePointerRestsShowsItsGroups) {
     program.view.expanded.clear();
-    ASSERT_TRUE(program.Main().DragStarted(kNoKey, OverList()));
+    ASSERT_TRUE(program.Main().drag.DragStarted(kNoKey, OverList()));
     const auto tick = [&](const std::string& node, int times) {
         for (int time = 0; time < times; ++time)
-            program.Main().DragTicked(OverNode(node));
+            program.Main().drag.DragTicked(OverNode(node));
     };
     tick("1D", ColorDrag::kTicksToExpand - 1);
     tick("0D", 1);
@@ -256,18 +256,18 @@ TEST_F(ColorDragTest, LibraryOnWhichThePointerRestsShowsItsGroups) {
 }
 
 TEST_F(ColorDragTest, TreeScrollsWhileThePointerIsNearItsEdge) {
-    ASSERT_TRUE(program.Main().DragStarted(kNoKey, OverList()));
-    program.Main().DragTicked(AtEdge(TreeEdge::Top));
-    program.Main().DragTicked(AtEdge(TreeEdge::None));
-    program.Main().DragTicked(AtEdge(TreeEdge::Bottom));
+    ASSERT_TRUE(program.Main().drag.DragStarted(kNoKey, OverList()));
+    program.Main().drag.DragTicked(AtEdge(TreeEdge::Top));
+    program.Main().drag.DragTicked(AtEdge(TreeEdge::None));
+    program.Main().drag.DragTicked(AtEdge(TreeEdge::Bottom));
     EXPECT_EQ(program.view.scrolls, (std::vector<TreeEdge>{TreeEdge::Top, TreeEdge::Bottom}));
 }
 
 TEST_F(ColorDragTest, TicksAndMovesAfterTheEndDoNothing) {
     Drag(kCtrl, OverNode("0DG2"));
-    program.Main().DragMoved(OverNode("0DG1"));
+    program.Main().drag.DragMoved(OverNode("0DG1"));
     for (int time = 0; time < 2 * ColorDrag::kTicksToExpand; ++time)
-        program.Main().DragTicked(AtEdge(TreeEdge::Top));
+        program.Main().drag.DragTicked(AtEdge(TreeEdge::Top));
     EXPECT_FALSE(program.view.isDragShown);
     EXPECT_EQ(program.view.dropNode, "");
     EXPECT_TRUE(program.view.scrolls.empty());
@@ -275,10 +275,10 @@ TEST_F(ColorDragTest, TicksAndMovesAfterTheEndDoNothing) {
 
 TEST_F(ColorDragTest, MoveWithTheClipboardHeldLosesNothingAndEndsTheDrag) {
     program.clipboard.isBusy = true;
-    program.Main().ListPressed();
-    ASSERT_TRUE(program.Main().DragStarted(kNoKey, OverList()));
-    EXPECT_THROW(program.Main().DragDropped(OverNode("0DG2")), RuntimeError);
-    EXPECT_TRUE(program.Main().MayEditRow());
+    program.Main().drag.ListPressed();
+    ASSERT_TRUE(program.Main().drag.DragStarted(kNoKey, OverList()));
+    EXPECT_THROW(program.Main().drag.DragDropped(OverNode("0DG2")), RuntimeError);
+    EXPECT_TRUE(program.Main().list.MayEditRow());
     EXPECT_EQ(ShownNames(), (Names{"a", "b", "c"}));
     EXPECT_EQ(NamesIn("0DG2"), (Names{"x"}));
 }
@@ -291,7 +291,7 @@ TEST_F(ColorDragTest, MoveArrivesAlsoWhenTheClipboardChangesMeanwhile) {
 }
 
 TEST_F(ColorDragTest, ColorThatAPasteWouldRefuseStaysWhereItIs) {
-    program.Main().RowLabelEdited(1, "light, warm");
+    program.Main().list.RowLabelEdited(1, "light, warm");
     Drag(kNoKey, OverNode("0DG2"));
     EXPECT_EQ(program.prompts.messages, (std::vector<Message>{{"<5> CLIPBOARD", 48, "<98>"}}));
     EXPECT_EQ(NamesIn("0DG1"), (Names{"a", "light, warm", "c"}));

@@ -75,14 +75,14 @@ TEST_F(ColorEditorTest, RepaintTakesTheTwentyBitComplement) {
 
 TEST_F(ColorEditorTest, TypedValueTakesTheFullComplement) {
     editor.Repainted();
-    editor.TextChanged(0, "16");
+    editor.ValueTextChanged(0, "16");
     EXPECT_EQ(view.smallSwatchText, 0xFFFF10U ^ 0xFFFFFFU);
 }
 
 TEST_F(ColorEditorTest, EmptiedBoxShowsZeroWithItsTextSelected) {
     editor.ShowColor(kBlue);
     view.selectedWhole.fill(false);
-    editor.TextChanged(4, "");
+    editor.ValueTextChanged(4, "");
     EXPECT_EQ(view.valueTexts[4], "0");
     EXPECT_EQ(view.sliders[4], 0);
     EXPECT_TRUE(view.selectedWhole[4]);
@@ -90,54 +90,54 @@ TEST_F(ColorEditorTest, EmptiedBoxShowsZeroWithItsTextSelected) {
 
 TEST_F(ColorEditorTest, ValueAboveTheRangeBecomesTheMaximumWithItsTextSelected) {
     editor.ShowColor(kBlue);
-    editor.TextChanged(0, "999");
+    editor.ValueTextChanged(0, "999");
     EXPECT_EQ(view.valueTexts[0], "255");
     EXPECT_EQ(view.sliders[0], 255);
     EXPECT_TRUE(view.selectedWhole[0]);
-    editor.TextChanged(5, "150");
+    editor.ValueTextChanged(5, "150");
     EXPECT_EQ(view.valueTexts[5], "100");
 }
 
 TEST_F(ColorEditorTest, PastedNegativeNumberBecomesZero) {
-    editor.TextChanged(3, "-5");
+    editor.ValueTextChanged(3, "-5");
     EXPECT_EQ(view.valueTexts[3], "0");
 }
 
 TEST_F(ColorEditorTest, ValueStrictlyInTheRangeSelectsNothing) {
     editor.ShowColor(kBlue);
     view.selectedWhole.fill(false);
-    editor.TextChanged(0, "12");
+    editor.ValueTextChanged(0, "12");
     EXPECT_FALSE(view.selectedWhole[0]);
     EXPECT_EQ(view.sliders[0], 12);
 }
 
 TEST_F(ColorEditorTest, FractionIsRoundedHalfToEvenAndWrittenBack) {
-    editor.TextChanged(0, "1.5");
+    editor.ValueTextChanged(0, "1.5");
     EXPECT_EQ(view.valueTexts[0], "2");
-    editor.TextChanged(0, "2.5");
+    editor.ValueTextChanged(0, "2.5");
     EXPECT_EQ(view.valueTexts[0], "2");
 }
 
 TEST_F(ColorEditorTest, FullStopAfterDigitsVanishes) {
-    editor.TextChanged(0, "12.");
+    editor.ValueTextChanged(0, "12.");
     EXPECT_EQ(view.valueTexts[0], "12");
 }
 
 TEST_F(ColorEditorTest, LoneFullStopIsAConversionErrorAndStays) {
-    EXPECT_THROW(editor.TextChanged(0, "."), RuntimeError);
+    EXPECT_THROW(editor.ValueTextChanged(0, "."), RuntimeError);
     EXPECT_EQ(editor.Text(0), ".");
     EXPECT_THROW(static_cast<void>(editor.Values()), RuntimeError);
-    editor.TextChanged(0, "7");
+    editor.ValueTextChanged(0, "7");
     EXPECT_EQ(editor.Values()[0], 7);
 }
 
 TEST_F(ColorEditorTest, NumberBeyondTheConversionIsAnOverflow) {
-    EXPECT_THROW(editor.TextChanged(0, "99999999999"), RuntimeError);
+    EXPECT_THROW(editor.ValueTextChanged(0, "99999999999"), RuntimeError);
 }
 
 TEST_F(ColorEditorTest, NumberTooNearToZeroIsZeroAndNoError) {
-    editor.TextChanged(0, "12");
-    editor.TextChanged(0, "1e-400");
+    editor.ValueTextChanged(0, "12");
+    editor.ValueTextChanged(0, "1e-400");
     EXPECT_EQ(view.valueTexts[0], "0");
 }
 
@@ -145,8 +145,7 @@ TEST_F(ColorEditorTest, OnlyDigitsBackspaceAndFullStopCanBeTyped) {
     for (char32_t character = 1; character < 0x180; ++character) {
         const bool expected =
             (character >= U'0' && character <= U'9') || character == 8 || character == U'.';
-        EXPECT_EQ(ColorEditor::IsValueCharacter(character), expected)
-            << static_cast<unsigned>(character);
+        EXPECT_EQ(editor.IsValueCharacter(character), expected) << static_cast<unsigned>(character);
     }
 }
 
@@ -160,7 +159,7 @@ TEST_F(ColorEditorTest, SliderWritesItsBoxAndTheCaptionLosesTheName) {
 
 TEST_F(ColorEditorTest, FocusSelectsTheWholeText) {
     view.selectedWhole.fill(false);
-    editor.Focused(6);
+    editor.ValueFocused(6);
     EXPECT_TRUE(view.selectedWhole[6]);
 }
 
@@ -182,10 +181,10 @@ TEST_F(ColorEditorTest, CancelledDialogChangesNothing) {
 }
 
 TEST_F(ColorEditorTest, ColorIsShownWholeAlsoOverATextThatIsNoNumber) {
-    EXPECT_THROW(editor.TextChanged(1, "."), RuntimeError);
+    EXPECT_THROW(editor.ValueTextChanged(1, "."), RuntimeError);
     EXPECT_NO_THROW(editor.ShowColor(kBlue));
     EXPECT_EQ(editor.Values(), kBlue.values);
-    EXPECT_THROW(editor.TextChanged(2, "."), RuntimeError);
+    EXPECT_THROW(editor.ValueTextChanged(2, "."), RuntimeError);
     prompts.chosenColors = {ColorNumber{0xFF8040}};
     editor.PickActiveColorFromDialog();
     EXPECT_EQ(editor.Values(), (ColorValueArray{64, 128, 255, 10, 20, 30, 40, 50, 60}));
@@ -195,7 +194,7 @@ TEST_F(ColorEditorTest, SmallSwatchFollowsARenameWhileItCarriesTheName) {
     editor.ShowColor(kBlue);
     editor.Rename("Azure");
     EXPECT_EQ(view.smallCaption, "Azure (R:0 G:0 B:255)");
-    editor.TextChanged(0, "1");
+    editor.ValueTextChanged(0, "1");
     editor.Rename("Sky");
     EXPECT_EQ(view.smallCaption, " (R:1 G:0 B:255)");
 }

@@ -101,7 +101,7 @@ TEST(CommandTable, OptionsMenuHasItsBuiltInCaptionsInTheirOrder) {
                                                "-",
                                                "Einstellungen speichern"};
     std::vector<std::string> actual;
-    for (const MenuRow& row : kMenuRows)
+    for (const MenuRow& row : MenuRows())
         if (std::string(row.name).starts_with("mnuOptions"))
             actual.emplace_back(row.caption);
     EXPECT_EQ(actual, expected);

@@ -48,7 +48,9 @@ protected:
     ColorLibrary library{prompts, texts};
     ColorEditor editor{view, prompts, texts};
     ColorList list{library, view, collation};
-    LibraryPanes panes{library, list, editor};
+    MainActivity activity;
+    LibraryPanes panes{
+        {.library = library, .tree = view, .list = list, .editor = editor, .activity = activity}};
     EditingCommands editing{{library, list, panes, settings, clipboard, prompts, texts}};
 };
 

@@ -15,7 +15,7 @@ protected:
                                               Color("a", "1") + Color("b", "2");
         program.registry.SetText(FakeProgram::Setting("DefaultColorFile"), "C:\\a.tnt");
         program.application.Start();
-        program.Main().NodeClicked("0DG1");
+        program.Main().tree.NodeClicked("0DG1");
         program.prompts.messages.clear();
     }
 
@@ -31,7 +31,7 @@ protected:
                "8\xF7"
                "9\"\r\n";
     }
-    void Run(int command) { program.Main().RunCommand(command); }
+    void Run(int command) { program.Main().frame.RunCommand(command); }
     // Of the error that the command ends with; 0: none.
     int ErrorNumberOf(int command) {
         try {
@@ -44,7 +44,7 @@ protected:
     // Into the first box, as the box itself reports it.
     void Type(const std::string& text) {
         program.view.valueTexts[0] = text;
-        program.Main().ValueTextChanged(0, text);
+        program.Main().editor.ValueTextChanged(0, text);
     }
 
     FakeProgram program;
@@ -59,7 +59,7 @@ TEST_F(EditingCommandsTest, CopyPutsOneLineOnTheClipboard) {
 
 TEST_F(EditingCommandsTest, CopyWithNothingSelectedLeavesTheClipboard) {
     program.clipboard.text = "before";
-    program.Main().NodeClicked("0DG2");
+    program.Main().tree.NodeClicked("0DG2");
     Run(IDM_mnuColorCopy);
     EXPECT_EQ(program.clipboard.text, "before");
 }
@@ -68,12 +68,12 @@ TEST_F(EditingCommandsTest, CutThenPasteMovesAColorAndASecondPasteMakesAnother) 
     Run(IDM_mnuColorCut);
     EXPECT_TRUE(program.prompts.messages.empty()) << "cut never asks";
     EXPECT_EQ(program.view.rowCount, 1);
-    program.Main().NodeClicked("0DG2");
+    program.Main().tree.NodeClicked("0DG2");
     Run(IDM_mnuColorPaste);
     EXPECT_EQ(program.view.rowCount, 1);
-    EXPECT_EQ(program.Main().CellText(0, 1), "a");
-    EXPECT_EQ(program.Main().CellText(0, 2), "1");
-    EXPECT_EQ(program.Main().CellText(0, 10), "9");
+    EXPECT_EQ(program.Main().rows.CellText(0, 1), "a");
+    EXPECT_EQ(program.Main().rows.CellText(0, 2), "1");
+    EXPECT_EQ(program.Main().rows.CellText(0, 10), "9");
     EXPECT_EQ(program.view.valueTexts[0], "1") << "the editor shows what was pasted";
     Run(IDM_mnuColorPaste);
     EXPECT_EQ(program.view.rowCount, 2);
@@ -92,7 +92,7 @@ TEST_F(EditingCommandsTest, CutDeletesOnlyWhenTheClipboardStillHoldsTheColor) {
 }
 
 TEST_F(EditingCommandsTest, CutOfAColorThatAPasteWouldRefuseTellsSoAndKeepsIt) {
-    program.Main().RowLabelEdited(0, "light, warm");
+    program.Main().list.RowLabelEdited(0, "light, warm");
     Run(IDM_mnuColorCut);
     EXPECT_EQ(program.prompts.messages, (std::vector<Message>{{"<5> CLIPBOARD", 48, "<98>"}}));
     EXPECT_EQ(program.view.rowCount, 2);
@@ -101,26 +101,26 @@ TEST_F(EditingCommandsTest, CutOfAColorThatAPasteWouldRefuseTellsSoAndKeepsIt) {
 TEST_F(EditingCommandsTest, CutOfAColorThatAPasteWouldRenameTellsSoAndKeepsIt) {
     for (const char* name : {"a=b", "a=bb:x,1,2,3,4,5,6,7,8", "="}) {
         program.prompts.messages.clear();
-        program.Main().RowLabelEdited(0, name);
+        program.Main().list.RowLabelEdited(0, name);
         Run(IDM_mnuColorCut);
         EXPECT_EQ(program.prompts.messages, (std::vector<Message>{{"<5> CLIPBOARD", 48, "<98>"}}));
         EXPECT_EQ(program.view.rowCount, 2);
-        EXPECT_EQ(program.Main().CellText(0, 1), name);
+        EXPECT_EQ(program.Main().rows.CellText(0, 1), name);
     }
 }
 
 TEST_F(EditingCommandsTest, CutOfANameWithOtherSignsOfTheLineGivesItBack) {
-    program.Main().RowLabelEdited(0, "a:b \u00F7 E#\"");
+    program.Main().list.RowLabelEdited(0, "a:b \u00F7 E#\"");
     Run(IDM_mnuColorCut);
     Run(IDM_mnuColorPaste);
     EXPECT_TRUE(program.prompts.messages.empty());
-    EXPECT_EQ(program.Main().CellText(1, 1), "a:b \u00F7 E#\"");
+    EXPECT_EQ(program.Main().rows.CellText(1, 1), "a:b \u00F7 E#\"");
 }
 
 TEST_F(EditingCommandsTest, UpdateAfterADeleteKeepsTheRowThatIsSelected) {
     program.clipboard.text = kLineOfA;
     Run(IDM_mnuColorPaste); // a, b, a
-    program.Main().RowClicked(1);
+    program.Main().list.RowClicked(1);
     Run(IDM_mnuColorDelColor);
     ASSERT_EQ(program.view.selectedRow, 1);
     Type("77");
@@ -129,12 +129,12 @@ TEST_F(EditingCommandsTest, UpdateAfterADeleteKeepsTheRowThatIsSelected) {
     EXPECT_EQ(program.view.valueTexts[0], "77");
     Type("78");
     Run(IDM_mnuColorUpdateColor);
-    EXPECT_EQ(program.Main().CellText(0, 2), "1") << "the first colour is as it was";
-    EXPECT_EQ(program.Main().CellText(1, 2), "78");
+    EXPECT_EQ(program.Main().rows.CellText(0, 2), "1") << "the first colour is as it was";
+    EXPECT_EQ(program.Main().rows.CellText(1, 2), "78");
 }
 
 TEST_F(EditingCommandsTest, CancelledDeleteOfALibraryLeavesItSelectedInsteadOfItsGroup) {
-    program.Main().NodeClicked("0DG2");
+    program.Main().tree.NodeClicked("0DG2");
     program.prompts.answers = {Answer::Cancel};
     Run(IDM_mnuColorDelMainNode);
     EXPECT_EQ(program.view.selectedNode, "0D");
@@ -144,7 +144,7 @@ TEST_F(EditingCommandsTest, CancelledDeleteOfALibraryLeavesItSelectedInsteadOfIt
 
 TEST_F(EditingCommandsTest, CutWithNothingSelectedDoesNothing) {
     program.clipboard.text = "before";
-    program.Main().NodeClicked("0DG2");
+    program.Main().tree.NodeClicked("0DG2");
     Run(IDM_mnuColorCut);
     EXPECT_EQ(program.clipboard.text, "before");
     EXPECT_TRUE(program.prompts.messages.empty());
@@ -167,31 +167,31 @@ TEST_F(EditingCommandsTest, PasteWithTheClipboardHeldChangesNothingAndSaysSoAsCo
 }
 
 TEST_F(EditingCommandsTest, ColorThatIsSelectedAfterADeleteIsScrolledIntoView) {
-    program.Main().RowClicked(1);
+    program.Main().list.RowClicked(1);
     program.view.visibleRow = -1;
     Run(IDM_mnuColorDelColor);
     EXPECT_EQ(program.view.visibleRow, 0);
 }
 
 TEST_F(EditingCommandsTest, GroupWhoseRememberedColorWasDeletedShowsItsFirst) {
-    program.Main().RowClicked(1);
+    program.Main().list.RowClicked(1);
     Run(IDM_mnuColorDelColor);
-    program.Main().NodeClicked("0DG2");
-    program.Main().NodeClicked("0DG1");
+    program.Main().tree.NodeClicked("0DG2");
+    program.Main().tree.NodeClicked("0DG1");
     EXPECT_EQ(program.view.selectedRow, 0);
 }
 
 TEST_F(EditingCommandsTest, PasteSelectsTheNewColorInAnEmptyGroup) {
     program.clipboard.text = kLineOfA;
-    program.Main().NodeClicked("0DG2");
+    program.Main().tree.NodeClicked("0DG2");
     Run(IDM_mnuColorPaste);
     EXPECT_EQ(program.view.selectedRow, 0);
 }
 
 TEST_F(EditingCommandsTest, PasteSortsTheListOnceAndWithThePastedValues) {
     Run(IDM_mnuColorCopy); // a, red 1
-    program.Main().ColumnClicked(2);
-    program.Main().ColumnClicked(2); // b, a
+    program.Main().list.ColumnClicked(2);
+    program.Main().list.ColumnClicked(2); // b, a
     program.collation.keysMade = 0;
     Run(IDM_mnuColorPaste);
     EXPECT_EQ(program.collation.keysMade, 3);
@@ -224,7 +224,7 @@ TEST_F(EditingCommandsTest, PasteOfABrokenColorShowsItsMessageAndChangesNothing)
 TEST_F(EditingCommandsTest, CommaInTheNameParses) {
     program.clipboard.text = "E#a, b=0DG1:x,1,2,3,4,5,6,7,8,9";
     Run(IDM_mnuColorPaste);
-    EXPECT_EQ(program.Main().CellText(2, 1), "a, b");
+    EXPECT_EQ(program.Main().rows.CellText(2, 1), "a, b");
 }
 
 TEST_F(EditingCommandsTest, PastedValueThatIsNoNumberIsAnErrorAndChangesNothing) {
@@ -238,7 +238,7 @@ TEST_F(EditingCommandsTest, DeletingAColorAsksWithItsSecondName) {
     EXPECT_EQ(program.prompts.messages,
               (std::vector<Message>{{"<99>\r\n<102>\r\na2", 289, "<98>"}}));
     EXPECT_EQ(program.view.rowCount, 1);
-    EXPECT_EQ(program.Main().CellText(0, 1), "b");
+    EXPECT_EQ(program.Main().rows.CellText(0, 1), "b");
     EXPECT_EQ(program.view.colorName, "b") << "the editor shows the row that is selected now";
 }
 
@@ -247,14 +247,14 @@ TEST_F(EditingCommandsTest, CancelledDeletionsChangeNothing) {
          {IDM_mnuColorDelColor, IDM_mnuColorDelGroup, IDM_mnuColorDelMainNode}) {
         program.prompts.answers = {Answer::Cancel};
         Run(command);
-        program.Main().NodeClicked("0DG1");
+        program.Main().tree.NodeClicked("0DG1");
         EXPECT_EQ(program.view.rowCount, 2);
     }
 }
 
 TEST_F(EditingCommandsTest, CancelledDeletionsKeepWhatWasTypedInTheEditor) {
     program.view.selectedRow = 1;
-    program.Main().RowClicked(1);
+    program.Main().list.RowClicked(1);
     Type("77");
     const auto nodes = program.view.nodes;
     for (const int command :
@@ -282,9 +282,9 @@ TEST_F(EditingCommandsTest, PasteIntoAnEmptyTreeGivesItsValuesToTheColorThatIsAs
     program.prompts.typed = {"New library", "New group", "New color"};
     Run(IDM_mnuColorPaste);
     ASSERT_EQ(program.view.rowCount, 1);
-    EXPECT_EQ(program.Main().CellText(0, 1), "New color");
-    EXPECT_EQ(program.Main().CellText(0, 2), "1");
-    EXPECT_EQ(program.Main().CellText(0, 10), "9");
+    EXPECT_EQ(program.Main().rows.CellText(0, 1), "New color");
+    EXPECT_EQ(program.Main().rows.CellText(0, 2), "1");
+    EXPECT_EQ(program.Main().rows.CellText(0, 10), "9");
     EXPECT_EQ(program.view.valueTexts[8], "9");
 }
 
@@ -296,7 +296,7 @@ TEST_F(EditingCommandsTest, PasteIntoALibraryWithoutGroupsGivesItsValuesToTheCol
     program.prompts.typed = {"New group", "New color"};
     Run(IDM_mnuColorPaste);
     ASSERT_EQ(program.view.rowCount, 1);
-    EXPECT_EQ(program.Main().CellText(0, 2), "1");
+    EXPECT_EQ(program.Main().rows.CellText(0, 2), "1");
 }
 
 TEST_F(EditingCommandsTest, PasteThatIsGivenUpAtAnyQuestionSetsNothing) {
@@ -313,17 +313,17 @@ TEST_F(EditingCommandsTest, PasteThatIsGivenUpAtAnyQuestionSetsNothing) {
 }
 
 TEST_F(EditingCommandsTest, RefusedCopyOntoAGroupLeavesTreeAndListInAgreement) {
-    program.Main().NodeClicked("0DG1");
-    program.Main().RowLabelEdited(0, "with, comma");
+    program.Main().tree.NodeClicked("0DG1");
+    program.Main().list.RowLabelEdited(0, "with, comma");
     DragPoint list;
     list.isOverList = true;
     DragPoint group;
     group.node = "0DG2";
     HeldKeys keys;
     keys.ctrl = true;
-    program.Main().ListPressed();
-    ASSERT_TRUE(program.Main().DragStarted(keys, list));
-    program.Main().DragDropped(group);
+    program.Main().drag.ListPressed();
+    ASSERT_TRUE(program.Main().drag.DragStarted(keys, list));
+    program.Main().drag.DragDropped(group);
     EXPECT_EQ(program.view.selectedNode, "0DG1");
     EXPECT_EQ(program.view.rowCount, 2);
     EXPECT_EQ(program.prompts.messages.size(), 1U);
@@ -360,7 +360,7 @@ TEST_F(EditingCommandsTest, ColorMayBePastedWithAnEmptyName) {
 
 TEST_F(EditingCommandsTest, MovedColorGetsANewKeyInItsGroup) {
     Run(IDM_mnuColorCut);
-    program.Main().NodeClicked("0DG2");
+    program.Main().tree.NodeClicked("0DG2");
     Run(IDM_mnuColorPaste);
     Run(IDM_mnuColorDelGroup);
     EXPECT_EQ(program.prompts.messages,
@@ -370,13 +370,13 @@ TEST_F(EditingCommandsTest, MovedColorGetsANewKeyInItsGroup) {
 TEST_F(EditingCommandsTest, WhateverWasChangedClosingAndQuittingAskNothing) {
     Run(IDM_mnuColorCopy);
     Run(IDM_mnuColorPaste);
-    program.Main().RowLabelEdited(0, "renamed");
+    program.Main().list.RowLabelEdited(0, "renamed");
     Run(IDM_mnuColorCut);
     program.prompts.typed = {"New color"};
     Run(IDM_mnuColorNewColor);
     program.prompts.messages.clear();
     program.prompts.questions.clear();
-    program.Main().NodeClicked("0D");
+    program.Main().tree.NodeClicked("0D");
     Run(IDM_mnuFileClose);
     EXPECT_TRUE(program.view.nodes.empty());
     Run(IDM_mnuQuit);
@@ -387,7 +387,7 @@ TEST_F(EditingCommandsTest, WhateverWasChangedClosingAndQuittingAskNothing) {
 
 TEST_F(EditingCommandsTest, PastedColorBelongsToTheGroupThatIsSelected) {
     program.clipboard.text = kLineOfA;
-    program.Main().NodeClicked("0DG2");
+    program.Main().tree.NodeClicked("0DG2");
     Run(IDM_mnuColorPaste);
     Run(IDM_mnuColorCopy);
     EXPECT_EQ(program.clipboard.text, "E#a=0DG2:a,1,2,3,4,5,6,7,8,9");
@@ -441,9 +441,9 @@ TEST_F(EditingCommandsTest, NothingAsksWithConfirmDelOff) {
 }
 
 TEST_F(EditingCommandsTest, DeletingWithNothingSuitableSelectedDoesNothing) {
-    program.Main().NodeClicked("0D");
+    program.Main().tree.NodeClicked("0D");
     Run(IDM_mnuColorDelGroup);
-    program.Main().NodeClicked("0DG2");
+    program.Main().tree.NodeClicked("0DG2");
     Run(IDM_mnuColorDelColor);
     EXPECT_TRUE(program.prompts.messages.empty());
     Run(IDM_mnuColorDelMainNode);
@@ -461,7 +461,7 @@ TEST_F(EditingCommandsTest, CloseRemovesTheSelectedGroupAloneWithoutAsking) {
 }
 
 TEST_F(EditingCommandsTest, CloseOfTheLastLibraryLeavesAnEmptyTreeAndSaveDoesNothing) {
-    program.Main().NodeClicked("0D");
+    program.Main().tree.NodeClicked("0D");
     Run(IDM_mnuFileClose);
     EXPECT_TRUE(program.view.nodes.empty());
     Run(IDM_mnuFileSave);
@@ -475,13 +475,13 @@ TEST_F(EditingCommandsTest, RenameStartsTheEditOfTheSelectedNode) {
 }
 
 TEST_F(EditingCommandsTest, RenameInTheListStartsTheEditOfTheSelectedRow) {
-    program.Main().RowClicked(1);
-    program.Main().RowEditRequested();
+    program.Main().list.RowClicked(1);
+    program.Main().list.RowEditRequested();
     EXPECT_EQ(program.view.editedRow, 1);
 }
 
 TEST_F(EditingCommandsTest, CancelledDeletionOfALibraryShowsWhatIsSelectedThen) {
-    program.Main().NodeClicked("0DG2");
+    program.Main().tree.NodeClicked("0DG2");
     program.prompts.answers = {Answer::Cancel};
     Run(IDM_mnuColorDelMainNode);
     EXPECT_EQ(program.view.selectedNode, "0D");
@@ -489,7 +489,7 @@ TEST_F(EditingCommandsTest, CancelledDeletionOfALibraryShowsWhatIsSelectedThen) 
 }
 
 TEST_F(EditingCommandsTest, CancelledGroupShowsWhatIsSelectedThen) {
-    program.Main().NodeClicked("0DG2");
+    program.Main().tree.NodeClicked("0DG2");
     Run(IDM_mnuColorNewGroup); // cancelled
     EXPECT_EQ(program.view.selectedNode, "0D");
     EXPECT_EQ(program.view.rowCount, 2);
@@ -511,7 +511,7 @@ TEST_F(EditingCommandsTest, NewColorInAnEmptyTreeAsksLibraryGroupAndColorAndNoth
 
 TEST_F(EditingCommandsTest, GroupWhoseNumberIsTakenIsRefusedAndNothingChanges) {
     Run(IDM_mnuColorDelGroup); // of two groups the second stays, so the next number is its own
-    program.Main().NodeClicked("0DG2");
+    program.Main().tree.NodeClicked("0DG2");
     const auto nodes = program.view.nodes;
     program.prompts.typed = {"again", "a color"};
     EXPECT_EQ(ErrorNumberOf(IDM_mnuColorNewGroup), ErrorNumber::DuplicateKey);
@@ -536,14 +536,14 @@ TEST_F(EditingCommandsTest, CutRestoresConfirmDelAlsoWhenTheDeletionFails) {
     EXPECT_THROW(Run(IDM_mnuColorCut), RuntimeError);
     program.view.rowsChangeFails = false;
     EXPECT_TRUE(program.prompts.messages.empty());
-    program.Main().NodeClicked("0DG1");
+    program.Main().tree.NodeClicked("0DG1");
     Run(IDM_mnuColorDelColor);
     EXPECT_EQ(program.prompts.messages.size(), 1U) << "deleting asks again";
 }
 
 TEST_F(EditingCommandsTest, RepaintOfTheWindowGivesTheSwatchItsColorOfText) {
     program.view.smallSwatchText = 0x123456;
-    program.Main().Repainted();
+    program.Main().editor.Repainted();
     EXPECT_EQ(program.view.smallSwatchText, program.view.smallSwatch ^ 0xFFFFFU);
 }
 

@@ -15,7 +15,7 @@ protected:
 };
 
 TEST_F(LayoutTest, ListStandsBesideTheTree) {
-    layout.Resize();
+    layout.Resized();
     EXPECT_EQ(view.layout.tree.width, 3000);
     EXPECT_EQ(view.layout.splitter.left, 3000);
     EXPECT_EQ(view.layout.list.left, 3040);
@@ -23,7 +23,7 @@ TEST_F(LayoutTest, ListStandsBesideTheTree) {
 }
 
 TEST_F(LayoutTest, PanesStandBetweenToolbarAndColorArea) {
-    layout.Resize();
+    layout.Resized();
     EXPECT_EQ(view.layout.tree.top, 400);
     EXPECT_EQ(view.layout.list.top, 400);
     EXPECT_EQ(view.layout.tree.height, 8000 - 400 - (360 + 40) - 300);
@@ -33,7 +33,7 @@ TEST_F(LayoutTest, PanesStandBetweenToolbarAndColorArea) {
 }
 
 TEST_F(LayoutTest, SmallSwatchLeavesFortyTwipsAtItsRight) {
-    layout.Resize();
+    layout.Resized();
     EXPECT_FALSE(view.layout.hugeFrameShown);
     EXPECT_EQ(view.layout.smallSwatch.width, 11760 - 40);
     EXPECT_EQ(view.layout.smallSwatch.top, view.layout.tree.top + view.layout.tree.height);
@@ -41,7 +41,7 @@ TEST_F(LayoutTest, SmallSwatchLeavesFortyTwipsAtItsRight) {
 
 TEST_F(LayoutTest, FrameSpansTheInnerWidth) {
     layout.SetHugeFrame(true);
-    layout.Resize();
+    layout.Resized();
     EXPECT_TRUE(view.layout.hugeFrameShown);
     EXPECT_EQ(view.layout.frame.width, 11760);
     EXPECT_EQ(view.layout.tree.height, 8000 - 400 - (2400 + 40) - 300);
@@ -49,12 +49,12 @@ TEST_F(LayoutTest, FrameSpansTheInnerWidth) {
 }
 
 TEST_F(LayoutTest, TogglingTwiceRestoresTheFirstLayout) {
-    layout.Resize();
+    layout.Resized();
     const TwipsRect before = view.layout.tree;
     layout.SetHugeFrame(true);
-    layout.Resize();
+    layout.Resized();
     layout.SetHugeFrame(false);
-    layout.Resize();
+    layout.Resized();
     EXPECT_EQ(view.layout.tree, before);
     EXPECT_FALSE(view.layout.hugeFrameShown);
 }
@@ -62,7 +62,7 @@ TEST_F(LayoutTest, TogglingTwiceRestoresTheFirstLayout) {
 TEST_F(LayoutTest, HiddenBarsGiveTheirRoomToThePanes) {
     view.metrics.toolbarHeight = 0;
     view.metrics.statusBarHeight = 0;
-    layout.Resize();
+    layout.Resized();
     EXPECT_EQ(view.layout.tree.top, 0);
     EXPECT_EQ(view.layout.tree.height, 8000 - 400);
 }
@@ -71,7 +71,7 @@ TEST_F(LayoutTest, FormNarrowerThanTheSmallestPaneGivesNoNegativeWidth) {
     view.metrics.formWidth = 400;
     view.metrics.innerWidth = 30;
     view.metrics.innerHeight = 0;
-    layout.Resize();
+    layout.Resized();
     for (const TwipsRect& place : {view.layout.tree, view.layout.list, view.layout.splitter,
                                    view.layout.frame, view.layout.smallSwatch}) {
         EXPECT_GE(place.width, 0);
@@ -81,7 +81,7 @@ TEST_F(LayoutTest, FormNarrowerThanTheSmallestPaneGivesNoNegativeWidth) {
 
 TEST_F(LayoutTest, VeryLowFormKeepsPanesOfThreeHundred) {
     view.metrics.innerHeight = 500;
-    layout.Resize();
+    layout.Resized();
     EXPECT_EQ(view.layout.tree.height, 300);
     EXPECT_EQ(view.layout.smallSwatch.top, 700) << "the panes overlap what lies below";
 }
@@ -89,29 +89,29 @@ TEST_F(LayoutTest, VeryLowFormKeepsPanesOfThreeHundred) {
 TEST_F(LayoutTest, NothingHappensWhileMinimisedOrMaximised) {
     for (const WindowState state : {WindowState::Minimised, WindowState::Maximised}) {
         view.metrics.state = state;
-        layout.Resize();
+        layout.Resized();
         EXPECT_EQ(view.layouts, 0);
     }
 }
 
 TEST_F(LayoutTest, EditorTogglesAlsoWhileMaximisedButThePanesStay) {
-    layout.Resize();
+    layout.Resized();
     const TwipsRect before = view.layout.tree;
     view.metrics.state = WindowState::Maximised;
     view.metrics.innerHeight = 12000;
     layout.SetHugeFrame(true);
-    layout.Resize();
+    layout.Resized();
     EXPECT_TRUE(view.layout.hugeFrameShown);
     EXPECT_EQ(view.layout.tree, before);
 }
 
 TEST_F(LayoutTest, NewScaleAppliesTheLayoutAnewInEveryWindowState) {
-    layout.Resize();
+    layout.Resized();
     const MainLayout before = view.layout;
     view.metrics.state = WindowState::Maximised;
     view.metrics.formWidth = 20000;
     view.layout = {};
-    layout.Apply();
+    layout.ScaleChanged();
     EXPECT_EQ(view.layout.list, before.list);
     EXPECT_EQ(view.layout.splitter, before.splitter);
 }
@@ -136,7 +136,7 @@ TEST(SizeControls, UpperBoundWinsInANarrowForm) {
 }
 
 TEST_F(LayoutTest, PressedSplitterShowsAHalfAsWideAndALittleShorterBar) {
-    layout.Resize();
+    layout.Resized();
     layout.SplitterPressed();
     EXPECT_TRUE(view.splitterBarShown);
     EXPECT_EQ(view.splitterBar.left, view.layout.splitter.left);
@@ -146,7 +146,7 @@ TEST_F(LayoutTest, PressedSplitterShowsAHalfAsWideAndALittleShorterBar) {
 }
 
 TEST_F(LayoutTest, DraggedSplitterMovesTheBarAloneUntilItIsReleased) {
-    layout.Resize();
+    layout.Resized();
     layout.SplitterPressed();
     layout.SplitterDragged(500);
     EXPECT_EQ(view.splitterBar.left, 3500);
@@ -158,7 +158,7 @@ TEST_F(LayoutTest, DraggedSplitterMovesTheBarAloneUntilItIsReleased) {
 }
 
 TEST_F(LayoutTest, BarStopsAtTheLimitsAndThePanesTakeThemExactly) {
-    layout.Resize();
+    layout.Resized();
     layout.SplitterPressed();
     layout.SplitterDragged(-9000);
     EXPECT_EQ(view.splitterBar.left, 750);
@@ -172,7 +172,7 @@ TEST_F(LayoutTest, BarStopsAtTheLimitsAndThePanesTakeThemExactly) {
 }
 
 TEST_F(LayoutTest, MovesWithoutAPressedSplitterDoNothing) {
-    layout.Resize();
+    layout.Resized();
     layout.SplitterDragged(500);
     layout.SplitterReleased();
     EXPECT_FALSE(view.splitterBarShown);

@@ -45,7 +45,9 @@ protected:
     ColorLibrary library{prompts, texts};
     ColorEditor editor{view, prompts, texts};
     ColorList list{library, view, collation};
-    LibraryPanes panes{library, list, editor};
+    MainActivity activity;
+    LibraryPanes panes{
+        {.library = library, .tree = view, .list = list, .editor = editor, .activity = activity}};
 };
 
 TEST_F(LibraryPanesTest, ClickedLibraryShowsTheColorsOfItsFirstGroup) {
@@ -198,31 +200,31 @@ TEST_F(LibraryPanesTest, EditsThatAreNotWrittenBackAreLost) {
 
 TEST_F(LibraryPanesTest, OtherColumnSortsAscendingThenDescendingThenAscendingAgain) {
     panes.NodeClicked("0DG1");
-    list.ColumnClicked(2); // red: 20, 100, 3 as text
+    list.SortByColumn(2); // red: 20, 100, 3 as text
     EXPECT_EQ(ShownNames(), (Names{"A", "b", "c"})) << "\"100\" comes before \"20\"";
-    list.ColumnClicked(2);
+    list.SortByColumn(2);
     EXPECT_EQ(ShownNames(), (Names{"c", "b", "A"}));
-    list.ColumnClicked(2);
+    list.SortByColumn(2);
     EXPECT_EQ(ShownNames(), (Names{"A", "b", "c"}));
 }
 
 TEST_F(LibraryPanesTest, NameIsTheSortKeyFromTheStartSoItsFirstClickFlipsTheOrder) {
     panes.NodeClicked("0DG1");
-    list.ColumnClicked(1);
+    list.SortByColumn(1);
     EXPECT_EQ(ShownNames(), (Names{"c", "b", "A"}));
 }
 
 TEST_F(LibraryPanesTest, SelectionStaysOnItsColorWhenTheListIsSorted) {
     panes.NodeClicked("0DG1");
     panes.RowClicked(0); // b
-    list.ColumnClicked(2);
+    list.SortByColumn(2);
     EXPECT_EQ(view.selectedRow, 1);
     EXPECT_EQ(list.SelectedKey(), "0DG1E1");
 }
 
 TEST_F(LibraryPanesTest, SortingStaysSwitchedOnForTheNextGroup) {
     panes.NodeClicked("0DG1");
-    list.ColumnClicked(2);
+    list.SortByColumn(2);
     panes.NodeClicked("0DG2");
     panes.NodeClicked("0DG1");
     EXPECT_EQ(ShownNames(), (Names{"A", "b", "c"}));
@@ -232,7 +234,7 @@ TEST_F(LibraryPanesTest, EachTextIsPreparedForSortingOnce) {
     for (int color = 0; color < 97; ++color)
         AddColor("n" + std::to_string(color * 37 % 97), 1);
     panes.NodeClicked("0DG1");
-    list.ColumnClicked(2);
+    list.SortByColumn(2);
     EXPECT_EQ(collation.keysMade, 100);
 }
 
@@ -240,9 +242,9 @@ TEST_F(LibraryPanesTest, RowsWithEqualTextsKeepTheirOrderInBothDirections) {
     AddColor("d", 20);
     AddColor("e", 20);
     panes.NodeClicked("0DG1");
-    list.ColumnClicked(2);
+    list.SortByColumn(2);
     EXPECT_EQ(ShownNames(), (Names{"A", "b", "d", "e", "c"}));
-    list.ColumnClicked(2);
+    list.SortByColumn(2);
     EXPECT_EQ(ShownNames(), (Names{"c", "b", "d", "e", "A"}));
 }
 
@@ -250,8 +252,8 @@ TEST_F(LibraryPanesTest, RowsWithEqualTextsStandAsInTheLibraryWhateverSortedThem
     AddColor("e", 20);
     AddColor("d", 20);
     panes.NodeClicked("0DG1");
-    list.ColumnClicked(1);
-    list.ColumnClicked(2);
+    list.SortByColumn(1);
+    list.SortByColumn(2);
     const Names names = ShownNames();
     EXPECT_EQ(names, (Names{"A", "b", "e", "d", "c"}));
     panes.NodeClicked("0DG1");
@@ -283,7 +285,7 @@ TEST_F(LibraryPanesTest, WidthsOfColumnsAreRoundedToWholeNumbers) {
 }
 
 TEST_F(LibraryPanesTest, FirstRowOfASortedListIsSelectedWhereNothingIsRemembered) {
-    list.ColumnClicked(2);
+    list.SortByColumn(2);
     panes.NodeClicked("0DG1");
     EXPECT_EQ(ShownNames(), (Names{"A", "b", "c"}));
     EXPECT_EQ(view.selectedRow, 0);

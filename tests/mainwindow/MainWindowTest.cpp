@@ -14,7 +14,7 @@ protected:
         program.prompts.answers = {Answer::No};
         program.application.Start();
     }
-    void Drop() { program.Main().FilesDropped({kFile}); }
+    void Drop() { program.Main().frame.FilesDropped({kFile}); }
 
     FakeProgram program{"default"};
 };
@@ -34,21 +34,21 @@ TEST_F(MainWindowTest, StatusPanelIsEmptiedWhenAFileCommandBegins) {
         if (command == IDM_mnuFileSave)
             program.files.locked[kFile] = true; // so that it has nothing to tell there
         program.prompts.answers = {Answer::No};
-        program.Main().RunCommand(command);
+        program.Main().frame.RunCommand(command);
         EXPECT_EQ(program.view.infoPanel, "") << command;
     }
 }
 
 TEST_F(MainWindowTest, StatusPanelIsEmptiedWhenFilesAreDropped) {
     Drop();
-    program.Main().FilesDropped({"C:\\none.tnt"});
+    program.Main().frame.FilesDropped({"C:\\none.tnt"});
     EXPECT_EQ(program.view.infoPanel, "");
 }
 
 TEST_F(MainWindowTest, NameThatIsBeingTypedIsTakenBeforeACommandRuns) {
     Drop();
-    program.view.openEdit = [this] { program.Main().NodeLabelEdited("0DG1", "typed"); };
-    program.Main().RunCommand(IDM_mnuFileSave);
+    program.view.openEdit = [this] { program.Main().tree.NodeLabelEdited("0DG1", "typed"); };
+    program.Main().frame.RunCommand(IDM_mnuFileSave);
     EXPECT_EQ(program.files.contents[kFile], "\"D#Dropped=0D:1\"\r\n\"G#typed=0DG1\"\r\n");
 }
 
@@ -56,8 +56,8 @@ TEST_F(MainWindowTest, NameThatIsBeingTypedIsTakenBeforeTheRowsAreSortedOrOfAnot
     Drop();
     bool isReported = false;
     for (const auto& act :
-         std::vector<std::function<void()>>{[this] { program.Main().ColumnClicked(1); },
-                                            [this] { program.Main().NodeClicked("0DG1"); }}) {
+         std::vector<std::function<void()>>{[this] { program.Main().list.ColumnClicked(1); },
+                                            [this] { program.Main().tree.NodeClicked("0DG1"); }}) {
         isReported = false;
         program.view.rowCount = -1;
         program.view.openEdit = [&] {
@@ -72,11 +72,11 @@ TEST_F(MainWindowTest, NameThatIsBeingTypedIsTakenBeforeTheRowsAreSortedOrOfAnot
 
 TEST_F(MainWindowTest, SortedColumnIsMarkedOnceSomethingIsSorted) {
     EXPECT_EQ(program.view.sortMark, "");
-    program.Main().ColumnClicked(1);
+    program.Main().list.ColumnClicked(1);
     EXPECT_EQ(program.view.sortMark, "1 down");
-    program.Main().ColumnClicked(1);
+    program.Main().list.ColumnClicked(1);
     EXPECT_EQ(program.view.sortMark, "1 up");
-    program.Main().ColumnClicked(3);
+    program.Main().list.ColumnClicked(3);
     EXPECT_EQ(program.view.sortMark, "3 up");
 }
 
@@ -99,7 +99,7 @@ TEST_F(MainWindowTest, OpenedFileWithOneBrokenValueKeepsWhatStoodBeforeItAndTell
                                     color("b", "99999") + color("c", "3");
     program.prompts.chosenFiles = {kFile};
     try {
-        program.Main().RunCommand(IDM_mnuFileOpen);
+        program.Main().frame.RunCommand(IDM_mnuFileOpen);
         FAIL() << "nothing is told";
     } catch (const RuntimeError& error) {
         program.errors.ReportError(error);
@@ -110,7 +110,7 @@ TEST_F(MainWindowTest, OpenedFileWithOneBrokenValueKeepsWhatStoodBeforeItAndTell
                   std::string(kFile) + ", line 4");
     EXPECT_EQ(program.view.nodes.at("0D"), "Broken");
     ASSERT_EQ(program.view.rowCount, 1);
-    EXPECT_EQ(program.Main().CellText(0, 1), "a");
+    EXPECT_EQ(program.Main().rows.CellText(0, 1), "a");
     EXPECT_EQ(program.view.valueTexts[0], "1");
 }
 
@@ -120,7 +120,7 @@ TEST_F(MainWindowTest, FilesDroppedDuringAWalkAreRefusedSilently) {
         ++rounds;
         Drop();
     };
-    program.Main().RunCommand(IDM_mnuSWXClearColorPart);
+    program.Main().frame.RunCommand(IDM_mnuSWXClearColorPart);
     EXPECT_GT(rounds, 0);
     EXPECT_TRUE(program.view.nodes.empty());
 }

@@ -20,18 +20,18 @@ protected:
         program->registry.SetText(FakeProgram::Setting("DefaultColorFile"), "C:\\a.tnt");
         program->application.Start();
     }
-    void Run(int command) { program->Main().RunCommand(command); }
+    void Run(int command) { program->Main().frame.RunCommand(command); }
     void Select(const AutomationObjectPtr& object, bool append = false) const {
         object->Invoke("Select", {append});
     }
     void TypeValue(std::size_t index, const std::string& text) {
-        program->Main().ValueTextChanged(index, text);
+        program->Main().editor.ValueTextChanged(index, text);
     }
     // The texts of a row: name and nine values.
     [[nodiscard]] std::vector<std::string> Row(int row) {
         std::vector<std::string> texts;
         for (int column = 1; column <= 10; ++column)
-            texts.push_back(program->Main().CellText(row, column));
+            texts.push_back(program->Main().rows.CellText(row, column));
         return texts;
     }
     [[nodiscard]] StandInClient Client() const { return StandInClient(program->solidWorks); }
@@ -60,7 +60,7 @@ const std::vector<int> kAllCommands = {IDM_mnuSWXGetColor,
                                        IDM_mnuSWXSetStandardColor};
 
 TEST_F(SolidWorksCommandsTest, EveryCommandShowsTextZeroWithoutSolidWorksAndChangesNothing) {
-    program->Main().NodeClicked("0DG1");
+    program->Main().tree.NodeClicked("0DG1");
     program->prompts.typed = {"first"};
     Run(IDM_mnuColorNewColor);
     TypeValue(0, "7"); // not written into the colour yet
@@ -231,7 +231,7 @@ TEST_F(SolidWorksCommandsTest, GetColorLoadsTheEditorAndNotTheLibrary) {
 }
 
 TEST_F(SolidWorksCommandsTest, GetColorLeavesTheSelectedColorAsItIs) {
-    program->Main().NodeClicked("0DG1");
+    program->Main().tree.NodeClicked("0DG1");
     program->prompts.typed = {"first"};
     Run(IDM_mnuColorNewColor);
     const std::vector<std::string> before = Row(0);
@@ -256,18 +256,18 @@ TEST_F(SolidWorksCommandsTest, NewColorFromSolidWorksEndsWithTheReadValuesInTheL
     Client().Face(0)->Put("MaterialPropertyValues",
                           std::vector<double>{0.2, 0.4, 0.6, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6});
     Select(Client().Face(0));
-    program->Main().NodeClicked("0DG1");
+    program->Main().tree.NodeClicked("0DG1");
     program->prompts.typed = {"picked"};
     Run(IDM_mnuSWXNewColorUpdate);
     ASSERT_EQ(program->view.rowCount, 1);
-    EXPECT_EQ(program->Main().CellText(0, 1), "Neuer Farbwert");
-    EXPECT_EQ(program->Main().CellText(0, 2), "51");
-    EXPECT_EQ(program->Main().CellText(0, 10), "60");
+    EXPECT_EQ(program->Main().rows.CellText(0, 1), "Neuer Farbwert");
+    EXPECT_EQ(program->Main().rows.CellText(0, 2), "51");
+    EXPECT_EQ(program->Main().rows.CellText(0, 10), "60");
 }
 
 TEST_F(SolidWorksCommandsTest, NewColorOfAnEdgeBecomesZerosWithoutANameAndWithoutAMessage) {
     program->solidWorks.Part().Edges().front()->Select(false);
-    program->Main().NodeClicked("0DG1");
+    program->Main().tree.NodeClicked("0DG1");
     program->prompts.typed = {"picked"};
     Run(IDM_mnuSWXNewColorUpdate);
     ASSERT_EQ(program->view.rowCount, 1);
@@ -277,7 +277,7 @@ TEST_F(SolidWorksCommandsTest, NewColorOfAnEdgeBecomesZerosWithoutANameAndWithou
 }
 
 TEST_F(SolidWorksCommandsTest, NewColorThatSolidWorksRefusesKeepsItsNameAndTheEditorsValues) {
-    program->Main().NodeClicked("0DG1");
+    program->Main().tree.NodeClicked("0DG1");
     program->prompts.typed = {"first"};
     Run(IDM_mnuColorNewColor);
     const std::vector<std::string> first = Row(0);
@@ -297,7 +297,7 @@ TEST_F(SolidWorksCommandsTest, NewColorThatSolidWorksRefusesKeepsItsNameAndTheEd
 }
 
 TEST_F(SolidWorksCommandsTest, CancelledNameAndARefusalLeaveTheColorThatWasActive) {
-    program->Main().NodeClicked("0DG1");
+    program->Main().tree.NodeClicked("0DG1");
     program->prompts.typed = {"first"};
     Run(IDM_mnuColorNewColor);
     const std::vector<std::string> before = Row(0);
@@ -310,7 +310,7 @@ TEST_F(SolidWorksCommandsTest, CancelledNameAndARefusalLeaveTheColorThatWasActiv
 }
 
 TEST_F(SolidWorksCommandsTest, CancelledNameStillReadsAndWritesTheColorThatWasActive) {
-    program->Main().NodeClicked("0DG1");
+    program->Main().tree.NodeClicked("0DG1");
     program->prompts.typed = {"first"};
     Run(IDM_mnuColorNewColor);
     Client().Face(0)->Put("MaterialPropertyValues",
@@ -327,8 +327,8 @@ TEST_F(SolidWorksCommandsTest, StandardColorsBecomeAGroupWithRisingEmission) {
     EXPECT_EQ(program->view.nodes.at("0DG2"), "<70>");
     EXPECT_EQ(program->view.selectedNode, "0DG2");
     ASSERT_EQ(program->view.rowCount, 12);
-    EXPECT_EQ(program->Main().CellText(0, 10), "10");
-    EXPECT_EQ(program->Main().CellText(11, 10), "21");
+    EXPECT_EQ(program->Main().rows.CellText(0, 10), "10");
+    EXPECT_EQ(program->Main().rows.CellText(11, 10), "21");
 }
 
 TEST_F(SolidWorksCommandsTest, StandardColorsTakeNameAndColorFromTheTableAndTheRestFromTheEditor) {
@@ -338,10 +338,11 @@ TEST_F(SolidWorksCommandsTest, StandardColorsTakeNameAndColorFromTheTableAndTheR
     program->solidWorks.Part().Colors().Replace({{"Sky", 0xFF8040}});
     Run(IDM_mnuSWXGetStandardColor);
     ASSERT_EQ(program->view.rowCount, 1);
-    EXPECT_EQ(program->Main().CellText(0, 1), "Sky");
+    EXPECT_EQ(program->Main().rows.CellText(0, 1), "Sky");
     const std::vector<std::string> expected{"64", "128", "255", "11", "22", "33", "44", "55", "10"};
     for (int value = 0; value < 9; ++value)
-        EXPECT_EQ(program->Main().CellText(0, value + 2), expected[static_cast<std::size_t>(value)])
+        EXPECT_EQ(program->Main().rows.CellText(0, value + 2),
+                  expected[static_cast<std::size_t>(value)])
             << value;
     EXPECT_EQ(program->view.colorName, "Sky");
     EXPECT_EQ(program->view.valueTexts[8], "10");
@@ -351,14 +352,14 @@ TEST_F(SolidWorksCommandsTest, EmissionOfStandardColorsEndsAtAHundred) {
     Start("standard-colors=95");
     Run(IDM_mnuSWXGetStandardColor);
     ASSERT_EQ(program->view.rowCount, 95);
-    EXPECT_EQ(program->Main().CellText(89, 10), "99");
-    EXPECT_EQ(program->Main().CellText(90, 10), "100");
-    EXPECT_EQ(program->Main().CellText(91, 10), "100");
-    EXPECT_EQ(program->Main().CellText(94, 10), "100");
+    EXPECT_EQ(program->Main().rows.CellText(89, 10), "99");
+    EXPECT_EQ(program->Main().rows.CellText(90, 10), "100");
+    EXPECT_EQ(program->Main().rows.CellText(91, 10), "100");
+    EXPECT_EQ(program->Main().rows.CellText(94, 10), "100");
 }
 
 TEST_F(SolidWorksCommandsTest, StandardColorsMarkTheLibraryOfTheSelectedNodeAsChanged) {
-    program->Main().NodeClicked("0DG1");
+    program->Main().tree.NodeClicked("0DG1");
     ASSERT_FALSE(IsMarkedAsChanged());
     Run(IDM_mnuSWXGetStandardColor);
     EXPECT_TRUE(IsMarkedAsChanged());
@@ -368,9 +369,9 @@ TEST_F(SolidWorksCommandsTest, StandardColorsMarkTheLibraryOfTheSelectedNodeAsCh
 TEST_F(SolidWorksCommandsTest, StandardColorsWhoseGroupCannotBeMadeLeaveTheLibraryItsFile) {
     program->prompts.typed = {"h", ""};
     Run(IDM_mnuColorNewGroup); // 0DG2
-    program->Main().NodeClicked("0DG1");
+    program->Main().tree.NodeClicked("0DG1");
     Run(IDM_mnuColorDelGroup);
-    program->Main().NodeClicked("0D"); // the next group would be 0DG2 again
+    program->Main().tree.NodeClicked("0D"); // the next group would be 0DG2 again
     const auto nodes = program->view.nodes;
     program->prompts.messages.clear();
     EXPECT_THROW(Run(IDM_mnuSWXGetStandardColor), RuntimeError);
@@ -427,8 +428,8 @@ TEST_F(SolidWorksCommandsTest, EmptyTableGivesAnEmptyGroup) {
 TEST_F(SolidWorksCommandsTest, StandardColorsAreSetInTheOrderOfTheList) {
     program->solidWorks.Part().Colors().Replace({{"a", 1}, {"b", 2}});
     Run(IDM_mnuSWXGetStandardColor);
-    program->Main().ColumnClicked(1); // by name, the first click descending
-    ASSERT_EQ(program->Main().CellText(0, 1), "b");
+    program->Main().list.ColumnClicked(1); // by name, the first click descending
+    ASSERT_EQ(program->Main().rows.CellText(0, 1), "b");
     Run(IDM_mnuSWXSetStandardColor);
     EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<73>\r\n<74>", 65, "TNT4SWX"},
                                                                {"<73>\r\n<74>", 65, "TNT4SWX"}}));
@@ -436,7 +437,7 @@ TEST_F(SolidWorksCommandsTest, StandardColorsAreSetInTheOrderOfTheList) {
 
 TEST_F(SolidWorksCommandsTest, RenamedStandardColorIsAskedOnceAndTheOthersAreWritten) {
     Run(IDM_mnuSWXGetStandardColor);
-    program->Main().RowLabelEdited(3, "My green");
+    program->Main().list.RowLabelEdited(3, "My green");
     std::vector<NamedColor> black = program->solidWorks.Part().Colors().Colors();
     for (NamedColor& entry : black)
         entry.color = 0;
@@ -450,12 +451,12 @@ TEST_F(SolidWorksCommandsTest, RenamedStandardColorIsAskedOnceAndTheOthersAreWri
 
 TEST_F(SolidWorksCommandsTest, CancelledQuestionOfTheStandardColorsIsNotFollowedByAMessage) {
     Run(IDM_mnuSWXGetStandardColor);
-    program->Main().RowLabelEdited(0, "other");
+    program->Main().list.RowLabelEdited(0, "other");
     program->prompts.answers = {Answer::Cancel};
     Run(IDM_mnuSWXSetStandardColor);
     EXPECT_EQ(program->prompts.messages.size(), 1U);
     program->prompts.messages.clear();
-    program->Main().NodeClicked("0DG1"); // a group without colours
+    program->Main().tree.NodeClicked("0DG1"); // a group without colours
     program->prompts.answers = {Answer::Cancel};
     Run(IDM_mnuSWXSetStandardColor);
     EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<72>\r\n<74>", 65, "TNT4SWX"}}));
@@ -557,11 +558,11 @@ TEST_F(SolidWorksCommandsTest, NoDragStartsDuringAWalk) {
     program->prompts.typed = {"Lib", "g", "c"};
     Run(IDM_mnuColorNewMainNode);
     bool started = true;
-    program->events.onEvents = [&] { started = program->Main().DragStarted({}, {}); };
+    program->events.onEvents = [&] { started = program->Main().drag.DragStarted({}, {}); };
     Run(IDM_mnuSWXClearColorPart);
     EXPECT_FALSE(started);
-    EXPECT_TRUE(program->Main().DragStarted({}, {})) << "and afterwards it does";
-    program->Main().DragCancelled();
+    EXPECT_TRUE(program->Main().drag.DragStarted({}, {})) << "and afterwards it does";
+    program->Main().drag.DragCancelled();
 }
 
 TEST_F(SolidWorksCommandsTest, QuitDuringACallThatFailsEndsTheProgramWithoutAMessage) {
@@ -596,7 +597,7 @@ TEST_F(SolidWorksCommandsTest, QuitDuringAWalkStopsItFirstAndEndsWithoutAMessage
 }
 
 TEST_F(SolidWorksCommandsTest, CloseBoxDuringAWalkEndsTheProgramToo) {
-    program->events.onEvents = [&] { program->Main().WindowClosing(); };
+    program->events.onEvents = [&] { program->Main().frame.WindowClosing(); };
     Run(IDM_mnuSWXClearColorPart);
     EXPECT_TRUE(program->view.isEnded);
     EXPECT_TRUE(program->prompts.messages.empty());
@@ -606,7 +607,7 @@ TEST_F(SolidWorksCommandsTest, EndOfTheSessionWaitsForNoWalk) {
     bool endedDuringWalk = false;
     std::string storedBanner;
     program->events.onEvents = [&] {
-        program->Main().SessionEnding();
+        program->Main().frame.SessionEnding();
         endedDuringWalk = program->view.isEnded;
         storedBanner = program->registry.Text(FakeProgram::Setting("LastSponsorShown"));
     };
@@ -739,7 +740,7 @@ TEST_F(SolidWorksCommandsTest, PointerIsNoHourGlassAnyMoreAfterACallHasFailed) {
 TEST_F(SolidWorksCommandsTest, EscapeStopsAWalkBeforeItsWindowIsShown) {
     program->events.onEvents = [&] {
         if (program->events.count == 2)
-            program->Main().EscapePressed();
+            program->Main().frame.EscapePressed();
     };
     Run(IDM_mnuSWXClearColorPart);
     EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"ProgressStopped", 64, kTitle}}));
@@ -747,7 +748,7 @@ TEST_F(SolidWorksCommandsTest, EscapeStopsAWalkBeforeItsWindowIsShown) {
 }
 
 TEST_F(SolidWorksCommandsTest, EscapeWithoutACommandStopsNothing) {
-    program->Main().EscapePressed();
+    program->Main().frame.EscapePressed();
     Run(IDM_mnuSWXGetStandardColor);
     EXPECT_EQ(program->view.rowCount, 12);
     EXPECT_TRUE(program->prompts.messages.empty());
@@ -768,7 +769,7 @@ TEST_F(SolidWorksCommandsTest, StoppedImportKeepsWhatItHasReadAndSaysSo) {
 
 TEST_F(SolidWorksCommandsTest, ImportThatIsStoppedBeforeItsFirstColorMakesNoGroup) {
     const auto nodes = program->view.nodes;
-    program->events.onEvents = [&] { program->Main().EscapePressed(); };
+    program->events.onEvents = [&] { program->Main().frame.EscapePressed(); };
     Run(IDM_mnuSWXGetStandardColor);
     EXPECT_EQ(program->view.nodes, nodes);
     EXPECT_FALSE(IsMarkedAsChanged());
@@ -777,10 +778,10 @@ TEST_F(SolidWorksCommandsTest, ImportThatIsStoppedBeforeItsFirstColorMakesNoGrou
 TEST_F(SolidWorksCommandsTest, ImportGoesToTheNodeThatWasSelectedWhenItBegan) {
     program->prompts.typed = {"Second", "", ""};
     Run(IDM_mnuColorNewMainNode);
-    program->Main().NodeClicked("0DG1");
+    program->Main().tree.NodeClicked("0DG1");
     TypeValue(4, "33");
     program->events.onEvents = [&] {
-        program->Main().NodeClicked("1D");
+        program->Main().tree.NodeClicked("1D");
         TypeValue(4, "44");
     };
     Run(IDM_mnuSWXGetStandardColor);
@@ -817,31 +818,31 @@ TEST_F(SolidWorksCommandsTest, CommandsWorkAgainAfterSolidWorksWasClosedAndStart
 }
 
 TEST_F(SolidWorksCommandsTest, DyingSolidWorksIsReportedAndNothingIsWrittenIntoTheLibrary) {
-    program->Main().NodeClicked("0DG1");
+    program->Main().tree.NodeClicked("0DG1");
     program->prompts.typed = {"kept"};
     Run(IDM_mnuColorNewColor);
-    const std::string red = program->Main().CellText(0, 2);
+    const std::string red = program->Main().rows.CellText(0, 2);
     Select(Client().Face(0));
     program->solidWorks.Gate().ClearFaults();
     program->solidWorks.Gate().AddFault(ParseFault("7:die")); // the face's colour
     EXPECT_THROW(Run(IDM_mnuSWXNewColorUpdate), RuntimeError);
-    EXPECT_EQ(program->Main().CellText(0, 1), "kept");
-    EXPECT_EQ(program->Main().CellText(0, 2), red);
+    EXPECT_EQ(program->Main().rows.CellText(0, 1), "kept");
+    EXPECT_EQ(program->Main().rows.CellText(0, 2), red);
     program->solidWorks.Gate().ClearFaults();
 }
 
 TEST_F(SolidWorksCommandsTest, NothingElseIsEditedDuringAWalk) {
     program->events.onEvents = [&] {
-        program->Main().SwatchDoubleClicked();
-        program->Main().NodeEditRequested();
-        EXPECT_FALSE(program->Main().MayEditNode());
-        EXPECT_FALSE(program->Main().MayEditRow());
+        program->Main().frame.RunCommand(IDM_mnuColorChange);
+        program->Main().frame.RunCommand(IDM_mnuColorRenameNode);
+        EXPECT_FALSE(program->Main().tree.MayEditNode());
+        EXPECT_FALSE(program->Main().list.MayEditRow());
     };
     Run(IDM_mnuSWXClearColorPart);
     EXPECT_TRUE(program->prompts.colorRequests.empty());
     EXPECT_EQ(program->view.editedNode, "");
-    EXPECT_TRUE(program->Main().MayEditNode());
-    EXPECT_TRUE(program->Main().MayEditRow());
+    EXPECT_TRUE(program->Main().tree.MayEditNode());
+    EXPECT_TRUE(program->Main().list.MayEditRow());
 }
 
 } // namespace

@@ -106,7 +106,7 @@ TEST_F(ViewCommandsTest, BarsAreArrangedBeforeTheLayoutThatTakesTheirHeight) {
 }
 
 TEST_F(ViewCommandsTest, LargeEditorTakesItsHeightFromThePanes) {
-    layout.Resize();
+    layout.Resized();
     const float before = view.layout.tree.height;
     views.Toggle(IDM_mnuViewHugeColorDialog);
     EXPECT_LT(view.layout.tree.height, before);

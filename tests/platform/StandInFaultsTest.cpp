@@ -162,7 +162,7 @@ TEST(StandInReferences, NoObjectIsHeldBetweenTwoCommands) {
                                   IDM_mnuSWXClearComponentColorFromSelection,
                                   IDM_mnuSWXClearColorPart, IDM_mnuSWXClearColorAssembly,
                                   IDM_mnuSWXGetStandardColor, IDM_mnuSWXSetStandardColor}) {
-            program.program.Main().RunCommand(command);
+            program.program.Main().frame.RunCommand(command);
             EXPECT_TRUE(PollUntil([&] { return standIn.Ask(Question::LiveObjects) == 1; }))
                 << document << " " << command;
         }

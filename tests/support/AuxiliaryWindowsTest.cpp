@@ -69,7 +69,7 @@ protected:
 };
 
 TEST_F(AuxiliaryWindowsTest, AboutIsCaptionedCentredOnTopAndModal) {
-    program.Main().RunCommand(IDM_mnuHlpAbout);
+    program.Main().frame.RunCommand(IDM_mnuHlpAbout);
     EXPECT_EQ(program.about.caption, "TNT4SWX - Info ");
     EXPECT_EQ(program.about.title, "TNT4SWX");
     EXPECT_EQ(program.about.version, "Version 1.2.7");
@@ -79,14 +79,14 @@ TEST_F(AuxiliaryWindowsTest, AboutIsCaptionedCentredOnTopAndModal) {
 }
 
 TEST_F(AuxiliaryWindowsTest, AboutAndViewerTakeTheCurrentOnTopStateEachTimeTheyAreShown) {
-    program.Main().RunCommand(IDM_mnuOptionsAlwaysOnTop);
-    program.Main().RunCommand(IDM_mnuHlpAbout);
-    program.Main().RunCommand(IDM_mnuHlpShowReadme);
+    program.Main().frame.RunCommand(IDM_mnuOptionsAlwaysOnTop);
+    program.Main().frame.RunCommand(IDM_mnuHlpAbout);
+    program.Main().frame.RunCommand(IDM_mnuHlpShowReadme);
     EXPECT_EQ(program.about.topmost, std::vector<bool>{false});
     EXPECT_EQ(program.textViewer.topmost, std::vector<bool>{false});
-    program.Main().RunCommand(IDM_mnuOptionsAlwaysOnTop);
-    program.Main().RunCommand(IDM_mnuHlpAbout);
-    program.Main().RunCommand(IDM_mnuHlpShowReadme);
+    program.Main().frame.RunCommand(IDM_mnuOptionsAlwaysOnTop);
+    program.Main().frame.RunCommand(IDM_mnuHlpAbout);
+    program.Main().frame.RunCommand(IDM_mnuHlpShowReadme);
     EXPECT_EQ(program.about.topmost, (std::vector<bool>{false, true}));
     EXPECT_EQ(program.textViewer.topmost, (std::vector<bool>{false, true}));
 }
@@ -94,8 +94,8 @@ TEST_F(AuxiliaryWindowsTest, AboutAndViewerTakeTheCurrentOnTopStateEachTimeTheyA
 TEST_F(AuxiliaryWindowsTest, AboutAndViewerGetTheBannerWhenTheyAreShown) {
     program.about.banner = -1; // made only now: what was shown before has passed it by
     program.textViewer.banner = -1;
-    program.Main().RunCommand(IDM_mnuHlpAbout);
-    program.Main().RunCommand(IDM_mnuHlpShowReadme);
+    program.Main().frame.RunCommand(IDM_mnuHlpAbout);
+    program.Main().frame.RunCommand(IDM_mnuHlpShowReadme);
     EXPECT_EQ(program.about.banner, 1);
     EXPECT_EQ(program.textViewer.banner, 1);
 }
@@ -105,7 +105,7 @@ TEST_F(AuxiliaryWindowsTest, LanguageCommandGivesMainWindowAboutAndProgressTheir
     program.about.form.Add("lbl", "Label");
     program.progressForm.Add("lbl", "Label");
     program.profile.asked.clear();
-    program.Main().RunCommand(IDM_mnuOptionsLngGerman);
+    program.Main().frame.RunCommand(IDM_mnuOptionsLngGerman);
     std::vector<std::string> captions;
     for (const std::string& key : program.profile.asked)
         if (key.ends_with("/lbl.Caption"))
@@ -118,7 +118,7 @@ TEST_F(AuxiliaryWindowsTest, AboutIsNeverRestoredAlthoughItIsStored) {
     program.application.AboutWindowEvents().AboutUnloading();
     EXPECT_EQ(program.registry.Text("SOFTWARE\\Chromixs\\TNT4SWX\\Form Positions|frmAbout"),
               "L=0;T=0;W=6000;H=4000;S=0;");
-    program.Main().RunCommand(IDM_mnuHlpAbout);
+    program.Main().frame.RunCommand(IDM_mnuHlpAbout);
     EXPECT_EQ(program.about.bounds.left, 4680);
 }
 
@@ -193,13 +193,13 @@ TEST_F(AuxiliaryWindowsTest, NumberInTheRegistryIsTakenAsHexadecimalText) {
 TEST_F(AuxiliaryWindowsTest, ViewerHasItsFiveEntriesAndShowsTheOneAskedFor) {
     program.files.contents["C:\\prog\\readme_us.txt"] = "Read \xFC"
                                                         "ber";
-    program.Main().RunCommand(IDM_mnuHlpShowReadme);
+    program.Main().frame.RunCommand(IDM_mnuHlpShowReadme);
     EXPECT_EQ(program.textViewer.entries,
               (std::vector<std::string>{"readme", "lizenz", "changes", "todo", "limitations"}));
     EXPECT_EQ(program.textViewer.selected, 0);
     EXPECT_EQ(program.textViewer.text, "Read über");
     EXPECT_EQ(program.textViewer.shown, 1);
-    program.Main().RunCommand(IDM_mnuHlpShowLizenz);
+    program.Main().frame.RunCommand(IDM_mnuHlpShowLizenz);
     EXPECT_EQ(program.textViewer.selected, 1);
 }
 
@@ -213,14 +213,14 @@ TEST_F(AuxiliaryWindowsTest, ViewerChangesItsLanguageOnlyWhenAnEntryIsChosen) {
     program.files.contents["C:\\prog\\changes_us.txt"] = "changes";
     program.files.contents["C:\\prog\\changes_de.txt"] = "neu";
     program.application.TextViewerWindowEvents().EntryChosen(2);
-    program.Main().RunCommand(IDM_mnuOptionsLngGerman);
+    program.Main().frame.RunCommand(IDM_mnuOptionsLngGerman);
     EXPECT_EQ(program.textViewer.text, "changes");
     program.application.TextViewerWindowEvents().EntryChosen(2);
     EXPECT_EQ(program.textViewer.text, "neu");
 }
 
 TEST_F(AuxiliaryWindowsTest, EntryWithoutItsFileShowsTheFullPathAndMissingFile) {
-    program.Main().RunCommand(IDM_mnuOptionsLngGerman);
+    program.Main().frame.RunCommand(IDM_mnuOptionsLngGerman);
     program.application.TextViewerWindowEvents().EntryChosen(3);
     EXPECT_EQ(program.textViewer.text, "C:\\prog\\todo_de.txt: missing file");
     EXPECT_TRUE(program.prompts.messages.empty());
@@ -259,7 +259,7 @@ TEST_F(AuxiliaryWindowsTest, StopButtonSetsTheStopFlagAndLeavesTheProgressWindow
 
 TEST_F(AuxiliaryWindowsTest, ProgressWindowTakesTheCurrentOnTopStateEachTimeItIsShown) {
     program.application.ProgressWindowEvents().ProgressLoading();
-    program.Main().RunCommand(IDM_mnuOptionsAlwaysOnTop);
+    program.Main().frame.RunCommand(IDM_mnuOptionsAlwaysOnTop);
     program.application.ProgressWindowEvents().ProgressLoading();
     EXPECT_EQ(program.progressWindow.topmost, (std::vector<bool>{true, false}));
 }
@@ -273,13 +273,13 @@ TEST_F(AuxiliaryWindowsTest, ProgressWindowTakesItsTextsOfTheCurrentLanguage) {
 }
 
 TEST_F(AuxiliaryWindowsTest, BannerTicksThroughAllPicturesAndItsClickOpensTheirAddress) {
-    program.Main().BannerTicked();
-    program.Main().BannerTicked();
+    program.Main().banner.BannerTicked();
+    program.Main().banner.BannerTicked();
     EXPECT_EQ(program.view.banner, 3);
-    program.Main().BannerTicked();
+    program.Main().banner.BannerTicked();
     EXPECT_EQ(program.view.banner, 1) << "after the last one the first";
     EXPECT_EQ(program.textViewer.banner, 1);
-    program.Main().BannerClicked();
+    program.Main().banner.BannerClicked();
     EXPECT_EQ(program.shell.requests[0].file, "https://www.example.org/1");
 }
 
@@ -288,9 +288,9 @@ TEST(Banner, TimersCounterStartsFromTheIndexAtItsFirstTick) {
     const modinternet links(shell);
     Banner banner(links, {"a", "b", "c"}, [](int) {});
     banner.Start("2");
-    banner.Tick();
+    banner.BannerTicked();
     EXPECT_EQ(banner.Index(), 3);
-    banner.Click();
+    banner.BannerClicked();
     EXPECT_EQ(shell.requests.at(0).file, "c");
 }
 
@@ -300,8 +300,8 @@ TEST(Banner, WithoutPicturesNothingIsShownAndAClickDoesNothing) {
     int shown = -1;
     Banner banner(links, {}, [&](int index) { shown = index; });
     banner.Start("2");
-    banner.Tick();
-    banner.Click();
+    banner.BannerTicked();
+    banner.BannerClicked();
     EXPECT_EQ(shown, 0);
     EXPECT_TRUE(shell.requests.empty());
 }
@@ -314,7 +314,7 @@ TEST(Banner, WithoutPicturesTheStoredNumberIsStoredAgain) {
     EXPECT_EQ(none.IndexToStore(), 2);
     Banner three(links, {"a", "b", "c"}, [](int) {});
     three.Start("2");
-    three.Tick();
+    three.BannerTicked();
     EXPECT_EQ(three.IndexToStore(), 3);
 }
 
@@ -334,17 +334,17 @@ TEST(Banner, PictureWithoutAnAddressIsShownAndIsNoLink) {
     Banner banner(links, {"a", ""}, [&](int index) { shown = index; });
     banner.Start("2");
     EXPECT_EQ(shown, 2);
-    banner.Click();
+    banner.BannerClicked();
     EXPECT_TRUE(shell.requests.empty());
-    banner.Tick();
-    banner.Click();
+    banner.BannerTicked();
+    banner.BannerClicked();
     EXPECT_EQ(shell.requests.at(0).file, "a");
 }
 
 TEST_F(AuxiliaryWindowsTest, LanguageIsAppliedToTheFormsAtOnceAndMarksExcludeEachOther) {
     program.mainForm.Add("mnuFile", "Menu");
     program.profile.values[{"C:\\prog\\tntlng_de.ini", "frmMain", "mnuFile.Caption"}] = "&Datei";
-    program.Main().RunCommand(IDM_mnuOptionsLngGerman);
+    program.Main().frame.RunCommand(IDM_mnuOptionsLngGerman);
     EXPECT_EQ(program.mainForm.Controls()[0]->Property("Caption"), "&Datei");
     EXPECT_TRUE(program.view.checks.at(IDM_mnuOptionsLngGerman));
     EXPECT_FALSE(program.view.checks.at(IDM_mnuOptionsLngEnglish));
@@ -353,14 +353,14 @@ TEST_F(AuxiliaryWindowsTest, LanguageIsAppliedToTheFormsAtOnceAndMarksExcludeEac
 TEST_F(AuxiliaryWindowsTest, LanguageWithoutItsFileLeavesEveryTextAndMessagesSaySo) {
     program.mainForm.Add("mnuFile", "Menu");
     program.files.contents.erase("C:\\prog\\tntlng_de.ini");
-    program.Main().RunCommand(IDM_mnuOptionsLngGerman);
+    program.Main().frame.RunCommand(IDM_mnuOptionsLngGerman);
     EXPECT_EQ(program.mainForm.Controls()[0]->Property("Caption"), "built-in Caption");
     EXPECT_EQ(program.language.GetInfoText(1), "INI file doesn't exists ");
 }
 
 TEST_F(AuxiliaryWindowsTest, OnTopToggledTwiceIsAsBefore) {
-    program.Main().RunCommand(IDM_mnuOptionsAlwaysOnTop);
-    program.Main().RunCommand(IDM_mnuOptionsAlwaysOnTop);
+    program.Main().frame.RunCommand(IDM_mnuOptionsAlwaysOnTop);
+    program.Main().frame.RunCommand(IDM_mnuOptionsAlwaysOnTop);
     EXPECT_EQ(program.mainWindow.topmost, (std::vector<bool>{true, false, true}));
 }
 

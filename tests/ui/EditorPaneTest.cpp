@@ -27,7 +27,7 @@ TEST_F(MainEditorPane, BoxesAreDesignedWithZero) {
 }
 
 TEST_F(MainEditorPane, TextSetByTheProgramIsNotReported) {
-    form.SetValueText(3, "77");
+    view.editor.SetValueText(3, "77");
     EXPECT_EQ(TextOf(Box(3)), L"77");
     EXPECT_TRUE(events.lines.empty());
 }
@@ -41,7 +41,7 @@ TEST_F(MainEditorPane, TextOfTheLanguageFileGoesTheWayOfATypedOne) {
 
 TEST_F(MainEditorPane, TextThatWasSetWhileTheEditorWasHiddenIsShownWhole) {
     form.ShowWindow();
-    form.SetValueText(0, "255");
+    view.editor.SetValueText(0, "255");
     events.layout.SetHugeFrame(true);
     const HWND box = Child(IDC_txtActiveColor);
     RECT area{};
@@ -54,13 +54,13 @@ TEST_F(MainEditorPane, TextThatWasSetWhileTheEditorWasHiddenIsShownWhole) {
 }
 
 TEST_F(MainEditorPane, EachTypedCharacterIsReportedWithTheWholeText) {
-    form.SelectWholeValueText(1);
+    view.editor.SelectWholeValueText(1);
     Type(1, L"12");
     EXPECT_EQ(events.lines, (std::vector<std::string>{"text 1=1", "text 1=12"}));
 }
 
 TEST_F(MainEditorPane, OnlyValueCharactersAreLetThrough) {
-    form.SelectWholeValueText(0);
+    view.editor.SelectWholeValueText(0);
     Type(0, L"a-1ü,2 ");
     EXPECT_EQ(TextOf(Box(0)), L"12");
 }
@@ -73,10 +73,10 @@ TEST_F(MainEditorPane, KeysOfTheClipboardAreLetThrough) {
     constexpr wchar_t ctrlZ[] = {26, 0};
     Win32Clipboard clipboard([this] { return form.Handle(); });
     ASSERT_TRUE(clipboard.SetText("42"));
-    form.SelectWholeValueText(0);
+    view.editor.SelectWholeValueText(0);
     Type(0, ctrlV);
     EXPECT_EQ(TextOf(Box(0)), L"42");
-    form.SelectWholeValueText(0);
+    view.editor.SelectWholeValueText(0);
     Type(0, ctrlX);
     EXPECT_EQ(TextOf(Box(0)), L"");
     Type(0, ctrlZ);
@@ -88,7 +88,7 @@ TEST_F(MainEditorPane, KeysOfTheClipboardAreLetThrough) {
 }
 
 TEST_F(MainEditorPane, BackspaceIsLetThrough) {
-    form.SetValueText(0, "25");
+    view.editor.SetValueText(0, "25");
     SendMessageW(Box(0), EM_SETSEL, 2, 2);
     Type(0, L"\b");
     EXPECT_EQ(TextOf(Box(0)), L"2");
@@ -96,9 +96,9 @@ TEST_F(MainEditorPane, BackspaceIsLetThrough) {
 
 TEST_F(MainEditorPane, TextWrittenBackWhileTypingKeepsTheCaretAtItsPlace) {
     events.onTextChanged = [this](std::size_t index, const std::string& text) {
-        form.SetValueText(index, text == "2." ? "2" : text);
+        view.editor.SetValueText(index, text == "2." ? "2" : text);
     };
-    form.SelectWholeValueText(0);
+    view.editor.SelectWholeValueText(0);
     Type(0, L"2.5");
     EXPECT_EQ(TextOf(Box(0)), L"25");
     EXPECT_EQ(events.lines, (std::vector<std::string>{"text 0=2", "text 0=2.", "text 0=25"}));
@@ -107,17 +107,17 @@ TEST_F(MainEditorPane, TextWrittenBackWhileTypingKeepsTheCaretAtItsPlace) {
 TEST_F(MainEditorPane, FocusIsReportedAndTheWholeTextCanBeSelected) {
     form.ShowWindow();
     events.layout.SetHugeFrame(true);
-    form.SetValueText(2, "224");
+    view.editor.SetValueText(2, "224");
     SetFocus(Box(2));
     EXPECT_EQ(events.lines, std::vector<std::string>{"focus 2"});
-    form.SelectWholeValueText(2);
+    view.editor.SelectWholeValueText(2);
     EXPECT_EQ(Selection(2), (std::pair<DWORD, DWORD>{0, 3}));
 }
 
 TEST_F(MainEditorPane, ClickThatBringsTheFocusKeepsTheSelection) {
     form.ShowWindow();
     events.layout.SetHugeFrame(true);
-    form.SetValueText(2, "224");
+    view.editor.SetValueText(2, "224");
     SetFocus(Child(IDC_tvColor));
     SendMessageW(Box(2), EM_SETSEL, 0, -1);
     Click(Box(2), {2, 2});
@@ -136,12 +136,12 @@ TEST_F(MainEditorPane, SlidersHaveTheRangesAndStepsOfTheirValues) {
 }
 
 TEST_F(MainEditorPane, SliderThatDoesNotMoveReportsNothing) {
-    form.SetSlider(7, 0);
+    view.editor.SetSlider(7, 0);
     SendMessageW(Slide(7), WM_KEYDOWN, VK_LEFT, 0);
     SendMessageW(GetParent(Slide(7)), WM_HSCROLL, MAKEWPARAM(TB_THUMBPOSITION, 0),
                  reinterpret_cast<LPARAM>(Slide(7)));
     EXPECT_TRUE(events.lines.empty());
-    form.SetSlider(7, 100);
+    view.editor.SetSlider(7, 100);
     SendMessageW(Slide(7), WM_KEYDOWN, VK_RIGHT, 0);
     EXPECT_TRUE(events.lines.empty());
     SendMessageW(Slide(7), WM_KEYDOWN, VK_LEFT, 0);
@@ -149,7 +149,7 @@ TEST_F(MainEditorPane, SliderThatDoesNotMoveReportsNothing) {
 }
 
 TEST_F(MainEditorPane, WheelTurnsUpToGreaterValuesAndReportsThem) {
-    form.SetSlider(7, 40);
+    view.editor.SetSlider(7, 40);
     const auto turn = [this](int delta) {
         SendMessageW(Slide(7), WM_MOUSEWHEEL, static_cast<WPARAM>(MAKELONG(0, delta)), 0);
     };
@@ -164,7 +164,7 @@ TEST_F(MainEditorPane, WheelTurnsUpToGreaterValuesAndReportsThem) {
 }
 
 TEST_F(MainEditorPane, SliderKeysReportEachPositionOnce) {
-    form.SetSlider(7, 40);
+    view.editor.SetSlider(7, 40);
     EXPECT_TRUE(events.lines.empty());
     SendMessageW(Slide(7), WM_KEYDOWN, VK_RIGHT, 0);
     SendMessageW(Slide(7), WM_KEYUP, VK_RIGHT, 0);
@@ -176,13 +176,13 @@ TEST_F(MainEditorPane, SliderKeysReportEachPositionOnce) {
 TEST_F(MainEditorPane, BothSwatchesReportTheDoubleClick) {
     for (const int id : {IDC_lblActiveColor, IDC_lblActiveColorSmall})
         SendMessageW(Child(id), WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(2, 2));
-    EXPECT_EQ(events.lines, (std::vector<std::string>{"swatch", "swatch"}));
+    EXPECT_EQ(events.commands, (std::vector<int>{IDM_mnuColorChange, IDM_mnuColorChange}));
 }
 
 TEST_F(MainEditorPane, SwatchShowsItsColor) {
     form.ShowWindow();
-    form.SetSmallSwatch(0x2040C0, 0xDFBF3F);
-    form.SetSmallSwatchCaption("Blau & Weiß (R:1 G:2 B:3)");
+    view.editor.SetSmallSwatch(0x2040C0, 0xDFBF3F);
+    view.editor.SetSmallSwatchCaption("Blau & Weiß (R:1 G:2 B:3)");
     EXPECT_EQ(TextOf(Child(IDC_lblActiveColorSmall)), L"Blau & Weiß (R:1 G:2 B:3)");
     const HWND swatch = Child(IDC_lblActiveColorSmall);
     RedrawWindow(swatch, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
@@ -195,14 +195,14 @@ TEST_F(MainEditorPane, SwatchShowsItsColor) {
 }
 
 TEST_F(MainEditorPane, NameLabelShowsAmpersandsAsTheyAre) {
-    form.SetColorName("Blau & Weiß");
+    view.editor.SetColorName("Blau & Weiß");
     EXPECT_EQ(TextOf(Child(IDC_lblActiveColorName)), L"Blau & Weiß");
     EXPECT_NE(GetWindowLongPtrW(Child(IDC_lblActiveColorName), GWL_STYLE) & SS_NOPREFIX, 0);
 }
 
 TEST_F(MainEditorPane, NoControlOfTheFrameIsCutOffInAWindowAsDesigned) {
     events.layout.SetHugeFrame(true);
-    events.layout.Resize();
+    events.layout.Resized();
     RECT frame{};
     GetWindowRect(Child(IDC_fraShowColor), &frame);
     for (HWND child = GetWindow(Child(IDC_fraShowColor), GW_CHILD); child != nullptr;

@@ -40,8 +40,8 @@ protected:
     }
     void ExpectMenus(const std::string& code) {
         const HMENU bar = GetMenu(program->main.Handle());
-        for (const MenuRow& row : kMenuRows) {
-            if (row.kind == MenuKind::Separator || row.kind == MenuKind::Title)
+        for (const MenuRow& row : MenuRows()) {
+            if (row.place == MenuKind::Separator || row.place == MenuKind::Title)
                 continue;
             const std::string shown = MenuText(bar, row.command);
             EXPECT_EQ(shown.substr(0, shown.find('\t')),
@@ -51,8 +51,8 @@ protected:
     void ExpectTitles(const std::string& code) {
         const HMENU bar = GetMenu(program->main.Handle());
         UINT place = 0;
-        for (const MenuRow& row : kMenuRows) {
-            if (row.kind != MenuKind::Title)
+        for (const MenuRow& row : MenuRows()) {
+            if (row.place != MenuKind::Title)
                 continue;
             std::array<wchar_t, 64> text{};
             GetMenuStringW(bar, place++, text.data(), static_cast<int>(text.size()), MF_BYPOSITION);
@@ -187,7 +187,7 @@ TEST_F(LanguageSwitch, ActiveColorStaysAsItIs) {
     const HWND main = program->main.Handle();
     const HWND red = FindChild(main, IDC_txtActiveColor);
     SetWindowTextW(red, L"17");
-    program->main.SetColorName("\"Ausnahme & Ω\"  ");
+    program->main.View().editor.SetColorName("\"Ausnahme & Ω\"  ");
     program->Run(IDM_mnuOptionsLngGerman);
     EXPECT_EQ(TextOf(red), L"17");
     EXPECT_EQ(TextOf(FindChild(main, IDC_lblActiveColorName)), L"\"Ausnahme & Ω\"  ");

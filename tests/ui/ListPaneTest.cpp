@@ -11,10 +11,11 @@ namespace {
 class MainList : public MainFormTest {
 protected:
     MainList() {
-        const float width = form.ListWidth();
-        form.AddColumns({{"Name", "Name", width * 0.24F}, {"R", "red", 600}, {"G", "green", 600}});
-        form.SetListViewMode(ListViewMode::Details);
-        form.RowsChanged(10);
+        const float width = view.list.ListWidth();
+        view.list.AddColumns(
+            {{"Name", "Name", width * 0.24F}, {"R", "red", 600}, {"G", "green", 600}});
+        view.list.SetListViewMode(ListViewMode::Details);
+        view.list.RowsChanged(10);
     }
 
     [[nodiscard]] HWND List() const { return Child(IDC_lvColor); }
@@ -61,19 +62,19 @@ TEST_F(MainList, ColumnsHaveTheWidthAndCaptionTheyWereMadeWith) {
 }
 
 TEST_F(MainList, WidthIsKnownBeforeTheWindowIsShown) {
-    EXPECT_GT(form.ListWidth(), 5000);
+    EXPECT_GT(view.list.ListWidth(), 5000);
 }
 
 TEST_F(MainList, SelectionByTheProgramIsNotReported) {
-    form.SelectRow(4);
+    view.list.SelectRow(4);
     EXPECT_EQ(Selected(), 4);
-    form.RowsChanged(5);
+    view.list.RowsChanged(5);
     EXPECT_EQ(Selected(), -1);
     EXPECT_TRUE(events.lines.empty());
 }
 
 TEST_F(MainList, SelectionByKeyboardIsReported) {
-    form.SelectRow(4);
+    view.list.SelectRow(4);
     SendMessageW(List(), WM_KEYDOWN, VK_DOWN, 0);
     EXPECT_EQ(events.lines, std::vector<std::string>{"row 5"});
     EXPECT_EQ(Selected(), 5);
@@ -89,7 +90,7 @@ TEST_F(MainList, ClickIsReportedOnceAlsoOnTheSelectedRow) {
 
 TEST_F(MainList, ClickBesideTheRowsKeepsTheSelection) {
     form.ShowWindow();
-    form.SelectRow(2);
+    view.list.SelectRow(2);
     RECT area{};
     GetClientRect(List(), &area);
     Click(List(), {area.right - 4, area.bottom - 4});
@@ -99,7 +100,7 @@ TEST_F(MainList, ClickBesideTheRowsKeepsTheSelection) {
 
 TEST_F(MainList, DoubleClickDoesNothingAndKeepsTheSelection) {
     form.ShowWindow();
-    form.SelectRow(2);
+    view.list.SelectRow(2);
     RECT area{};
     GetClientRect(List(), &area);
     const POINT beside{area.right - 4, area.bottom - 4};
@@ -118,7 +119,7 @@ TEST_F(MainList, DoubleClickDoesNothingAndKeepsTheSelection) {
 
 TEST_F(MainList, RightButtonBesideTheRowsOpensTheMenuAndKeepsTheSelection) {
     form.ShowWindow();
-    form.SelectRow(2);
+    view.list.SelectRow(2);
     RECT area{};
     GetClientRect(List(), &area);
     PostMessageW(form.Handle(), WM_KEYDOWN, VK_UP, 0);
@@ -132,7 +133,7 @@ TEST_F(MainList, RightButtonBesideTheRowsOpensTheMenuAndKeepsTheSelection) {
 
 TEST_F(MainList, RightButtonSelectsTheRowAndOpensTheColorMenu) {
     form.ShowWindow();
-    form.SelectRow(0);
+    view.list.SelectRow(0);
     const POINT place = PlaceOf(3);
     PostMessageW(form.Handle(), WM_KEYDOWN, VK_UP, 0);
     PostMessageW(form.Handle(), WM_KEYDOWN, VK_RETURN, 0);
@@ -149,9 +150,9 @@ TEST_F(MainList, F2AsksForTheEdit) {
 
 TEST_F(MainList, EditedLabelIsReportedAlsoWhenItIsEmpty) {
     form.ShowWindow();
-    form.SelectRow(2);
+    view.list.SelectRow(2);
     for (const wchar_t* text : {L"Grün", L""}) {
-        form.EditRowLabel(2);
+        view.list.EditRowLabel(2);
         const auto edit = reinterpret_cast<HWND>(SendMessageW(List(), LVM_GETEDITCONTROL, 0, 0));
         ASSERT_NE(edit, nullptr);
         SetWindowTextW(edit, text);
@@ -163,13 +164,13 @@ TEST_F(MainList, EditedLabelIsReportedAlsoWhenItIsEmpty) {
 
 TEST_F(MainList, EmptiedLabelThatIsGivenUpIsNoRename) {
     form.ShowWindow();
-    form.SelectRow(2);
-    form.EditRowLabel(2);
+    view.list.SelectRow(2);
+    view.list.EditRowLabel(2);
     SetWindowTextW(LabelBox(), L"");
     SendMessageW(LabelBox(), WM_KEYDOWN, VK_ESCAPE, 0);
-    form.EditRowLabel(2);
+    view.list.EditRowLabel(2);
     SetWindowTextW(LabelBox(), L"");
-    form.RowsChanged(10); // the program ends the edit
+    view.list.RowsChanged(10); // the program ends the edit
     PumpMessages();
     EXPECT_EQ(LabelBox(), nullptr);
     EXPECT_TRUE(events.lines.empty());
@@ -178,8 +179,8 @@ TEST_F(MainList, EmptiedLabelThatIsGivenUpIsNoRename) {
 TEST_F(MainList, LongNameIsEditedAsAWhole) {
     form.ShowWindow();
     events.longCell = std::string(700, 'n');
-    form.SelectRow(2);
-    form.EditRowLabel(2);
+    view.list.SelectRow(2);
+    view.list.EditRowLabel(2);
     EXPECT_EQ(ToUtf8(TextOf(LabelBox())), events.longCell);
     SetWindowTextW(LabelBox(), std::wstring(600, L'm').c_str());
     SendMessageW(LabelBox(), WM_KEYDOWN, VK_RETURN, 0);
@@ -189,8 +190,8 @@ TEST_F(MainList, LongNameIsEditedAsAWhole) {
 
 TEST_F(MainList, EditThatIsOpenWhenACommandComesIsReportedWithItsText) {
     form.ShowWindow();
-    form.SelectRow(2);
-    form.EditRowLabel(2);
+    view.list.SelectRow(2);
+    view.list.EditRowLabel(2);
     SetWindowTextW(LabelBox(), L"y");
     form.FinishLabelEdit();
     EXPECT_EQ(events.lines, std::vector<std::string>{"row label 2=y"});
@@ -222,7 +223,7 @@ TEST_F(MainList, SecondClickOnTheSelectedNameStartsItsEdit) {
 TEST_F(MainList, RefusedEditDoesNotStart) {
     form.ShowWindow();
     events.mayEdit = false;
-    form.EditRowLabel(2);
+    view.list.EditRowLabel(2);
     EXPECT_EQ(reinterpret_cast<HWND>(SendMessageW(List(), LVM_GETEDITCONTROL, 0, 0)), nullptr);
 }
 
@@ -245,25 +246,25 @@ TEST_F(MainList, HeaderMarksTheSortedColumnAndItsDirection) {
     };
     for (WPARAM column = 0; column < 3; ++column)
         EXPECT_EQ(mark(column), 0);
-    form.ShowSortOrder(1, true);
+    view.list.ShowSortOrder(1, true);
     EXPECT_EQ(mark(0), HDF_SORTDOWN);
-    form.ShowSortOrder(3, false);
+    view.list.ShowSortOrder(3, false);
     EXPECT_EQ(mark(0), 0);
     EXPECT_EQ(mark(2), HDF_SORTUP);
 }
 
 TEST_F(MainList, TypedLettersFindARow) {
-    form.SelectRow(0);
+    view.list.SelectRow(0);
     SendMessageW(List(), WM_CHAR, 'x', 1);
     EXPECT_EQ(Selected(), 3);
     EXPECT_EQ(events.lines, std::vector<std::string>{"row 3"});
 }
 
 TEST_F(MainList, FourModesChangeOnlyThePresentation) {
-    form.SelectRow(4);
+    view.list.SelectRow(4);
     constexpr LONG_PTR kStyles[] = {LVS_ICON, LVS_SMALLICON, LVS_LIST, LVS_REPORT};
     for (int mode = 0; mode < 4; ++mode) {
-        form.SetListViewMode(static_cast<ListViewMode>(mode));
+        view.list.SetListViewMode(static_cast<ListViewMode>(mode));
         EXPECT_EQ(GetWindowLongPtrW(List(), GWL_STYLE) & LVS_TYPEMASK, kStyles[mode]);
         EXPECT_EQ(Selected(), 4);
         EXPECT_EQ(SendMessageW(List(), LVM_GETITEMCOUNT, 0, 0), 10);
@@ -273,9 +274,9 @@ TEST_F(MainList, FourModesChangeOnlyThePresentation) {
 TEST_F(MainList, EveryRowHasAPlaceOfItsOwnInTheIconViewsAlsoAfterAnotherGroupIsShown) {
     form.ShowWindow();
     for (const ListViewMode mode : {ListViewMode::LargeIcons, ListViewMode::SmallIcons}) {
-        form.RowsChanged(3);
-        form.SetListViewMode(mode);
-        form.RowsChanged(300);
+        view.list.RowsChanged(3);
+        view.list.SetListViewMode(mode);
+        view.list.RowsChanged(300);
         std::set<std::pair<LONG, LONG>> places;
         for (WPARAM row = 0; row < 300; ++row) {
             POINT place{};
@@ -288,11 +289,11 @@ TEST_F(MainList, EveryRowHasAPlaceOfItsOwnInTheIconViewsAlsoAfterAnotherGroupIsS
 
 TEST_F(MainList, SelectedRowStaysSelectedWhenTheViewChangesAndNobodyHearsOfIt) {
     form.ShowWindow();
-    form.RowsChanged(500);
-    form.SelectRow(450);
+    view.list.RowsChanged(500);
+    view.list.SelectRow(450);
     for (const ListViewMode mode : {ListViewMode::LargeIcons, ListViewMode::SmallIcons,
                                     ListViewMode::List, ListViewMode::Details}) {
-        form.SetListViewMode(mode);
+        view.list.SetListViewMode(mode);
         EXPECT_EQ(Selected(), 450) << static_cast<int>(mode);
         EXPECT_EQ(SendMessageW(List(), LVM_GETITEMCOUNT, 0, 0), 500);
     }
@@ -321,8 +322,8 @@ class BigList : public MainList {
 protected:
     BigList() {
         form.ShowWindow();
-        form.RowsChanged(kRows);
-        form.SelectRow(0);
+        view.list.RowsChanged(kRows);
+        view.list.SelectRow(0);
         CellsAskedBy([] {});
     }
 
@@ -343,11 +344,11 @@ protected:
 TEST_F(BigList, EachOfTheFourModesAsksOnlyForTheTextsThatAreSeen) {
     for (const ListViewMode mode : {ListViewMode::LargeIcons, ListViewMode::SmallIcons,
                                     ListViewMode::List, ListViewMode::Details}) {
-        EXPECT_LT(CellsAskedBy([&] { form.SetListViewMode(mode); }), kFewCells)
+        EXPECT_LT(CellsAskedBy([&] { view.list.SetListViewMode(mode); }), kFewCells)
             << static_cast<int>(mode);
-        EXPECT_LT(CellsAskedBy([&] { form.EnsureRowVisible(kRows - 1); }), kFewCells)
+        EXPECT_LT(CellsAskedBy([&] { view.list.EnsureRowVisible(kRows - 1); }), kFewCells)
             << static_cast<int>(mode);
-        EXPECT_LT(CellsAskedBy([&] { form.EnsureRowVisible(0); }), kFewCells)
+        EXPECT_LT(CellsAskedBy([&] { view.list.EnsureRowVisible(0); }), kFewCells)
             << static_cast<int>(mode);
     }
 }
@@ -369,10 +370,10 @@ TEST_F(BigList, TypedLetterIsOneSearchInTheLibraryAndNoneInTheRows) {
 }
 
 TEST_F(BigList, LastRowIsRenamedWithoutALookAtTheOthers) {
-    form.SelectRow(kRows - 1);
-    form.EnsureRowVisible(kRows - 1);
+    view.list.SelectRow(kRows - 1);
+    view.list.EnsureRowVisible(kRows - 1);
     const int asked = CellsAskedBy([&] {
-        form.EditRowLabel(kRows - 1);
+        view.list.EditRowLabel(kRows - 1);
         ASSERT_NE(LabelBox(), nullptr);
         SetWindowTextW(LabelBox(), L"last");
         SendMessageW(LabelBox(), WM_KEYDOWN, VK_RETURN, 0);
@@ -383,7 +384,7 @@ TEST_F(BigList, LastRowIsRenamedWithoutALookAtTheOthers) {
 
 TEST_F(MainList, EveryModeHasThePictureOfARow) {
     for (int mode = 0; mode < 4; ++mode) {
-        form.SetListViewMode(static_cast<ListViewMode>(mode));
+        view.list.SetListViewMode(static_cast<ListViewMode>(mode));
         LVITEMW item{};
         item.mask = LVIF_IMAGE;
         SendMessageW(List(), LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
@@ -401,9 +402,9 @@ TEST_F(MainList, RowsOfAnyNumberAreShownWithTheSameMessagesAndTextsOfTheVisibleR
         PumpMessages();
         events.cellsAsked = 0;
         const MessageCounter counter(List());
-        form.RowsChanged(rows);
-        form.SelectRow(0);
-        form.EnsureRowVisible(0);
+        view.list.RowsChanged(rows);
+        view.list.SelectRow(0);
+        view.list.EnsureRowVisible(0);
         UpdateWindow(List());
         return counter.Counts();
     };

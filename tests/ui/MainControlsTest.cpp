@@ -58,7 +58,7 @@ TEST_F(MainControls, EveryMenuEntryAndControlArrayElementIsInTheCollection) {
     std::map<std::string, int> count;
     for (FormControl* control : form.Controls())
         ++count[control->Name()];
-    for (const MenuRow& row : kMenuRows) {
+    for (const MenuRow& row : MenuRows()) {
         EXPECT_EQ(count[row.name], 1) << row.name;
         EXPECT_EQ(Control(row.name)->Property("Caption"), row.caption);
         EXPECT_EQ(Control(row.name)->TypeName(), "Menu");
@@ -204,16 +204,16 @@ TEST_F(MainControls, EscapeIsReportedAndClosesNothing) {
 }
 
 TEST_F(MainControls, StatusPanelShowsItsText) {
-    form.SetInfoPanelText("Okay setzen in SolidWorks");
+    view.bars.SetInfoPanelText("Okay setzen in SolidWorks");
     std::array<wchar_t, 64> text{};
     SendMessageW(Child(IDC_stbarMain), SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(text.data()));
     EXPECT_STREQ(text.data(), L"Okay setzen in SolidWorks");
 }
 
 TEST_F(MainControls, HiddenStatusBarTakesNoHeight) {
-    EXPECT_GT(form.Metrics().statusBarHeight, 100);
-    form.SetStatusBarVisible(false);
-    EXPECT_EQ(form.Metrics().statusBarHeight, 0);
+    EXPECT_GT(view.layout.Metrics().statusBarHeight, 100);
+    view.bars.SetStatusBarVisible(false);
+    EXPECT_EQ(view.layout.Metrics().statusBarHeight, 0);
 }
 
 TEST_F(MainControls, FrameAndSmallSwatchTakeTurns) {

@@ -21,15 +21,15 @@ void SetKeys(std::initializer_list<int> keys, BYTE state) {
 class MainDragging : public MainFormTest {
 protected:
     MainDragging() {
-        form.AddColumns({{"Name", "Name", 1500}});
-        form.SetListViewMode(ListViewMode::Details);
-        form.RowsChanged(10);
-        form.NodeAdded({"1D", "Materialien", "Colfile", "unsaved", "", {}});
-        form.NodeAdded({"1DG1", "Metalle", "Palette", "", "1D", {}});
-        form.NodeAdded({"1DG2", "Kunststoffe", "Palette", "", "1D", {}});
-        form.NodeExpanded("1D");
+        view.list.AddColumns({{"Name", "Name", 1500}});
+        view.list.SetListViewMode(ListViewMode::Details);
+        view.list.RowsChanged(10);
+        view.tree.NodeAdded({"1D", "Materialien", "Colfile", "unsaved", "", {}});
+        view.tree.NodeAdded({"1DG1", "Metalle", "Palette", "", "1D", {}});
+        view.tree.NodeAdded({"1DG2", "Kunststoffe", "Palette", "", "1D", {}});
+        view.tree.NodeExpanded("1D");
         form.ShowWindow();
-        form.SelectRow(2);
+        view.list.SelectRow(2);
         PumpMessages();
         events.lines.clear();
     }
@@ -207,14 +207,14 @@ TEST_F(MainDragging, TicksAreReportedUntilTheEnd) {
     SendMessageW(form.Handle(), WM_TIMER, MainDrag::kTimer, 0);
     EXPECT_EQ(events.ticks, Lines{""});
     EXPECT_EQ(events.lines, (Lines{"drag start list", "drag move"})) << "no tick of the banner";
-    form.EndDrag();
+    view.drag.EndDrag();
     EXPECT_FALSE(KillTimer(form.Handle(), MainDrag::kTimer));
     EXPECT_FALSE(FollowsMouse());
     EXPECT_EQ(events.lines.size(), 2U) << "the program's own end is not reported";
 }
 
 TEST_F(MainDragging, InvisibleLabelStandsAtThePoint) {
-    form.ShowDrag(3000, 1500, DragMode::Move);
+    view.drag.ShowDrag(3000, 1500, DragMode::Move);
     RECT place{};
     GetWindowRect(Child(IDC_lblDrag), &place);
     MapWindowPoints(nullptr, form.Handle(), reinterpret_cast<POINT*>(&place), 2);
@@ -227,34 +227,34 @@ TEST_F(MainDragging, PointerHasAPictureOfItsOwnForEachMode) {
     std::vector<HCURSOR> pictures;
     StartDrag();
     for (const DragMode mode : {DragMode::Move, DragMode::Copy, DragMode::None}) {
-        form.ShowDrag(0, 0, mode);
+        view.drag.ShowDrag(0, 0, mode);
         pictures.push_back(GetCursor());
         EXPECT_NE(pictures.back(), nullptr);
     }
     EXPECT_NE(pictures[0], pictures[1]);
     EXPECT_EQ(pictures[2], LoadCursorW(nullptr, IDC_NO));
-    form.EndDrag();
+    view.drag.EndDrag();
     EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
 }
 
 TEST_F(MainDragging, DropTargetIsMarkedWithoutASelection) {
-    form.NodeSelected("1D");
-    form.MarkDropNode("1DG2");
+    view.tree.NodeSelected("1D");
+    view.drag.MarkDropNode("1DG2");
     const HTREEITEM first = Next(TVGN_CHILD, Next(TVGN_ROOT));
     EXPECT_EQ(Next(TVGN_DROPHILITE), Next(TVGN_NEXT, first));
     EXPECT_EQ(Next(TVGN_CARET), Next(TVGN_ROOT));
-    form.MarkDropNode("");
+    view.drag.MarkDropNode("");
     EXPECT_EQ(Next(TVGN_DROPHILITE), nullptr);
     EXPECT_TRUE(events.lines.empty());
 }
 
 TEST_F(MainDragging, TreeScrollsByALineEachWay) {
     for (int group = 3; group < 100; ++group)
-        form.NodeAdded({"1DG" + std::to_string(group), "Gruppe", "Palette", "", "1D", {}});
+        view.tree.NodeAdded({"1DG" + std::to_string(group), "Gruppe", "Palette", "", "1D", {}});
     const HTREEITEM top = Next(TVGN_FIRSTVISIBLE);
-    form.ScrollTree(TreeEdge::Bottom);
+    view.drag.ScrollTree(TreeEdge::Bottom);
     EXPECT_EQ(Next(TVGN_FIRSTVISIBLE), Next(TVGN_NEXTVISIBLE, top));
-    form.ScrollTree(TreeEdge::Top);
+    view.drag.ScrollTree(TreeEdge::Top);
     EXPECT_EQ(Next(TVGN_FIRSTVISIBLE), top);
 }
 

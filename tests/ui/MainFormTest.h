@@ -44,7 +44,7 @@ void Click(HWND window, POINT at);
 // A real frmMain with recorded events and errors, laid out as the program lays it out.
 class MainFormTest : public testing::Test {
 protected:
-    MainFormTest() { form.Attach(events); }
+    MainFormTest() { form.Attach(events.Events()); }
     ~MainFormTest() override { EXPECT_EQ(errors.reports, std::vector<std::string>{}); }
 
     [[nodiscard]] HWND Child(int id) const { return FindChild(form.Handle(), id); }
@@ -53,5 +53,6 @@ protected:
     RecordingErrorSink errors;
     BannerPictures banners;
     frmMain form{errors, banners};
-    RecordingMainEvents events{form};
+    MainView view = form.View();
+    RecordingMainEvents events{view.layout};
 };

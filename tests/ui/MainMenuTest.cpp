@@ -37,14 +37,14 @@ TEST_F(MainMenu, HoldsEveryEntryOfTheTableInItsOrder) {
     };
     walk(bar);
     std::vector<int> expected;
-    for (const MenuRow& row : kMenuRows)
+    for (const MenuRow& row : MenuRows())
         expected.push_back(row.command);
     EXPECT_EQ(found, expected);
 }
 
 TEST_F(MainMenu, EveryCommandReachesRunCommand) {
     std::vector<int> expected;
-    for (const MenuRow& row : kMenuRows) {
+    for (const MenuRow& row : MenuRows()) {
         SendMessageW(form.Handle(), WM_COMMAND, static_cast<WPARAM>(row.command), 0);
         expected.push_back(row.command);
     }
@@ -104,7 +104,7 @@ TEST_F(MainMenu, CaptionIsShownAtOnceAndKeepsTheShortcut) {
 TEST_F(MainMenu, EveryShortcutIsShownBuiltInInGerman) {
     const HMENU bar = GetMenu(form.Handle());
     std::map<int, std::string> found;
-    for (const MenuRow& row : kMenuRows) {
+    for (const MenuRow& row : MenuRows()) {
         const std::string text = MenuText(bar, row.command);
         if (text.find('\t') != std::string::npos)
             found[row.command] = text.substr(text.find('\t') + 1);
@@ -144,9 +144,9 @@ TEST_F(MainMenu, SeparatorStaysOneWhenItsCaptionIsSet) {
 
 TEST_F(MainMenu, CheckMarkFollows) {
     const HMENU bar = GetMenu(form.Handle());
-    form.SetMenuChecked(IDM_mnuViewToolbar, true);
+    view.bars.SetMenuChecked(IDM_mnuViewToolbar, true);
     EXPECT_NE(GetMenuState(bar, IDM_mnuViewToolbar, MF_BYCOMMAND) & MF_CHECKED, 0U);
-    form.SetMenuChecked(IDM_mnuViewToolbar, false);
+    view.bars.SetMenuChecked(IDM_mnuViewToolbar, false);
     EXPECT_EQ(GetMenuState(bar, IDM_mnuViewToolbar, MF_BYCOMMAND) & MF_CHECKED, 0U);
 }
 
@@ -187,10 +187,10 @@ TEST_F(MainMenu, DeleteKeyDeletesAColorOnlyWhileTheListHasTheFocus) {
 
 TEST_F(MainMenu, DeleteKeyBelongsToTheLabelThatIsEdited) {
     form.ShowWindow();
-    form.RowsChanged(3);
-    form.SelectRow(0);
+    view.list.RowsChanged(3);
+    view.list.SelectRow(0);
     SetFocus(Child(IDC_lvColor));
-    form.EditRowLabel(0);
+    view.list.EditRowLabel(0);
     const auto edit =
         reinterpret_cast<HWND>(SendMessageW(Child(IDC_lvColor), LVM_GETEDITCONTROL, 0, 0));
     ASSERT_NE(edit, nullptr);

@@ -87,11 +87,11 @@ protected:
     MainFocus() {
         form.ShowWindow();
         events.layout.SetHugeFrame(true);
-        form.AddColumns({{"Name", "Name", 1500}});
-        form.RowsChanged(5);
-        form.SelectRow(1);
-        form.NodeAdded({"0D", "Library", "Colfile", "", "", {}});
-        form.NodeSelected("0D");
+        view.list.AddColumns({{"Name", "Name", 1500}});
+        view.list.RowsChanged(5);
+        view.list.SelectRow(1);
+        view.tree.NodeAdded({"0D", "Library", "Colfile", "", "", {}});
+        view.tree.NodeSelected("0D");
     }
 
     // To another window of the program and back.
@@ -115,11 +115,11 @@ TEST_F(MainFocus, EveryControlHasTheFocusAgainAfterAnotherWindowWasUsed) {
 }
 
 TEST_F(MainFocus, PaneWhoseLabelWasEditedHasTheFocusAgain) {
-    form.EditRowLabel(1);
+    view.list.EditRowLabel(1);
     EXPECT_EQ(FocusAfterAnotherWindow(), IDC_lvColor);
-    form.EditNodeLabel("0D");
+    view.tree.EditNodeLabel("0D");
     EXPECT_EQ(FocusAfterAnotherWindow(), IDC_tvColor);
-    form.EditRowLabel(1);
+    view.list.EditRowLabel(1);
     EXPECT_EQ(FocusAfterAnotherWindow(), IDC_lvColor);
 }
 
@@ -149,11 +149,11 @@ class PaneTips : public MainTips {
 protected:
     PaneTips() {
         form.ShowWindow();
-        form.AddColumns({{"Name", "Name", 1500}, {"R", "red", 600}});
-        form.SetListViewMode(ListViewMode::Details);
-        form.RowsChanged(3);
-        form.NodeAdded({"0D", "Library", "Colfile", "", "", {}});
-        form.NodeAdded({"1D", longName, "Colfile", "", "", {}});
+        view.list.AddColumns({{"Name", "Name", 1500}, {"R", "red", 600}});
+        view.list.SetListViewMode(ListViewMode::Details);
+        view.list.RowsChanged(3);
+        view.tree.NodeAdded({"0D", "Library", "Colfile", "", "", {}});
+        view.tree.NodeAdded({"1D", longName, "Colfile", "", "", {}});
         Control("tvColor")->SetProperty("ToolTipText", "the tree");
         Control("lvColor")->SetProperty("ToolTipText", "the list");
         PumpMessages();
@@ -187,7 +187,7 @@ TEST_F(PaneTips, TreeShowsOnlyCutNamesOverItsNodesAndItsOwnTipBesideThem) {
 TEST_F(PaneTips, ListShowsOnlyCutNamesOverItsRowsAndItsOwnTipBesideThem) {
     for (const ListViewMode mode : {ListViewMode::LargeIcons, ListViewMode::SmallIcons,
                                     ListViewMode::List, ListViewMode::Details}) {
-        form.SetListViewMode(mode);
+        view.list.SetListViewMode(mode);
         events.longCell.clear();
         EXPECT_EQ(TipAt(IDC_lvColor, CellOfList(0, 0)), "") << static_cast<int>(mode);
         RECT area{};
@@ -223,18 +223,18 @@ TEST_F(MainTips, ControlShowsItsToolTipText) {
 TEST_F(MainTips, NameThatIsCutIsShownAsAWholeAndAnyOtherNotAtAll) {
     const std::string longName(200, 'W');
     events.layout.SetHugeFrame(true);
-    form.SetColorName("Gold");
+    view.editor.SetColorName("Gold");
     EXPECT_EQ(TipOf(IDC_lblActiveColorName), "");
-    form.SetColorName(longName);
+    view.editor.SetColorName(longName);
     EXPECT_EQ(TipOf(IDC_lblActiveColorName), longName);
 }
 
 TEST_F(MainTips, SmallSwatchShowsACutCaptionInsteadOfItsToolTip) {
     const std::string longCaption(300, 'W');
     Control("lblActiveColorSmall")->SetProperty("ToolTipText", "Aktive Farbe");
-    form.SetSmallSwatchCaption("Gold (R:1 G:2 B:3)");
+    view.editor.SetSmallSwatchCaption("Gold (R:1 G:2 B:3)");
     EXPECT_EQ(TipOf(IDC_lblActiveColorSmall), "Aktive Farbe");
-    form.SetSmallSwatchCaption(longCaption);
+    view.editor.SetSmallSwatchCaption(longCaption);
     EXPECT_EQ(TipOf(IDC_lblActiveColorSmall), longCaption);
 }
 

@@ -110,48 +110,48 @@ TEST_F(MainToolbar, UnknownPropertyOfAButtonIsAnError) {
 
 TEST_F(MainToolbar, HiddenButtonGoesSeparatorsIncluded) {
     const LONG before = PlaceOf(3).left;
-    form.SetButtonVisible("New", false);
-    form.SetButtonVisible("sepST1", false);
+    view.bars.SetButtonVisible("New", false);
+    view.bars.SetButtonVisible("sepST1", false);
     EXPECT_NE(SendMessageW(Bar(), TB_ISBUTTONHIDDEN, IDM_mnuColorNewColor, 0), 0);
     EXPECT_LT(PlaceOf(3).left, before - 20);
-    form.SetButtonVisible("New", true);
-    form.SetButtonVisible("sepST1", true);
+    view.bars.SetButtonVisible("New", true);
+    view.bars.SetButtonVisible("sepST1", true);
     EXPECT_EQ(PlaceOf(3).left, before);
 }
 
 TEST_F(MainToolbar, ViewButtonsAreOneGroup) {
-    form.SetButtonPressed("View List", true);
-    form.SetButtonPressed("View Details", true);
+    view.bars.SetButtonPressed("View List", true);
+    view.bars.SetButtonPressed("View Details", true);
     EXPECT_EQ(SendMessageW(Bar(), TB_ISBUTTONCHECKED, IDM_mnuViewColorList, 0), 0);
     EXPECT_NE(SendMessageW(Bar(), TB_ISBUTTONCHECKED, IDM_mnuViewColorDetails, 0), 0);
 }
 
 TEST_F(MainToolbar, HiddenToolbarTakesNoHeight) {
-    EXPECT_GT(form.Metrics().toolbarHeight, 300);
-    form.SetToolbarVisible(false);
-    EXPECT_EQ(form.Metrics().toolbarHeight, 0);
+    EXPECT_GT(view.layout.Metrics().toolbarHeight, 300);
+    view.bars.SetToolbarVisible(false);
+    EXPECT_EQ(view.layout.Metrics().toolbarHeight, 0);
 }
 
 TEST_F(MainToolbar, NarrowWindowWrapsTheButtonsAndAWideOneUnwrapsThem) {
-    const float oneRow = form.Metrics().toolbarHeight;
+    const float oneRow = view.layout.Metrics().toolbarHeight;
     const TwipsRect bounds = form.Bounds();
     form.Move({bounds.left, bounds.top, 5400, bounds.height});
-    EXPECT_GT(form.Metrics().toolbarHeight, oneRow * 1.5F);
+    EXPECT_GT(view.layout.Metrics().toolbarHeight, oneRow * 1.5F);
     RECT bar{};
     GetClientRect(Bar(), &bar);
     for (int index = 0; index < Buttons().ButtonCount(); ++index)
         EXPECT_LE(PlaceOf(index).right, bar.right + 8) << Buttons().ButtonKey(index + 1);
     form.Move(bounds);
-    EXPECT_EQ(form.Metrics().toolbarHeight, oneRow);
+    EXPECT_EQ(view.layout.Metrics().toolbarHeight, oneRow);
 }
 
 TEST_F(MainToolbar, EmptyToolbarStillTakesItsHeight) {
     form.Move({0, 0, 15000, 6000}); // all buttons in one row
-    const float height = form.Metrics().toolbarHeight;
+    const float height = view.layout.Metrics().toolbarHeight;
     for (const ToolbarRow& row : kToolbarRows)
-        form.SetButtonVisible(row.key, false);
-    form.ArrangeBars();
-    EXPECT_EQ(form.Metrics().toolbarHeight, height);
+        view.bars.SetButtonVisible(row.key, false);
+    view.bars.ArrangeBars();
+    EXPECT_EQ(view.layout.Metrics().toolbarHeight, height);
 }
 
 } // namespace

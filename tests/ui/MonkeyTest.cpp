@@ -90,14 +90,14 @@ protected:
         program = std::make_unique<RealProgram>(registry, folder.Path(), codePage);
         program->application.Start();
         PumpMessages();
-        for (const MenuRow& row : kMenuRows)
+        for (const MenuRow& row : MenuRows())
             if (IsForMonkeys(row))
                 commands.push_back(row.command);
     }
 
     // The end of the program and the About window, which waits for a person.
     static bool IsForMonkeys(const MenuRow& row) {
-        return (row.kind == MenuKind::Entry || row.kind == MenuKind::SubmenuEntry) &&
+        return (row.place == MenuKind::Entry || row.place == MenuKind::SubmenuEntry) &&
                row.command != IDM_mnuQuit && row.command != IDM_mnuHlpAbout;
     }
 

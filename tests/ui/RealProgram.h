@@ -36,7 +36,7 @@ public:
         : registry(registryAccess), folder(std::move(programFolder)), page(codePage),
           banners(bannerFolder.empty() ? BannerPictures() : BannerPictures(bannerFolder)),
           automation(solidWorksService != nullptr ? *solidWorksService : service) {
-        main.Attach(application.MainEvents());
+        main.Attach(application.MainWindowEvents());
         about.Attach(application.AboutWindowEvents());
         textViewer.Attach(application.TextViewerWindowEvents());
         progress.Attach(application.ProgressWindowEvents());
@@ -82,10 +82,11 @@ public:
     AboutOnDemand about{main.Handle(), errors, banners};
     frmTxtView textViewer{main.Handle(), errors, banners};
     frmProgress progress{main.Handle(), errors, clock};
-    Application application{{files, page, registry, prompts, clipboard, collation, shell, events,
-                             automation, retry, language, errors, calendar},
-                            {main, main, main, about, textViewer, progress, progress, progress},
-                            {folder, "1.0.0", BannerAddresses(banners.Count()), folder}};
+    Application application{
+        {files, page, registry, prompts, clipboard, collation, shell, events, automation, retry,
+         language, errors, calendar},
+        {main.View(), main, main, about, textViewer, progress, progress, progress},
+        {folder, "1.0.0", BannerAddresses(banners.Count()), folder}};
     SilenceAtScopeEnd silence{main};
 
 private:

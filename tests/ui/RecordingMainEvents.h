@@ -8,8 +8,26 @@
 #include <vector>
 
 // Keeps what the main window reports, one line each, and lays it out as the program does.
-class RecordingMainEvents : public MainViewEvents {
+class RecordingMainEvents : public MainFrameEvents,
+                            public TreeEvents,
+                            public ListRows,
+                            public ListEvents,
+                            public EditorEvents,
+                            public LayoutEvents,
+                            public DragEvents,
+                            public BannerEvents {
 public:
+    [[nodiscard]] MainEvents Events() {
+        return {.frame = *this,
+                .tree = *this,
+                .rows = *this,
+                .list = *this,
+                .editor = *this,
+                .layout = *this,
+                .drag = *this,
+                .banner = *this};
+    }
+
     explicit RecordingMainEvents(LayoutPane& pane) : layout(pane) {}
 
     void RunCommand(int command) override {
@@ -24,7 +42,6 @@ public:
     void NodeLabelEdited(const std::string& key, const std::string& text) override {
         Note("node label " + key + "=" + text);
     }
-    void NodeEditRequested() override { Note("node edit"); }
 
     [[nodiscard]] std::string CellText(int row, int column) const override {
         ++cellsAsked;
@@ -67,7 +84,6 @@ public:
     void SliderMoved(std::size_t index, int position) override {
         Note("slider " + std::to_string(index) + "=" + std::to_string(position));
     }
-    void SwatchDoubleClicked() override { Note("swatch"); }
 
     void FilesDropped(const std::vector<std::string>& paths) override {
         for (const std::string& path : paths)
@@ -75,9 +91,9 @@ public:
     }
     void Resized() override {
         ++resized;
-        layout.Resize();
+        layout.Resized();
     }
-    void ScaleChanged() override { layout.Apply(); }
+    void ScaleChanged() override { layout.ScaleChanged(); }
     void Repainted() override { ++repainted; }
     void SplitterPressed() override {
         Note("splitter down");

@@ -17,10 +17,10 @@ void SetShift(bool down) {
 class MainTree : public MainFormTest {
 protected:
     MainTree() {
-        form.NodeAdded({"1D", "Materialien", "Colfile", "unsaved", "", {}});
-        form.NodeAdded({"1DG1", "Metalle", "Palette", "", "1D", {}});
-        form.NodeAdded({"1DG2", "Kunststoffe", "Palette", "", "1D", {}});
-        form.NodeExpanded("1D");
+        view.tree.NodeAdded({"1D", "Materialien", "Colfile", "unsaved", "", {}});
+        view.tree.NodeAdded({"1DG1", "Metalle", "Palette", "", "1D", {}});
+        view.tree.NodeAdded({"1DG2", "Kunststoffe", "Palette", "", "1D", {}});
+        view.tree.NodeExpanded("1D");
     }
 
     [[nodiscard]] HWND Tree() const { return Child(IDC_tvColor); }
@@ -70,7 +70,7 @@ TEST_F(MainTree, NodesThatComeInThousandsAreArrangedOnceTheyAreAsked) {
     form.ShowWindow();
     const HWND tree = Tree();
     for (int group = 3; group <= 3000; ++group)
-        form.NodeAdded({"1DG" + std::to_string(group), "Gruppe", "Palette", "", "1D", {}});
+        view.tree.NodeAdded({"1DG" + std::to_string(group), "Gruppe", "Palette", "", "1D", {}});
     EXPECT_EQ(SendMessageW(tree, TVM_GETCOUNT, 0, 0), 3001);
     PumpMessages();
     SCROLLINFO scroll{sizeof scroll, SIF_RANGE, 0, 0, 0, 0, 0};
@@ -96,44 +96,44 @@ TEST_F(MainTree, LibrariesAndGroupsHaveTheirOwnPictures) {
 
 TEST_F(MainTree, EmptyNameIsReportedAndAnEmptiedOneThatIsGivenUpIsNot) {
     form.ShowWindow();
-    form.NodeSelected("1DG1");
-    form.EditNodeLabel("1DG1");
+    view.tree.NodeSelected("1DG1");
+    view.tree.EditNodeLabel("1DG1");
     TypeLabel(L"", VK_ESCAPE);
     PumpMessages();
     EXPECT_TRUE(events.lines.empty());
-    form.EditNodeLabel("1DG1");
+    view.tree.EditNodeLabel("1DG1");
     TypeLabel(L"", VK_RETURN);
     PumpMessages();
     EXPECT_EQ(events.lines, std::vector<std::string>{"node label 1DG1="});
 }
 
 TEST_F(MainTree, RemovedNodeTakesItsGroupsWithIt) {
-    form.NodeSelected("1DG1");
-    form.NodeRemoved("1D");
+    view.tree.NodeSelected("1DG1");
+    view.tree.NodeRemoved("1D");
     EXPECT_EQ(Next(TVGN_ROOT), nullptr);
-    form.NodeAdded({"1D", "Neu", "Colfile", "unsaved", "", {}});
-    form.NodeAdded({"1DG1", "Gruppe", "Palette", "", "1D", {}});
+    view.tree.NodeAdded({"1D", "Neu", "Colfile", "unsaved", "", {}});
+    view.tree.NodeAdded({"1DG1", "Gruppe", "Palette", "", "1D", {}});
     EXPECT_EQ(Text(Next(TVGN_CHILD, Next(TVGN_ROOT))), "Gruppe");
     EXPECT_TRUE(events.lines.empty());
 }
 
 TEST_F(MainTree, SelectionByTheProgramIsNotReported) {
-    form.NodeSelected("1DG2");
+    view.tree.NodeSelected("1DG2");
     EXPECT_EQ(Text(Next(TVGN_CARET)), "Kunststoffe");
-    form.NodeSelected("");
+    view.tree.NodeSelected("");
     EXPECT_EQ(Next(TVGN_CARET), nullptr);
     EXPECT_TRUE(events.lines.empty());
 }
 
 TEST_F(MainTree, SelectionByKeyboardIsReported) {
-    form.NodeSelected("1D");
+    view.tree.NodeSelected("1D");
     SendMessageW(Tree(), WM_KEYDOWN, VK_DOWN, 0);
     EXPECT_EQ(events.lines, std::vector<std::string>{"node 1DG1"});
 }
 
 TEST_F(MainTree, ClickIsReportedOnceAlsoOnTheSelectedNode) {
     form.ShowWindow();
-    form.NodeSelected("1D");
+    view.tree.NodeSelected("1D");
     Click(Tree(), PlaceOf(Next(TVGN_CHILD, Next(TVGN_ROOT))));
     EXPECT_EQ(events.lines, std::vector<std::string>{"node 1DG1"});
     Click(Tree(), PlaceOf(Next(TVGN_CHILD, Next(TVGN_ROOT))));
@@ -142,7 +142,7 @@ TEST_F(MainTree, ClickIsReportedOnceAlsoOnTheSelectedNode) {
 
 TEST_F(MainTree, RightButtonSelectsTheNodeAndOpensTheColorMenu) {
     form.ShowWindow();
-    form.NodeSelected("1D");
+    view.tree.NodeSelected("1D");
     const POINT place = PlaceOf(Next(TVGN_CHILD, Next(TVGN_ROOT)));
     PostMessageW(form.Handle(), WM_KEYDOWN, VK_DOWN, 0);
     PostMessageW(form.Handle(), WM_KEYDOWN, VK_RETURN, 0);
@@ -154,7 +154,7 @@ TEST_F(MainTree, RightButtonSelectsTheNodeAndOpensTheColorMenu) {
 
 TEST_F(MainTree, MenuKeyOpensTheColorMenuForTheSelectedNode) {
     form.ShowWindow();
-    form.NodeSelected("1DG1");
+    view.tree.NodeSelected("1DG1");
     PostMessageW(form.Handle(), WM_KEYDOWN, VK_DOWN, 0);
     PostMessageW(form.Handle(), WM_KEYDOWN, VK_RETURN, 0);
     SendMessageW(Tree(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Tree()), -1);
@@ -165,7 +165,7 @@ TEST_F(MainTree, MenuKeyOpensTheColorMenuForTheSelectedNode) {
 
 TEST_F(MainTree, ShiftF10OpensItToo) {
     form.ShowWindow();
-    form.NodeSelected("1DG1");
+    view.tree.NodeSelected("1DG1");
     SetFocus(Tree());
     PostMessageW(form.Handle(), WM_KEYDOWN, VK_DOWN, 0);
     PostMessageW(form.Handle(), WM_KEYDOWN, VK_RETURN, 0);
@@ -178,25 +178,25 @@ TEST_F(MainTree, ShiftF10OpensItToo) {
 
 TEST_F(MainTree, F2AsksForTheEdit) {
     SendMessageW(Tree(), WM_KEYDOWN, VK_F2, 0);
-    EXPECT_EQ(events.lines, std::vector<std::string>{"node edit"});
+    EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuColorRenameNode});
 }
 
 TEST_F(MainTree, EditedLabelIsReportedOnce) {
     form.ShowWindow();
-    form.EditNodeLabel("1DG1");
+    view.tree.EditNodeLabel("1DG1");
     TypeLabel(L"Stähle", VK_RETURN);
     PumpMessages();
     EXPECT_EQ(events.lines, std::vector<std::string>{"node label 1DG1=Stähle"});
     EXPECT_EQ(Text(Next(TVGN_CHILD, Next(TVGN_ROOT))), "Metalle");
-    form.NodeTextChanged("1DG1", "Stähle");
+    view.tree.NodeTextChanged("1DG1", "Stähle");
     EXPECT_EQ(Text(Next(TVGN_CHILD, Next(TVGN_ROOT))), "Stähle");
 }
 
 TEST_F(MainTree, LongNameIsEditedAsAWhole) {
     form.ShowWindow();
     const std::string name(700, 'n');
-    form.NodeTextChanged("1DG1", name);
-    form.EditNodeLabel("1DG1");
+    view.tree.NodeTextChanged("1DG1", name);
+    view.tree.EditNodeLabel("1DG1");
     EXPECT_EQ(
         ToUtf8(TextOf(reinterpret_cast<HWND>(SendMessageW(Tree(), TVM_GETEDITCONTROL, 0, 0)))),
         name);
@@ -221,14 +221,14 @@ TEST_F(MainTree, SecondClickOnTheSelectedNodesTextStartsItsEdit) {
 
 TEST_F(MainTree, EscapeGivesUpTheEdit) {
     form.ShowWindow();
-    form.EditNodeLabel("1DG1");
+    view.tree.EditNodeLabel("1DG1");
     TypeLabel(L"x", VK_ESCAPE);
     EXPECT_TRUE(events.lines.empty());
 }
 
 TEST_F(MainTree, EndOfTheEditByMessageIsReportedOnce) {
     form.ShowWindow();
-    form.EditNodeLabel("1DG1");
+    view.tree.EditNodeLabel("1DG1");
     SetWindowTextW(reinterpret_cast<HWND>(SendMessageW(Tree(), TVM_GETEDITCONTROL, 0, 0)), L"y");
     SendMessageW(Tree(), TVM_ENDEDITLABELNOW, FALSE, 0);
     PumpMessages();
@@ -238,7 +238,7 @@ TEST_F(MainTree, EndOfTheEditByMessageIsReportedOnce) {
 TEST_F(MainTree, EditThatIsOpenWhenACommandComesIsReportedWithItsText) {
     form.ShowWindow();
     form.FinishLabelEdit(); // none is open
-    form.EditNodeLabel("1DG1");
+    view.tree.EditNodeLabel("1DG1");
     SetWindowTextW(reinterpret_cast<HWND>(SendMessageW(Tree(), TVM_GETEDITCONTROL, 0, 0)), L"y");
     form.FinishLabelEdit();
     EXPECT_EQ(events.lines, std::vector<std::string>{"node label 1DG1=y"});
@@ -247,7 +247,7 @@ TEST_F(MainTree, EditThatIsOpenWhenACommandComesIsReportedWithItsText) {
 TEST_F(MainTree, RefusedEditDoesNotStart) {
     form.ShowWindow();
     events.mayEdit = false;
-    form.EditNodeLabel("1DG1");
+    view.tree.EditNodeLabel("1DG1");
     EXPECT_EQ(SendMessageW(Tree(), TVM_GETEDITCONTROL, 0, 0), 0);
 }
 

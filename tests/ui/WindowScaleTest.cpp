@@ -50,7 +50,7 @@ protected:
 
 TEST_F(MainScale, NewResolutionScalesFontsIconsColumnsAndControls) {
     const int dpi = form.Scale().Dpi();
-    form.AddColumns({{"Name", "Name", 1500}});
+    view.list.AddColumns({{"Name", "Name", 1500}});
     events.layout.SetHugeFrame(true);
     const SIZE box = SizeOf(IDC_txtActiveColor);
     const int icon = ToolbarIconSize();
@@ -71,13 +71,13 @@ TEST_F(MainScale, NewResolutionScalesFontsIconsColumnsAndControls) {
 }
 
 TEST_F(MainScale, ColumnsTakeTheNewResolutionWhicheverViewIsShown) {
-    form.AddColumns({{"Name", "Name", 1500}, {"R", "red", 600}});
+    view.list.AddColumns({{"Name", "Name", 1500}, {"R", "red", 600}});
     for (const ListViewMode mode : {ListViewMode::LargeIcons, ListViewMode::SmallIcons,
                                     ListViewMode::List, ListViewMode::Details}) {
         const int dpi = form.Scale().Dpi();
-        form.SetListViewMode(mode);
+        view.list.SetListViewMode(mode);
         ChangeResolution(dpi == 96 ? 192 : 96);
-        form.SetListViewMode(ListViewMode::Details);
+        view.list.SetListViewMode(ListViewMode::Details);
         for (const auto& [column, width] : {std::pair(0, 1500.0F), std::pair(1, 600.0F)})
             EXPECT_EQ(SendMessageW(Child(IDC_lvColor), LVM_GETCOLUMNWIDTH,
                                    static_cast<WPARAM>(column), 0),
@@ -111,12 +111,12 @@ TEST_F(MainScale, BoundsDoNotDriftWhenTheyAreRestored) {
 TEST_F(MainScale, StateOfAHiddenWindowIsTakenWhenItIsShown) {
     form.SetState(WindowState::Maximised);
     EXPECT_EQ(form.State(), WindowState::Maximised);
-    EXPECT_EQ(form.Metrics().state, WindowState::Normal);
+    EXPECT_EQ(view.layout.Metrics().state, WindowState::Normal);
     EXPECT_EQ(IsWindowVisible(form.Handle()), FALSE);
     form.ShowWindow();
     EXPECT_NE(IsZoomed(form.Handle()), FALSE);
     EXPECT_EQ(form.State(), WindowState::Maximised);
-    EXPECT_EQ(form.Metrics().state, WindowState::Maximised);
+    EXPECT_EQ(view.layout.Metrics().state, WindowState::Maximised);
 }
 
 TEST_F(MainScale, MaximisedWindowKeepsThePanesOfItsNormalSize) {
@@ -132,8 +132,8 @@ TEST_F(MainScale, WhatWasSwitchedWhileMaximisedIsLaidOutWhenTheWindowIsRestored)
     form.ShowWindow();
     const SIZE list = SizeOf(IDC_lvColor);
     form.SetState(WindowState::Maximised);
-    form.SetToolbarVisible(false);
-    form.ArrangeBars();
+    view.bars.SetToolbarVisible(false);
+    view.bars.ArrangeBars();
     form.SetState(WindowState::Normal);
     PumpMessages();
     EXPECT_GT(SizeOf(IDC_lvColor).cy, list.cy);
@@ -181,7 +181,7 @@ TEST_F(MainScale, LowWindowKeepsPanesOfThreeHundredTwips) {
 TEST_F(MainScale, WindowMayBeAsSmallAsTheSystemAllowsAndIsLaidOutAgainAfterwards) {
     for (const bool hugeFrame : {false, true}) {
         events.layout.SetHugeFrame(hugeFrame);
-        events.layout.Resize();
+        events.layout.Resized();
         RECT before{};
         GetWindowRect(form.Handle(), &before);
         const SIZE list = SizeOf(IDC_lvColor);

@@ -31,7 +31,12 @@ void MeasureGroup(BenchPlatform& platform, int colors, int repetitions) {
     FakeCollation collation;
     ColorEditor editor(view, measured.prompts, measured.texts);
     ColorList list(measured.library, view, collation);
-    LibraryPanes panes(measured.library, list, editor);
+    const MainActivity activity;
+    LibraryPanes panes({.library = measured.library,
+                        .tree = view,
+                        .list = list,
+                        .editor = editor,
+                        .activity = activity});
     Times fill;
     Times cells;
     for (int repetition = 0; repetition <= repetitions; ++repetition) {

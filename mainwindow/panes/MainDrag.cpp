@@ -1,4 +1,4 @@
-#include "mainwindow/frmMainDrag.h"
+#include "mainwindow/panes/MainDrag.h"
 
 #include "platform/Form.h"
 
@@ -18,7 +18,8 @@ HeldKeys KeysHeld() {
 
 } // namespace
 
-void MainDrag::Attach(MainViewEvents& events) {
+void MainDrag::Attach(DragEvents& events) {
+    events_ = &events;
     ListView& list = controls_.list;
     list.onPress = [&events] { events.ListPressed(); };
     list.onDragStart = [this, &events](POINT at) {
@@ -33,13 +34,18 @@ void MainDrag::Attach(MainViewEvents& events) {
     list.Drag().onCancel = [&events] { events.DragCancelled(); };
 }
 
+void MainDrag::Tick() {
+    if (events_ != nullptr)
+        events_->DragTicked(Point());
+}
+
 void MainDrag::LoadCursors() {
     const int size = form_.Scale().FromDesign(kCursorSize);
     move_ = LoadNamedCursor("DragMove", size);
     copy_ = LoadNamedCursor("DragCopy", size);
 }
 
-void MainDrag::Show(float left, float top, DragMode picture) {
+void MainDrag::ShowDrag(float left, float top, DragMode picture) {
     const RECT before = controls_.label.Bounds();
     const POINT at = {form_.Scale().ToPixels(left), form_.Scale().ToPixels(top)};
     controls_.label.Place({at.x, at.y, at.x + WidthOf(before), at.y + HeightOf(before)});
@@ -57,7 +63,15 @@ HCURSOR MainDrag::CursorOf(DragMode picture) const {
     }
 }
 
-void MainDrag::End() {
+void MainDrag::MarkDropNode(const std::string& key) {
+    controls_.tree.MarkDropTarget(key);
+}
+
+void MainDrag::ScrollTree(TreeEdge towards) {
+    controls_.tree.ScrollLine(towards == TreeEdge::Bottom);
+}
+
+void MainDrag::EndDrag() {
     KillTimer(form_.Handle(), kTimer);
     controls_.list.Drag().End();
     SetCursor(LoadCursorW(nullptr, IDC_ARROW));

@@ -1,4 +1,4 @@
-#include "mainwindow/frmMainBars.h"
+#include "mainwindow/panes/MainBars.h"
 
 #include "mainwindow/CommandTable.h"
 
@@ -10,8 +10,13 @@ namespace {
 constexpr int kFirstSeparator = 3001;
 
 ShortcutDesign KeyOf(const MenuRow& row) {
-    return {row.command, row.shortcut.ctrl, row.shortcut.shift, row.shortcut.key,
-            row.shortcut.leavesTextEntryAlone};
+    const Shortcut& shortcut = row.shortcut;
+    return {.command = row.command,
+            .ctrl = shortcut.ctrl,
+            .shift = shortcut.shift,
+            .key = shortcut.key,
+            .leavesTextEntryAlone = shortcut.reach == ShortcutReach::OutsideText,
+            .onlyInControl = shortcut.reach == ShortcutReach::ListOnly ? IDC_lvColor : 0};
 }
 
 std::vector<ToolbarMenuDesign> MenuOf(const ToolbarRow& button) {
@@ -23,8 +28,8 @@ std::vector<ToolbarMenuDesign> MenuOf(const ToolbarRow& button) {
 }
 
 void AddEntries(MenuBar& menu) {
-    for (const MenuRow& row : kMenuRows) {
-        switch (row.kind) {
+    for (const MenuRow& row : MenuRows()) {
+        switch (row.place) {
         case MenuKind::Title:
             menu.AddTitle(row.command, row.name, row.caption);
             break;
@@ -46,9 +51,7 @@ void AddEntries(MenuBar& menu) {
 
 } // namespace
 
-namespace MainBars {
-
-void BuildMenu(MenuBar& menu) {
+void MainBars::BuildMenu(MenuBar& menu) {
     AddEntries(menu);
     for (const KeyRow& row : kKeyRows)
         menu.AddKey(row.key, row.name, row.caption);
@@ -56,15 +59,15 @@ void BuildMenu(MenuBar& menu) {
         menu.AddShortcut(shortcut);
 }
 
-std::vector<ShortcutDesign> ShortcutKeys() {
+std::vector<ShortcutDesign> MainBars::ShortcutKeys() {
     std::vector<ShortcutDesign> keys;
-    for (const MenuRow& row : kMenuRows)
+    for (const MenuRow& row : MenuRows())
         if (row.shortcut.key != 0)
             keys.push_back(KeyOf(row));
     return keys;
 }
 
-std::vector<ToolbarButtonDesign> ToolbarButtonDesigns() {
+std::vector<ToolbarButtonDesign> MainBars::ToolbarButtonDesigns() {
     std::vector<ToolbarButtonDesign> buttons;
     buttons.reserve(kToolbarRows.size());
     int separator = kFirstSeparator;
@@ -74,7 +77,7 @@ std::vector<ToolbarButtonDesign> ToolbarButtonDesigns() {
     return buttons;
 }
 
-std::vector<std::string> ToolbarIcons() {
+std::vector<std::string> MainBars::ToolbarIcons() {
     std::vector<std::string> icons;
     for (const ToolbarRow& row : kToolbarRows)
         if (*row.icon != '\0')
@@ -82,9 +85,38 @@ std::vector<std::string> ToolbarIcons() {
     return icons;
 }
 
-bool IsMenuCommand(int command) {
-    return std::any_of(kMenuRows.begin(), kMenuRows.end(),
-                       [command](const MenuRow& row) { return row.command == command; });
+bool MainBars::IsMenuCommand(int command) {
+    return FindCommand(command) != nullptr;
 }
 
-} // namespace MainBars
+void MainBars::SetMenuChecked(int command, bool checked) {
+    controls_.menu.SetChecked(command, checked);
+}
+
+void MainBars::SetButtonPressed(const std::string& buttonKey, bool pressed) {
+    controls_.toolbar.SetPressed(buttonKey, pressed);
+}
+
+void MainBars::SetButtonVisible(const std::string& buttonKey, bool visible) {
+    controls_.toolbar.SetVisible(buttonKey, visible);
+}
+
+void MainBars::SetToolbarVisible(bool visible) {
+    controls_.toolbar.Show(visible);
+}
+
+void MainBars::SetStatusBarVisible(bool visible) {
+    controls_.statusBar.Show(visible);
+}
+
+// The bars place themselves, also while the window is maximised.
+void MainBars::ArrangeBars() {
+    controls_.toolbar.FollowForm();
+    controls_.statusBar.FollowForm();
+    if (onArranged)
+        onArranged();
+}
+
+void MainBars::SetInfoPanelText(const std::string& text) {
+    controls_.statusBar.SetPanelText(text);
+}

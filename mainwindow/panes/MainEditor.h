@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/ColorRecord.h"
-#include "mainwindow/MainView.h"
+#include "mainwindow/EditorPane.h"
 #include "platform/controls/Frame.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/Slider.h"
@@ -9,16 +9,18 @@
 #include "platform/controls/TextBox.h"
 
 #include <array>
+#include <functional>
 
 class Form;
 
 // The active-colour editor on frmMain: the frame with name, large swatch and nine rows of label,
 // text box and slider, and the small swatch that is shown instead of it.
-class MainEditor {
+class MainEditor : public EditorPane {
 public:
     explicit MainEditor(Form& form);
 
-    void Attach(MainViewEvents& events);
+    void Attach(EditorEvents& events);
+    void OnSwatchDoubleClick(const std::function<void()>& action);
 
     // Pixels.  The frame puts its rows into as many columns as its width allows.
     [[nodiscard]] int FrameHeight(int width) const;
@@ -27,10 +29,15 @@ public:
 
     [[nodiscard]] Frame& FrameControl() noexcept { return *frame_; }
     [[nodiscard]] Swatch& SmallSwatch() noexcept { return *smallSwatch_; }
-    [[nodiscard]] Swatch& LargeSwatch() noexcept { return *largeSwatch_; }
-    [[nodiscard]] NameLabel& ColorName() noexcept { return *colorName_; }
-    [[nodiscard]] TextBox& Box(std::size_t index) { return *rows_.at(index).box; }
-    [[nodiscard]] Slider& SliderAt(std::size_t index) { return *rows_.at(index).slider; }
+    void FocusFirstBox() { rows_.front().box->Focus(); }
+
+    void SetColorName(const std::string& name) override;
+    void SetValueText(std::size_t index, const std::string& text) override;
+    void SelectWholeValueText(std::size_t index) override;
+    void SetSlider(std::size_t index, int position) override;
+    void SetLargeSwatch(ColorNumber background) override;
+    void SetSmallSwatch(ColorNumber background, ColorNumber text) override;
+    void SetSmallSwatchCaption(const std::string& caption) override;
 
 private:
     struct Row {

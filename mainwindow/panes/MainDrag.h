@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mainwindow/MainView.h"
+#include "mainwindow/DragPane.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/TreeView.h"
@@ -12,7 +12,7 @@ class Form;
 
 // A colour that is dragged from lvColor to tvColor on frmMain: lblDrag at the pointer, the
 // pointer's picture and the reports.
-class MainDrag {
+class MainDrag : public DragPane {
 public:
     struct Controls {
         ListView& list;
@@ -22,20 +22,21 @@ public:
 
     MainDrag(Form& form, const Controls& controls) : form_(form), controls_(controls) {}
 
-    void Attach(MainViewEvents& events);
+    void Attach(DragEvents& events);
+    void Tick(); // the form's timer kTimer
 
-    void Show(float left, float top, DragMode picture);
-    void Mark(const std::string& node) { controls_.tree.MarkDropTarget(node); }
-    void Scroll(TreeEdge towards) { controls_.tree.ScrollLine(towards == TreeEdge::Bottom); }
-    void End();
+    void ShowDrag(float left, float top, DragMode picture) override;
+    void MarkDropNode(const std::string& key) override;
+    void ScrollTree(TreeEdge towards) override;
+    void EndDrag() override;
 
     // A drag takes every key; Escape gives it up.
     bool TakeKey(const MSG& message);
 
     static constexpr UINT_PTR kTimer = 2;
-    [[nodiscard]] DragPoint Point() const; // where the pointer is
 
 private:
+    [[nodiscard]] DragPoint Point() const; // where the pointer is
     void LoadCursors();
     [[nodiscard]] DragPoint PointAt(POINT screen) const;
     [[nodiscard]] TreeEdge EdgeAt(POINT screen) const;
@@ -43,6 +44,7 @@ private:
 
     Form& form_;
     Controls controls_;
+    DragEvents* events_ = nullptr; // until it is attached, nothing is dragged
     CursorHandle move_;
     CursorHandle copy_;
 };

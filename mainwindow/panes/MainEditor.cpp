@@ -1,4 +1,4 @@
-#include "mainwindow/frmMainEditor.h"
+#include "mainwindow/panes/MainEditor.h"
 
 #include "platform/Fonts.h"
 #include "platform/Form.h"
@@ -76,7 +76,7 @@ void MainEditor::AddRow(std::size_t index) {
     row.box->SetText("0");
 }
 
-void MainEditor::Attach(MainViewEvents& events) {
+void MainEditor::Attach(EditorEvents& events) {
     for (std::size_t index = 0; index < kColorValueCount; ++index) {
         const Row& row = rows_.at(index);
         row.box->onChange = [&events, index](const std::string& text) {
@@ -90,8 +90,39 @@ void MainEditor::Attach(MainViewEvents& events) {
             events.SliderMoved(index, position);
         };
     }
-    largeSwatch_->onDoubleClick = [&events] { events.SwatchDoubleClicked(); };
-    smallSwatch_->onDoubleClick = [&events] { events.SwatchDoubleClicked(); };
+}
+
+void MainEditor::OnSwatchDoubleClick(const std::function<void()>& action) {
+    largeSwatch_->onDoubleClick = action;
+    smallSwatch_->onDoubleClick = action;
+}
+
+void MainEditor::SetColorName(const std::string& name) {
+    colorName_->SetText(name);
+}
+
+void MainEditor::SetValueText(std::size_t index, const std::string& text) {
+    rows_.at(index).box->SetText(text);
+}
+
+void MainEditor::SelectWholeValueText(std::size_t index) {
+    rows_.at(index).box->SelectAll();
+}
+
+void MainEditor::SetSlider(std::size_t index, int position) {
+    rows_.at(index).slider->SetPosition(position);
+}
+
+void MainEditor::SetLargeSwatch(ColorNumber background) {
+    largeSwatch_->SetColors(background, 0);
+}
+
+void MainEditor::SetSmallSwatch(ColorNumber background, ColorNumber text) {
+    smallSwatch_->SetColors(background, text);
+}
+
+void MainEditor::SetSmallSwatchCaption(const std::string& caption) {
+    smallSwatch_->SetText(caption);
 }
 
 int MainEditor::Design(int designPixels) const {

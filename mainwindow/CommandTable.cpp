@@ -1,0 +1,210 @@
+#include "mainwindow/CommandTable.h"
+
+#include "mainwindow/MainCommands.h"
+
+#include <algorithm>
+
+namespace {
+
+using Commands = const MainCommands&;
+
+constexpr Shortcut Plain(std::uint8_t key) {
+    return {.key = key};
+}
+constexpr Shortcut Ctrl(std::uint8_t key) {
+    return {.ctrl = true, .key = key};
+}
+constexpr Shortcut CtrlShift(std::uint8_t key) {
+    return {.ctrl = true, .shift = true, .key = key};
+}
+constexpr Shortcut OutsideText(std::uint8_t key) {
+    return {.ctrl = true, .key = key, .reach = ShortcutReach::OutsideText};
+}
+constexpr Shortcut InList(std::uint8_t key) {
+    return {.key = key, .reach = ShortcutReach::ListOnly};
+}
+
+constexpr MenuRow Title(int command, const char* name, const char* caption) {
+    return {.command = command, .name = name, .caption = caption, .place = MenuKind::Title};
+}
+constexpr MenuRow Submenu(int command, const char* name, const char* caption) {
+    return {.command = command, .name = name, .caption = caption, .place = MenuKind::Submenu};
+}
+constexpr MenuRow Separator(int command, const char* name) {
+    return {.command = command, .name = name, .caption = "-", .place = MenuKind::Separator};
+}
+constexpr MenuRow Entry(int command, const char* name, const char* caption, CommandHandler run,
+                        Shortcut shortcut = {}) {
+    return {.command = command,
+            .name = name,
+            .caption = caption,
+            .place = MenuKind::Entry,
+            .run = run,
+            .shortcut = shortcut};
+}
+constexpr MenuRow SubmenuEntry(int command, const char* name, const char* caption,
+                               CommandHandler run) {
+    return {.command = command,
+            .name = name,
+            .caption = caption,
+            .place = MenuKind::SubmenuEntry,
+            .run = run};
+}
+constexpr MenuRow Reporting(int command, const char* name, const char* caption, CommandHandler run,
+                            Shortcut shortcut = {}) {
+    MenuRow row = Entry(command, name, caption, run, shortcut);
+    row.kind = CommandKind::Reports;
+    return row;
+}
+constexpr MenuRow Operation(int command, const char* name, const char* caption,
+                            CommandHandler run) {
+    MenuRow row = Entry(command, name, caption, run);
+    row.kind = CommandKind::Operation;
+    return row;
+}
+
+constexpr std::array kMenuRows = {
+    Title(IDM_mnuFile, "mnuFile", "Datei"),
+    Entry(
+        IDM_mnuFileNew, "mnuFileNew", "Neu", [](Commands c) { c.file.mnuFileNew_Click(); },
+        Ctrl('N')),
+    Entry(
+        IDM_mnuFileOpen, "mnuFileOpen", "Öffnen ...",
+        [](Commands c) { c.file.mnuFileOpen_Click(); }, Ctrl('O')),
+    Entry(
+        IDM_mnuFileSave, "mnuFileSave", "Speichern", [](Commands c) { c.file.mnuFileSave_Click(); },
+        Ctrl('S')),
+    Entry(
+        IDM_mnuFileSaveAs, "mnuFileSaveAs", "Speichern unter ...",
+        [](Commands c) { c.file.mnuFileSaveAs_Click(); }, CtrlShift('S')),
+    Reporting(IDM_mnuFileClose, "mnuFileClose", "Schließen",
+              [](Commands c) { c.file.mnuFileClose_Click(); }),
+    Reporting(IDM_mnuFileCancelAutoload, "mnuFileCancelAutoload", "Automatisches Laden aufheben",
+              [](Commands c) { c.file.mnuFileCancelAutoload_Click(); }),
+    Separator(IDM_mnuFileHR, "mnuFileHR"),
+    Entry(IDM_mnuQuit, "mnuQuit", "Beenden", [](Commands c) { c.quit(); }),
+
+    Title(IDM_mnuColor, "mnuColor", "Farbe"),
+    Entry(IDM_mnuColorNewMainNode, "mnuColorNewMainNode", "Neue Bibliothek",
+          [](Commands c) { c.library.NewMainNode(); }),
+    Entry(IDM_mnuColorNewGroup, "mnuColorNewGroup", "Neue Gruppe",
+          [](Commands c) { c.library.NewGroupNode(); }),
+    Entry(IDM_mnuColorNewColor, "mnuColorNewColor", "Neue Farbe",
+          [](Commands c) { c.library.NewColorNode(); }),
+    Separator(IDM_mnuColorHR1, "mnuColorHR1"),
+    Entry(IDM_mnuColorRenameNode, "mnuColorRenameNode", "Bibliothek oder Gruppe umbenennen",
+          [](Commands c) { c.panes.EditSelectedNode(); }),
+    Separator(IDM_mnuColorHR2, "mnuColorHR2"),
+    Entry(IDM_mnuColorDelMainNode, "mnuColorDelMainNode", "Bibliothek löschen",
+          [](Commands c) { c.editing.DeleteMainNode(); }),
+    Entry(IDM_mnuColorDelGroup, "mnuColorDelGroup", "Gruppe löschen",
+          [](Commands c) { c.editing.DeleteGroup(); }),
+    Entry(
+        IDM_mnuColorDelColor, "mnuColorDelColor", "Farbe löschen",
+        [](Commands c) { c.editing.DeleteColor(); }, InList(Key::Delete)),
+    Separator(IDM_mnuColorHR3, "mnuColorHR3"),
+    Entry(
+        IDM_mnuColorCopy, "mnuColorCopy", "Kopieren", [](Commands c) { c.editing.Copy(); },
+        OutsideText('C')),
+    Entry(
+        IDM_mnuColorCut, "mnuColorCut", "Ausschneiden", [](Commands c) { c.editing.Cut(); },
+        OutsideText('X')),
+    Entry(
+        IDM_mnuColorPaste, "mnuColorPaste", "Einfügen", [](Commands c) { c.editing.Paste(); },
+        OutsideText('V')),
+    Separator(IDM_mnuColorHR4, "mnuColorHR4"),
+    Entry(IDM_mnuColorChange, "mnuColorChange", "Farbwert wählen ...",
+          [](Commands c) { c.editor.PickActiveColorFromDialog(); }),
+    Entry(IDM_mnuColorUpdateColor, "mnuColorUpdateColor", "Farbe aktualisieren",
+          [](Commands c) { c.panes.UpdateFromColorPreview(); }),
+
+    Title(IDM_mnuView, "mnuView", "Ansicht"),
+    Entry(IDM_mnuViewToolbar, "mnuViewToolbar", "Symbolleiste",
+          [](Commands c) { c.view.Toggle(IDM_mnuViewToolbar); }),
+    Entry(IDM_mnuViewStatusBar, "mnuViewStatusBar", "Statusleiste",
+          [](Commands c) { c.view.Toggle(IDM_mnuViewStatusBar); }),
+    Entry(IDM_mnuViewBarStandards, "mnuViewBarStandards", "Leiste Standard",
+          [](Commands c) { c.view.Toggle(IDM_mnuViewBarStandards); }),
+    Entry(IDM_mnuViewBarColor, "mnuViewBarColor", "Leiste Farbe",
+          [](Commands c) { c.view.Toggle(IDM_mnuViewBarColor); }),
+    Entry(IDM_mnuViewBarListview, "mnuViewBarListview", "Leiste Listenansicht",
+          [](Commands c) { c.view.Toggle(IDM_mnuViewBarListview); }),
+    Entry(IDM_mnuViewBarSolidWorks, "mnuViewBarSolidWorks", "Leiste SolidWorks",
+          [](Commands c) { c.view.Toggle(IDM_mnuViewBarSolidWorks); }),
+    Separator(IDM_mnuViewHR1, "mnuViewHR1"),
+    Entry(IDM_mnuViewHugeColorDialog, "mnuViewHugeColorDialog", "Großes Farbfeld",
+          [](Commands c) { c.view.Toggle(IDM_mnuViewHugeColorDialog); }),
+    Separator(IDM_mnuViewHR2, "mnuViewHR2"),
+    Entry(IDM_mnuViewColorLargeIcons, "mnuViewColorLargeIcons", "Große Symbole",
+          [](Commands c) { c.view.SetListView(ListViewMode::LargeIcons); }),
+    Entry(IDM_mnuViewColorSmallIcons, "mnuViewColorSmallIcons", "Kleine Symbole",
+          [](Commands c) { c.view.SetListView(ListViewMode::SmallIcons); }),
+    Entry(IDM_mnuViewColorList, "mnuViewColorList", "Liste",
+          [](Commands c) { c.view.SetListView(ListViewMode::List); }),
+    Entry(IDM_mnuViewColorDetails, "mnuViewColorDetails", "Details",
+          [](Commands c) { c.view.SetListView(ListViewMode::Details); }),
+
+    Title(IDM_mnuSWX, "mnuSWX", "SolidWorks"),
+    Operation(IDM_mnuSWXGetColor, "mnuSWXGetColor", "Farbe aus SolidWorks holen",
+              [](Commands c) { c.solidWorks.mnuSWXGetColor_Click(); }),
+    Operation(IDM_mnuSWXNewColorUpdate, "mnuSWXNewColorUpdate", "Neue Farbe aus SolidWorks holen",
+              [](Commands c) { c.solidWorks.mnuSWXNewColorUpdate_Click(); }),
+    Separator(IDM_mnuSWXHR1, "mnuSWXHR1"),
+    Operation(IDM_mnuSWXSetColor, "mnuSWXSetColor", "Farbe in SolidWorks setzen",
+              [](Commands c) { c.solidWorks.mnuSWXSetColor_Click(); }),
+    Operation(IDM_mnuSWXSetColorComponent, "mnuSWXSetColorComponent",
+              "Farbe der Komponente in SolidWorks setzen",
+              [](Commands c) { c.solidWorks.mnuSWXSetColorComponent_Click(); }),
+    Separator(IDM_mnuSWXHR2, "mnuSWXHR2"),
+    Operation(IDM_mnuSWXClearColorFromSelection, "mnuSWXClearColorFromSelection",
+              "Farbe der Auswahl entfernen",
+              [](Commands c) { c.solidWorks.mnuSWXClearColorFromSelection_Click(); }),
+    Operation(IDM_mnuSWXClearComponentColorFromSelection, "mnuSWXClearComponentColorFromSelection",
+              "Farbe der gewählten Komponenten entfernen",
+              [](Commands c) { c.solidWorks.mnuSWXClearComponentColorFromSelection_Click(); }),
+    Operation(IDM_mnuSWXClearColorPart, "mnuSWXClearColorPart", "Alle Farben des Teils entfernen",
+              [](Commands c) { c.solidWorks.mnuSWXClearColorPart_Click(); }),
+    Operation(IDM_mnuSWXClearColorAssembly, "mnuSWXClearColorAssembly",
+              "Farben aller Komponenten entfernen",
+              [](Commands c) { c.solidWorks.mnuSWXClearColorAssembly_Click(); }),
+    Separator(IDM_mnuSWXHR3, "mnuSWXHR3"),
+    Operation(IDM_mnuSWXGetStandardColor, "mnuSWXGetStandardColor", "Standardfarben holen",
+              [](Commands c) { c.solidWorks.mnuSWXGetStandardColor_Click(); }),
+    Operation(IDM_mnuSWXSetStandardColor, "mnuSWXSetStandardColor", "Standardfarben setzen",
+              [](Commands c) { c.solidWorks.mnuSWXSetStandardColor_Click(); }),
+
+    Title(IDM_mnuOptions, "mnuOptions", "Optionen"),
+    Submenu(IDM_mnuOptionsLanguage, "mnuOptionsLanguage", "Sprache"),
+    SubmenuEntry(IDM_mnuOptionsLngGerman, "mnuOptionsLngGerman", "Deutsch",
+                 [](Commands c) { c.options.mnuOptionsLngGerman_Click(); }),
+    SubmenuEntry(IDM_mnuOptionsLngEnglish, "mnuOptionsLngEnglish", "Englisch",
+                 [](Commands c) { c.options.mnuOptionsLngEnglish_Click(); }),
+    Entry(IDM_mnuOptionsConfirmDel, "mnuOptionsConfirmDel", "Löschen immer bestätigen",
+          [](Commands c) { c.options.mnuOptionsConfirmDel_Click(); }),
+    Entry(IDM_mnuOptionsCreateBackups, "mnuOptionsCreateBackups", "Erzeuge Sicherungskopien",
+          [](Commands c) { c.options.mnuOptionsCreateBackups_Click(); }),
+    Entry(IDM_mnuOptionsAlwaysOnTop, "mnuOptionsAlwaysOnTop", "Immer im Vordergrund",
+          [](Commands c) { c.options.mnuOptionsAlwaysOnTop_Click(); }),
+    Separator(IDM_mnuOptionsHR, "mnuOptionsHR"),
+    Entry(IDM_mnuOptionsSaveSettings, "mnuOptionsSaveSettings", "Einstellungen speichern",
+          [](Commands c) { c.options.mnuOptionsSaveSettings_Click(); }),
+
+    Title(IDM_mnuHlp, "mnuHlp", "Hilfe"),
+    Entry(IDM_mnuHlpAbout, "mnuHlpAbout", "Info ...", [](Commands c) { c.about.ShowModal(); }),
+    Entry(
+        IDM_mnuHlpShowReadme, "mnuHlpShowReadme", "Liesmich",
+        [](Commands c) { c.textViewer.Show("readme"); }, Plain(Key::F1)),
+    Entry(IDM_mnuHlpShowLizenz, "mnuHlpShowLizenz", "Nutzungsbedingungen",
+          [](Commands c) { c.textViewer.Show("lizenz"); }),
+};
+
+} // namespace
+
+std::span<const MenuRow> MenuRows() noexcept {
+    return kMenuRows;
+}
+
+const MenuRow* FindCommand(int command) noexcept {
+    const auto row = std::ranges::find(kMenuRows, command, &MenuRow::command);
+    return row != kMenuRows.end() && row->run != nullptr ? &*row : nullptr;
+}

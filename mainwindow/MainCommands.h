@@ -1,0 +1,29 @@
+#pragma once
+
+#include "library/ColorLibrary.h"
+#include "library/FileCommands.h"
+#include "mainwindow/ColorEditor.h"
+#include "mainwindow/EditingCommands.h"
+#include "mainwindow/LibraryPanes.h"
+#include "mainwindow/SolidWorksCommands.h"
+#include "mainwindow/ViewCommands.h"
+#include "support/About.h"
+#include "support/Options.h"
+#include "support/TextViewer.h"
+
+#include <functional>
+
+// Who carries out the commands of the command table.
+struct MainCommands {
+    FileCommands& file;
+    ColorLibrary& library;
+    EditingCommands& editing;
+    LibraryPanes& panes;
+    ColorEditor& editor;
+    ViewCommands& view;
+    SolidWorksCommands& solidWorks;
+    Options& options;
+    About& about;
+    TextViewer& textViewer;
+    std::function<void()> quit; // ends the program
+};

@@ -1,0 +1,54 @@
+#include "mainwindow/panes/MainList.h"
+
+#include "platform/WindowGeometry.h"
+
+void MainList::Attach(ListRows& rows, ListEvents& events) {
+    control_.cellText = [&rows](int row, int column) { return rows.CellText(row, column); };
+    control_.findRow = [&rows](const std::string& text, int start) {
+        return rows.FindRow(text, start);
+    };
+    control_.onColumnClick = [&events](int column) { events.ColumnClicked(column); };
+    control_.onClick = [&events](int row) { events.RowClicked(row); };
+    control_.onEditRequested = [&events] { events.RowEditRequested(); };
+    control_.mayEdit = [&events] { return events.MayEditRow(); };
+    control_.onLabelEdited = [&events](int row, const std::string& text) {
+        events.RowLabelEdited(row, text);
+    };
+}
+
+float MainList::ListWidth() const {
+    return scale_.ToTwips(WidthOf(control_.Bounds()));
+}
+
+void MainList::AddColumns(const std::vector<ListColumn>& columns) {
+    for (const ListColumn& column : columns)
+        control_.AddColumn(column.caption, scale_.ToPixels(column.width));
+}
+
+void MainList::ShowSortOrder(int column, bool descending) {
+    control_.MarkColumn(column, descending);
+}
+
+void MainList::RowsChanged(int rowCount) {
+    control_.SetRowCount(rowCount);
+}
+
+void MainList::SelectRow(int row) {
+    control_.SelectRow(row);
+}
+
+void MainList::EnsureRowVisible(int row) {
+    control_.EnsureVisible(row);
+}
+
+void MainList::EditRowLabel(int row) {
+    control_.EditLabel(row);
+}
+
+void MainList::FinishLabelEdit() {
+    control_.FinishEdit();
+}
+
+void MainList::SetListViewMode(ListViewMode mode) {
+    control_.SetMode(static_cast<int>(mode));
+}

@@ -1,0 +1,37 @@
+#include "mainwindow/panes/MainTree.h"
+
+void MainTree::Attach(TreeEvents& events) {
+    control_.onClick = [&events](const std::string& key) { events.NodeClicked(key); };
+    control_.mayEdit = [&events] { return events.MayEditNode(); };
+    control_.onLabelEdited = [&events](const std::string& key, const std::string& text) {
+        events.NodeLabelEdited(key, text);
+    };
+}
+
+void MainTree::NodeAdded(const LibraryNode& node) {
+    control_.AddNode(node.key, node.parent, node.text, node.image);
+}
+
+void MainTree::NodeRemoved(const std::string& key) {
+    control_.RemoveNode(key);
+}
+
+void MainTree::NodeTextChanged(const std::string& key, const std::string& text) {
+    control_.SetNodeText(key, text);
+}
+
+void MainTree::NodeExpanded(const std::string& key) {
+    control_.ExpandNode(key);
+}
+
+void MainTree::NodeSelected(const std::string& key) {
+    control_.SelectNode(key);
+}
+
+void MainTree::EditNodeLabel(const std::string& key) {
+    control_.EditLabel(key);
+}
+
+void MainTree::FinishLabelEdit() {
+    control_.FinishEdit();
+}
