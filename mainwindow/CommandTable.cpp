@@ -65,16 +65,16 @@ constexpr MenuRow Operation(int command, const char* name, const char* caption,
 
 constexpr std::array kMenuRows = {
     Title(IDM_mnuFile, "mnuFile", "Datei"),
-    Entry(
+    Reporting(
         IDM_mnuFileNew, "mnuFileNew", "Neu", [](Commands c) { c.file.mnuFileNew_Click(); },
         Ctrl('N')),
-    Entry(
+    Reporting(
         IDM_mnuFileOpen, "mnuFileOpen", "Öffnen ...",
         [](Commands c) { c.file.mnuFileOpen_Click(); }, Ctrl('O')),
-    Entry(
+    Reporting(
         IDM_mnuFileSave, "mnuFileSave", "Speichern", [](Commands c) { c.file.mnuFileSave_Click(); },
         Ctrl('S')),
-    Entry(
+    Reporting(
         IDM_mnuFileSaveAs, "mnuFileSaveAs", "Speichern unter ...",
         [](Commands c) { c.file.mnuFileSaveAs_Click(); }, CtrlShift('S')),
     Reporting(IDM_mnuFileClose, "mnuFileClose", "Schließen",

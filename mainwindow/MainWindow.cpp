@@ -5,7 +5,25 @@
 #include "common/ValueRestorer.h"
 #include "resources/controls.h"
 
-MainWindow::MainWindow(const Parts& parts) : parts_(parts), position_(parts.registry) {
+namespace {
+
+// The hour-glass, for as long as this lives.
+class WaitingShown {
+public:
+    explicit WaitingShown(MainFrame& frame) : frame_(frame) { frame_.SetWaiting(true); }
+    ~WaitingShown() { frame_.SetWaiting(false); }
+    WaitingShown(const WaitingShown&) = delete;
+    WaitingShown& operator=(const WaitingShown&) = delete;
+
+private:
+    MainFrame& frame_;
+};
+
+} // namespace
+
+MainWindow::MainWindow(const Parts& parts)
+    : parts_(parts), position_(parts.registry),
+      busy_(parts.view.bars, parts.texts, parts.events, parts.panes.activity.endRequested) {
     ColorLibrary& library = parts_.commands.library;
     library.SetHost(parts_.panes.library);
     library.Tree().Observe(&parts_.view.tree);

@@ -127,7 +127,7 @@ void SolidWorksCommands::mnuSWXGetStandardColor_Click() {
     const ColorValueArray shown = parts_.editor.Values();
     std::vector<ColorRecord> colors;
     const std::string result = parts_.tools.SWXGetStandardColors(colors);
-    if (ReportRefusal(result) || parts_.endRequested)
+    if (ReportRefusal(result) || parts_.activity.endRequested)
         return;
     const bool isStopped = result == ResultKey::ProgressStopped;
     if (tree.Selected() != selected && tree.Find(selected))
