@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/Settings.h"
-#include "support/modRegistry.h"
+#include "support/settings/modRegistry.h"
 
 #include <optional>
 #include <string>

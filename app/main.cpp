@@ -20,10 +20,10 @@
 #include "platform/Win32Shell.h"
 #include "platform/Win32TextCollation.h"
 #include "platform/Win32WaitingClock.h"
-#include "support/ErrorReporter.h"
-#include "support/frmAbout.h"
-#include "support/frmProgress.h"
-#include "support/frmTxtView.h"
+#include "support/language/ErrorReporter.h"
+#include "support/windows/frmAbout.h"
+#include "support/windows/frmProgress.h"
+#include "support/windows/frmTxtView.h"
 
 #include <chrono>
 #include <windows.h>

@@ -48,7 +48,8 @@ function(tnt_test name)
     endif()
 endfunction()
 
-set(portable_test_folders tests/common tests/library tests/solidworks tests/support
+set(portable_test_folders tests/common tests/library tests/solidworks
+    tests/support/language tests/support/settings tests/support/windows
     tests/mainwindow tests/app tests/standin tests/fakes)
 tnt_test_program(portable_tests FOLDERS ${portable_test_folders}
     LIBRARIES standin_model tnt_portable gmock gtest gtest_main)

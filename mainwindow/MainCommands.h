@@ -7,9 +7,9 @@
 #include "mainwindow/LibraryPanes.h"
 #include "mainwindow/SolidWorksCommands.h"
 #include "mainwindow/ViewCommands.h"
-#include "support/About.h"
-#include "support/Options.h"
-#include "support/TextViewer.h"
+#include "support/windows/About.h"
+#include "support/settings/Options.h"
+#include "support/windows/TextViewer.h"
 
 #include <functional>
 

@@ -6,7 +6,7 @@
 #include "mainwindow/LayoutPane.h"
 #include "mainwindow/ListPane.h"
 #include "mainwindow/TreePane.h"
-#include "support/BannerEvents.h"
+#include "support/windows/BannerEvents.h"
 
 #include <string>
 #include <vector>

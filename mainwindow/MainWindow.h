@@ -8,8 +8,8 @@
 #include "mainwindow/MainCommands.h"
 #include "mainwindow/MainPanes.h"
 #include "mainwindow/MainView.h"
-#include "support/CFormPos.h"
-#include "support/modRegistry.h"
+#include "support/settings/CFormPos.h"
+#include "support/settings/modRegistry.h"
 
 #include <string>
 #include <vector>

@@ -17,27 +17,35 @@ import sys
 SOURCE_ENDINGS = (".cpp", ".h", ".rc")
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:<([^>]+)>|"([^"]+)")')
 
-ROOMS = ("app", "mainwindow", "support", "platform", "library", "solidworks", "common",
-         "standin/model", "standin/com", "resources", "tests")
+# A room inside another one stands before it.
+ROOMS = ("app", "mainwindow/panes", "mainwindow", "support/language", "support/settings",
+         "support/windows", "platform", "library", "solidworks", "common", "standin/model",
+         "standin/com", "resources", "tests")
 
 # The rooms that a room may include, itself and resources/controls.h aside.
+SUPPORT = ("support/language", "support/settings", "support/windows")
 ROOMS_BELOW = {
     "common": (),
     "platform": ("common",),
     "library": ("common",),
     "solidworks": ("common",),
-    "support": ("common", "platform", "library", "solidworks"),
-    "mainwindow": ("common", "platform", "library", "solidworks", "support"),
-    "app": ("common", "platform", "library", "solidworks", "support", "mainwindow"),
+    "support/language": ("common",),
+    "support/settings": ("common", "support/language"),
+    "support/windows": ("common", "platform", "support/language", "support/settings"),
+    "mainwindow": ("common", "library", "solidworks", *SUPPORT),
+    "mainwindow/panes": ("common", "platform", "library", "mainwindow"),
+    "app": ("common", "platform", "library", "solidworks", *SUPPORT, "mainwindow"),
     "standin/model": ("common",),
     "standin/com": ("common", "platform", "standin/model"),
     "resources": (),
     "tests": tuple(room for room in ROOMS if room != "tests"),
 }
+# The form joins its panes and the toolkit.
+ROOMS_OF_FILES = {"mainwindow/frmMain": ("platform", "mainwindow/panes")}
 SHARED_HEADERS = ("resources/controls.h",)
 
 WINDOWS_HALF = re.compile(
-    r"platform/|mainwindow/frm|support/frm(About|TxtView|Progress)|app/main\.cpp$|standin/com/|"
+    r"platform/|mainwindow/(frm|panes/)|support/windows/frm(About|TxtView|Progress)|app/main\.cpp$|standin/com/|"
     r"tests/(platform|ui|e2e|faults)/|tests/bench/(Groups|Start|Walk|Sort)Bench\.cpp$|"
     r"tests/bench/library/(BenchPlatformWindows|HeapUse)\.cpp$|resources/")
 
@@ -62,6 +70,11 @@ def room_of(path):
     return None
 
 
+def rooms_below(path, room):
+    of_file = ROOMS_OF_FILES.get(path.rpartition(".")[0], ())
+    return ROOMS_BELOW[room] + of_file
+
+
 def fault_of_system_header(path, header):
     if WINDOWS_HALF.match(path) or header in STANDARD_HEADERS:
         return None
@@ -76,7 +89,7 @@ def fault_of_own_header(path, header):
     own_room, other_room = room_of(path), room_of(header)
     if other_room is None:
         return "not written as a path from the project's root"
-    if other_room != own_room and other_room not in ROOMS_BELOW[own_room]:
+    if other_room != own_room and other_room not in rooms_below(path, own_room):
         return f"{own_room} must not know {other_room}"
     if WINDOWS_HALF.match(header) and not WINDOWS_HALF.match(path):
         return "a header of the Windows half, in the portable half"

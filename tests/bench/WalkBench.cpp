@@ -9,7 +9,7 @@
 #include "resources/controls.h"
 #include "solidworks/ResultKey.h"
 #include "solidworks/modSldTools.h"
-#include "support/frmProgress.h"
+#include "support/windows/frmProgress.h"
 #include "tests/fakes/FakePrompts.h"
 #include "tests/fakes/FakeRegistry.h"
 #include "tests/fakes/FakeTexts.h"

@@ -2,7 +2,7 @@
 
 #include "app/Application.h"
 #include "standin/model/StandInService.h"
-#include "support/ErrorReporter.h"
+#include "support/language/ErrorReporter.h"
 #include "tests/fakes/FakeCalendarClock.h"
 #include "tests/fakes/FakeClipboard.h"
 #include "tests/fakes/FakeCodePage.h"

@@ -1,5 +1,5 @@
-#include "support/CFormPos.h"
-#include "support/FormPositionText.h"
+#include "support/settings/CFormPos.h"
+#include "support/settings/FormPositionText.h"
 #include "tests/fakes/FakeCodePage.h"
 #include "tests/fakes/FakeFormWindow.h"
 #include "tests/fakes/FakeRegistry.h"

@@ -1,5 +1,5 @@
 #include "common/RuntimeError.h"
-#include "support/clsMultiLanguage.h"
+#include "support/language/clsMultiLanguage.h"
 #include "tests/fakes/FakeCodePage.h"
 #include "tests/fakes/FakeFiles.h"
 #include "tests/fakes/FakeForm.h"

@@ -1,6 +1,6 @@
 #include "app/SettingsStore.h"
 #include "common/ProgramNames.h"
-#include "support/CFormPos.h"
+#include "support/settings/CFormPos.h"
 #include "tests/fakes/FakeFormWindow.h"
 #include "tests/platform/ScratchRegistry.h"
 

@@ -16,12 +16,12 @@ def faults(path, *lines):
 class WindowsHeaders(unittest.TestCase):
     def test_are_refused_in_the_portable_half(self):
         for path in ("common/Text.cpp", "mainwindow/Layout.cpp", "standin/model/Part.cpp",
-                     "tests/common/TextTest.cpp", "app/Start.cpp", "support/AboutRules.cpp"):
+                     "tests/common/TextTest.cpp", "app/Start.cpp", "support/windows/AboutRules.cpp"):
             with self.subTest(path):
                 self.assertEqual(len(faults(path, "#include <windows.h>")), 1)
 
     def test_are_welcome_in_the_windows_half(self):
-        for path in ("platform/Window.cpp", "mainwindow/frmMain.cpp", "support/frmAbout.h",
+        for path in ("platform/Window.cpp", "mainwindow/frmMain.cpp", "support/windows/frmAbout.h",
                      "app/main.cpp", "standin/com/Server.cpp", "tests/ui/FormTest.cpp",
                      "resources/tnt4swx.rc"):
             with self.subTest(path):
@@ -31,7 +31,7 @@ class WindowsHeaders(unittest.TestCase):
         self.assertEqual(len(faults("common/Text.cpp", "  #  include<commctrl.h>")), 1)
 
     def test_are_refused_through_a_header_of_the_windows_half(self):
-        self.assertEqual(len(faults("support/Options.cpp", '#include "platform/Window.h"')), 1)
+        self.assertEqual(len(faults("support/settings/Options.cpp", '#include "platform/Window.h"')), 1)
         self.assertEqual(len(faults("mainwindow/Views.cpp", '#include "mainwindow/frmMain.h"')), 1)
 
     def test_the_fault_names_file_line_and_header(self):
@@ -51,8 +51,8 @@ class StandardHeaders(unittest.TestCase):
 class OwnHeaders(unittest.TestCase):
     def test_may_not_be_included_up_the_house(self):
         for path, header in (("common/Text.cpp", "library/Library.h"),
-                             ("library/Library.cpp", "support/Language.h"),
-                             ("support/Options.cpp", "mainwindow/MainView.h"),
+                             ("library/Library.cpp", "support/language/Language.h"),
+                             ("support/settings/Options.cpp", "mainwindow/MainView.h"),
                              ("mainwindow/Views.cpp", "app/Application.h")):
             with self.subTest(path):
                 self.assertEqual(len(faults(path, f'#include "{header}"')), 1)
@@ -60,13 +60,22 @@ class OwnHeaders(unittest.TestCase):
     def test_may_not_be_included_across_one_floor(self):
         for path, header in (("library/Library.cpp", "solidworks/Bridge.h"),
                              ("platform/Window.cpp", "library/Library.h"),
-                             ("solidworks/Bridge.cpp", "library/Library.h")):
+                             ("solidworks/Bridge.cpp", "library/Library.h"),
+                             ("support/settings/Options.cpp", "support/windows/About.h"),
+                             ("support/windows/About.cpp", "library/Library.h")):
             with self.subTest(path):
                 self.assertEqual(len(faults(path, f'#include "{header}"')), 1)
 
     def test_may_be_included_down_the_house(self):
         self.assertEqual(faults("app/main.cpp", '#include "mainwindow/frmMain.h"',
                                 '#include "platform/Window.h"', '#include "common/Text.h"'), [])
+
+    def test_of_the_toolkit_belong_to_the_form_and_its_panes(self):
+        header = '#include "platform/Window.h"'
+        self.assertEqual(faults("mainwindow/frmMain.h", header,
+                                '#include "mainwindow/panes/MainTree.h"'), [])
+        self.assertEqual(faults("mainwindow/panes/MainTree.h", header), [])
+        self.assertGreater(len(faults("mainwindow/ColorList.h", header)), 0)
 
     def test_of_stand_in_and_tests_belong_to_them_alone(self):
         self.assertEqual(len(faults("solidworks/Bridge.cpp", '#include "standin/model/Part.h"')), 1)

@@ -193,7 +193,7 @@ TEST_F(MainList, EditThatIsOpenWhenACommandComesIsReportedWithItsText) {
     view.list.SelectRow(2);
     view.list.EditRowLabel(2);
     SetWindowTextW(LabelBox(), L"y");
-    form.FinishLabelEdit();
+    view.list.FinishLabelEdit();
     EXPECT_EQ(events.lines, std::vector<std::string>{"row label 2=y"});
     EXPECT_EQ(LabelBox(), nullptr);
 }

@@ -1,9 +1,9 @@
 #include "standin/com/frmStandIn.h"
 #include "standin/model/StandInContract.h"
 #include "standin/model/StandInModel.h"
-#include "support/frmAbout.h"
-#include "support/frmProgress.h"
-#include "support/frmTxtView.h"
+#include "support/windows/frmAbout.h"
+#include "support/windows/frmProgress.h"
+#include "support/windows/frmTxtView.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/ui/MainFormTest.h"
 #include "tests/ui/WindowPicture.h"
@@ -64,8 +64,9 @@ protected:
 
     WindowPicture ShowMain(const Sizes& sizes, bool hugeFrame) {
         frmMain form(errors, banners);
-        RecordingMainEvents events(form);
-        form.Attach(events);
+        MainView view = form.View();
+        RecordingMainEvents events(view.layout);
+        form.Attach(events.Events());
         view.list.AddColumns({{"Name", "Name", 1500}, {"R", "red", 600}});
         view.list.RowsChanged(5);
         view.tree.NodeAdded({"0D", "Library", "Colfile", "", "", {}});

@@ -237,10 +237,10 @@ TEST_F(MainTree, EndOfTheEditByMessageIsReportedOnce) {
 
 TEST_F(MainTree, EditThatIsOpenWhenACommandComesIsReportedWithItsText) {
     form.ShowWindow();
-    form.FinishLabelEdit(); // none is open
+    view.tree.FinishLabelEdit(); // none is open
     view.tree.EditNodeLabel("1DG1");
     SetWindowTextW(reinterpret_cast<HWND>(SendMessageW(Tree(), TVM_GETEDITCONTROL, 0, 0)), L"y");
-    form.FinishLabelEdit();
+    view.tree.FinishLabelEdit();
     EXPECT_EQ(events.lines, std::vector<std::string>{"node label 1DG1=y"});
 }
 

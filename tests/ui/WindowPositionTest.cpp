@@ -1,7 +1,7 @@
 #include "common/ProgramNames.h"
 #include "platform/DpiScale.h"
 #include "platform/WindowGeometry.h"
-#include "support/CFormPos.h"
+#include "support/settings/CFormPos.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/ScratchRegistry.h"
 #include "tests/ui/MainFormTest.h"

@@ -4,7 +4,7 @@
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32Files.h"
 #include "platform/Win32WaitingClock.h"
-#include "support/frmProgress.h"
+#include "support/windows/frmProgress.h"
 #include "tests/bench/library/BenchPlatform.h"
 #include "tests/bench/library/Timing.h"
 #include "tests/ui/RecordingErrorSink.h"

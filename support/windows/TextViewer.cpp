@@ -1,0 +1,48 @@
+#include "support/windows/TextViewer.h"
+
+#include "support/language/LanguageCodes.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+// Also the base names of the documents' files.
+const std::vector<std::string>& Entries() {
+    static const std::vector<std::string> entries = {"readme", "lizenz", "changes", "todo",
+                                                     "limitations"};
+    return entries;
+}
+
+} // namespace
+
+void TextViewer::Show(const std::string& entry) {
+    parts_.view.SetEntries(Entries());
+    parts_.view.SetBanner(parts_.banner.Index());
+    parts_.view.SetTopmost(parts_.settings.alwaysOnTop);
+    const auto found = std::ranges::find(Entries(), entry);
+    if (found != Entries().end())
+        parts_.view.SelectEntry(static_cast<int>(found - Entries().begin()));
+    parts_.view.ShowModeless();
+}
+
+void TextViewer::EntryChosen(int index) {
+    const std::string file = parts_.programFolder + "\\" +
+                             Entries().at(static_cast<std::size_t>(index)) + "_" +
+                             LanguageCodeOrNone(parts_.settings.language) + ".txt";
+    const auto text =
+        parts_.language.FileExists(file) ? parts_.files.ReadWhole(file) : std::nullopt;
+    parts_.view.SetText(text ? parts_.codePage.Decode(*text) : file + ": missing file");
+}
+
+void TextViewer::BannerClicked() {
+    parts_.banner.BannerClicked();
+}
+
+TwipsSize TextViewer::TextSize(const TwipsSize& innerArea) const {
+    constexpr float marginWidth = 1900;
+    constexpr float marginHeight = 625;
+    constexpr float smallest = 5;
+    return {std::max(innerArea.width - marginWidth, smallest),
+            std::max(innerArea.height - marginHeight, smallest)};
+}

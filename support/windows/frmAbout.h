@@ -1,0 +1,81 @@
+#pragma once
+
+#include "platform/BannerPictures.h"
+#include "platform/controls/CommandButton.h"
+#include "platform/controls/Label.h"
+#include "platform/controls/PictureBox.h"
+#include "platform/Form.h"
+#include "support/windows/AboutView.h"
+#include "platform/FormOnDemand.h"
+
+// The About window: title, version, two links, the way to the system information, the banner.
+class frmAbout : public FormOf<AboutView> {
+public:
+    // Makes the window, hidden.  The pictures must outlive it.
+    frmAbout(HWND owner, ErrorSink& errors, const BannerPictures& banners);
+
+    void Attach(AboutEvents& events);
+
+    void SetWindowCaption(const std::string& caption) override;
+    void SetTitle(const std::string& title) override;
+    void SetVersion(const std::string& version) override;
+    void SetBanner(int index) override;
+    void ShowModal() override;
+
+protected:
+    void OnCloseBox() override { done_ = true; }
+    void OnScaleChanged() override;
+    void OnLayout() override;
+
+private:
+    struct Line {
+        int left;
+        int right;
+        int top;
+    };
+
+    [[nodiscard]] ControlPlace At(const char* name, int id) const { return {name, id, Handle()}; }
+    void PlaceText(Label& label, Line& line, int gap);
+    void PlaceButtons(Line& line);
+    void PlaceBanner(Line& line);
+
+    const BannerPictures& banners_;
+    FontHandle titleFont_;
+    bool done_ = true;
+    AboutEvents* events_ = nullptr;
+
+    // In the order of the Tab key.
+    IconBox& picIcon_;
+    Label& lblTitle_;
+    Label& lblVersion_;
+    Label& lblDescription_;
+    Label& lblDisclaimer_;
+    LinkLabel& lblLinkHomepage_;
+    LinkLabel& lblMail_;
+    PictureBox& picSponsor_;
+    CommandButton& cmdSysInfo_;
+    CommandButton& cmdOK_;
+};
+
+// The About window as the program holds it.  While it is not there it has no controls to give texts
+// to; it takes those of the language when it is shown, as it always does.
+class AboutOnDemand : public AboutView, public FormOnDemand<frmAbout, AboutEvents> {
+public:
+    using FormOnDemand::FormOnDemand;
+
+    [[nodiscard]] TwipsRect Bounds() const override { return Window().Bounds(); }
+    void Move(const TwipsRect& bounds) override { Window().Move(bounds); }
+    [[nodiscard]] WindowState State() const override { return Window().State(); }
+    void SetState(WindowState state) override { Window().SetState(state); }
+    [[nodiscard]] TwipsSize ScreenSize() const override { return Window().ScreenSize(); }
+    void SetTopmost(bool onTop) override { Window().SetTopmost(onTop); }
+    [[nodiscard]] std::vector<FormControl*> Controls() override;
+
+    void SetWindowCaption(const std::string& caption) override {
+        Window().SetWindowCaption(caption);
+    }
+    void SetTitle(const std::string& title) override { Window().SetTitle(title); }
+    void SetVersion(const std::string& version) override { Window().SetVersion(version); }
+    void SetBanner(int index) override; // a window that is not there gets it when it is shown
+    void ShowModal() override { Window().ShowModal(); }
+};

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/BannerPictures.h"
+#include "platform/controls/ComboBox.h"
+#include "platform/controls/CommandButton.h"
+#include "platform/controls/PictureBox.h"
+#include "platform/controls/RichEdit.h"
+#include "platform/Form.h"
+#include "platform/FormOnDemand.h"
+#include "support/windows/TextViewerView.h"
+
+// The text viewer: which text, the text, and the button that closes the window.
+class frmTxtView : public Form, public TextViewerView {
+public:
+    // Makes the window, hidden.  The pictures must outlive it.
+    frmTxtView(HWND owner, ErrorSink& errors, const BannerPictures& banners);
+
+    void Attach(TextViewerEvents& events);
+
+    void SetEntries(const std::vector<std::string>& entries) override;
+    void SelectEntry(int index) override;
+    void SetText(const std::string& text) override;
+    void SetBanner(int index) override;
+    void SetTopmost(bool onTop) override { MakeTopmost(onTop); }
+    void ShowModeless() override;
+
+protected:
+    MessageResult OnMessage(const WindowMessage& message) override;
+    void OnCloseBox() override { Hide(); }
+    void OnLayout() override;
+
+private:
+    [[nodiscard]] ControlPlace At(const char* name, int id) const { return {name, id, Handle()}; }
+    void PlaceText();
+
+    const BannerPictures& banners_;
+    TextViewerEvents* events_ = nullptr;
+
+    // In the order of the Tab key.
+    ComboBox& cmbTxtView_;
+    RichEdit& rtbShowtext_;
+    CommandButton& cmdOkay_;
+    PictureBox& picSponsor_;
+};
+
+// The text viewer as the program holds it.
+class TextViewerOnDemand : public TextViewerView,
+                           public FormOnDemand<frmTxtView, TextViewerEvents> {
+public:
+    using FormOnDemand::FormOnDemand;
+
+    void SetEntries(const std::vector<std::string>& entries) override {
+        Window().SetEntries(entries);
+    }
+    void SelectEntry(int index) override { Window().SelectEntry(index); }
+    void SetText(const std::string& text) override { Window().SetText(text); }
+    void SetBanner(int index) override; // a window that is not there gets it when it is shown
+    void SetTopmost(bool onTop) override { Window().SetTopmost(onTop); }
+    void ShowModeless() override { Window().ShowModeless(); }
+};
