@@ -48,7 +48,7 @@ def check(name, *command, limit=120, **options):
 def native_steps():
     return [
         build("native", 1800),
-        suite("portable-tests", "native", ["build/native/portable_tests"], 120),
+        suite("portable-tests", "native", ["build/native/portable_tests"], 300),
         # Whether it runs, at a small size; nothing is timed here.
         check("library-bench", "build/native/library_bench", "10000", "1",
               needs=("build-native",), targets=("library_bench",)),
@@ -123,7 +123,7 @@ def long_steps():
     """The same sources with the second compiler, the coverage by tests, and fuzzing."""
     return [
         build("native-clang", 1800, follows=("packages",)),
-        suite("portable-tests-clang", "native-clang", ["build/native-clang/portable_tests"], 120),
+        suite("portable-tests-clang", "native-clang", ["build/native-clang/portable_tests"], 300),
         build("windows-clang", 3600, follows=("build-native-clang",)),
         suite("windows-tests-clang", "windows-clang",
               (*WINE, "wine", "build/windows-clang/windows_tests.exe"), 2400),
