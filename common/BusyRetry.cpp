@@ -11,9 +11,25 @@ constexpr std::chrono::milliseconds kPatience = 30s;
 constexpr std::chrono::milliseconds kPause = 200ms;
 constexpr std::chrono::milliseconds kLongCall = 1s;
 
+// Adds the time that it lives.
+class TimeSpent {
+public:
+    TimeSpent(const WaitingClock& clock, std::chrono::milliseconds& total)
+        : clock_(clock), total_(total), start_(clock.Now()) {}
+    ~TimeSpent() { total_ += clock_.Now() - start_; }
+    TimeSpent(const TimeSpent&) = delete;
+    TimeSpent& operator=(const TimeSpent&) = delete;
+
+private:
+    const WaitingClock& clock_;
+    std::chrono::milliseconds& total_;
+    const std::chrono::milliseconds start_;
+};
+
 } // namespace
 
 void BusyRetry::RepeatWhileBusy(const std::function<bool()>& attempt) {
+    const TimeSpent spent(clock_, spent_);
     const std::chrono::milliseconds start = clock_.Now();
     const bool isRejected = attempt();
     if (isRejected)
@@ -53,9 +69,13 @@ void BusyRetry::ThrowIfStopped() {
 
 WatchedCalls::WatchedCalls(BusyRetry& retry, BusyWatch& watch) : retry_(retry) {
     retry_.watch_ = &watch;
+    retry_.spent_ = {};
 }
 
 WatchedCalls::~WatchedCalls() {
+    // Many short calls are a long time without an answer, too; what was done stays done.
+    if (retry_.spent_ >= kLongCall)
+        static_cast<void>(retry_.watch_->DropInput());
     retry_.watch_ = nullptr;
 }
 

@@ -3,6 +3,7 @@
 #include "common/RuntimeError.h"
 #include "common/ports/WaitingClock.h"
 
+#include <chrono>
 #include <functional>
 
 // The user does not want to go on with a long operation, nor to wait for it.
@@ -19,7 +20,7 @@ public:
     virtual void BusyBegins() = 0;
     virtual void BusyEnds() = 0;
     // Lets go of the clicks and keys that have come meanwhile.  True when one of them was the
-    // user's wish not to wait any longer.
+    // user's wish not to wait any longer.  Does not throw.
     [[nodiscard]] virtual bool DropInput() = 0;
 };
 
@@ -47,12 +48,14 @@ private:
 
     WaitingClock& clock_;
     BusyWatch* watch_ = nullptr;
+    std::chrono::milliseconds spent_{}; // in calls, since the watch began
     StopQuestion isStopped_;
 };
 
 // As long as one of these lives the watch is told when the other program is busy.  Input that came
 // while a call was rejected, or took a second or longer, is dropped; when the user has given up
-// by it, the call throws OperationStopped.
+// by it, the call throws OperationStopped.  At the end input is dropped, too, when all calls
+// together took a second or longer.
 class WatchedCalls {
 public:
     WatchedCalls(BusyRetry& retry, BusyWatch& watch);

@@ -71,6 +71,8 @@ inline constexpr ErrorText ServerWantsOtherCount{
     "The other program takes another number of values here (%1)"};
 inline constexpr ErrorText ServerIsDisconnected{InfoTextNumber::ServerIsDisconnected,
                                                 "The connection to the other program is lost (%1)"};
+inline constexpr ErrorText ServerFails{InfoTextNumber::ServerFails,
+                                       "The other program failed in the call (%1)"};
 } // namespace ErrorTexts
 
 // What an error says: a text and its arguments.

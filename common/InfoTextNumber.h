@@ -56,6 +56,7 @@ inline constexpr std::int32_t ServerWantsOtherKind = 165;
 inline constexpr std::int32_t ServerLacksMember = 166;
 inline constexpr std::int32_t ServerWantsOtherCount = 167;
 inline constexpr std::int32_t ServerIsDisconnected = 168;
+inline constexpr std::int32_t ServerFails = 169;
 
 // Descriptions in the shared error message; ErrorText.h has their built-in words.
 inline constexpr std::int32_t NotANumber = 110;

@@ -28,10 +28,9 @@ std::string BuiltIn(const std::vector<ErrorSentence>& sentences) {
 RuntimeError::RuntimeError(int number, const std::string& words, std::string member)
     : RuntimeError(number, kWordsFromElsewhere, {words}, std::move(member)) {}
 
-RuntimeError::RuntimeError(int number, const ErrorText& text, std::vector<std::string> arguments,
-                           std::string member)
-    : RuntimeError(number, std::vector{ErrorSentence{text, std::move(arguments)}},
-                   std::move(member)) {}
+RuntimeError::RuntimeError(int number, const ErrorText& text,
+                           const std::vector<std::string>& arguments, std::string member)
+    : RuntimeError(number, std::vector{ErrorSentence{text, arguments}}, std::move(member)) {}
 
 RuntimeError::RuntimeError(int number, std::vector<ErrorSentence> sentences, std::string member)
     : std::runtime_error(BuiltIn(sentences)), number_(number), sentences_(std::move(sentences)),

@@ -36,7 +36,7 @@ public:
     // the automation member that failed, or empty.
     RuntimeError(int number, const std::string& words, std::string member = {});
     // The program's own words, from the language files.
-    RuntimeError(int number, const ErrorText& text, std::vector<std::string> arguments = {},
+    RuntimeError(int number, const ErrorText& text, const std::vector<std::string>& arguments = {},
                  std::string member = {});
 
     [[nodiscard]] int Number() const noexcept { return number_; }

@@ -3,7 +3,8 @@
 #include "common/InfoTextNumber.h"
 
 void BusyStatus::BusyBegins() {
-    bars_.SetInfoPanelText(texts_.GetInfoText(InfoTextNumber::SolidWorksIsBusy));
+    bars_.SetInfoPanelText(
+        texts_.GetInfoTextOr(InfoTextNumber::SolidWorksIsBusy, "SolidWorks is busy."));
 }
 
 void BusyStatus::BusyEnds() {

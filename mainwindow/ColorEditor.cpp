@@ -86,9 +86,9 @@ void ColorEditor::SetText(std::size_t index, const std::string& text) {
     ValueTextChanged(index, text);
 }
 
-ColorValueArray ColorEditor::Values() const {
+ColorValueArray ColorEditor::ValuesOf(const Texts& texts) {
     ColorValueArray values{};
-    std::ranges::transform(texts_, values.begin(),
+    std::ranges::transform(texts, values.begin(),
                            [](const std::string& text) { return TextToInt16(text); });
     return values;
 }

@@ -43,8 +43,13 @@ public:
     void SetRedGreenBlue(const RedGreenBlue& color);
     [[nodiscard]] const std::string& Text(std::size_t index) const { return texts_.at(index); }
 
+    using Texts = std::array<std::string, kColorValueCount>;
+    [[nodiscard]] const Texts& ValueTexts() const noexcept { return texts_; }
+    // Texts of the nine boxes as numbers.  Throws RuntimeError when one does not convert.
+    [[nodiscard]] static ColorValueArray ValuesOf(const Texts& texts);
+
     // The nine texts as numbers.  Throws RuntimeError when one does not convert.
-    [[nodiscard]] ColorValueArray Values() const;
+    [[nodiscard]] ColorValueArray Values() const { return ValuesOf(texts_); }
 
     // The user changed a text.  Throws RuntimeError when it does not convert; the text then stays.
     void ValueTextChanged(std::size_t index, const std::string& text) override;
@@ -70,7 +75,7 @@ private:
     Prompts& prompts_;
     InfoTexts& infoTexts_;
     std::string name_;
-    std::array<std::string, kColorValueCount> texts_;
+    Texts texts_;
     ColorNumber swatch_ = 0;      // background of both swatches
     bool captionHasName_ = false; // of the small swatch
     bool isNameOfLibrary_ = false;

@@ -96,7 +96,7 @@ void MainWindow::RunOperation(const MenuRow& row) {
     try {
         RunWatched(row);
     } catch (const OperationStopped&) {
-        ShowStatus(parts_.texts.GetInfoText(InfoTextNumber::SolidWorksStopped));
+        ShowStatus(parts_.texts.GetInfoTextOr(InfoTextNumber::SolidWorksStopped, "Stopped."));
     } catch (...) {
         // A user who has asked for the end meanwhile is not told what failed.
         if (!Activity().endRequested)

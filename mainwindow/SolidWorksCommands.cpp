@@ -124,7 +124,7 @@ void SolidWorksCommands::mnuSWXClearColorAssembly_Click() {
 void SolidWorksCommands::mnuSWXGetStandardColor_Click() {
     LibraryTree& tree = parts_.library.Tree();
     const std::string selected = tree.Selected();
-    const ColorValueArray shown = parts_.editor.Values();
+    const ColorEditor::Texts shown = parts_.editor.ValueTexts();
     std::vector<ColorRecord> colors;
     const std::string result = parts_.tools.SWXGetStandardColors(colors);
     if (ReportRefusal(result) || parts_.activity.endRequested)
@@ -132,14 +132,14 @@ void SolidWorksCommands::mnuSWXGetStandardColor_Click() {
     const bool isStopped = result == ResultKey::ProgressStopped;
     if (tree.Selected() != selected && tree.Find(selected))
         tree.Select(selected);
-    CompleteStandardColors(colors, shown);
     if (!isStopped || !colors.empty())
-        ImportStandardColors(colors);
+        ImportStandardColors(colors, shown);
     if (isStopped)
         ShowMessage(result);
 }
 
-void SolidWorksCommands::ImportStandardColors(const std::vector<ColorRecord>& colors) {
+void SolidWorksCommands::ImportStandardColors(std::vector<ColorRecord>& colors,
+                                              const ColorEditor::Texts& editor) {
     LibraryTree& tree = parts_.library.Tree();
     if (tree.Selected().empty())
         parts_.library.NewMainNode();
@@ -151,6 +151,8 @@ void SolidWorksCommands::ImportStandardColors(const std::vector<ColorRecord>& co
     tree.SetTag(mainKey, kUnsavedTag); // not when there is no group: then all is as it was
     tree.Expand(mainKey);
     tree.Select(groupKey);
+    if (!colors.empty())
+        CompleteStandardColors(colors, ColorEditor::ValuesOf(editor));
     const std::string lastKey = parts_.library.AppendColors(groupKey, colors);
     if (lastKey.empty())
         parts_.panes.ShowSelectedGroup();

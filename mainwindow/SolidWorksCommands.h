@@ -53,8 +53,8 @@ private:
     bool ReportRefusal(const std::string& resultKey);
     void ShowMessage(const std::string& text);
     [[nodiscard]] ColorRecord ColorOfEditor() const;
-    // colors: with all nine values.
-    void ImportStandardColors(const std::vector<ColorRecord>& colors);
+    // colors: get the values that the table does not have from the texts of the editor.
+    void ImportStandardColors(std::vector<ColorRecord>& colors, const ColorEditor::Texts& editor);
 
     Parts parts_;
 };

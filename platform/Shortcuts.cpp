@@ -71,6 +71,6 @@ bool Shortcuts::Translate(HWND form, MSG& message) const {
         return true;
     if (!IsTextEntry(message.hwnd) && Takes(outsideText_, form, message))
         return true;
-    const auto here = inControl_.find(GetDlgCtrlID(message.hwnd));
+    const auto here = inControl_.find(GetDlgCtrlID(GetFocus()));
     return here != inControl_.end() && Takes(here->second, form, message);
 }

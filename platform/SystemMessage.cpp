@@ -22,12 +22,16 @@ struct OwnWords {
 // Not every platform has words for these.
 constexpr std::array kOwnWords = {
     OwnWords{RPC_E_CALL_REJECTED, ErrorTexts::ServerRejectsCall},
+    OwnWords{RPC_E_SERVERCALL_RETRYLATER, ErrorTexts::ServerRejectsCall},
     OwnWords{RPC_E_DISCONNECTED, ErrorTexts::ObjectIsGone},
     OwnWords{DISP_E_TYPEMISMATCH, ErrorTexts::ServerWantsOtherKind},
     OwnWords{DISP_E_UNKNOWNNAME, ErrorTexts::ServerLacksMember},
     OwnWords{DISP_E_MEMBERNOTFOUND, ErrorTexts::ServerLacksMember},
     OwnWords{DISP_E_BADPARAMCOUNT, ErrorTexts::ServerWantsOtherCount},
     OwnWords{CO_E_OBJNOTCONNECTED, ErrorTexts::ServerIsDisconnected},
+    OwnWords{RPC_E_CONNECTION_TERMINATED, ErrorTexts::ServerIsDisconnected},
+    OwnWords{RPC_E_SERVER_DIED, ErrorTexts::ServerIsDisconnected},
+    OwnWords{RPC_E_SERVER_DIED_DNE, ErrorTexts::ServerIsDisconnected},
 };
 
 std::wstring SystemWords(HRESULT result) {
@@ -41,6 +45,17 @@ std::wstring SystemWords(HRESULT result) {
     return words;
 }
 
+// Null: the program has none either.
+const ErrorText* OwnWordsFor(HRESULT result) {
+    const auto own = std::ranges::find_if(
+        kOwnWords, [result](const OwnWords& row) { return row.result == result; });
+    if (own != kOwnWords.end())
+        return &own->text;
+    const int facility = HRESULT_FACILITY(result);
+    return facility == FACILITY_RPC || facility == FACILITY_DISPATCH ? &ErrorTexts::ServerFails
+                                                                     : nullptr;
+}
+
 } // namespace
 
 std::string SystemMessage(HRESULT result) {
@@ -50,8 +65,8 @@ std::string SystemMessage(HRESULT result) {
 }
 
 RuntimeError SystemError(HRESULT result, int number, const std::string& member) {
-    const auto own = std::ranges::find(kOwnWords, result, &OwnWords::result);
-    if (own != kOwnWords.end() && SystemWords(result).empty())
-        return {number, own->text, {HexNumber(result)}, member};
+    const ErrorText* own = SystemWords(result).empty() ? OwnWordsFor(result) : nullptr;
+    if (own != nullptr)
+        return {number, *own, {HexNumber(result)}, member};
     return {number, SystemMessage(result), member};
 }

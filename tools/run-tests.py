@@ -58,6 +58,7 @@ def native_steps():
         check("format", "tools/check-format.sh"),
         check("includes", "tools/check-includes.py"),
         check("language-files", "tools/check-language.py"),
+        check("test-map", "tools/make-test-map.py", "--check"),
         check("samples", "tools/make-samples.py", "--check"),
         check("icons", "tools/make-icons.py", "--check"),
         check("banners", "tools/make-banners.py", "--check"),

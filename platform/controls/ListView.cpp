@@ -21,6 +21,7 @@ constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
 
 constexpr int kLargeIcon = 32;
 constexpr int kSmallIcon = 16;
+constexpr LONG kCellMargin = 6; // pixels that the platform leaves before the text of a cell
 
 constexpr UINT kSelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
 
@@ -351,6 +352,9 @@ bool ListView::IsNameCut(int row, const std::string& name) const {
     GetClientRect(Handle(), &area);
     Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), &place);
     const SIZE text = MeasureText(Owner().Font(), ToUtf16(name));
+    if ((GetWindowLongPtrW(Handle(), GWL_STYLE) & LVS_TYPEMASK) == LVS_REPORT)
+        return place.left < area.left ||
+               place.left + kCellMargin + text.cx > std::min(place.right, area.right);
     const LONG lines = std::max(HeightOf(place) / std::max(text.cy, LONG{1}), LONG{1});
     return text.cx > lines * WidthOf(place) || place.left < area.left || place.right > area.right;
 }

@@ -1,5 +1,6 @@
 #include "platform/controls/TreeView.h"
 
+#include "common/ValueRestorer.h"
 #include "platform/Form.h"
 #include "platform/Utf16.h"
 
@@ -53,7 +54,7 @@ void TreeView::ApplyColors() {
 
 void TreeView::AddNode(const std::string& key, const std::string& parentKey,
                        const std::string& text, const std::string& image) {
-    inserting_ = true;
+    const ValueRestorer inserting(inserting_, true);
     const auto place = items_.emplace(key, nullptr).first;
     std::wstring wide = ToUtf16(text);
     TVINSERTSTRUCTW node{};
@@ -66,7 +67,6 @@ void TreeView::AddNode(const std::string& key, const std::string& parentKey,
     node.item.iSelectedImage = node.item.iImage;
     node.item.lParam = reinterpret_cast<LPARAM>(&place->first);
     place->second = reinterpret_cast<HTREEITEM>(Send(TVM_INSERTITEMW, 0, &node));
-    inserting_ = false;
 }
 
 // Nodes often come in thousands; to arrange and draw the tree after each would take longer than all

@@ -1,3 +1,4 @@
+// Rules: Start-up and shut-down
 #include "resources/controls.h"
 #include "tests/fakes/Effects.h"
 

@@ -1,3 +1,4 @@
+// Rules: Settings store
 #include "app/SettingsStore.h"
 
 #include "tests/fakes/FakeCodePage.h"

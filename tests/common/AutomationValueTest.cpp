@@ -1,3 +1,4 @@
+// Rules: Clearing colors
 #include "common/ports/AutomationObject.h"
 
 #include "common/RuntimeError.h"

@@ -1,3 +1,4 @@
+// Rules: SolidWorks session
 #include "common/BusyRetry.h"
 
 #include "tests/fakes/FakeWaitingClock.h"
@@ -136,6 +137,24 @@ TEST(BusyRetry, InputOfACallThatTookASecondIsDroppedToo) {
     callTaking(1000ms);
     EXPECT_EQ(watch.drops, 1);
     EXPECT_THROW(callTaking(5s), OperationStopped) << "Escape is seen";
+}
+
+TEST(BusyRetry, InputOfManyShortCallsIsDroppedAtTheirEnd) {
+    for (const int calls : {19, 20}) {
+        FakeWaitingClock clock;
+        BusyRetry retry(clock);
+        RecordingWatch watch;
+        {
+            const WatchedCalls watched(retry, watch);
+            for (int call = 0; call < calls; ++call)
+                retry.RepeatWhileBusy([&] {
+                    clock.now += 50ms;
+                    return false;
+                });
+            EXPECT_EQ(watch.drops, 0) << "each of them is short";
+        }
+        EXPECT_EQ(watch.drops, calls == 20 ? 1 : 0) << calls;
+    }
 }
 
 TEST(BusyRetry, GivingUpEndsTheWaitAndTheWatchIsTold) {

@@ -1,3 +1,4 @@
+// Rules: Active-color editor
 #include "common/ColorNumber.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Rules: Language files and control texts
 #include "common/ErrorText.h"
 
 #include <gtest/gtest.h>

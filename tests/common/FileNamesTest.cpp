@@ -1,3 +1,4 @@
+// Rules: Auxiliary windows
 #include "common/FileNames.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Rules: SolidWorks session
 #include "common/MessageText.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Rules: Library files
 #include "common/Numbers.h"
 
 #include "common/RuntimeError.h"

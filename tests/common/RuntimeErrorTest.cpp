@@ -1,3 +1,4 @@
+// Rules: Language files and control texts
 #include "common/RuntimeError.h"
 
 #include "tests/fakes/FakeTexts.h"

@@ -1,3 +1,4 @@
+// Rules: The program as a whole
 #include "common/SingleByteCodePage.h"
 
 #include <gtest/gtest.h>

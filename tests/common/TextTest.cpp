@@ -1,3 +1,4 @@
+// Rules: The program as a whole
 #include "common/Text.h"
 
 #include "common/FileNames.h"

@@ -1,3 +1,4 @@
+// Rules: Library files
 #include "platform/Utf16.h"
 #include "tests/e2e/RunningProgram.h"
 #include "tests/faults/DyingFiles.h"

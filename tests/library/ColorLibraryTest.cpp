@@ -1,3 +1,4 @@
+// Rules: Library model
 #include "library/ColorLibrary.h"
 
 #include "common/RuntimeError.h"

@@ -1,3 +1,4 @@
+// Rules: Library model
 #include "library/ColorTable.h"
 
 #include "common/RuntimeError.h"

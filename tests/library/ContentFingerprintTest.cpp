@@ -1,3 +1,4 @@
+// Rules: Library files
 #include "library/ContentFingerprint.h"
 
 #include <gtest/gtest.h>

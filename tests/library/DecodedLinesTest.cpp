@@ -1,3 +1,4 @@
+// Rules: Library files
 #include "library/DecodedLines.h"
 
 #include "tests/fakes/FakeCodePage.h"

@@ -1,3 +1,4 @@
+// Rules: File commands
 #include "library/FileCommands.h"
 
 #include "common/RuntimeError.h"

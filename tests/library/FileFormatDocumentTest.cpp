@@ -1,3 +1,4 @@
+// Rules: Library files
 #include "tests/fakes/LibraryOnFakes.h"
 #include "tests/fakes/SourceFolder.h"
 

@@ -1,3 +1,4 @@
+// Rules: Library files
 // Library files as they lie on a disk, each with what it must become, and back to the same bytes.
 
 #include "common/RuntimeError.h"

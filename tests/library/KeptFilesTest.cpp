@@ -1,3 +1,4 @@
+// Rules: Library files
 // A save never destroys what the program does not hold.
 
 #include "library/FileCommands.h"

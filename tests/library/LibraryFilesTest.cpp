@@ -1,3 +1,4 @@
+// Rules: Library files
 #include "library/LibraryFiles.h"
 
 #include "common/RuntimeError.h"

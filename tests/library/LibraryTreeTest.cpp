@@ -1,3 +1,4 @@
+// Rules: Library model
 #include "library/LibraryTree.h"
 
 #include "common/RuntimeError.h"

@@ -1,3 +1,4 @@
+// Rules: Library files
 // Nothing is lost when a save goes wrong: each step of it fails in turn, alone or together with
 // everything after it, or ends the process.
 

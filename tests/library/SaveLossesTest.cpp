@@ -1,3 +1,4 @@
+// Rules: Library files
 // A save asks once, before anything is written, about all that would not come back from the file.
 
 #include "tests/fakes/LibraryOnFakes.h"

@@ -1,3 +1,4 @@
+// Rules: Editing commands
 #include "mainwindow/ColorDrag.h"
 
 #include "resources/controls.h"

@@ -1,3 +1,4 @@
+// Rules: Active-color editor
 #include "mainwindow/ColorEditor.h"
 
 #include "common/RuntimeError.h"

@@ -1,3 +1,4 @@
+// Rules: Layout, bars and views
 #include "mainwindow/CommandTable.h"
 
 #include <gtest/gtest.h>

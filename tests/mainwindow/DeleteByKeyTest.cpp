@@ -1,3 +1,4 @@
+// Rules: Editing commands
 #include "mainwindow/EditingCommands.h"
 
 #include "tests/fakes/FakeClipboard.h"

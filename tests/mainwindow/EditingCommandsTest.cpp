@@ -1,3 +1,4 @@
+// Rules: Editing commands
 #include "resources/controls.h"
 #include "tests/fakes/FakeProgram.h"
 

@@ -1,3 +1,4 @@
+// Rules: Layout, bars and views
 #include "mainwindow/LayoutController.h"
 
 #include "mainwindow/Layout.h"

@@ -1,3 +1,4 @@
+// Rules: Tree and list views
 #include "mainwindow/LibraryPanes.h"
 
 #include "tests/fakes/FakeCollation.h"

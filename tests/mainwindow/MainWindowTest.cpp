@@ -1,3 +1,4 @@
+// Rules: Tree and list views
 #include "resources/controls.h"
 #include "tests/fakes/FakeProgram.h"
 

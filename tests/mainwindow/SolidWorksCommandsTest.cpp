@@ -1,3 +1,4 @@
+// Rules: SolidWorks session
 #include "resources/controls.h"
 #include "tests/fakes/FakeProgram.h"
 #include "tests/standin/StandInClient.h"

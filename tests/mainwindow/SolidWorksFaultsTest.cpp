@@ -1,3 +1,4 @@
+// Rules: SolidWorks session
 #include "tests/fakes/FaultyCommands.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Rules: Layout, bars and views
 #include "mainwindow/ViewCommands.h"
 
 #include "mainwindow/CommandTable.h"

@@ -4,6 +4,7 @@ Inside a session of tools/wine-session.sh, with the packages made:
 
   tools/wine-session.sh python3 -m unittest discover -s tests/package
 """
+# Rules: Tools and packages
 
 import hashlib
 import json

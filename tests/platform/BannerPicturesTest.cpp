@@ -1,3 +1,4 @@
+// Rules: Auxiliary windows
 #include "platform/BannerPictures.h"
 
 #include "platform/PlatformPath.h"

@@ -1,3 +1,4 @@
+// Rules: SolidWorks session
 #include "platform/BusyMessageFilter.h"
 
 #include "platform/ComApartment.h"

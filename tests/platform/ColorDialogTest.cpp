@@ -1,3 +1,4 @@
+// Rules: Active-color editor
 #include "platform/ColorDialog.h"
 
 #include "tests/platform/DialogDriver.h"

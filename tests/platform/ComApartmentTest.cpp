@@ -1,3 +1,4 @@
+// Rules: Toolkit
 #include "platform/ComApartment.h"
 
 #include "common/RuntimeError.h"

@@ -1,3 +1,4 @@
+// Rules: SolidWorks session
 #include "platform/DispatchObject.h"
 
 #include "common/RuntimeError.h"

@@ -1,3 +1,4 @@
+// Rules: File commands
 #include "platform/FileDialogFilter.h"
 
 #include <gtest/gtest.h>

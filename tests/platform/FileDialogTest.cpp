@@ -1,3 +1,4 @@
+// Rules: File commands
 #include "platform/FileDialog.h"
 
 #include "platform/ComApartment.h"

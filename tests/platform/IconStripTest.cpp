@@ -1,3 +1,4 @@
+// Rules: Layout, bars and views
 #include "platform/IconStrip.h"
 
 #include <gtest/gtest.h>

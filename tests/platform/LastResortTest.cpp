@@ -1,3 +1,4 @@
+// Rules: Start-up and shut-down
 #include "platform/LastResort.h"
 
 #include "tests/platform/DialogDriver.h"

@@ -1,3 +1,4 @@
+// Rules: Toolkit
 #include "platform/LibrarySearch.h"
 
 #include "platform/Handles.h"

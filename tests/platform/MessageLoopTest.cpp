@@ -1,3 +1,4 @@
+// Rules: SolidWorks session
 #include "platform/MessageLoop.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Rules: Toolkit
 #include "platform/PlatformPath.h"
 
 #include <gtest/gtest.h>

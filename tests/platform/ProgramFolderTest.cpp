@@ -1,3 +1,4 @@
+// Rules: Toolkit
 #include "platform/ProgramFolder.h"
 
 #include "platform/Utf16.h"

@@ -1,3 +1,4 @@
+// Rules: Start-up and shut-down
 #include "common/ProgramNames.h"
 #include "platform/Utf16.h"
 #include "resources/controls.h"

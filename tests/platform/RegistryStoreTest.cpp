@@ -1,3 +1,4 @@
+// Rules: Window positions
 #include "app/SettingsStore.h"
 #include "common/ProgramNames.h"
 #include "support/settings/CFormPos.h"

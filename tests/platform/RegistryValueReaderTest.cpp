@@ -1,3 +1,4 @@
+// Rules: Window positions
 #include "platform/RegistryValueReader.h"
 
 #include <algorithm>

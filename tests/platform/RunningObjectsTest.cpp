@@ -1,3 +1,4 @@
+// Rules: SolidWorks session
 #include "platform/RunningObjects.h"
 
 #include "platform/ComApartment.h"

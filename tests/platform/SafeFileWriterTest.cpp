@@ -1,3 +1,4 @@
+// Rules: Library files
 #include "library/SafeFileWriter.h"
 
 #include "platform/KernelHandle.h"

@@ -1,3 +1,4 @@
+// Rules: Stand-in for SolidWorks
 #include "platform/ComApartment.h"
 #include "platform/DpiScale.h"
 #include "platform/Handles.h"

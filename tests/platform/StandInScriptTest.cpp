@@ -1,3 +1,4 @@
+// Rules: Stand-in for SolidWorks
 #include "platform/Utf16.h"
 #include "tests/platform/StandInProcess.h"
 

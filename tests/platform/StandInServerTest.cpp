@@ -1,3 +1,4 @@
+// Rules: Stand-in for SolidWorks
 #include "common/RuntimeError.h"
 #include "platform/ComApartment.h"
 #include "platform/DispatchObject.h"

@@ -1,3 +1,4 @@
+// Rules: Stand-in for SolidWorks
 #include "platform/ComApartment.h"
 #include "platform/RunningObjects.h"
 #include "platform/Utf16.h"

@@ -1,3 +1,4 @@
+// Rules: Toolkit
 #include "platform/SystemMessage.h"
 
 #include <gtest/gtest.h>
@@ -15,8 +16,10 @@ TEST(SystemMessage, UnknownResultIsItsNumber) {
 
 // Each of these was a bare number where the platform has no words for it.
 TEST(SystemError, ResultsOfAutomationCallsHaveWordsOnEveryPlatform) {
-    for (const HRESULT result : {RPC_E_CALL_REJECTED, RPC_E_DISCONNECTED, DISP_E_TYPEMISMATCH,
-                                 DISP_E_UNKNOWNNAME, DISP_E_BADPARAMCOUNT, CO_E_OBJNOTCONNECTED}) {
+    for (const HRESULT result :
+         {RPC_E_CALL_REJECTED, RPC_E_DISCONNECTED, DISP_E_TYPEMISMATCH, DISP_E_UNKNOWNNAME,
+          DISP_E_BADPARAMCOUNT, CO_E_OBJNOTCONNECTED, RPC_E_SERVERCALL_RETRYLATER,
+          RPC_E_SERVER_DIED, RPC_E_SERVERFAULT, DISP_E_EXCEPTION, DISP_E_PARAMNOTOPTIONAL}) {
         const std::string number = SystemMessage(result).substr(SystemMessage(result).size() - 10);
         const std::string words = SystemError(result).Description();
         EXPECT_NE(words.find(number), std::string::npos) << words;

@@ -1,3 +1,4 @@
+// Rules: Toolkit
 #include "platform/Utf16.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Rules: SolidWorks session
 #include "platform/VariantConversion.h"
 
 #include "common/RuntimeError.h"

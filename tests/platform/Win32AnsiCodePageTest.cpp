@@ -1,3 +1,4 @@
+// Rules: Library files
 #include "platform/Win32AnsiCodePage.h"
 
 #include <gtest/gtest.h>

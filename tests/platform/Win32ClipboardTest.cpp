@@ -1,3 +1,4 @@
+// Rules: Editing commands
 #include "platform/Win32Clipboard.h"
 
 #include "tests/platform/MessageWindow.h"

@@ -1,3 +1,4 @@
+// Rules: Library files
 #include "platform/Win32Files.h"
 
 #include "platform/KernelHandle.h"

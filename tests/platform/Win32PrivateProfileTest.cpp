@@ -1,3 +1,4 @@
+// Rules: Language files and control texts
 #include "platform/Win32PrivateProfile.h"
 
 #include "tests/platform/ScratchFolder.h"

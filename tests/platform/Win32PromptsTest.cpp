@@ -1,3 +1,4 @@
+// Rules: Auxiliary windows
 #include "platform/Win32Prompts.h"
 
 #include "platform/Utf16.h"

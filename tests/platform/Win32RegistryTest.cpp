@@ -1,3 +1,4 @@
+// Rules: Window positions
 #include "platform/Win32Registry.h"
 
 #include "platform/Win32AnsiCodePage.h"

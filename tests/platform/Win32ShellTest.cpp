@@ -1,3 +1,4 @@
+// Rules: Auxiliary windows
 #include "platform/Win32Shell.h"
 
 #include "platform/Win32AnsiCodePage.h"

@@ -1,3 +1,4 @@
+// Rules: Tree and list views
 #include "platform/Win32TextCollation.h"
 
 #include "platform/Utf16.h"

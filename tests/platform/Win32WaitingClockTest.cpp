@@ -1,3 +1,4 @@
+// Rules: Toolkit
 #include "platform/Win32WaitingClock.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Rules: Clearing colors
 #include "tests/solidworks/OperationTest.h"
 
 namespace {

@@ -1,3 +1,4 @@
+// Rules: Color from and to the selection
 #include "solidworks/ColorArray.h"
 
 #include "tests/standin/StandInClient.h"

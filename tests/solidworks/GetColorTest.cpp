@@ -1,3 +1,4 @@
+// Rules: Color from and to the selection
 #include "tests/solidworks/OperationTest.h"
 
 namespace {

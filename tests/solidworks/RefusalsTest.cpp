@@ -1,3 +1,4 @@
+// Rules: SolidWorks session
 #include "tests/solidworks/OperationTest.h"
 
 namespace {

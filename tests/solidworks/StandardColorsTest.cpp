@@ -1,3 +1,4 @@
+// Rules: Standard color table
 #include "tests/solidworks/OperationTest.h"
 
 namespace {

@@ -1,3 +1,4 @@
+// Rules: Stand-in for SolidWorks
 #include "standin/model/CommandLine.h"
 #include "tests/standin/StandInClient.h"
 

@@ -1,3 +1,4 @@
+// Rules: Stand-in for SolidWorks
 #include "standin/model/MaterialValues.h"
 
 #include "common/RuntimeError.h"

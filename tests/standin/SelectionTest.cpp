@@ -1,3 +1,4 @@
+// Rules: Stand-in for SolidWorks
 #include "standin/model/Selection.h"
 
 #include "standin/model/StandInModel.h"

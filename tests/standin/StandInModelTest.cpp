@@ -1,3 +1,4 @@
+// Rules: Stand-in for SolidWorks
 #include "tests/standin/StandInClient.h"
 
 #include "standin/model/StandInService.h"

@@ -1,3 +1,4 @@
+// Rules: Stand-in for SolidWorks
 #include "standin/model/SurfaceShade.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+# Rules: Tools and packages
 import pathlib
 import subprocess
 import sys

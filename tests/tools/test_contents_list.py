@@ -1,3 +1,4 @@
+# Rules: Tools and packages
 import hashlib
 import json
 import shutil

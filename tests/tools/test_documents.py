@@ -1,4 +1,5 @@
 """The texts that stand beside the program, each in both languages."""
+# Rules: Tools and packages
 
 import pathlib
 import unittest

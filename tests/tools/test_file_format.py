@@ -1,4 +1,5 @@
 """The converter that docs/file-format.md shows writes the files that the document describes."""
+# Rules: Tools and packages
 
 import pathlib
 import tempfile

@@ -1,3 +1,4 @@
+# Rules: Tools and packages
 import unittest
 
 import tool

@@ -1,4 +1,5 @@
 """Which packages each way of using the project installs."""
+# Rules: Tools and packages
 
 import subprocess
 import unittest

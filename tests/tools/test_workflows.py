@@ -1,5 +1,6 @@
 """What the workflow files of the continuous integration name is there; their form is checked by
 tools/check-workflows.sh."""
+# Rules: Tools and packages
 
 import json
 import pathlib

@@ -1,3 +1,4 @@
+// Rules: Auxiliary windows
 #include "common/RuntimeError.h"
 #include "platform/InputBox.h"
 #include "platform/MessageLoop.h"
@@ -84,7 +85,7 @@ TEST_F(AuxiliaryForms, ProgressBeyondTheMaximumStaysAtTheEnd) {
 }
 
 TEST_F(AuxiliaryForms, ProgressWithoutARangeTakesAnyValue) {
-    frmProgress progress(form.Handle(), errors);
+    frmProgress progress(form.Handle(), errors, clock);
     for (const int maximum : {5, 4}) {
         progress.ShowProgress("x", 5, maximum);
         for (const int value : {-1, 4, 5, 6})
@@ -110,7 +111,7 @@ TEST_F(AuxiliaryForms, LongCaptionsOfAHandMadeLanguageStayInTheirWindows) {
         return HeightOf(place);
     };
     frmAbout about(form.Handle(), errors, banners);
-    frmProgress progress(form.Handle(), errors);
+    frmProgress progress(form.Handle(), errors, clock);
     const int line = expectInside(about.Handle(), IDC_lblMail);
     for (const char* name : {"cmdSysInfo", "cmdOK", "lblMail"})
         ControlOf(about, name).SetProperty("Caption", caption);
@@ -126,7 +127,7 @@ TEST_F(AuxiliaryForms, LongCaptionsOfAHandMadeLanguageStayInTheirWindows) {
 
 TEST_F(AuxiliaryForms, AboutAndProgressAreNeitherMinimisedNorMaximised) {
     frmAbout about(form.Handle(), errors, banners);
-    frmProgress progress(form.Handle(), errors);
+    frmProgress progress(form.Handle(), errors, clock);
     for (const HWND window : {about.Handle(), progress.Handle()}) {
         ShowWindow(window, SW_SHOW);
         PumpMessages();
@@ -143,7 +144,7 @@ TEST_F(AuxiliaryForms, AboutAndProgressAreNeitherMinimisedNorMaximised) {
 
 TEST_F(AuxiliaryForms, AboutAndProgressTakeTheirOwnSizeAgainWhenTheyAreGivenAnother) {
     frmAbout about(form.Handle(), errors, banners);
-    frmProgress progress(form.Handle(), errors);
+    frmProgress progress(form.Handle(), errors, clock);
     for (const HWND window : {about.Handle(), progress.Handle()}) {
         PumpMessages();
         RECT before{};

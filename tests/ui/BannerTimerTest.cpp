@@ -1,3 +1,4 @@
+// Rules: Auxiliary windows
 #include "common/ProgramNames.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/ScratchRegistry.h"

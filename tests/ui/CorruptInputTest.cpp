@@ -1,3 +1,4 @@
+// Rules: Settings store
 #include "common/ProgramNames.h"
 #include "platform/KernelHandle.h"
 #include "platform/Utf16.h"

@@ -1,3 +1,4 @@
+// Rules: Active-color editor
 #include "common/ColorRecord.h"
 #include "platform/Win32Clipboard.h"
 #include "tests/ui/MainFormTest.h"

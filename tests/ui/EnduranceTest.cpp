@@ -1,3 +1,4 @@
+// Rules: The program as a whole
 #include "common/BusyRetry.h"
 #include "platform/ComApartment.h"
 #include "platform/RunningObjects.h"

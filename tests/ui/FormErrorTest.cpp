@@ -1,3 +1,4 @@
+// Rules: The program as a whole
 #include "common/RuntimeError.h"
 #include "platform/controls/TextBox.h"
 #include "platform/Form.h"

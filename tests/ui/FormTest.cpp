@@ -1,3 +1,4 @@
+// Rules: The program as a whole
 #include "platform/Form.h"
 
 #include "platform/controls/TextBox.h"

@@ -1,3 +1,4 @@
+// Rules: The program as a whole
 #include "platform/controls/LabelEdit.h"
 
 #include <gtest/gtest.h>

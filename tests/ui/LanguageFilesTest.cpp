@@ -1,3 +1,4 @@
+// Rules: Language files and control texts
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32Files.h"
 #include "platform/Win32PrivateProfile.h"

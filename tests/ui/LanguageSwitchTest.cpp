@@ -1,3 +1,4 @@
+// Rules: Language files and control texts
 #include "mainwindow/CommandTable.h"
 #include "platform/Utf16.h"
 #include "tests/platform/ScratchFolder.h"

@@ -1,3 +1,4 @@
+// Rules: Editing commands
 #include "platform/DragCursor.h"
 #include "tests/ui/MainFormTest.h"
 

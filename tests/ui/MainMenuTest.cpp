@@ -1,3 +1,4 @@
+// Rules: Layout, bars and views
 #include "common/RuntimeError.h"
 #include "mainwindow/CommandTable.h"
 #include "platform/Utf16.h"

@@ -1,3 +1,4 @@
+// Rules: Tree and list views
 #include "tests/ui/MainFormTest.h"
 
 #include "platform/GlobalMemory.h"

@@ -1,3 +1,4 @@
+// Rules: Layout, bars and views
 #include "mainwindow/CommandTable.h"
 #include "platform/Utf16.h"
 #include "tests/ui/MainFormTest.h"

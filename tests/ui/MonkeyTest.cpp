@@ -1,3 +1,4 @@
+// Rules: The program as a whole
 #include "common/ProgramNames.h"
 #include "mainwindow/CommandTable.h"
 #include "platform/Utf16.h"

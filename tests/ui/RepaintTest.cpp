@@ -1,3 +1,4 @@
+// Rules: Auxiliary windows
 #include "standin/com/frmStandIn.h"
 #include "standin/model/StandInContract.h"
 #include "standin/model/StandInModel.h"
@@ -5,6 +6,7 @@
 #include "support/windows/frmProgress.h"
 #include "support/windows/frmTxtView.h"
 #include "tests/platform/ScratchFolder.h"
+#include "tests/fakes/FakeWaitingClock.h"
 #include "tests/ui/MainFormTest.h"
 #include "tests/ui/WindowPicture.h"
 
@@ -168,7 +170,8 @@ TEST_F(Repaint, AboutWithOtherTexts) {
 
 TEST_F(Repaint, ProgressWithAnotherText) {
     const auto show = [this](const std::vector<std::string>& texts) {
-        frmProgress progress(nullptr, errors);
+        const FakeWaitingClock clock;
+        frmProgress progress(nullptr, errors, clock);
         for (const std::string& text : texts) {
             progress.ShowProgress(text, 0, 10);
             WaitUntilPainted(progress.Handle());

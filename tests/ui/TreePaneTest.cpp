@@ -1,3 +1,4 @@
+// Rules: Tree and list views
 #include "platform/Utf16.h"
 #include "tests/ui/MainFormTest.h"
 

@@ -1,3 +1,4 @@
+// Rules: Window positions
 #include "common/ProgramNames.h"
 #include "platform/DpiScale.h"
 #include "platform/WindowGeometry.h"

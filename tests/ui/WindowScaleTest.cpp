@@ -1,3 +1,4 @@
+// Rules: Layout, bars and views
 #include "platform/DpiScale.h"
 #include "tests/ui/MainFormTest.h"
 

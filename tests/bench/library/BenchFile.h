@@ -3,13 +3,16 @@
 #include "tests/bench/library/BenchPlatform.h"
 #include "tests/bench/library/PlainLibrary.h"
 
+#include <random>
 #include <string>
 
 // A library file of the platform's folder that lives as long as this.
 class BenchFile {
 public:
     BenchFile(BenchPlatform& platform, const std::string& name)
-        : files_(platform.FileSystem()), path_(platform.Folder() + "tnt-bench-" + name) {}
+        : files_(platform.FileSystem()),
+          path_(platform.Folder() + "tnt-bench-" + std::to_string(std::random_device()()) + "-" +
+                name) {}
     BenchFile(BenchPlatform& platform, const std::string& name, const PlainLibrary& content)
         : BenchFile(platform, name) {
         WritePlainly(files_, path_, content);

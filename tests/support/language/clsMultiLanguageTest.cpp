@@ -1,3 +1,4 @@
+// Rules: Language files and control texts
 #include "support/language/clsMultiLanguage.h"
 
 #include "tests/fakes/FakeCodePage.h"

@@ -1,3 +1,4 @@
+// Rules: Window positions
 #include "support/settings/CFormPos.h"
 
 #include "tests/fakes/FakeCodePage.h"

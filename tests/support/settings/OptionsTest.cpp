@@ -1,3 +1,4 @@
+// Rules: Options
 #include "support/settings/Options.h"
 
 #include "common/RuntimeError.h"

@@ -1,3 +1,4 @@
+// Rules: Window positions
 #include "support/settings/modRegistry.h"
 
 #include "tests/fakes/FakeCodePage.h"

@@ -1,3 +1,4 @@
+// Rules: Auxiliary windows
 #include "resources/controls.h"
 #include "support/windows/MakerAddresses.h"
 #include "tests/fakes/FakeProgram.h"
