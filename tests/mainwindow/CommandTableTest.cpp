@@ -108,4 +108,28 @@ TEST(CommandTable, OptionsMenuHasItsBuiltInCaptionsInTheirOrder) {
     EXPECT_EQ(actual, expected);
 }
 
+TEST(CommandTable, EveryEntryHasAHandlerAndTitlesAndSeparatorsHaveNone) {
+    for (const MenuRow& row : MenuRows()) {
+        const bool isEntry = row.place == MenuKind::Entry || row.place == MenuKind::SubmenuEntry;
+        EXPECT_EQ(row.run != nullptr, isEntry) << row.name;
+        EXPECT_EQ(FindCommand(row.command) == &row, isEntry) << row.name;
+    }
+}
+
+TEST(CommandTable, NoNumberAndNoNameStandsTwice) {
+    std::set<int> numbers;
+    std::set<std::string> names;
+    for (const MenuRow& row : MenuRows()) {
+        EXPECT_TRUE(numbers.insert(row.command).second) << row.name;
+        EXPECT_TRUE(names.insert(row.name).second) << row.name;
+    }
+}
+
+TEST(CommandTable, EveryButtonRunsAnEntryOfTheMenus) {
+    for (const ToolbarRow& row : kToolbarRows)
+        EXPECT_EQ(FindCommand(row.command) != nullptr, row.command != 0) << row.key;
+    for (const ButtonMenuRow& row : kButtonMenuRows)
+        EXPECT_NE(FindCommand(row.command), nullptr) << row.key;
+}
+
 } // namespace
