@@ -57,11 +57,12 @@ GlobalMemory MakeText(const std::wstring& text) {
 } // namespace
 
 std::optional<std::string> Win32Clipboard::Text() {
-    if (!IsClipboardFormatAvailable(CF_UNICODETEXT))
-        return "";
+    // Only now does nobody change it: another program may be about to put its text there.
     const OpenedClipboard clipboard(owner_());
     if (!clipboard)
         return std::nullopt;
+    if (!IsClipboardFormatAvailable(CF_UNICODETEXT))
+        return "";
     HANDLE content = GetClipboardData(CF_UNICODETEXT); // stays the clipboard's
     return content != nullptr ? ReadText(content) : "";
 }

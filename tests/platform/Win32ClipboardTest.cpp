@@ -113,3 +113,10 @@ TEST_F(Win32ClipboardTest, GivesUpOnAProgramThatKeepsTheClipboard) {
     }
     EXPECT_EQ(clipboard.Text(), "x");
 }
+
+// It may be about to put a text there.
+TEST_F(Win32ClipboardTest, ProgramThatKeepsAClipboardWithoutATextIsToldToo) {
+    PutOnClipboard(window.Handle(), RegisterClipboardFormatW(L"tnt test"), "x", 2);
+    const ClipboardHolder holder(std::chrono::milliseconds(1500));
+    EXPECT_FALSE(clipboard.Text());
+}
