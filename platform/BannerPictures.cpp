@@ -37,6 +37,10 @@ std::vector<BitmapFile> BitmapFiles(const std::string& folder) {
     if (!search)
         return files;
     do {
+        // The search also finds longer extensions by their short names.
+        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        if (isFolder || !HasExtension(ToUtf8(found.cFileName), ".bmp"))
+            continue;
         files.push_back({NumberOfFile(ToUtf8(found.cFileName)), found.cFileName});
     } while (FindNextFileW(search.Get(), &found) != FALSE);
     std::ranges::sort(files, ComesBefore);

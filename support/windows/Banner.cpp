@@ -26,7 +26,9 @@ std::string WithoutBlanksAround(const std::string& line) {
 
 std::vector<std::string> AddressesOfBanners(const std::string& lines,
                                             const std::vector<int>& numbers) {
-    const std::vector<std::string> addresses = SplitFields(lines, "\n");
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF"; // of editors that write UTF-8
+    const std::size_t start = lines.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
+    const std::vector<std::string> addresses = SplitFields(lines.substr(start), "\n");
     std::vector<std::string> ofPictures;
     for (const int number : numbers) {
         const auto line = static_cast<std::size_t>(number) - 1; // far beyond the end for 0

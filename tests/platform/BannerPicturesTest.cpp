@@ -29,6 +29,14 @@ TEST(BannerPictures, AreTheBitmapsOfTheFolderInTheOrderOfTheirNames) {
     EXPECT_EQ(pictures.Picture(3), nullptr);
 }
 
+TEST(BannerPictures, FoldersAndOtherExtensionsAreNone) {
+    const ScratchFolder folder;
+    for (const char* name : {"1.BMP", "2.bmpx", "4.bmp"})
+        folder.Write(name, Bitmap());
+    ASSERT_NE(CreateDirectoryW(ToPlatformPath(folder.File("3.bmp")).c_str(), nullptr), FALSE);
+    EXPECT_EQ(BannerPictures(folder.Path()).Numbers(), (std::vector<int>{1, 4}));
+}
+
 TEST(BannerPictures, NumbersCountAsNumbersAndPicturesWithoutOneComeLast) {
     const ScratchFolder folder;
     for (const char* name : {"banner10.bmp", "spring.bmp", "banner2.bmp", "banner1.bmp"})

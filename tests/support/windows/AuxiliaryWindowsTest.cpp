@@ -326,6 +326,7 @@ TEST(Banner, PictureHasTheLineOfItsNumberAsItsAddress) {
     EXPECT_EQ(AddressesOfBanners(lines, {3, 9, 0, 1}), (Addresses{"c", "", "", "a"}));
     EXPECT_EQ(AddressesOfBanners("", {1, 2}), (Addresses{"", ""})) << "without the addresses' file";
     EXPECT_TRUE(AddressesOfBanners(lines, {}).empty());
+    EXPECT_EQ(AddressesOfBanners("\xEF\xBB\xBF" + lines, {1}), Addresses{"a"}) << "of an editor";
 }
 
 TEST(Banner, PictureWithoutAnAddressIsShownAndIsNoLink) {
