@@ -17,6 +17,8 @@
     case ERROR_INVALID_FUNCTION:
     case ERROR_INVALID_PARAMETER:
     case ERROR_CALL_NOT_IMPLEMENTED:
+    case ERROR_INVALID_LEVEL:
+    case ERROR_NOT_SAME_DEVICE:
         return Exchanged::NotSupported;
     default: // ERROR_UNABLE_TO_REMOVE_REPLACED among them
         return Exchanged::Unchanged;

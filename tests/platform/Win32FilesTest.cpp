@@ -11,6 +11,22 @@
 
 namespace {
 
+bool IsWine() {
+    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
+FILETIME CreationTime(const std::string& path) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    EXPECT_TRUE(GetFileAttributesExW(ToUtf16(path).c_str(), GetFileExInfoStandard, &data));
+    return data.ftCreationTime;
+}
+
+void SetCreationTime(const std::string& path, const FILETIME& time) {
+    const KernelHandle file(CreateFileW(ToUtf16(path).c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr,
+                                        OPEN_EXISTING, 0, nullptr));
+    EXPECT_TRUE(SetFileTime(file.Get(), &time, nullptr, nullptr));
+}
+
 class Win32FilesTest : public testing::Test {
 protected:
     void WriteThroughPort(const std::string& path, std::string_view bytes) {
@@ -136,6 +152,27 @@ TEST_F(Win32FilesTest, ExchangeWithAFileInUseOrMarkedReadOnlyChangesNothing) {
               "new contentold contentolder content");
 }
 
+TEST_F(Win32FilesTest, ExchangeKeepsCreationTimeAttributesAndAlternateStreamsOfThePlace) {
+    if (IsWine())
+        GTEST_SKIP() << "Wine's ReplaceFile gives the place nothing of the old file";
+    const FILETIME longAgo{0, 0x01C00000}; // of the year 2000
+    folder.Write("old", "old content");
+    folder.Write("old:note", "of the old file");
+    folder.SetAttributes("old", FILE_ATTRIBUTE_HIDDEN);
+    SetCreationTime(folder.File("old"), longAgo);
+    for (const char* backup : {"backup", ""}) {
+        folder.Write("new", "new content");
+        ASSERT_EQ(files.Exchange(folder.File("new"), folder.File("old"),
+                                 *backup == 0 ? "" : folder.File(backup)),
+                  Exchanged::Done);
+        const FILETIME created = CreationTime(folder.File("old"));
+        EXPECT_EQ(CompareFileTime(&created, &longAgo), 0);
+        EXPECT_EQ(files.ReadWhole(folder.File("old:note")), "of the old file");
+        EXPECT_NE(GetFileAttributesW(ToUtf16(folder.File("old")).c_str()) & FILE_ATTRIBUTE_HIDDEN,
+                  0U);
+    }
+}
+
 // What the call leaves when it fails in its middle is written down by the platform's makers.
 TEST(AfterFailedReplace, TellsWhatIsLeft) {
     EXPECT_EQ(AfterFailedReplace(ERROR_UNABLE_TO_REMOVE_REPLACED, true), Exchanged::Unchanged);
@@ -144,6 +181,8 @@ TEST(AfterFailedReplace, TellsWhatIsLeft) {
     EXPECT_EQ(AfterFailedReplace(ERROR_UNABLE_TO_MOVE_REPLACEMENT, false), Exchanged::OldIsGone);
     EXPECT_EQ(AfterFailedReplace(ERROR_UNABLE_TO_MOVE_REPLACEMENT_2, true), Exchanged::OldIsBackup);
     EXPECT_EQ(AfterFailedReplace(ERROR_NOT_SUPPORTED, true), Exchanged::NotSupported);
+    EXPECT_EQ(AfterFailedReplace(ERROR_INVALID_LEVEL, true), Exchanged::NotSupported);
+    EXPECT_EQ(AfterFailedReplace(ERROR_NOT_SAME_DEVICE, true), Exchanged::NotSupported);
     EXPECT_EQ(AfterFailedReplace(ERROR_INVALID_FUNCTION, false), Exchanged::NotSupported);
     EXPECT_EQ(AfterFailedReplace(ERROR_SHARING_VIOLATION, true), Exchanged::Unchanged);
     EXPECT_EQ(AfterFailedReplace(ERROR_ACCESS_DENIED, false), Exchanged::Unchanged);
