@@ -38,13 +38,12 @@ void FileCommands::mnuFileOpen_Click() {
 }
 
 void FileCommands::OpenDropped(const std::vector<std::string>& paths) {
-    std::vector<std::string> libraries = paths;
-    std::erase_if(libraries,
-                  [](const auto& path) { return !HasExtension(path, kLibraryExtension); });
     std::exception_ptr firstError;
-    for (const std::string& path : libraries) {
+    for (const std::string& path : paths) {
+        if (!HasExtension(path, kLibraryExtension))
+            continue;
         try {
-            if (OpenLibrary(path) && libraries.size() == 1)
+            if (OpenLibrary(path) && paths.size() == 1)
                 AskAutoload(path);
         } catch (const RuntimeError&) {
             if (!firstError)
@@ -110,7 +109,8 @@ void FileCommands::mnuFileSaveAs_Click() {
         return;
     // The dialog has asked whether another file is to be replaced; of its own file the user cannot
     // know that it has something in it which the library has not.
-    const bool isOwnFile = ToLowerAscii(*path) == ToLowerAscii(tag);
+    const bool isOwnFile =
+        ToLowerAscii(*path) == ToLowerAscii(tag) || parts_.files.IsSource(*path, mainKey);
     if (SaveTo({*path, *path, isOwnFile ? UnknownContent::Kept : UnknownContent::GivenUp}, mainKey))
         dialogFileName_ = *path;
 }

@@ -43,8 +43,8 @@ public:
 
     void mnuFileNew_Click();
     void mnuFileOpen_Click();
-    // Files dropped onto the window: each library file opens as with Open, one alone also with the
-    // question about every start; files with another extension are left alone.
+    // Files dropped onto the window: each library file opens as with Open, one that was dropped
+    // alone also with the question about every start; files with another extension are left alone.
     void OpenDropped(const std::vector<std::string>& paths);
     void mnuFileSave_Click();
     void mnuFileSaveAs_Click();

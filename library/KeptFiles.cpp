@@ -1,6 +1,7 @@
 #include "library/KeptFiles.h"
 
 #include "common/FileNames.h"
+#include "common/Text.h"
 #include "library/NewFile.h"
 
 #include <array>
@@ -8,7 +9,7 @@
 
 namespace {
 
-constexpr std::size_t kLongestExtension = 16; // with its dot; a longer one is part of the name
+constexpr std::string_view kExtension = ".tnt";
 
 std::string TextOf(const CalendarTime& time) {
     std::array<char, 80> text{};
@@ -18,31 +19,30 @@ std::string TextOf(const CalendarTime& time) {
     return text.data();
 }
 
-std::size_t ExtensionSize(const std::string& path) {
-    const std::string name = FileNamePart(path);
-    const std::size_t dot = name.rfind('.');
-    const std::size_t size = dot == std::string::npos ? 0 : name.size() - dot;
-    return size <= kLongestExtension ? size : 0;
-}
-
 // number: from 1; the first has none in its name.
 std::string KeptPath(const std::string& path, const CalendarTime& time, int number) {
-    const std::size_t stemSize = path.size() - ExtensionSize(path);
+    const bool isLibrary = HasExtension(path, kExtension);
+    const std::string stem = path.substr(0, path.size() - (isLibrary ? kExtension.size() : 0));
+    const std::string extension = isLibrary ? path.substr(stem.size()) : std::string(kExtension);
     const std::string distinction = number == 1 ? "" : " " + std::to_string(number);
-    return PathWithSuffix(path.substr(0, stemSize),
-                          " (kept " + TextOf(time) + distinction + ")" + path.substr(stemSize));
+    return PathWithSuffix(stem, " (kept " + TextOf(time) + distinction + ")" + extension);
 }
 
 } // namespace
 
 void KeptFiles::Remember(const std::string& mainKey, std::string_view content) {
-    held_[mainKey] = ContentFingerprint::Of(content);
+    sources_[mainKey].held = ContentFingerprint::Of(content);
+}
+
+bool KeptFiles::IsSource(const std::string& path, const std::string& mainKey) const {
+    const auto source = sources_.find(mainKey);
+    return source != sources_.end() && ToLowerAscii(source->second.path) == ToLowerAscii(path);
 }
 
 bool KeptFiles::IsHeld(const std::string& mainKey, std::string_view content) const {
-    const auto held = held_.find(mainKey);
+    const auto source = sources_.find(mainKey);
     return content.empty() ||
-           (held != held_.end() && held->second == ContentFingerprint::Of(content));
+           (source != sources_.end() && source->second.held == ContentFingerprint::Of(content));
 }
 
 std::optional<std::string> KeptFiles::KeepUnknown(const std::string& path,

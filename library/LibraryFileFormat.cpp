@@ -17,6 +17,7 @@ constexpr std::size_t kTagLength = 2;
 constexpr std::size_t kLongestNumber = std::numeric_limits<int>::digits10 + 2; // with its sign
 constexpr const char* kDivisionSign = "\xC3\xB7";                              // U+00F7 in UTF-8
 constexpr const char* kDivisionByte = "\xF7";
+constexpr std::string_view kUnknownCharacter = "\xEF\xBF\xBD"; // U+FFFD
 
 bool HasTag(std::string_view record, std::string_view tag) {
     return record.substr(0, kTagLength) == tag;
@@ -66,6 +67,25 @@ std::size_t FindValues(std::string_view text, std::string_view separator) {
             break;
     }
     return place;
+}
+
+std::string_view WithoutLast(std::string_view text) {
+    return text.substr(0, text.empty() ? 0 : text.size() - 1);
+}
+
+bool IsInQuotesAndKnown(std::string_view line) {
+    return line.size() > 1 && line.front() == '"' && line.back() == '"' &&
+           line.find(kUnknownCharacter) == std::string_view::npos;
+}
+
+bool AreDigits(std::string_view text) {
+    return std::ranges::all_of(text, [](char letter) { return letter >= '0' && letter <= '9'; });
+}
+
+// value: one that could be read as a number.
+bool IsSpelledAsSaved(std::string_view value) {
+    const std::string_view digits = value.substr(value.starts_with('-') ? 1 : 0);
+    return !digits.empty() && (digits.front() != '0' || value == "0") && AreDigits(digits);
 }
 
 // The fields behind the colon; false when there are not exactly ten of them.
@@ -152,8 +172,19 @@ std::optional<Color> ParseColor(std::string_view record, std::string_view separa
     return color;
 }
 
-bool IsTakenWhole(std::string_view record) {
-    return record.find('=') == record.rfind('=');
+bool IsHeaderTakenWhole(std::string_view line) {
+    const std::string_view key = line.substr(std::min(line.find('='), line.size()));
+    const std::size_t colon = key.find(':');
+    return IsGroupTakenWhole(line) &&
+           (colon == std::string_view::npos || AreDigits(WithoutLast(key.substr(colon + 1))));
+}
+
+bool IsGroupTakenWhole(std::string_view line) {
+    return IsInQuotesAndKnown(line) && line.find('=') == line.rfind('=');
+}
+
+bool IsColorTakenWhole(std::string_view line, const Color& color) {
+    return IsInQuotesAndKnown(line) && std::ranges::all_of(color.values, IsSpelledAsSaved);
 }
 
 bool NameComesBack(std::string_view name) {

@@ -50,9 +50,15 @@ struct Color {
 [[nodiscard]] std::optional<Group> ParseGroup(std::string_view record);
 [[nodiscard]] std::optional<Color> ParseColor(std::string_view record, std::string_view separator);
 
-// False when a header or group record has more in it than what is taken from it: its name ended at
-// an "=" that is not the last one.
-[[nodiscard]] bool IsTakenWhole(std::string_view record);
+// Whether a line, with its quotes, that was read says nothing but what was taken from it, so that a
+// save gives it back.  False for one whose quotes are something else, with bytes that the code page
+// does not know, and:
+//   header: a name that ended at an "=" that is not the last one, text behind the count;
+//   group: such a name;
+//   color: a value in another spelling than that of a save, as "007" or "1.5".
+[[nodiscard]] bool IsHeaderTakenWhole(std::string_view line);
+[[nodiscard]] bool IsGroupTakenWhole(std::string_view line);
+[[nodiscard]] bool IsColorTakenWhole(std::string_view line, const Color& color);
 
 // Whether a name is read back as it was written.  The second name of a colour has a rule of its
 // own: it stands among the values.

@@ -26,11 +26,11 @@ ReadResult LibraryFiles::Read(const std::string& fileName) {
 bool LibraryFiles::ReadContent(std::string_view bytes, const std::string& fileName) {
     using namespace LibraryFileFormat;
     DecodedLines lines(bytes, ports_.codePage);
-    const std::string_view record = WithoutFirstCharacter(lines.Next().value_or(""));
-    const auto header = ParseHeader(record);
+    const std::string_view line = lines.Next().value_or("");
+    const auto header = ParseHeader(WithoutFirstCharacter(line));
     if (!header)
         return RefuseInvalidFile(fileName);
-    const bool isHeaderHeld = IsTakenWhole(record);
+    const bool isHeaderHeld = IsHeaderTakenWhole(line);
     bool complete = false;
     {
         const ShownProgress progress(ports_.progress,
@@ -39,7 +39,7 @@ bool LibraryFiles::ReadContent(std::string_view bytes, const std::string& fileNa
         library_.NewMainNode(header->name);
         Reading reading{library_.Tree().Selected(), isHeaderHeld};
         library_.Tree().SetTag(reading.mainKey, fileName);
-        keptFiles_.Forget(reading.mainKey);
+        keptFiles_.SetSource(reading.mainKey, fileName);
         const auto place = [&] {
             return ErrorSentence{ErrorTexts::FileAndLine,
                                  {fileName, std::to_string(lines.Number())}};
@@ -66,9 +66,9 @@ bool LibraryFiles::ReadRecords(DecodedLines& lines, Reading& reading) {
             break;
         const std::string_view record = LibraryFileFormat::WithoutQuotes(*line);
         if (record.starts_with("G#"))
-            complete = ReadGroup(record, reading);
+            complete = ReadGroup(*line, reading);
         else if (record.starts_with("E#"))
-            complete = ReadColor(record, separator, reading.groups, ++colorNumber);
+            complete = ReadColor(*line, separator, reading, ++colorNumber);
         else
             reading.isHeldWhole = reading.isHeldWhole && line->empty();
         ports_.progress.SetProgress(++lineNumber);
@@ -76,27 +76,29 @@ bool LibraryFiles::ReadRecords(DecodedLines& lines, Reading& reading) {
     return complete;
 }
 
-bool LibraryFiles::ReadGroup(std::string_view record, Reading& reading) {
-    const auto group = LibraryFileFormat::ParseGroup(record);
+bool LibraryFiles::ReadGroup(std::string_view line, Reading& reading) {
+    const auto group = LibraryFileFormat::ParseGroup(LibraryFileFormat::WithoutQuotes(line));
     if (!group)
         return false;
-    reading.isHeldWhole = reading.isHeldWhole && LibraryFileFormat::IsTakenWhole(record);
+    reading.isHeldWhole = reading.isHeldWhole && LibraryFileFormat::IsGroupTakenWhole(line);
     const std::string key = library_.NewGroupNode(reading.mainKey, group->name);
     // The first group with a key keeps it, as the first match in a list would.
     reading.groups.try_emplace(group->key, library_.Colors().NumberOfGroup(key));
     return true;
 }
 
-bool LibraryFiles::ReadColor(std::string_view record, std::string_view separator,
-                             const SavedGroups& groups, std::uint32_t number) {
-    const auto color = LibraryFileFormat::ParseColor(record, separator);
+bool LibraryFiles::ReadColor(std::string_view line, std::string_view separator, Reading& reading,
+                             std::uint32_t number) {
+    using namespace LibraryFileFormat;
+    const auto color = ParseColor(WithoutQuotes(line), separator);
     if (!color)
         return false;
-    const auto group = groups.find(color->groupKey);
-    if (group == groups.end())
+    const auto group = reading.groups.find(color->groupKey);
+    if (group == reading.groups.end())
         return false;
     library_.Colors().Append(group->second, number, std::string(color->name), color->altName,
-                             LibraryFileFormat::ValuesOf(*color));
+                             ValuesOf(*color));
+    reading.isHeldWhole = reading.isHeldWhole && IsColorTakenWhole(line, *color);
     return true;
 }
 
@@ -118,15 +120,24 @@ WriteResult LibraryFiles::FileWriteColorValues(const std::string& fileName,
     if (!AcceptLosses(losses))
         return {};
     WriteResult result;
-    result.isWritten =
+    const Exchanged outcome =
         SafeFileWriter(ports_.files).Write(fileName, content.bytes, settings_.createBackups, [&] {
             return Keep(fileName, mainKey, unknown, result.keptPath);
         });
-    if (result.isWritten)
+    result.isWritten = outcome == Exchanged::Done;
+    if (result.isWritten) {
+        keptFiles_.SetSource(mainKey, fileName);
         keptFiles_.Remember(mainKey, content.bytes);
-    else if (!result.keptPath.empty() && ports_.files.Exists(fileName))
-        ports_.files.Remove(std::exchange(result.keptPath, {})); // it is still in its place
+    } else if (outcome == Exchanged::Unchanged) {
+        RemoveCopy(result, fileName);
+    }
     return result;
+}
+
+// The old file was not touched: a copy beside it would only be one more.
+void LibraryFiles::RemoveCopy(WriteResult& result, const std::string& fileName) {
+    if (!result.keptPath.empty() && ports_.files.Exists(fileName))
+        ports_.files.Remove(std::exchange(result.keptPath, {}));
 }
 
 // False: it could not be kept, so that it has to stay where it is.
@@ -146,7 +157,9 @@ WriteResult LibraryFiles::RefuseWithoutGroups(const std::string& fileName,
     const bool backedUp =
         !settings_.createBackups || (Keep(fileName, mainKey, unknown, result.keptPath) &&
                                      SafeFileWriter(ports_.files).MoveToBackup(fileName));
-    if (backedUp)
+    if (!backedUp)
+        RemoveCopy(result, fileName);
+    else
         ports_.prompts.ShowMessage(ports_.texts.GetInfoText(InfoTextNumber::LibraryWithoutGroups),
                                    MessageStyle::Information,
                                    ports_.texts.GetInfoText(InfoTextNumber::Save));

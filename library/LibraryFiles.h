@@ -65,6 +65,12 @@ public:
     WriteResult FileWriteColorValues(const std::string& fileName, const std::string& mainKey,
                                      UnknownContent unknown = UnknownContent::Kept);
 
+    // Whether this is the file that the library was read from or written to last.  Its tag may tell
+    // another one, or none.
+    [[nodiscard]] bool IsSource(const std::string& fileName, const std::string& mainKey) const {
+        return keptFiles_.IsSource(fileName, mainKey);
+    }
+
 private:
     struct TextHash {
         using is_transparent = void;
@@ -84,12 +90,13 @@ private:
 
     bool ReadContent(std::string_view bytes, const std::string& fileName);
     bool ReadRecords(DecodedLines& lines, Reading& reading);
-    bool ReadGroup(std::string_view record, Reading& reading);
-    bool ReadColor(std::string_view record, std::string_view separator, const SavedGroups& groups,
+    bool ReadGroup(std::string_view line, Reading& reading);
+    bool ReadColor(std::string_view line, std::string_view separator, Reading& reading,
                    std::uint32_t number);
     bool RefuseInvalidFile(const std::string& fileName);
     WriteResult RefuseWithoutGroups(const std::string& fileName, const std::string& mainKey,
                                     UnknownContent unknown);
+    void RemoveCopy(WriteResult& result, const std::string& fileName);
     [[nodiscard]] bool Keep(const std::string& fileName, const std::string& mainKey,
                             UnknownContent unknown, std::string& keptPath);
 

@@ -15,20 +15,28 @@ std::string BesideOf(const std::string& path, int number) {
 
 } // namespace
 
-bool SafeFileWriter::Write(const std::string& path, std::string_view content, bool keepBackup,
-                           const LastLook& lastLook) {
+Exchanged SafeFileWriter::Write(const std::string& path, std::string_view content, bool keepBackup,
+                                const LastLook& lastLook) {
     const auto besidePath = WriteNewFile(
         files_, [&](int number) { return BesideOf(path, number); }, content);
     if (!besidePath)
-        return false;
+        return Exchanged::Unchanged;
     const Exchanged outcome =
-        lastLook() ? TakePlace(*besidePath, path, keepBackup ? BackupOf(path) : std::string())
-                   : Exchanged::Unchanged;
-    if (outcome == Exchanged::Done)
-        return true;
-    if (outcome != Exchanged::OldIsGone) // else the new content is all that there is
+        MayGo(lastLook, *besidePath)
+            ? TakePlace(*besidePath, path, keepBackup ? BackupOf(path) : std::string())
+            : Exchanged::Unchanged;
+    if (outcome == Exchanged::Unchanged || outcome == Exchanged::OldIsBackup)
         files_.Remove(*besidePath);
-    return false;
+    return outcome;
+}
+
+bool SafeFileWriter::MayGo(const LastLook& lastLook, const std::string& besidePath) {
+    try {
+        return lastLook();
+    } catch (...) {
+        files_.Remove(besidePath);
+        throw;
+    }
 }
 
 bool SafeFileWriter::MoveToBackup(const std::string& path) {

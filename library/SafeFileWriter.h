@@ -21,10 +21,11 @@ public:
     explicit SafeFileWriter(Files& files) : files_(files) {}
 
     // keepBackup: the old file becomes path + ".bak", replacing an older backup.  lastLook: called
-    // when the new content is on the medium and the old one is about to go.  False when a step
-    // failed, also when the backup's name would be longer than the file system allows; the old
-    // content is then still under the path, or under ".bak" at the least.
-    [[nodiscard]] bool Write(
+    // when the new content is on the medium and the old one is about to go.  Anything but Done: a
+    // step failed, also because the backup's name would be longer than the file system allows.
+    // Unchanged: what had the path has it still; OldIsBackup: it is the backup now; OldIsGone: the
+    // new content is all that there is, under its own name.
+    [[nodiscard]] Exchanged Write(
         const std::string& path, std::string_view content, bool keepBackup,
         const LastLook& lastLook = [] { return true; });
 
@@ -32,6 +33,7 @@ public:
     [[nodiscard]] bool MoveToBackup(const std::string& path);
 
 private:
+    [[nodiscard]] bool MayGo(const LastLook& lastLook, const std::string& besidePath);
     [[nodiscard]] Exchanged TakePlace(const std::string& besidePath, const std::string& path,
                                       const std::string& backup);
     [[nodiscard]] Exchanged Exchange(const std::string& besidePath, const std::string& path,

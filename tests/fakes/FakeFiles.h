@@ -62,6 +62,8 @@ public:
         contents.erase(to);
         if (exchanges == Exchanged::Done)
             static_cast<void>(Move(from, to));
+        else if (!newcomer.empty())
+            contents[to] = newcomer;
         return exchanges;
     }
     bool Remove(const std::string& path) override { return !Fails() && contents.erase(path) > 0; }
@@ -71,6 +73,7 @@ public:
     std::map<std::string, bool> locked;          // paths that cannot be renamed or replaced
     std::map<std::string, bool> folders;         // paths of folders
     Exchanged exchanges = Exchanged::Done;       // how far an exchange that does not fail comes
+    std::string newcomer; // what somebody else puts in the place that an exchange left empty
 
 private:
     class Output : public OutputFile {

@@ -70,9 +70,15 @@ TEST_F(FileCommandsTest, SeveralDroppedLibrariesOpenInTheirOrderWithoutAQuestion
 
 TEST_F(FileCommandsTest, LibraryThatIsDroppedAloneOpensWithTheQuestionAboutEveryStart) {
     prompts.answers = {Answer::Yes};
-    commands.OpenDropped({"C:\\lib\\a.txt", kA});
+    commands.OpenDropped({kA});
     EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<24>\r\nC:\\lib\\a.tnt", 36, "<21>"}}));
     EXPECT_EQ(settings.defaultColorFile, kA);
+}
+
+TEST_F(FileCommandsTest, LibraryThatIsDroppedWithAFileOfAnotherKindOpensWithoutAQuestion) {
+    commands.OpenDropped({"C:\\lib\\a.txt", kA});
+    EXPECT_EQ(host.status, std::vector<std::string>{"Okay a.tnt"});
+    EXPECT_TRUE(prompts.messages.empty());
 }
 
 TEST_F(FileCommandsTest, DroppedLibraryWithAnErrorLetsTheOthersOpen) {
@@ -100,7 +106,6 @@ TEST_F(FileCommandsTest, DroppedFilesOfOtherKindsAreLeftAlone) {
     files.contents["C:\\lib\\a.txt"] = kContent;
     files.contents["C:\\lib\\tnt"] = kContent;
     files.contents["C:\\lib\\c.TNT"] = kContent;
-    prompts.answers = {Answer::No};
     commands.OpenDropped({"C:\\lib\\a.txt", "C:\\lib\\tnt", "C:\\lib\\c.TNT", ""});
     EXPECT_EQ(host.status, std::vector<std::string>{"Okay c.TNT"});
 }

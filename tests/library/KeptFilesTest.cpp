@@ -185,6 +185,16 @@ TEST_F(KeptFilesTest, LibraryWithoutGroupsKeepsWhatItMovesToTheBackup) {
     EXPECT_EQ(session.Status(), "<153> a (kept 2024-03-09 080507).tnt");
 }
 
+TEST_F(KeptFilesTest, LibraryWithoutGroupsThatCannotMoveItsFileLeavesNothingBeside) {
+    files.contents[kA] = "\"D#Lib=0D:1\"\r\n\"G#broken\"\r\n";
+    session.Open(kA);
+    files.locked[kA] = true;
+    session.Save();
+    session.Save();
+    EXPECT_EQ(Paths(), std::vector<std::string>{kA});
+    EXPECT_EQ(session.Status(), "");
+}
+
 TEST_F(KeptFilesTest, FileThatCannotBeReadIsNotReplaced) {
     session.Open(kA);
     files.unreadable[kA] = true;
@@ -205,6 +215,32 @@ TEST_F(KeptFilesTest, FileThatIsGoneOrEmptyLeavesNothingToKeep) {
     }
 }
 
+// A command can take the library's file from its tag, and the source is its own file all the same.
+TEST_F(KeptFilesTest, SaveAsOverTheSourceOfALibraryThatCountsAsUnsavedIsASave) {
+    for (const bool backups : {true, false}) {
+        const std::string source = std::string(kContent) + "\"E#broken\"\r\n";
+        files.contents = {{kA, source}};
+        Session reader(files);
+        reader.settings.createBackups = backups;
+        reader.Open(kA);
+        for (int save = 1; save <= 2; ++save) {
+            reader.library.Tree().SetTag("0D", kUnsavedTag);
+            reader.library.Tree().Select("0D");
+            reader.SaveAs(kA);
+        }
+        ASSERT_TRUE(files.contents.contains(kKeptA)) << backups;
+        EXPECT_EQ(files.contents.at(kKeptA), source);
+    }
+}
+
+TEST_F(KeptFilesTest, LibraryThatWentToAnotherFileAsksForItsFirstOneAsForAnyOther) {
+    session.Open(kA);
+    session.SaveAs(kB);
+    files.contents[kA] = kForeign;
+    session.SaveAs(kA);
+    EXPECT_EQ(Paths(), (std::vector<std::string>{kA, std::string(kA) + ".bak", kB}));
+}
+
 // All of these are read, but not everything that stands in them gets into the library.
 TEST_F(KeptFilesTest, RecordsAndEndsOfNamesThatTheProgramDoesNotTakeAreNotHeld) {
     for (const char* name : {"unknown-records.tnt", "equals-signs.tnt"}) {
@@ -214,6 +250,59 @@ TEST_F(KeptFilesTest, RecordsAndEndsOfNamesThatTheProgramDoesNotTakeAreNotHeld) 
         reader.Save();
         ASSERT_TRUE(files.contents.contains(kKeptA)) << name;
         EXPECT_EQ(files.contents.at(kKeptA), GoldenFile(name));
+    }
+}
+
+// What the values of a colour, the quotes around a line and the header have in them besides.
+TEST_F(KeptFilesTest, WhatIsReadButWouldNotBeWrittenAgainIsNotHeld) {
+    const std::string group = "\"G#g=0DG1\"\r\n";
+    const auto color = [](const std::string& last) {
+        return "\"E#a=0DG1:a\xF7"
+               "1\xF7"
+               "2\xF7"
+               "3\xF7"
+               "4\xF7"
+               "5\xF7"
+               "6\xF7"
+               "7\xF7"
+               "8\xF7" +
+               last + "\"\r\n";
+    };
+    const std::string header = "\"D#Lib=0D:2\"\r\n";
+    for (const std::string& source :
+         {header + group + color("1.5"), header + group + color(" 7"), header + group + color("+3"),
+          header + group + color("007"), header + group + color("-0"),
+          header + group + color("9E1"), header + "xG#g=0DG1\"\r\n", header + "\"G#g=0DG1x\r\n",
+          header + "\"G#g\x81=0DG1\"\r\n", "xD#Lib=0D:1\"\r\n" + group, "\"D#Lib=0D:1\r\n" + group,
+          "\"D#Lib\x81=0D:1\"\r\n" + group, "\"D#Lib=0D:1 from the printer\"\r\n" + group}) {
+        files.contents = {{kA, source}};
+        Session reader(files);
+        reader.Open(kA);
+        reader.Save();
+        ASSERT_TRUE(files.contents.contains(kKeptA)) << source;
+        EXPECT_EQ(files.contents.at(kKeptA), source);
+    }
+}
+
+TEST_F(KeptFilesTest, WhatTheProgramWritesAndFilesThatSayTheSameAreHeldWhole) {
+    const std::string values = "\xF7-32768\xF7"
+                               "32767\xF7"
+                               "0\xF7-1\xF7"
+                               "10\xF7"
+                               "5\xF7"
+                               "6\xF7"
+                               "7\xF7"
+                               "8\"\r\n";
+    const std::string made = "\"D#a:b=0D:2\"\r\n\"G#g=0DG1\"\r\n\"E#a=0DG1:a" + values;
+    for (const std::string& source :
+         {made, made + "\r\n", GoldenFile("plain.tnt"), GoldenFile("umlauts.tnt"),
+          GoldenFile("colons.tnt"), GoldenFile("quotes.tnt"), GoldenFile("empty-names.tnt"),
+          GoldenFile("line-feeds.tnt"), GoldenFile("no-final-line-end.tnt")}) {
+        files.contents = {{kA, source}};
+        Session reader(files);
+        reader.Open(kA);
+        reader.Save();
+        EXPECT_EQ(Paths(), (std::vector<std::string>{kA, std::string(kA) + ".bak"})) << source;
     }
 }
 
@@ -228,14 +317,16 @@ TEST_F(KeptFilesTest, LibraryWithTheKeyOfAClosedOneHoldsItsOwnFileAlone) {
     EXPECT_EQ(files.contents.at(kKeptB), kContent);
 }
 
-TEST_F(KeptFilesTest, LongNamesAndNamesWithoutAnExtensionAreKeptToo) {
+TEST_F(KeptFilesTest, LongNamesAndNamesWithAnotherExtensionAreKeptToo) {
     const std::string longName = "C:\\lib\\" + std::string(251, 'x') + ".tnt";
     const std::string withoutExtension = "C:\\lib.d\\colors";
     session.settings.createBackups = false;
     for (const auto& [path, keptPath] :
          {std::pair(longName,
                     "C:\\lib\\" + std::string(226, 'x') + " (kept 2024-03-09 080507).tnt"),
-          std::pair(withoutExtension, withoutExtension + " (kept 2024-03-09 080507)")}) {
+          std::pair(withoutExtension, withoutExtension + " (kept 2024-03-09 080507).tnt"),
+          std::pair(std::string("C:\\lib\\a.txt"),
+                    std::string("C:\\lib\\a.txt (kept 2024-03-09 080507).tnt"))}) {
         files.contents = {{path, kContent}};
         Session saver(files);
         saver.settings.createBackups = false;

@@ -3,10 +3,12 @@
 // everything after it, or ends the process.
 
 #include "library/FileCommands.h"
+#include "library/SafeFileWriter.h"
 #include "tests/fakes/LibraryOnFakes.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <new>
 
 namespace {
 
@@ -164,6 +166,15 @@ TEST(SaveThatLosesTheOldFile, NewContentGetsItsNameOrStaysWhereItIs) {
     }
 }
 
+TEST(SaveWhoseLastLookThrows, LeavesTheOldFileAloneAndNothingBeside) {
+    FakeFiles files;
+    files.contents[kFile] = kOld;
+    const auto fail = []() -> bool { throw std::bad_alloc(); };
+    EXPECT_THROW(static_cast<void>(SafeFileWriter(files).Write(kFile, kNew, true, fail)),
+                 std::bad_alloc);
+    EXPECT_EQ(files.contents, (decltype(files.contents){{kFile, kOld}}));
+}
+
 // The file has what the library does not hold.
 constexpr const char* kForeign = "\"D#Other=0D:0\"\r\n";
 
@@ -201,6 +212,20 @@ TEST_P(SaveFaults, UnknownContentIsNotKeptTwiceByASaveThatFails) {
         for (const auto& [path, content] : changed.files.contents)
             EXPECT_EQ(path.find("(kept"), std::string::npos) << "step " << step;
         EXPECT_TRUE(changed.commandsHost.status.empty());
+    }
+}
+
+// The platform has removed the old file, and somebody else was quicker to take its name.
+TEST(SaveThatLosesTheOldFile, CopyOfItsUnknownContentStays) {
+    for (const Exchanged outcome : {Exchanged::OldIsGone, Exchanged::OldIsBackup}) {
+        ChangedLibrary changed({outcome == Exchanged::OldIsBackup, outcome});
+        changed.files.contents[kFile] = kForeign;
+        changed.files.newcomer = "of somebody else";
+        changed.commands.mnuFileSave_Click();
+        EXPECT_EQ(changed.files.contents.at(kFile), "of somebody else");
+        EXPECT_TRUE(changed.files.contents.contains("C:\\lib\\a (kept 2024-03-09 080507).tnt"));
+        EXPECT_TRUE(IsForeignContentThere(changed));
+        EXPECT_EQ(changed.prompts.messages.size(), 1U);
     }
 }
 

@@ -23,7 +23,7 @@ protected:
     }
 
     [[nodiscard]] bool Save() {
-        return SafeFileWriter(files).Write(folder.File("a.tnt"), kNew, true);
+        return SafeFileWriter(files).Write(folder.File("a.tnt"), kNew, true) == Exchanged::Done;
     }
     void ExpectOldFileAndBackup() {
         EXPECT_EQ(folder.Read("a.tnt"), kOld);
@@ -62,7 +62,7 @@ TEST_F(SharedFile, LongestNamesAreSavedWithNothingLeftBeside) {
     for (std::size_t length = 245; length <= 255; ++length) {
         const std::string path = folder.File(std::string(length - 4, 'x') + ".tnt");
         for (const std::string_view content : {kOld, kNew}) {
-            EXPECT_TRUE(SafeFileWriter(files).Write(path, content, false)) << length;
+            EXPECT_EQ(SafeFileWriter(files).Write(path, content, false), Exchanged::Done) << length;
             EXPECT_EQ(files.ReadWhole(path), content) << length;
         }
         EXPECT_TRUE(files.Remove(path));
@@ -72,8 +72,8 @@ TEST_F(SharedFile, LongestNamesAreSavedWithNothingLeftBeside) {
 
 TEST_F(SharedFile, BackupThatCannotHaveItsLongNameKeepsTheFile) {
     const std::string path = folder.File(std::string(248, 'x') + ".tnt");
-    ASSERT_TRUE(SafeFileWriter(files).Write(path, kOld, false));
-    EXPECT_FALSE(SafeFileWriter(files).Write(path, kNew, true));
+    ASSERT_EQ(SafeFileWriter(files).Write(path, kOld, false), Exchanged::Done);
+    EXPECT_EQ(SafeFileWriter(files).Write(path, kNew, true), Exchanged::Unchanged);
     EXPECT_EQ(files.ReadWhole(path), kOld);
     EXPECT_TRUE(files.Remove(path)); // too long for the folder to clear
 }
