@@ -114,6 +114,7 @@ void WritePlainly(Files& files, const std::string& path, const PlainLibrary& lib
     }
     for (const PlainColor& color : library.colors)
         AppendColor(content, color);
+    files.Remove(path); // a file is made anew only where none has its name
     const auto file = files.Create(path);
     if (!file || !file->Write(content) || !file->Flush() || !file->Close())
         throw std::runtime_error("Cannot write " + path);
