@@ -2,6 +2,8 @@
 #include "platform/DragCursor.h"
 #include "tests/ui/MainFormTest.h"
 
+#include <algorithm>
+
 #include <array>
 #include <cstring>
 
@@ -163,7 +165,7 @@ TEST_F(MainDragging, EscapeGivesItUp) {
     EXPECT_EQ(events.lines, (Lines{"drag start list", "drag cancelled"}));
     EXPECT_FALSE(FollowsMouse());
     static_cast<void>(form.TranslateKeys(escape));
-    EXPECT_EQ(events.lines.size(), 2U) << "once";
+    EXPECT_EQ(std::count(events.lines.begin(), events.lines.end(), "drag cancelled"), 1);
 }
 
 TEST_F(MainDragging, OtherKeysDoNothingMeanwhile) {

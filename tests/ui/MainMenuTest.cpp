@@ -47,7 +47,8 @@ TEST_F(MainMenu, EveryCommandReachesRunCommand) {
     std::vector<int> expected;
     for (const MenuRow& row : MenuRows()) {
         SendMessageW(form.Handle(), WM_COMMAND, static_cast<WPARAM>(row.command), 0);
-        expected.push_back(row.command);
+        if (row.run != nullptr)
+            expected.push_back(row.command);
     }
     EXPECT_EQ(events.commands, expected);
 }
@@ -90,7 +91,7 @@ TEST_F(MainMenu, UnknownNumberRunsNothing) {
     SendMessageW(form.Handle(), WM_COMMAND, IDCANCEL, 0);
     SendMessageW(form.Handle(), WM_COMMAND, 4711, 0);
     EXPECT_TRUE(events.commands.empty());
-    EXPECT_TRUE(events.lines.empty());
+    EXPECT_EQ(events.lines, std::vector<std::string>{"escape"}) << "the key, by its number";
 }
 
 TEST_F(MainMenu, CaptionIsShownAtOnceAndKeepsTheShortcut) {
