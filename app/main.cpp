@@ -34,6 +34,13 @@ constexpr const char* kVersion = TNT_VERSION;
 // To make and paint the window takes longer than most of what it could tell of.
 constexpr std::chrono::milliseconds kProgressPatience(1000);
 
+std::vector<bool> AreLinks(const std::vector<std::string>& addresses) {
+    std::vector<bool> links;
+    for (const std::string& address : addresses)
+        links.push_back(!address.empty());
+    return links;
+}
+
 // Joins the ports, the forms and the program, and runs it.
 int RunProgram() {
     const ComApartment apartment;
@@ -59,7 +66,10 @@ int RunProgram() {
 
     const std::string programFolder = ProgramFolder();
     const std::string bannerFolder = programFolder + "\\banners";
-    const BannerPictures banners(bannerFolder);
+    BannerPictures banners(bannerFolder);
+    const std::vector<std::string> addresses = AddressesOfBanners(
+        files.ReadWhole(bannerFolder + "\\banners.txt").value_or(""), banners.Numbers());
+    banners.SetLinks(AreLinks(addresses));
     frmMain main(errors, banners);
     mainWindow = main.Handle();
     AboutOnDemand about(mainWindow, errors, banners);
@@ -70,10 +80,7 @@ int RunProgram() {
         {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
          language, errors, calendar},
         {main.View(), main, main, about, textViewer, progress, progress, progress},
-        {programFolder, kVersion,
-         AddressesOfBanners(files.ReadWhole(bannerFolder + "\\banners.txt").value_or(""),
-                            banners.Numbers()),
-         FolderForCodePage(programFolder, codePage)});
+        {programFolder, kVersion, addresses, FolderForCodePage(programFolder, codePage)});
     // The application goes first, and the forms after it: the main window still gets messages then,
     // such as the focus from a text viewer that is destroyed.
     const SilenceAtScopeEnd silence(main);

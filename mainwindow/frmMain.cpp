@@ -208,7 +208,7 @@ void frmMain::ShowWindow() {
 }
 
 void frmMain::SetBanner(int index) {
-    picSponsor_.SetPicture(banners_.Picture(index));
+    picSponsor_.SetPicture(banners_.Picture(index), banners_.IsLink(index));
     PlaceBanner();
 }
 

@@ -83,3 +83,8 @@ HBITMAP BannerPictures::Picture(int index) const noexcept {
     return index >= 1 && index <= Count() ? pictures_[static_cast<std::size_t>(index) - 1].Get()
                                           : nullptr;
 }
+
+bool BannerPictures::IsLink(int index) const noexcept {
+    return index < 1 || index > static_cast<int>(links_.size()) ||
+           links_[static_cast<std::size_t>(index) - 1];
+}

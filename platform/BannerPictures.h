@@ -3,6 +3,7 @@
 #include "platform/Handles.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 // The banner pictures beside the program: the bitmap files of a folder in the order of the numbers
@@ -20,7 +21,12 @@ public:
     // index: from 1; null for any other number.
     [[nodiscard]] HBITMAP Picture(int index) const noexcept;
 
+    // Which pictures can be clicked, in their order; until it is told, all of them.
+    void SetLinks(std::vector<bool> links) { links_ = std::move(links); }
+    [[nodiscard]] bool IsLink(int index) const noexcept; // from 1
+
 private:
     std::vector<int> numbers_;
+    std::vector<bool> links_;
     std::vector<BitmapHandle> pictures_;
 };

@@ -14,8 +14,9 @@ constexpr ControlKind kPictureBox{"PictureBox", WC_STATICW, ""};
 PictureBox::PictureBox(Form& form, const ControlPlace& place)
     : Painted(form, kPictureBox, place, SS_NOTIFY) {}
 
-void PictureBox::SetPicture(HBITMAP picture) {
+void PictureBox::SetPicture(HBITMAP picture, bool isLink) {
     picture_ = picture;
+    isLink_ = isLink;
     Repaint();
 }
 
@@ -38,7 +39,7 @@ void PictureBox::OnCommand(WPARAM wParam) {
 MessageResult PictureBox::OnMessage(const WindowMessage& message) {
     if (message.id != WM_SETCURSOR)
         return Painted::OnMessage(message);
-    SetCursor(LoadCursorW(nullptr, IDC_HAND));
+    SetCursor(LoadCursorW(nullptr, isLink_ ? IDC_HAND : IDC_ARROW));
     return 1;
 }
 

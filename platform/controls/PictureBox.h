@@ -10,7 +10,9 @@ class PictureBox : public Painted<> {
 public:
     PictureBox(Form& form, const ControlPlace& place);
 
-    void SetPicture(HBITMAP picture); // kept by the caller; null: nothing is drawn
+    // picture: kept by the caller; null: nothing is drawn.  isLink: whether the pointer over it is
+    // the hand.
+    void SetPicture(HBITMAP picture, bool isLink);
     [[nodiscard]] bool HasPicture() const noexcept { return picture_ != nullptr; }
     [[nodiscard]] int WidthForHeight(int height) const noexcept; // in its proportions
 
@@ -26,6 +28,7 @@ private:
     [[nodiscard]] SIZE PictureSize() const noexcept;
 
     HBITMAP picture_ = nullptr;
+    bool isLink_ = true;
 };
 
 // The program's icon.

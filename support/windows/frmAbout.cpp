@@ -68,7 +68,7 @@ void frmAbout::SetVersion(const std::string& version) {
 }
 
 void frmAbout::SetBanner(int index) {
-    picSponsor_.SetPicture(banners_.Picture(index));
+    picSponsor_.SetPicture(banners_.Picture(index), banners_.IsLink(index));
     picSponsor_.Show(picSponsor_.HasPicture());
     OnLayout();
 }

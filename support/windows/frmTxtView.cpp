@@ -58,7 +58,7 @@ void frmTxtView::SetText(const std::string& text) {
 }
 
 void frmTxtView::SetBanner(int index) {
-    picSponsor_.SetPicture(banners_.Picture(index));
+    picSponsor_.SetPicture(banners_.Picture(index), banners_.IsLink(index));
     picSponsor_.Show(picSponsor_.HasPicture());
 }
 

@@ -63,6 +63,19 @@ TEST_F(BannerTimer, EachTickShowsTheNextPictureAndItsAddressAndRoundAgain) {
     EXPECT_EQ(pictures.size(), 3U);
 }
 
+TEST_F(BannerTimer, PointerIsAHandOnlyOverAPictureWithAnAddress) {
+    program.banners.SetLinks({true, false, true});
+    const auto pointerOver = [&](int index) {
+        program.main.SetBanner(index);
+        SendMessageW(Box(), WM_SETCURSOR, reinterpret_cast<WPARAM>(Box()),
+                     MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        return GetCursor();
+    };
+    EXPECT_EQ(pointerOver(1), LoadCursorW(nullptr, IDC_HAND));
+    EXPECT_EQ(pointerOver(2), LoadCursorW(nullptr, IDC_ARROW));
+    EXPECT_EQ(pointerOver(3), LoadCursorW(nullptr, IDC_HAND));
+}
+
 TEST_F(BannerTimer, TimerOfTheWindowIsTheOneThatTicks) {
     SetTimer(program.main.Handle(), kTimer, kSoon, nullptr); // the same one, only sooner
     EXPECT_TRUE(PumpUntil([&] { return ClickedAddress() == RealProgram::BannerAddress(3); }));
