@@ -3,7 +3,6 @@
 #include "tests/ui/MainFormTest.h"
 
 #include <algorithm>
-
 #include <array>
 #include <cstring>
 
