@@ -16,7 +16,6 @@ namespace {
 
 constexpr int kFar = 2000; // a drag past every edge of the window, pixels
 constexpr int kBack = 700;
-constexpr int kSmallestWindow = 300; // width, pixels
 
 // Where a child stands in its form, in pixels.
 RECT PlaceOf(const RemoteWindow& form, const RemoteWindow& child) {
@@ -239,12 +238,15 @@ void MouseJob::WorkSizes() {
 void MouseJob::MakeTiny() {
     Main().Window().Place(kMargin, kMargin, 10, 10);
     Report().CheckBecomes(
-        "width of the window", [this] { return Width(Main().Window().Bounds()); }, kSmallestWindow);
+        "the window is as small as the system lets it be",
+        [this] { return Width(Main().Window().Bounds()) < 2 * GetSystemMetrics(SM_CXMINTRACK); },
+        true);
     const RECT tree = PlaceOf(Main().Window(), Main().Control(IDC_tvColor));
     Report().Check(Twips(static_cast<int>(tree.bottom - tree.top)) >=
                        Layout::kSmallestPaneHeight - 1,
                    "the panes keep their smallest height");
-    Report().Check(Twips(Width(tree)) <= Twips(kSmallestWindow) - Layout::kSmallestPane + 1,
+    Report().Check(Twips(Width(tree)) <=
+                       Twips(Width(Main().Window().Bounds())) - Layout::kSmallestPane + 1,
                    "the splitter stays inside");
 }
 
