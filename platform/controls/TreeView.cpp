@@ -66,7 +66,11 @@ void TreeView::AddNode(const std::string& key, const std::string& parentKey,
     node.item.iImage = images_.IndexOf(image);
     node.item.iSelectedImage = node.item.iImage;
     node.item.lParam = reinterpret_cast<LPARAM>(&place->first);
-    place->second = reinterpret_cast<HTREEITEM>(Send(TVM_INSERTITEMW, 0, &node));
+    // Straight to the class: nothing else has to see it, and for thousands of nodes the way there
+    // takes longer than all the rest.
+    const auto procedure = reinterpret_cast<WNDPROC>(GetClassLongPtrW(Handle(), GCLP_WNDPROC));
+    place->second = reinterpret_cast<HTREEITEM>(
+        CallWindowProcW(procedure, Handle(), TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&node)));
 }
 
 // Nodes often come in thousands; to arrange and draw the tree after each would take longer than all
