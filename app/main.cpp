@@ -25,6 +25,7 @@
 #include "support/windows/frmProgress.h"
 #include "support/windows/frmTxtView.h"
 
+#include <algorithm>
 #include <chrono>
 #include <windows.h>
 
@@ -35,9 +36,9 @@ constexpr const char* kVersion = TNT_VERSION;
 constexpr std::chrono::milliseconds kProgressPatience(1000);
 
 std::vector<bool> AreLinks(const std::vector<std::string>& addresses) {
-    std::vector<bool> links;
-    for (const std::string& address : addresses)
-        links.push_back(!address.empty());
+    std::vector<bool> links(addresses.size());
+    std::transform(addresses.begin(), addresses.end(), links.begin(),
+                   [](const std::string& address) { return !address.empty(); });
     return links;
 }
 
