@@ -18,10 +18,10 @@
 #include "common/ports/Shell.h"
 #include "common/ports/TextCollation.h"
 #include "library/ColorLibrary.h"
-#include "library/FileCommands.h"
 #include "library/LibraryFiles.h"
 #include "mainwindow/MainView.h"
 #include "mainwindow/MainWindow.h"
+#include "mainwindow/ShownLibraryFiles.h"
 #include "solidworks/modSldTools.h"
 #include "support/windows/About.h"
 #include "support/windows/Banner.h"
@@ -104,7 +104,6 @@ private:
     ErrorSink& errors_;
     ColorLibrary library_;
     LibraryFiles libraryFiles_;
-    FileCommands fileCommands_;
     modSldTools solidWorks_;
     modinternet links_;
     Banner banner_;
@@ -115,8 +114,11 @@ private:
     TextViewer textViewer_;
     Progress progress_;
     MainPanes panes_;
+    NewNodes newNodes_;
+    ShownLibraryFiles shownFiles_;
     ViewCommands viewCommands_;
     EditingCommands editing_;
+    FileCommands fileCommands_;
     ColorDrag drag_;
     SolidWorksCommands solidWorksCommands_;
     MainWindow mainWindow_;

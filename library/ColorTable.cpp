@@ -1,6 +1,7 @@
 #include "library/ColorTable.h"
 
 #include "common/RuntimeError.h"
+#include "library/LibraryKeys.h"
 
 #include <algorithm>
 #include <charconv>
@@ -9,8 +10,6 @@
 
 namespace {
 
-constexpr char kKeyLetter = 'E';
-
 struct KeyParts {
     std::string_view group;
     std::uint32_t number = 0;
@@ -18,7 +17,7 @@ struct KeyParts {
 
 // The parts of a key that is just "group key, E, number"; nothing for any other text.
 std::optional<KeyParts> PartsOf(std::string_view key) {
-    const std::size_t letter = key.rfind(kKeyLetter);
+    const std::size_t letter = key.rfind(LibraryKeys::kColorLetter);
     if (letter == std::string_view::npos)
         return {};
     const std::string_view digits = key.substr(letter + 1);
@@ -94,7 +93,7 @@ std::string ColorTable::KeyOf(ColorId id) const {
     const StoredColor& color = store_.At(id);
     if (color.otherKey)
         return *color.otherKey;
-    return groups_[color.group].key + kKeyLetter + std::to_string(color.number);
+    return LibraryKeys::OfColor(groups_[color.group].key, color.number);
 }
 
 ColorKeyIndex::Hash ColorTable::HashOf(ColorId id) const {

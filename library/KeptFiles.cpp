@@ -30,29 +30,23 @@ std::string KeptPath(const std::string& path, const CalendarTime& time, int numb
 
 } // namespace
 
-void KeptFiles::Remember(const std::string& mainKey, std::string_view content) {
-    sources_[mainKey].held = ContentFingerprint::Of(content);
+void KeptFiles::Remember(LibraryId library, std::string_view content) {
+    held_.insert_or_assign(library, ContentFingerprint::Of(content));
 }
 
-bool KeptFiles::IsSource(const std::string& path, const std::string& mainKey) const {
-    const auto source = sources_.find(mainKey);
-    return source != sources_.end() && ToLowerAscii(source->second.path) == ToLowerAscii(path);
-}
-
-bool KeptFiles::IsHeld(const std::string& mainKey, std::string_view content) const {
-    const auto source = sources_.find(mainKey);
+bool KeptFiles::IsHeld(LibraryId library, std::string_view content) const {
+    const auto held = held_.find(library);
     return content.empty() ||
-           (source != sources_.end() && source->second.held == ContentFingerprint::Of(content));
+           (held != held_.end() && held->second == ContentFingerprint::Of(content));
 }
 
-std::optional<std::string> KeptFiles::KeepUnknown(const std::string& path,
-                                                  const std::string& mainKey) {
+std::optional<std::string> KeptFiles::KeepUnknown(const std::string& path, LibraryId library) {
     if (!files_.Exists(path))
         return "";
     const std::optional<std::string> content = files_.ReadWhole(path);
     if (!content)
         return {};
-    if (IsHeld(mainKey, *content))
+    if (IsHeld(library, *content))
         return "";
     const CalendarTime now = clock_.Now();
     return WriteNewFile(

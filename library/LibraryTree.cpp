@@ -7,18 +7,19 @@
 
 void LibraryTree::AddMainNode(const std::string& key, const std::string& text) {
     LibraryNode node;
+    node.kind = NodeKind::Library;
+    node.id = ++lastId_;
     node.key = key;
     node.text = text;
-    node.image = NodeImage::MainNode;
     Insert(node, mainNodes_);
 }
 
 void LibraryTree::AddGroup(const std::string& mainKey, const std::string& key,
                            const std::string& text) {
     LibraryNode node;
+    node.kind = NodeKind::Group;
     node.key = key;
     node.text = text;
-    node.image = NodeImage::Group;
     node.parent = mainKey;
     LibraryNode& mainNode = Existing(mainKey);
     Insert(node, mainNode.children);
@@ -58,6 +59,11 @@ const LibraryNode* LibraryTree::Find(const std::string& key) const {
     return found == nodes_.end() ? nullptr : &found->second;
 }
 
+bool LibraryTree::IsGroup(const std::string& key) const {
+    const LibraryNode* node = Find(key);
+    return node != nullptr && node->kind == NodeKind::Group;
+}
+
 const LibraryNode& LibraryTree::At(const std::string& key) const {
     const LibraryNode* node = Find(key);
     if (!node)
@@ -78,8 +84,20 @@ void LibraryTree::SetText(const std::string& key, const std::string& text) {
         observer_->NodeTextChanged(key, text);
 }
 
-void LibraryTree::SetTag(const std::string& key, const std::string& tag) {
-    Existing(key).tag = tag;
+void LibraryTree::SetFile(const std::string& mainKey, const std::string& path) {
+    Existing(mainKey).file = path;
+}
+
+void LibraryTree::SetSource(const std::string& mainKey, const std::string& path) {
+    Existing(mainKey).source = path;
+}
+
+void LibraryTree::SetUnsaved(const std::string& mainKey) {
+    Existing(mainKey).file.reset();
+}
+
+void LibraryTree::RememberColor(const std::string& groupKey, const std::string& colorKey) {
+    Existing(groupKey).lastColor = colorKey;
 }
 
 void LibraryTree::Expand(const std::string& key) {

@@ -26,11 +26,17 @@ public:
     // Null when there is no such node.
     [[nodiscard]] const LibraryNode* Find(const std::string& key) const;
 
+    // False when there is no such node.
+    [[nodiscard]] bool IsGroup(const std::string& key) const;
+
     // Throws RuntimeError SubscriptOutOfRange when there is no such node.
     [[nodiscard]] const LibraryNode& At(const std::string& key) const;
 
     void SetText(const std::string& key, const std::string& text);
-    void SetTag(const std::string& key, const std::string& tag);
+    void SetFile(const std::string& mainKey, const std::string& path);
+    void SetSource(const std::string& mainKey, const std::string& path);
+    void SetUnsaved(const std::string& mainKey); // it has no file from now on
+    void RememberColor(const std::string& groupKey, const std::string& colorKey);
     void Expand(const std::string& key);
 
     // Keys of the main nodes, in order.
@@ -50,5 +56,6 @@ private:
     std::unordered_map<std::string, LibraryNode> nodes_;
     std::vector<std::string> mainNodes_;
     std::string selected_;
+    LibraryId lastId_ = 0;
     LibraryTreeObserver* observer_ = nullptr;
 };

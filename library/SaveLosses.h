@@ -1,6 +1,5 @@
 #pragma once
 
-#include "common/ports/InfoTexts.h"
 #include "library/ColorLibrary.h"
 
 #include <string>
@@ -21,6 +20,3 @@ struct SaveLosses {
 // The names of a library that would not come back.  separator: of the fields of a colour.
 [[nodiscard]] SaveLosses NamesLostBySaving(const ColorLibrary& library, const std::string& mainKey,
                                            std::string_view separator);
-
-// The prompt that names them; of many names the first ones.
-[[nodiscard]] std::string QuestionAbout(const SaveLosses& losses, InfoTexts& texts);

@@ -4,14 +4,6 @@
 
 #include <utility>
 
-namespace {
-
-std::string GroupUnder(const DragPoint& at) {
-    return IsGroupKey(at.node) ? at.node : std::string();
-}
-
-} // namespace
-
 bool ColorDrag::DragStarted(const HeldKeys& keys, const DragPoint& at) {
     if (parts_.activity.operationRuns || parts_.list.SelectedKey().empty())
         return false;
@@ -30,7 +22,7 @@ void ColorDrag::DragMoved(const DragPoint& at) {
 
 void ColorDrag::Show(const DragPoint& at) {
     Rest(at);
-    const std::string group = GroupUnder(at);
+    const std::string group = parts_.tree.IsGroup(at.node) ? at.node : std::string();
     parts_.pane.MarkDropNode(group);
     parts_.pane.ShowDrag(at.left, at.top,
                          at.isOverList || !group.empty() ? parts_.activity.drag : DragMode::None);
@@ -64,7 +56,7 @@ void ColorDrag::DragDropped(const DragPoint& at) {
 void ColorDrag::DropOnNode(const std::string& key) {
     // Idle whatever happens from here on.
     const DragMode mode = std::exchange(parts_.activity.drag, DragMode::None);
-    if (!IsGroupKey(key))
+    if (!parts_.tree.IsGroup(key))
         parts_.prompts.ShowMessage(parts_.texts.GetInfoText(InfoTextNumber::DropOnGroupOnly),
                                    MessageStyle::Information,
                                    parts_.texts.GetInfoText(InfoTextNumber::Color));

@@ -3,7 +3,6 @@
 #include "common/InfoTextNumber.h"
 #include "common/RuntimeError.h"
 #include "common/Text.h"
-#include "common/ValueRestorer.h"
 #include "mainwindow/ClipboardLine.h"
 
 namespace {
@@ -14,59 +13,61 @@ namespace {
 
 } // namespace
 
-void EditingCommands::DeleteColor(const std::optional<std::string>& colorKey) {
+void EditingCommands::DeleteColor(const std::optional<std::string>& colorKey,
+                                  Confirmation confirmation) {
     const int index =
         parts_.library.GetColornodeIndex(colorKey ? *colorKey : parts_.list.SelectedKey());
     if (index == 0)
         return;
-    if (parts_.settings.confirmDel &&
+    if (Asks(confirmation) &&
         !IsConfirmed(InfoTextNumber::ColorLabel, parts_.library.Colors().At(index).altName))
         return;
-    // Whichever colour is deleted, it is the selected row that leaves the list, on purpose.
+    // Whichever color is deleted, it is the selected row that leaves the list, on purpose.
     parts_.list.ColorLeaves(index);
     parts_.library.Colors().Erase(index);
     parts_.list.RemoveSelected();
     parts_.panes.ShowColorPreview();
 }
 
-void EditingCommands::DeleteGroup(const std::optional<std::string>& groupKey) {
-    const std::string key = groupKey ? *groupKey : parts_.library.Tree().Selected();
-    if (parts_.library.Tree().Selected().empty() || !IsGroupKey(key))
+void EditingCommands::DeleteGroup(const std::optional<std::string>& groupKey,
+                                  Confirmation confirmation) {
+    const LibraryTree& tree = parts_.library.Tree();
+    const std::string key = groupKey ? *groupKey : tree.Selected();
+    if (tree.Selected().empty() || !tree.IsGroup(key))
         return;
-    if (parts_.settings.confirmDel &&
-        !IsConfirmed(InfoTextNumber::GroupLabel,
-                     parts_.library.Tree().At(key).text + kLineBreak + ColorLines(key)))
+    if (Asks(confirmation) &&
+        !IsConfirmed(InfoTextNumber::GroupLabel, tree.At(key).text + kLineBreak + ColorLines(key)))
         return;
-    // The colours of a group go together: the list, which would lose its selected row for each of
+    // The colors of a group go together: the list, which would lose its selected row for each of
     // them, is filled anew afterwards.
     parts_.library.Colors().EraseGroups({key});
     parts_.library.Tree().Remove(key);
-    parts_.panes.ShowSelectedGroup();
+    parts_.panes.ShowColorNodes();
 }
 
-void EditingCommands::DeleteMainNode(const std::optional<std::string>& mainKey) {
+void EditingCommands::DeleteMainNode(const std::optional<std::string>& mainKey,
+                                     Confirmation confirmation) {
     const std::string key = mainKey ? *mainKey : parts_.library.GetActiveMainnode();
     if (key.empty())
         return;
     const std::string shownGroup = parts_.library.SelectedGroup();
     if (!mainKey && parts_.library.Tree().Selected() != key)
         parts_.library.Tree().Select(key);
-    if (!parts_.settings.confirmDel ||
-        IsConfirmed(InfoTextNumber::LibraryLabel,
-                    parts_.library.Tree().At(key).text + kLineBreak)) {
+    if (!Asks(confirmation) || IsConfirmed(InfoTextNumber::LibraryLabel,
+                                           parts_.library.Tree().At(key).text + kLineBreak)) {
         parts_.library.Colors().EraseGroups(parts_.library.GetGroupInMainnode(key));
         parts_.library.Tree().Remove(key);
     } else if (parts_.library.SelectedGroup() == shownGroup) {
         return; // list and editor stay as they are, with what was typed there
     }
-    parts_.panes.ShowSelectedGroup();
+    parts_.panes.ShowColorNodes();
 }
 
-void EditingCommands::DeleteSelectedNode() {
-    if (IsGroupKey(parts_.library.Tree().Selected()))
-        DeleteGroup();
+void EditingCommands::DeleteSelectedNode(Confirmation confirmation) {
+    if (parts_.library.Tree().IsGroup(parts_.library.Tree().Selected()))
+        DeleteGroup({}, confirmation);
     else
-        DeleteMainNode();
+        DeleteMainNode({}, confirmation);
 }
 
 bool EditingCommands::IsConfirmed(std::int32_t labelNumber, const std::string& details) {
@@ -107,8 +108,7 @@ std::optional<std::string> EditingCommands::CutLine() {
     }
     if (parts_.clipboard.Text() != line)
         ThrowClipboardUnavailable();
-    const ValueRestorer withoutAsking(parts_.settings.confirmDel, false);
-    DeleteColor();
+    DeleteColor({}, Confirmation::None);
     return line;
 }
 
@@ -147,15 +147,9 @@ void EditingCommands::PasteLine(const std::string& line) {
         ShowInvalidFormat();
         return;
     }
-    // A pasted colour always lands in the current group.  Where there is none yet, the user is
-    // asked for library, group and colour, and that colour takes the values.
-    const int before = parts_.library.Colors().UpperBound();
-    if (parts_.library.NewColorNode({}, pasted->name, pasted->values) ||
-        parts_.library.Colors().UpperBound() == before)
-        return;
-    const std::string made = parts_.list.SelectedKey();
-    parts_.library.Colors().SetValues(parts_.library.GetColornodeIndex(made), pasted->values);
-    parts_.panes.ShowColorNodes({}, made);
+    // A pasted color always lands in the current group.  Where there is none yet, the user is
+    // asked for library, group and color, and that color takes the values.
+    parts_.newNodes.NewColorNode(pasted->name, pasted->values);
 }
 
 void EditingCommands::ShowInvalidFormat() {

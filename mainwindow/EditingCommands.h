@@ -7,6 +7,7 @@
 #include "library/ColorLibrary.h"
 #include "mainwindow/ColorList.h"
 #include "mainwindow/LibraryPanes.h"
+#include "mainwindow/NewNodes.h"
 
 #include <optional>
 #include <string>
@@ -19,7 +20,8 @@ public:
         ColorLibrary& library;
         ColorList& list;
         LibraryPanes& panes;
-        Settings& settings;
+        NewNodes& newNodes;
+        const Settings& settings;
         Clipboard& clipboard;
         Prompts& prompts;
         InfoTexts& texts;
@@ -27,13 +29,19 @@ public:
 
     explicit EditingCommands(const Parts& parts) : parts_(parts) {}
 
+    // Whether a deletion asks first: as the user has set it, or never.
+    enum class Confirmation { AsSet, None };
+
     // Without a key each acts on the selection.
-    void DeleteColor(const std::optional<std::string>& colorKey = {});
-    void DeleteGroup(const std::optional<std::string>& groupKey = {});
-    void DeleteMainNode(const std::optional<std::string>& mainKey = {});
+    void DeleteColor(const std::optional<std::string>& colorKey = {},
+                     Confirmation confirmation = Confirmation::AsSet);
+    void DeleteGroup(const std::optional<std::string>& groupKey = {},
+                     Confirmation confirmation = Confirmation::AsSet);
+    void DeleteMainNode(const std::optional<std::string>& mainKey = {},
+                        Confirmation confirmation = Confirmation::AsSet);
 
     // The selected library or group.
-    void DeleteSelectedNode();
+    void DeleteSelectedNode(Confirmation confirmation);
 
     // Each throws RuntimeError when the clipboard cannot be written.  A colour is cut only when its
     // copy stands on the clipboard and a paste would make the same colour of it: one that a paste
@@ -51,6 +59,9 @@ public:
     void MoveInto(const std::string& groupKey);
 
 private:
+    [[nodiscard]] bool Asks(Confirmation confirmation) const noexcept {
+        return confirmation == Confirmation::AsSet && parts_.settings.confirmDel;
+    }
     [[nodiscard]] bool IsConfirmed(std::int32_t labelNumber, const std::string& details);
     [[nodiscard]] std::string ColorLines(const std::string& groupKey) const;
     // The line on the clipboard; nothing when none was put there.

@@ -5,7 +5,6 @@ void LibraryPanes::ShowColorNodes(const std::optional<std::string>& groupKey,
     const std::string& selectedNode = library_.Tree().Selected();
     if (!groupKey && selectedNode.empty()) {
         list_.Clear();
-        library_.NewMainNode();
         return;
     }
     const std::string firstGroup = library_.SelectedGroup();
@@ -16,7 +15,7 @@ void LibraryPanes::ShowColorNodes(const std::optional<std::string>& groupKey,
     if (list_.RowCount() < 1)
         return;
     if (selectKey)
-        library_.Tree().SetTag(shown, *selectKey);
+        library_.Tree().RememberColor(shown, *selectKey);
     SelectRememberedColor(shown);
     list_.ShowSelected();
     ShowColorPreview();
@@ -25,15 +24,8 @@ void LibraryPanes::ShowColorNodes(const std::optional<std::string>& groupKey,
 // The first colour, or the one that was last selected in the group when it is still there.
 void LibraryPanes::SelectRememberedColor(const std::string& groupKey) {
     const LibraryNode* group = library_.Tree().Find(groupKey);
-    const std::optional<int> row = group ? list_.RowOfKey(group->tag) : std::nullopt;
+    const std::optional<int> row = group ? list_.RowOfKey(group->lastColor) : std::nullopt;
     list_.Select(row.value_or(0));
-}
-
-void LibraryPanes::ShowSelectedGroup() {
-    if (library_.Tree().Selected().empty())
-        list_.Clear();
-    else
-        ShowColorNodes({}, {});
 }
 
 void LibraryPanes::ShowColorPreview() {
@@ -68,7 +60,7 @@ void LibraryPanes::FinishLabelEdit() {
 void LibraryPanes::NodeClicked(const std::string& key) {
     FinishLabelEdit();
     library_.Tree().Select(key);
-    ShowColorNodes({}, {});
+    ShowColorNodes();
 }
 
 void LibraryPanes::NodeLabelEdited(const std::string& key, const std::string& text) {
@@ -79,7 +71,14 @@ void LibraryPanes::NodeLabelEdited(const std::string& key, const std::string& te
 void LibraryPanes::RowClicked(int row) {
     list_.SelectedByUser(row);
     ShowColorPreview();
-    library_.RememberActiveColorNode();
+    RememberActiveColorNode();
+}
+
+void LibraryPanes::RememberActiveColorNode() {
+    const std::string group = library_.SelectedGroup();
+    const std::string color = list_.SelectedKey();
+    if (!group.empty() && !color.empty())
+        library_.Tree().RememberColor(group, color);
 }
 
 void LibraryPanes::RowEditRequested() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "library/ColorLibrary.h"
-#include "library/LibraryHost.h"
 #include "mainwindow/MainActivity.h"
 #include "mainwindow/ColorEditor.h"
 #include "mainwindow/ColorList.h"
@@ -13,7 +12,7 @@
 
 // Tree, list and editor together: how a selection in one is carried into the others, and how the
 // editor's colour gets into the library.
-class LibraryPanes : public LibraryHost, public TreeEvents, public ListEvents {
+class LibraryPanes : public TreeEvents, public ListEvents {
 public:
     struct Parts {
         ColorLibrary& library;
@@ -27,13 +26,11 @@ public:
         : library_(parts.library), tree_(parts.tree), list_(parts.list), editor_(parts.editor),
           activity_(parts.activity) {}
 
-    ColorValueArray ActiveColorValues() override { return editor_.Values(); }
-    void ShowColorNodes(const std::optional<std::string>& groupKey,
-                        const std::optional<std::string>& selectKey) override;
-    std::string SelectedColorKey() override { return list_.SelectedKey(); }
-
-    // The list shows the group of the tree's selection, or nothing; never asks for anything.
-    void ShowSelectedGroup();
+    // Refills the list with a group's colors (of the tree's selection when no group is named) and
+    // selects a color when one is named, else the one that was last selected there.  Nothing is
+    // listed without a selection.
+    void ShowColorNodes(const std::optional<std::string>& groupKey = {},
+                        const std::optional<std::string>& selectKey = {});
 
     // Loads the list's selected colour into the editor; nothing without one.
     void ShowColorPreview();
@@ -57,6 +54,7 @@ public:
 
 private:
     void SelectRememberedColor(const std::string& groupKey);
+    void RememberActiveColorNode();
 
     ColorLibrary& library_;
     TreePane& tree_;

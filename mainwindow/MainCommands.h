@@ -1,10 +1,11 @@
 #pragma once
 
 #include "library/ColorLibrary.h"
-#include "library/FileCommands.h"
 #include "mainwindow/ColorEditor.h"
 #include "mainwindow/EditingCommands.h"
+#include "mainwindow/FileCommands.h"
 #include "mainwindow/LibraryPanes.h"
+#include "mainwindow/NewNodes.h"
 #include "mainwindow/SolidWorksCommands.h"
 #include "mainwindow/ViewCommands.h"
 #include "support/windows/About.h"
@@ -17,6 +18,7 @@
 struct MainCommands {
     FileCommands& file;
     ColorLibrary& library;
+    NewNodes& newNodes;
     EditingCommands& editing;
     LibraryPanes& panes;
     ColorEditor& editor;

@@ -24,11 +24,7 @@ private:
 MainWindow::MainWindow(const Parts& parts)
     : parts_(parts), position_(parts.registry),
       busy_(parts.view.bars, parts.texts, parts.events, parts.panes.activity.endRequested) {
-    ColorLibrary& library = parts_.commands.library;
-    library.SetHost(parts_.panes.library);
-    library.Tree().Observe(&parts_.view.tree);
-    parts_.libraryFiles.SetHost(parts_.panes.library);
-    parts_.commands.file.SetHost(*this);
+    parts_.commands.library.Tree().Observe(&parts_.view.tree);
     parts_.commands.view.ShowDesignedState();
 }
 
@@ -153,8 +149,4 @@ void MainWindow::SessionEnding() {
 
 void MainWindow::ShowStatus(const std::string& text) {
     parts_.view.bars.SetInfoPanelText(text);
-}
-
-void MainWindow::DeleteSelectedNode() {
-    parts_.commands.editing.DeleteSelectedNode();
 }

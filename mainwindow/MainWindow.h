@@ -1,7 +1,6 @@
 #pragma once
 
 #include "common/Settings.h"
-#include "library/LibraryFiles.h"
 #include "mainwindow/BusyStatus.h"
 #include "mainwindow/ColorDrag.h"
 #include "mainwindow/CommandTable.h"
@@ -15,7 +14,7 @@
 #include <vector>
 
 // The main window as a whole: its set-up at start, its end, and the gate that every command passes.
-class MainWindow : public MainFrameEvents, public FileCommandsHost {
+class MainWindow : public MainFrameEvents {
 public:
     struct Parts {
         MainView view;
@@ -23,7 +22,6 @@ public:
         MainPanes& panes;
         ColorDrag& drag;
         MainCommands commands;
-        LibraryFiles& libraryFiles;
         const Settings& settings;
         const modRegistry& registry;
         InfoTexts& texts;
@@ -49,13 +47,11 @@ public:
     void WindowClosing() override;
     void SessionEnding() override;
 
-    void ShowStatus(const std::string& text) override;
-    void DeleteSelectedNode() override;
-
 private:
     void Run(const MenuRow& row);
     void RunOperation(const MenuRow& row);
     void RunWatched(const MenuRow& row);
+    void ShowStatus(const std::string& text);
     void ForgetStatus();
     void EndAfterOperation();
     void PlaceWindow();

@@ -90,7 +90,7 @@ bool SolidWorksCommands::ShowSelectedColor() {
 // A cancelled name goes on with the colour that was active before, on purpose.  A refusal changes
 // nothing: a new colour has the editor's values already.
 void SolidWorksCommands::NewColorNodeFromSWX() {
-    parts_.library.NewColorNode();
+    parts_.newNodes.NewColorNode();
     if (ShowSelectedColor())
         parts_.panes.UpdateFromColorPreview();
 }
@@ -142,20 +142,20 @@ void SolidWorksCommands::ImportStandardColors(std::vector<ColorRecord>& colors,
                                               const ColorEditor::Texts& editor) {
     LibraryTree& tree = parts_.library.Tree();
     if (tree.Selected().empty())
-        parts_.library.NewMainNode();
+        parts_.newNodes.NewMainNode();
     const std::string mainKey = parts_.library.GetActiveMainnode();
     if (mainKey.empty())
         return;
     const std::string groupKey = parts_.library.NewGroupNode(
         mainKey, parts_.texts.GetInfoText(InfoTextNumber::StandardColors));
-    tree.SetTag(mainKey, kUnsavedTag); // not when there is no group: then all is as it was
+    tree.SetUnsaved(mainKey); // not when there is no group: then all is as it was
     tree.Expand(mainKey);
     tree.Select(groupKey);
     if (!colors.empty())
         CompleteStandardColors(colors, ColorEditor::ValuesOf(editor));
     const std::string lastKey = parts_.library.AppendColors(groupKey, colors);
     if (lastKey.empty())
-        parts_.panes.ShowSelectedGroup();
+        parts_.panes.ShowColorNodes();
     else
         parts_.panes.ShowColorNodes(groupKey, lastKey);
 }

@@ -7,6 +7,7 @@
 #include "mainwindow/ColorEditor.h"
 #include "mainwindow/ColorList.h"
 #include "mainwindow/LibraryPanes.h"
+#include "mainwindow/NewNodes.h"
 #include "mainwindow/BarsPane.h"
 #include "mainwindow/MainActivity.h"
 #include "solidworks/modSldTools.h"
@@ -21,6 +22,7 @@ public:
     struct Parts {
         modSldTools& tools;
         ColorLibrary& library;
+        NewNodes& newNodes;
         ColorList& list;
         LibraryPanes& panes;
         ColorEditor& editor;

@@ -1,6 +1,6 @@
 #include "mainwindow/frmMain.h"
 
-#include "library/LibraryNode.h"
+#include "mainwindow/panes/NodeImages.h"
 #include "platform/DroppedFiles.h"
 #include "resources/controls.h"
 
@@ -16,7 +16,8 @@ constexpr FormDesign kDesign{L"frmMain",
                              {800, 600},
                              {}};
 
-const std::vector<std::string> kNodeImages = {"Palette", "Colbrush", "Colcubes", "Colfile"};
+const std::vector<std::string> kNodeImages = {NodeImages::Group, "Colbrush", NodeImages::Color,
+                                              NodeImages::Library};
 
 constexpr UINT_PTR kBannerTimer = 1;
 constexpr UINT kBannerInterval = 5000; // milliseconds
@@ -26,13 +27,13 @@ constexpr UINT kBannerInterval = 5000; // milliseconds
 frmMain::frmMain(ErrorSink& errors, const BannerPictures& banners)
     : FormOf(kDesign, errors), banners_(banners), shortcuts_(MainBars::ShortcutKeys()),
       imlToolbarIcons_("imlToolbarIcons", MainBars::ToolbarIcons()),
-      imlView_("imlView", {NodeImage::Color}), imlViewSmall_("imlViewSmall", kNodeImages),
+      imlView_("imlView", {NodeImages::Color}), imlViewSmall_("imlViewSmall", kNodeImages),
       tlbarMain_(Add<Toolbar>(At("tlbarMain", IDC_tlbarMain), imlToolbarIcons_,
                               MainBars::ToolbarButtonDesigns())),
       tvColor_(Add<TreeView>(At("tvColor", IDC_tvColor), imlViewSmall_)),
       imgSplitter_(Add<Splitter>(At("imgSplitter", IDC_imgSplitter))),
       lvColor_(Add<ListView>(At("lvColor", IDC_lvColor),
-                             ListView::Images{imlView_, imlViewSmall_, NodeImage::Color})),
+                             ListView::Images{imlView_, imlViewSmall_, NodeImages::Color})),
       editor_(*this), stbarMain_(Add<StatusBar>(At("stbarMain", IDC_stbarMain))),
       picSponsor_(Add<PictureBox>(At("picSponsor", IDC_picSponsor))),
       picSplitter_(Add<SolidBar>(At("picSplitter", IDC_picSplitter))),

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Checks the two rules of the house for every source file.
+"""Checks the rules of the house for every source file.
 
 Windows headers stand only in the Windows half: the toolkit, the forms, the entry point, the
 server around the stand-in and the tests that need a window.  Everything else includes the
 project's own headers and those of the C++ standard library.
 
-Includes run down the house only; see ROOMS_BELOW.
+Includes run down the house only; see ROOMS_BELOW and CLOSED_HEADERS.
 
   tools/check-includes.py [FOLDER]     names each include that breaks a rule, and fails
 """
@@ -42,6 +42,12 @@ ROOMS_BELOW = {
 }
 # The form joins its panes and the toolkit.
 ROOMS_OF_FILES = {"mainwindow/frmMain": ("platform", "mainwindow/panes")}
+# What a room must not know of the rooms that it may include.  The library asks nobody and shows
+# nothing: it takes what it needs and gives results.
+CLOSED_HEADERS = {
+    "library": re.compile(r"common/(ports/(Prompts|InfoTexts|ProgressView|EventPump|Clipboard)|"
+                          r"InfoTextNumber|ShownProgress|Settings)\.h$"),
+}
 SHARED_HEADERS = ("resources/controls.h",)
 
 WINDOWS_HALF = re.compile(
@@ -91,6 +97,8 @@ def fault_of_own_header(path, header):
         return "not written as a path from the project's root"
     if other_room != own_room and other_room not in rooms_below(path, own_room):
         return f"{own_room} must not know {other_room}"
+    if own_room in CLOSED_HEADERS and CLOSED_HEADERS[own_room].match(header):
+        return f"{own_room} asks nobody and shows nothing"
     if WINDOWS_HALF.match(header) and not WINDOWS_HALF.match(path):
         return "a header of the Windows half, in the portable half"
     return None

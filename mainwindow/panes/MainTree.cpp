@@ -1,5 +1,7 @@
 #include "mainwindow/panes/MainTree.h"
 
+#include "mainwindow/panes/NodeImages.h"
+
 void MainTree::Attach(TreeEvents& events) {
     control_.onClick = [&events](const std::string& key) { events.NodeClicked(key); };
     control_.mayEdit = [&events] { return events.MayEditNode(); };
@@ -9,7 +11,7 @@ void MainTree::Attach(TreeEvents& events) {
 }
 
 void MainTree::NodeAdded(const LibraryNode& node) {
-    control_.AddNode(node.key, node.parent, node.text, node.image);
+    control_.AddNode(node.key, node.parent, node.text, NodeImages::Of(node.kind));
 }
 
 void MainTree::NodeRemoved(const std::string& key) {

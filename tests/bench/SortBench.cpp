@@ -2,8 +2,6 @@
 #include "platform/Utf16.h"
 #include "platform/Win32TextCollation.h"
 #include "tests/fakes/FakeMainView.h"
-#include "tests/fakes/FakePrompts.h"
-#include "tests/fakes/FakeTexts.h"
 
 #include <algorithm>
 #include <chrono>
@@ -49,7 +47,6 @@ void Print(const Row& row) {
 // A program's library and list with one group, its names in no order.
 struct BigGroup {
     explicit BigGroup(int colors) {
-        library.SetHost(host);
         library.NewMainNode("Library");
         group = library.NewGroupNode("0D", "group");
         std::mt19937 random(1);
@@ -67,19 +64,9 @@ struct BigGroup {
         list.Fill(group);
     }
 
-    struct Host : LibraryHost {
-        ColorValueArray ActiveColorValues() override { return {}; }
-        void ShowColorNodes(const std::optional<std::string>&,
-                            const std::optional<std::string>&) override {}
-        std::string SelectedColorKey() override { return {}; }
-    };
-
-    Host host;
     FakeMainView view;
-    FakePrompts prompts;
-    FakeTexts texts;
     Win32TextCollation collation;
-    ColorLibrary library{prompts, texts};
+    ColorLibrary library;
     ColorList list{library, view, collation};
     std::string group;
 };

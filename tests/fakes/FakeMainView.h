@@ -94,7 +94,10 @@ public:
         ++barArrangements;
         layoutsBeforeBars = layouts;
     }
-    void SetInfoPanelText(const std::string& text) override { infoPanel = text; }
+    void SetInfoPanelText(const std::string& text) override {
+        infoPanel = text;
+        infoPanels.push_back(text);
+    }
 
     // Layout
     LayoutMetrics Metrics() const override { return metrics; }
@@ -160,6 +163,7 @@ public:
     int barArrangements = 0;
     int layoutsBeforeBars = 0; // when the bars were arranged last
     std::string infoPanel;
+    std::vector<std::string> infoPanels; // one after the other
     LayoutMetrics metrics{WindowState::Normal, 12000, 11760, 8000, 400, 300, 2400, 360};
     MainLayout layout;
     int layouts = 0;

@@ -31,11 +31,12 @@ void MakeLibrary(LibraryOnFakes& fuzz, FuzzedDataProvider& source, const char* w
     for (int group = 0; group < groups; ++group)
         fuzz.library.NewGroupNode("0D", Name(source, fuzz.codePage, without));
     while (source.remaining_bytes() > 0) {
-        for (std::int16_t& value : fuzz.host.activeValues)
+        ColorValueArray values{};
+        for (std::int16_t& value : values)
             value = source.ConsumeIntegral<std::int16_t>();
         const int group = source.ConsumeIntegralInRange(1, groups);
         fuzz.library.NewColorNode("0DG" + std::to_string(group),
-                                  Name(source, fuzz.codePage, without));
+                                  Name(source, fuzz.codePage, without), values);
     }
 }
 

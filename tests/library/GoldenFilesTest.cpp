@@ -25,7 +25,7 @@ protected:
         EXPECT_TRUE(ReadBytes(GoldenFile(name)));
         EXPECT_EQ(OutlineOf(library), outline);
         EXPECT_TRUE(prompts.messages.empty());
-        EXPECT_EQ(library.Tree().At("0D").tag, kFile);
+        EXPECT_EQ(library.Tree().At("0D").file, kFile);
     }
     void ExpectIsInvalid(const std::string& name, const Lines& outline) {
         EXPECT_FALSE(ReadBytes(GoldenFile(name)));

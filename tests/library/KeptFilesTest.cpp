@@ -1,7 +1,6 @@
 // Rules: Library files
 // A save never destroys what the program does not hold.
 
-#include "library/FileCommands.h"
 #include "tests/fakes/GoldenFile.h"
 #include "tests/fakes/LibraryOnFakes.h"
 
@@ -18,20 +17,12 @@ constexpr const char* kContent = "\"D#Lib=0D:1\"\r\n\"G#g=0DG1\"\r\n";
 constexpr const char* kForeign = "\"D#Changed by someone else=0D:0\"\r\n";
 
 // One program with its file commands, on the files that others work on too.
-class Session {
+class Session : public LibrarySession {
 public:
-    explicit Session(Files& files)
-        : libraryFiles(library, settings, {files, codePage, prompts, texts, progress, clock}),
-          commands({library, libraryFiles, settings, prompts, texts, codePage, "C:\\prog"}) {
-        library.SetHost(libraryHost);
-        libraryFiles.SetHost(libraryHost);
-        commands.SetHost(host);
-    }
+    explicit Session(Files& files) : LibrarySession(files, Western()) {}
     void Open(const std::string& path) {
-        prompts.chosenFiles.emplace_back(path);
-        prompts.answers.push_back(Answer::No);
-        commands.mnuFileOpen_Click();
-        host.status.clear();
+        LibrarySession::Open(path);
+        view.infoPanels.clear();
     }
     void Save(const std::string& mainKey = "0D") {
         library.Tree().Select(mainKey);
@@ -43,20 +34,14 @@ public:
     }
     void AddGroup(const std::string& name) { library.NewGroupNode("0D", name); }
     [[nodiscard]] std::string Status() const {
-        return host.status.empty() ? std::string() : host.status.back();
+        return view.infoPanels.empty() ? std::string() : view.infoPanels.back();
     }
 
-    FakePrompts prompts;
-    FakeTexts texts;
-    FakeProgress progress;
-    FakeCalendarClock clock;
-    FakeLibraryHost libraryHost;
-    FakeFileCommandsHost host;
-    Settings settings;
-    FakeCodePage codePage = FakeCodePage::Western();
-    ColorLibrary library{prompts, texts};
-    LibraryFiles libraryFiles;
-    FileCommands commands;
+private:
+    static const FakeCodePage& Western() {
+        static const FakeCodePage codePage = FakeCodePage::Western();
+        return codePage;
+    }
 };
 
 class KeptFilesTest : public testing::Test {
@@ -224,7 +209,7 @@ TEST_F(KeptFilesTest, SaveAsOverTheSourceOfALibraryThatCountsAsUnsavedIsASave) {
         reader.settings.createBackups = backups;
         reader.Open(kA);
         for (int save = 1; save <= 2; ++save) {
-            reader.library.Tree().SetTag("0D", kUnsavedTag);
+            reader.library.Tree().SetUnsaved("0D");
             reader.library.Tree().Select("0D");
             reader.SaveAs(kA);
         }
@@ -315,6 +300,16 @@ TEST_F(KeptFilesTest, LibraryWithTheKeyOfAClosedOneHoldsItsOwnFileAlone) {
     files.contents[kB] = kContent; // what the closed library was read from
     session.Save();
     EXPECT_EQ(files.contents.at(kKeptB), kContent);
+}
+
+TEST_F(KeptFilesTest, NewLibraryWithTheKeyOfAClosedOneHasNothingOfItsFile) {
+    session.Open(kA);
+    session.editing.DeleteMainNode({}, EditingCommands::Confirmation::None);
+    session.prompts.typed = {"New", "g", ""};
+    session.commands.mnuFileNew_Click();
+    EXPECT_EQ(session.library.Tree().At("0D").source, "");
+    session.SaveAs(kA); // the dialog has asked; it is not the library's own file
+    EXPECT_EQ(Paths(), (std::vector<std::string>{kA, std::string(kA) + ".bak"}));
 }
 
 TEST_F(KeptFilesTest, LongNamesAndNamesWithAnotherExtensionAreKeptToo) {

@@ -1,458 +1,120 @@
 // Rules: Library files
+// Reading and writing without anybody in front of it: what comes back, and what is told meanwhile.
+
 #include "library/LibraryFiles.h"
 
-#include "common/RuntimeError.h"
-#include "tests/fakes/LibraryOnFakes.h"
+#include "tests/fakes/FakeCalendarClock.h"
+#include "tests/fakes/FakeCodePage.h"
+#include "tests/fakes/FakeFiles.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-constexpr const char* kFile = "C:\\colors.tnt";
-constexpr const char* kBackup = "C:\\colors.tnt.bak";
-constexpr const char* kDivision = "\xF7"; // in the Western code page
+constexpr const char* kFile = "C:\\a.tnt";
+constexpr const char* kContent = "\"D#Lib=0D:2\"\r\n\"G#g=0DG1\"\r\n\"G#h=0DG2\"\r\n";
 
-std::string ValuesOf(const std::string& altName, const std::string& first) {
-    std::string line = altName + kDivision + first;
-    for (int value = 2; value <= 9; ++value)
-        line += kDivision + std::to_string(value);
-    return line;
-}
+// What was told, with the number of libraries that there were.
+class WrittenProgress : public WorkProgress {
+public:
+    explicit WrittenProgress(const ColorLibrary& library) : library_(library) {}
 
-class LibraryFilesTest : public testing::Test, protected LibraryOnFakes {
-protected:
-    bool Read(const std::string& content) {
-        files.contents[kFile] = content;
-        return libraryFiles.FileReadColorValues(kFile);
-    }
-    [[nodiscard]] bool Write() { return libraryFiles.FileWriteColorValues(kFile, "0D").isWritten; }
+    void Starts(std::int32_t total) override { Note("starts " + std::to_string(total)); }
+    void Reaches(std::int32_t done) override { Note("reaches " + std::to_string(done)); }
 
-    void MakeLibrary() {
-        library.NewMainNode("Lib");
-        library.NewGroupNode("0D", "one");
-        library.NewGroupNode("0D", "two");
-        host.activeValues = {255, 128, 0, 10, 20, 30, 40, 50, 60};
-        library.NewColorNode("0DG2", "b");
-        library.NewColorNode("0DG1", "a");
+    std::vector<std::string> told;
+
+private:
+    void Note(const std::string& text) {
+        told.push_back(text + " of " + std::to_string(library_.Tree().MainNodes().size()));
     }
-    void ExpectInvalidFileMessage() {
-        ASSERT_EQ(prompts.messages.size(), 1U);
-        EXPECT_EQ(prompts.messages[0], (FakePrompts::Message{"<5> C:\\colors.tnt", 48, "<98>"}));
-        EXPECT_FALSE(progress.isShown);
-    }
+
+    const ColorLibrary& library_;
 };
 
-// The file that MakeLibrary's library gives, byte for byte.
-const std::string kGolden = "\"D#Lib=0D:4\"\r\n"
-                            "\"G#one=0DG1\"\r\n"
-                            "\"G#two=0DG2\"\r\n"
-                            "\"E#b=0DG2:b\xF7"
-                            "255\xF7"
-                            "128\xF7"
-                            "0\xF7"
-                            "10\xF7"
-                            "20\xF7"
-                            "30\xF7"
-                            "40\xF7"
-                            "50\xF7"
-                            "60\"\r\n"
-                            "\"E#a=0DG1:a\xF7"
-                            "255\xF7"
-                            "128\xF7"
-                            "0\xF7"
-                            "10\xF7"
-                            "20\xF7"
-                            "30\xF7"
-                            "40\xF7"
-                            "50\xF7"
-                            "60\"\r\n";
+class LibraryFilesTest : public testing::Test {
+protected:
+    ReadOutcome Read(const std::string& content) {
+        files.contents[kFile] = content;
+        return libraryFiles.Read(kFile, progress);
+    }
 
-TEST_F(LibraryFilesTest, WrittenFileIsHeaderGroupsThenColorsInTheOrderOfTheTable) {
-    MakeLibrary();
-    EXPECT_TRUE(Write());
-    EXPECT_EQ(files.contents.at(kFile), kGolden);
+    FakeFiles files;
+    FakeCodePage codePage = FakeCodePage::Western();
+    FakeCalendarClock clock;
+    ColorLibrary library;
+    LibraryFiles libraryFiles{library, {.files = files, .codePage = codePage, .clock = clock}};
+    WrittenProgress progress{library};
+};
+
+TEST_F(LibraryFilesTest, ReadingTellsItsStartBeforeAnythingChangesAndEachLine) {
+    const ReadOutcome outcome = Read(kContent);
+    EXPECT_EQ(outcome.result, ReadResult::Complete);
+    EXPECT_EQ(outcome.mainKey, "0D");
+    EXPECT_FALSE(outcome.error.has_value());
+    EXPECT_EQ(progress.told,
+              (std::vector<std::string>{"starts 2 of 0", "reaches 1 of 1", "reaches 2 of 1"}));
 }
 
-TEST_F(LibraryFilesTest, ReadingWhatWasWrittenGivesTheSameColors) {
-    MakeLibrary();
-    ASSERT_TRUE(Write());
-    EXPECT_TRUE(libraryFiles.FileReadColorValues(kFile));
-    EXPECT_EQ(library.Tree().At("1D").text, "Lib");
-    EXPECT_EQ(library.Tree().At("1D").tag, kFile);
-    EXPECT_EQ(library.Tree().At("1DG2").text, "two");
-    const ColorValueArray values{255, 128, 0, 10, 20, 30, 40, 50, 60};
-    EXPECT_EQ(library.Colors().At(3), (ColorRecord{"b", "1DG2E1", "1DG2", false, values, "b"}));
-    EXPECT_EQ(library.Colors().At(4), (ColorRecord{"a", "1DG1E2", "1DG1", false, values, "a"}));
+TEST_F(LibraryFilesTest, FileWithoutAHeaderAddsNoLibraryAndStartsNothing) {
+    const ReadOutcome outcome = Read("rubbish");
+    EXPECT_EQ(outcome.result, ReadResult::Invalid);
+    EXPECT_EQ(outcome.mainKey, "");
+    EXPECT_TRUE(progress.told.empty());
 }
 
-TEST_F(LibraryFilesTest, ColorNumbersRunThroughTheWholeFile) {
-    ASSERT_TRUE(Read("\"D#L=0D:5\"\r\n\"G#g=0DG1\"\r\n\"G#h=0DG2\"\r\n\"E#a=0DG1:" +
-                     ValuesOf("a", "1") + "\"\r\n\"E#b=0DG2:" + ValuesOf("b", "1") +
-                     "\"\r\n\"E#c=0DG1:" + ValuesOf("c", "1") + "\"\r\n"));
-    EXPECT_EQ(library.Colors().At(1).key, "0DG1E1");
-    EXPECT_EQ(library.Colors().At(2).key, "0DG2E2");
-    EXPECT_EQ(library.Colors().At(3).key, "0DG1E3");
+TEST_F(LibraryFilesTest, PartOfALibraryIsInvalidAndNamesWhatWasAdded) {
+    const ReadOutcome outcome = Read(std::string(kContent) + "\"G#broken\"\r\n");
+    EXPECT_EQ(outcome.result, ReadResult::Invalid);
+    EXPECT_EQ(outcome.mainKey, "0D");
+    EXPECT_EQ(library.Tree().At("0D").file, kFile);
+    EXPECT_EQ(library.Tree().At("0D").source, kFile);
 }
 
-TEST_F(LibraryFilesTest, SameFileTwiceGivesTwoLibrariesWithKeysOfTheirOwn) {
-    ASSERT_TRUE(Read(kGolden));
-    ASSERT_TRUE(Read(kGolden));
-    EXPECT_EQ(library.Tree().MainNodes(), (std::vector<std::string>{"0D", "1D"}));
-    EXPECT_EQ(library.GetColorCountInGroup("0DG1"), 1);
-    EXPECT_EQ(library.GetColorCountInGroup("1DG1"), 1);
+TEST_F(LibraryFilesTest, ValueThatDoesNotConvertFailsWithItsPlaceAndNamesWhatWasAdded) {
+    std::string color = "\"E#a=0DG1:a\xF7"
+                        "99999";
+    for (int value = 2; value <= 9; ++value)
+        color += "\xF7" + std::to_string(value);
+    const ReadOutcome outcome = Read(kContent + color + "\"\r\n");
+    EXPECT_EQ(outcome.result, ReadResult::Failed);
+    EXPECT_EQ(outcome.mainKey, "0D");
+    ASSERT_TRUE(outcome.error.has_value());
+    EXPECT_EQ(outcome.error->Number(), ErrorNumber::Overflow);
+    EXPECT_NE(outcome.error->Description().find(kFile), std::string::npos);
+    EXPECT_NE(outcome.error->Description().find('4'), std::string::npos) << "the line";
 }
 
-TEST_F(LibraryFilesTest, GroupsAreRenumberedAndColorsFollowTheirGroup) {
-    ASSERT_TRUE(
-        Read("\"D#L=7D:2\"\r\n\"G#g=7DG9\"\r\n\"E#a=7DG9:" + ValuesOf("a", "1") + "\"\r\n"));
-    EXPECT_EQ(library.Tree().At("0DG1").text, "g");
-    EXPECT_EQ(library.Colors().At(1).groupKey, "0DG1");
-}
-
-TEST_F(LibraryFilesTest, EmptyGroupsSurviveSavingAndLoading) {
+TEST_F(LibraryFilesTest, ComposingGivesTheBytesAndWhatWouldBeLostAndWritesNothing) {
     library.NewMainNode("Lib");
-    library.NewGroupNode("0D", "empty");
-    ASSERT_TRUE(Write());
-    EXPECT_EQ(files.contents.at(kFile), "\"D#Lib=0D:1\"\r\n\"G#empty=0DG1\"\r\n");
-    ASSERT_TRUE(libraryFiles.FileReadColorValues(kFile));
-    EXPECT_EQ(library.GetColorCountInGroup("1DG1"), 0);
+    library.NewGroupNode("0D", "g=h \u8272");
+    const ComposedLibrary composed = libraryFiles.Compose("0D", progress);
+    EXPECT_EQ(composed.bytes, "\"D#Lib=0D:1\"\r\n\"G#g=h ?=0DG1\"\r\n");
+    EXPECT_EQ(composed.losses.names, std::vector<std::string>{"g=h \u8272"});
+    EXPECT_EQ(composed.losses.characters, "\u8272");
+    EXPECT_EQ(progress.told, (std::vector<std::string>{"starts 1 of 1", "reaches 1 of 1"}));
+    EXPECT_TRUE(files.contents.empty());
 }
 
-TEST_F(LibraryFilesTest, NamesAreCutAtTheFirstEqualsSign) {
-    ASSERT_TRUE(Read("\"D#A=B=0D:2\"\r\n\"G#g=h=0DG1\"\r\n"));
-    EXPECT_EQ(library.Tree().At("0D").text, "A");
-    EXPECT_EQ(library.Tree().At("0DG1").text, "g");
-}
-
-TEST_F(LibraryFilesTest, ColonInAColorNameStaysBecauseItIsSearchedBehindTheEqualsSign) {
-    ASSERT_TRUE(
-        Read("\"D#L=0D:2\"\r\n\"G#g=0DG1\"\r\n\"E#a:b=0DG1:" + ValuesOf("a:b", "1") + "\"\r\n"));
-    EXPECT_EQ(library.Colors().At(1).name, "a:b");
-    EXPECT_EQ(library.Colors().At(1).altName, "a:b");
-}
-
-TEST_F(LibraryFilesTest, EqualsSignInASavedColorNameMakesTheFileInvalid) {
-    // The name is cut at the sign, and what follows is no key of a group.
-    EXPECT_FALSE(
-        Read("\"D#L=0D:2\"\r\n\"G#g=0DG1\"\r\n\"E#a=b=0DG1:" + ValuesOf("x", "1") + "\"\r\n"));
-    ExpectInvalidFileMessage();
-}
-
-TEST_F(LibraryFilesTest, DivisionSignInAnAltNameMakesTheFileInvalid) {
-    EXPECT_FALSE(
-        Read("\"D#L=0D:2\"\r\n\"G#g=0DG1\"\r\n\"E#a=0DG1:x\xF7y" + ValuesOf("", "1") + "\"\r\n"));
-    ExpectInvalidFileMessage();
-}
-
-TEST_F(LibraryFilesTest, QuotesInNamesAreKept) {
-    library.NewMainNode("a \"b\"");
-    library.NewGroupNode("0D", "\"");
-    ASSERT_TRUE(Write());
-    EXPECT_EQ(files.contents.at(kFile), "\"D#a \"b\"=0D:1\"\r\n\"G#\"=0DG1\"\r\n");
-    ASSERT_TRUE(libraryFiles.FileReadColorValues(kFile));
-    EXPECT_EQ(library.Tree().At("1D").text, "a \"b\"");
-    EXPECT_EQ(library.Tree().At("1DG1").text, "\"");
-}
-
-TEST_F(LibraryFilesTest, UmlautsAreSingleBytesOfTheCodePage) {
-    library.NewMainNode("Stähle");
-    library.NewGroupNode("0D", "Größe");
-    ASSERT_TRUE(Write());
-    EXPECT_EQ(files.contents.at(kFile), "\"D#St\xE4hle=0D:1\"\r\n\"G#Gr\xF6\xDF"
-                                        "e=0DG1\"\r\n");
-    ASSERT_TRUE(libraryFiles.FileReadColorValues(kFile));
-    EXPECT_EQ(library.Tree().At("1DG1").text, "Größe");
-}
-
-TEST_F(LibraryFilesTest, OtherTagsAreSkippedAndCountForTheProgressAllTheSame) {
-    ASSERT_TRUE(Read("\"D#L=0D:9\"\r\n\"X#something\"\r\n\r\n\"G#g=0DG1\"\r\n"));
-    EXPECT_EQ(library.GetGroupInMainnode("0D").size(), 1U);
-    EXPECT_EQ(progress.calls, (std::vector<std::string>{"show <60> 0..9", "value 1", "value 2",
-                                                        "value 3", "hide"}));
-}
-
-TEST_F(LibraryFilesTest, LineEndsMayBeLineFeedsAloneAndTheLastOneMayLack) {
-    ASSERT_TRUE(Read("\"D#L=0D:2\"\n\"G#g=0DG1\"\n\"E#a=0DG1:" + ValuesOf("a", "1") + "\""));
-    EXPECT_EQ(library.GetColorCountInGroup("0DG1"), 1);
-}
-
-TEST_F(LibraryFilesTest, VeryLongLinesAndZeroBytesAreRead) {
-    const std::string longName(200000, 'n');
-    ASSERT_TRUE(Read("\"D#L=0D:1\"\r\n\"G#" + longName + "=0DG1\"\r\n\"G#" +
-                     std::string("z\0z", 3) + "=0DG2\"\r\n"));
-    EXPECT_EQ(library.Tree().At("0DG1").text, longName);
-    EXPECT_EQ(library.Tree().At("0DG2").text, std::string("z\0z", 3));
-}
-
-TEST_F(LibraryFilesTest, MissingFileIsNoMessage) {
-    EXPECT_FALSE(libraryFiles.FileReadColorValues("C:\\none.tnt"));
-    EXPECT_FALSE(libraryFiles.FileReadColorValues(""));
-    EXPECT_TRUE(prompts.messages.empty());
-    EXPECT_TRUE(host.shown.empty());
-}
-
-TEST_F(LibraryFilesTest, EveryOutcomeOfAReadingIsTold) {
-    files.contents[kFile] = kGolden;
-    EXPECT_EQ(libraryFiles.Read(kFile), ReadResult::Complete);
-    EXPECT_EQ(libraryFiles.Read("C:\\none.tnt"), ReadResult::Missing);
-    files.contents[kFile] += "\"E#\"";
-    EXPECT_EQ(libraryFiles.Read(kFile), ReadResult::Invalid);
-    prompts.messages.clear();
-    files.unreadable[kFile] = true;
-    EXPECT_EQ(libraryFiles.Read(kFile), ReadResult::Unreadable);
-    EXPECT_TRUE(prompts.messages.empty());
-    EXPECT_EQ(library.Tree().MainNodes().size(), 2U) << "and nothing is added";
-}
-
-TEST_F(LibraryFilesTest, InvalidHeaderAddsNothing) {
-    for (const char* content : {"", "\"\r\n", "hello\r\n", "\"G#g=0DG1\"\r\n",
-                                "\"D#no equals sign\"\r\n", "\xEF\xBB\xBF\"D#L=0D:1\"\r\n"}) {
-        prompts.messages.clear();
-        EXPECT_FALSE(Read(content)) << content;
-        ExpectInvalidFileMessage();
-        EXPECT_TRUE(library.Tree().MainNodes().empty());
-    }
-}
-
-TEST_F(LibraryFilesTest, GroupWithoutEqualsSignEndsTheLoadAndKeepsWhatWasAdded) {
-    EXPECT_FALSE(Read("\"D#L=0D:2\"\r\n\"G#g=0DG1\"\r\n\"G#broken\"\r\n\"G#h=0DG2\"\r\n"));
-    ExpectInvalidFileMessage();
-    EXPECT_EQ(library.GetGroupInMainnode("0D").size(), 1U);
-}
-
-TEST_F(LibraryFilesTest, ColorWithOtherThanTenFieldsEndsTheLoadAndKeepsWhatWasAdded) {
-    for (const char* broken : {"\"E#b=0DG1:b\xF7"
-                               "1\xF7"
-                               "2\"",
-                               "\"E#b\"", "\"E#b=0DG1\""}) {
-        prompts.messages.clear();
-        host.shown.clear();
-        const int before = library.Colors().UpperBound();
-        EXPECT_FALSE(Read("\"D#L=0D:3\"\r\n\"G#g=0DG1\"\r\n\"E#a=0DG1:" + ValuesOf("a", "1") +
-                          "\"\r\n" + broken + "\r\n\"E#c=0DG1:" + ValuesOf("c", "1") + "\"\r\n"));
-        ExpectInvalidFileMessage();
-        EXPECT_EQ(library.Colors().UpperBound(), before + 1);
-        EXPECT_EQ(host.shown.size(), 1U) << "the list is refreshed";
-    }
-}
-
-TEST_F(LibraryFilesTest, ColorOfAGroupThatTheFileDoesNotDeclareEndsTheLoad) {
-    EXPECT_FALSE(
-        Read("\"D#L=0D:3\"\r\n\"G#g=0DG1\"\r\n\"E#a=0DG7:" + ValuesOf("a", "1") + "\"\r\n"));
-    ExpectInvalidFileMessage();
-    EXPECT_EQ(library.Colors().UpperBound(), 0);
-}
-
-TEST_F(LibraryFilesTest, FirstGroupWithAKeyTakesItsColors) {
-    ASSERT_TRUE(Read("\"D#L=0D:3\"\r\n\"G#g=0DG1\"\r\n\"G#h=0DG1\"\r\n\"E#a=0DG1:" +
-                     ValuesOf("a", "1") + "\"\r\n"));
-    EXPECT_EQ(library.Colors().At(1).groupKey, "0DG1");
-}
-
-TEST_F(LibraryFilesTest, ValueThatIsNoSixteenBitNumberIsAConversionError) {
-    for (const char* value : {"40000", "x", ""}) {
-        host.shown.clear();
-        EXPECT_THROW(
-            Read("\"D#L=0D:2\"\r\n\"G#g=0DG1\"\r\n\"E#a=0DG1:" + ValuesOf("a", value) + "\"\r\n"),
-            RuntimeError)
-            << value;
-        EXPECT_FALSE(progress.isShown);
-        EXPECT_EQ(host.shown.size(), 1U) << "the list is refreshed";
-    }
-}
-
-TEST_F(LibraryFilesTest, NegativeValuesAreKept) {
-    ASSERT_TRUE(
-        Read("\"D#L=0D:2\"\r\n\"G#g=0DG1\"\r\n\"E#a=0DG1:" + ValuesOf("a", "-32768") + "\"\r\n"));
-    EXPECT_EQ(library.Colors().At(1).values[0], -32768);
-}
-
-TEST_F(LibraryFilesTest, HeadersCountIsOnlyTheRangeOfTheBar) {
-    for (const auto& [count, shown] :
-         {std::pair{":12abc", "12"}, std::pair{":", "0"}, std::pair{"", "0"}, std::pair{":-5", "0"},
-          std::pair{":99999999999", "2147483647"}}) {
-        progress.calls.clear();
-        EXPECT_TRUE(Read(std::string("\"D#L=0D") + count + "\"\r\n"));
-        EXPECT_EQ(progress.calls.front(), std::string("show <60> 0..") + shown);
-    }
-}
-
-TEST_F(LibraryFilesTest, ReadLibraryIsShown) {
-    ASSERT_TRUE(Read(kGolden));
-    ASSERT_EQ(host.shown.size(), 1U);
-    EXPECT_FALSE(host.shown[0].first.has_value());
-    EXPECT_EQ(library.Tree().Selected(), "0D");
-}
-
-TEST_F(LibraryFilesTest, CodePageWithoutDivisionSignSeparatesWithTheSameByte) {
-    codePage = FakeCodePage::Cyrillic();
-    MakeLibrary();
-    ASSERT_TRUE(Write());
-    EXPECT_EQ(files.contents.at(kFile), kGolden);
-    EXPECT_TRUE(libraryFiles.FileReadColorValues(kFile));
-    EXPECT_EQ(library.Colors().UpperBound(), 4);
-}
-
-// The letter of byte F7 in Cyrillic, in names of everyday colors.
-TEST_F(LibraryFilesTest, LetterThatStandsInForTheDivisionSignMayStandInNames) {
-    codePage = FakeCodePage::Cyrillic();
-    const std::string letter = "\xD1\x87";
-    MakeLibrary();
-    library.Colors().SetNames(1, letter + "\xD0\xB5" + letter);
-    library.Colors().SetNames(2, letter);
-    ASSERT_TRUE(Write());
-    ASSERT_TRUE(libraryFiles.FileReadColorValues(kFile));
-    ASSERT_EQ(library.Colors().UpperBound(), 4);
-    for (const int index : {1, 2}) {
-        const ColorRecord written = library.Colors().At(index);
-        const ColorRecord read = library.Colors().At(index + 2);
-        EXPECT_EQ(read.name, written.name);
-        EXPECT_EQ(read.altName, written.altName);
-        EXPECT_EQ(read.values, written.values);
-    }
-}
-
-TEST_F(LibraryFilesTest, TooFewValuesAreInvalidAlsoWhereALetterSeparates) {
-    codePage = FakeCodePage::Cyrillic();
-    MakeLibrary();
-    ASSERT_TRUE(Write());
-    std::string& content = files.contents.at(kFile);
-    const std::size_t separator = content.find('\xF7');
-    content.erase(separator, 1);
-    EXPECT_FALSE(libraryFiles.FileReadColorValues(kFile));
-}
-
-TEST_F(LibraryFilesTest, WritingCountsGroupsThenColorsInTheProgressWindow) {
-    MakeLibrary();
-    progress.calls.clear();
-    ASSERT_TRUE(Write());
-    EXPECT_EQ(progress.calls, (std::vector<std::string>{"show <61> 0..4", "value 1", "value 2",
-                                                        "value 3", "value 4", "hide"}));
-}
-
-TEST_F(LibraryFilesTest, OnlyColorsWhoseKeyBeginsWithTheMainKeyAreWritten) {
-    for (int number = 0; number <= 10; ++number)
-        library.NewMainNode("L" + std::to_string(number));
-    library.NewGroupNode("0D", "zero");
-    library.NewGroupNode("10D", "ten");
-    library.NewColorNode("0DG1", "a");
-    library.NewColorNode("10DG1", "b");
-    ASSERT_TRUE(Write());
-    EXPECT_EQ(files.contents.at(kFile).find("E#b"), std::string::npos);
-    ASSERT_TRUE(libraryFiles.FileWriteColorValues(kFile, "10D").isWritten);
-    EXPECT_EQ(files.contents.at(kFile).find("E#a"), std::string::npos);
-    EXPECT_NE(files.contents.at(kFile).find("E#b"), std::string::npos);
-}
-
-TEST_F(LibraryFilesTest, OldFileBecomesTheBackupAndReplacesAnOlderOne) {
-    MakeLibrary();
-    ASSERT_TRUE(Write());
-    files.contents[kBackup] = "older";
-    library.NewGroupNode("0D", "three");
-    ASSERT_TRUE(Write());
-    EXPECT_EQ(files.contents.at(kBackup), kGolden);
-    EXPECT_NE(files.contents.at(kFile), kGolden);
-    EXPECT_EQ(files.contents.size(), 2U) << "nothing else stays beside it";
-}
-
-TEST_F(LibraryFilesTest, WithoutBackupsTheOldFileIsReplaced) {
-    MakeLibrary();
-    settings.createBackups = false;
-    files.contents[kFile] = "old";
-    files.contents[kBackup] = "older";
-    ASSERT_TRUE(Write());
-    EXPECT_EQ(files.contents.at(kBackup), "older");
-    EXPECT_EQ(files.contents.at(kFile), kGolden);
-}
-
-TEST_F(LibraryFilesTest, LibraryWithoutGroupsLeavesOnlyTheBackup) {
+TEST_F(LibraryFilesTest, WrittenFileIsTheLibrarysSourceAndItsFileStaysAsItWas) {
     library.NewMainNode("Lib");
-    files.contents[kFile] = "old";
-    EXPECT_FALSE(Write());
-    EXPECT_EQ(files.contents.at(kBackup), "old");
-    EXPECT_FALSE(files.contents.contains(kFile));
-    ASSERT_EQ(prompts.messages.size(), 1U);
-    EXPECT_EQ(prompts.messages[0], (FakePrompts::Message{"<103>", 64, "<30>"}));
+    EXPECT_TRUE(libraryFiles.Write({.fileName = kFile, .mainKey = "0D"}, "bytes").isWritten);
+    EXPECT_EQ(files.contents.at(kFile), "bytes");
+    EXPECT_EQ(library.Tree().At("0D").source, kFile);
+    EXPECT_EQ(library.Tree().At("0D").file, std::nullopt);
 }
 
-TEST_F(LibraryFilesTest, CharactersThatTheCodePageCannotHoldAreReportedBeforeAnythingIsWritten) {
-    library.NewMainNode("日本");
-    library.NewGroupNode("0D", "日");
-    files.contents[kFile] = "old";
-    prompts.answers = {Answer::Cancel};
-    EXPECT_FALSE(Write());
-    ASSERT_EQ(prompts.messages.size(), 1U);
-    EXPECT_EQ(prompts.messages[0], (FakePrompts::Message{"<104>\r\n日本", 49, "<98>"}));
-    EXPECT_EQ(files.contents.at(kFile), "old");
-    EXPECT_EQ(files.contents.size(), 1U);
-}
-
-TEST_F(LibraryFilesTest, UserMayGoOnAndTheCharactersBecomeQuestionMarks) {
-    library.NewMainNode("日本");
-    library.NewGroupNode("0D", "g");
-    prompts.answers = {Answer::Ok};
-    EXPECT_TRUE(Write());
-    EXPECT_EQ(files.contents.at(kFile), "\"D#?\?=0D:1\"\r\n\"G#g=0DG1\"\r\n");
-}
-
-TEST_F(LibraryFilesTest, WhicheverStepFailsTheOldOrNewContentIsWholeUnderNameOrBackup) {
-    MakeLibrary();
-    ASSERT_TRUE(Write());
-    for (const bool backups : {true, false})
-        for (const auto kind : {FakeFiles::FailureKind::Reported, FakeFiles::FailureKind::Killed})
-            for (int step = 1;; ++step) {
-                settings.createBackups = backups;
-                files.contents = {{kFile, "old"}};
-                files.FailAtStep(step, kind);
-                bool written = false;
-                try {
-                    written = Write();
-                } catch (const FakeFiles::Killed&) {
-                    written = false;
-                }
-                const bool failed = files.Steps() >= step;
-                EXPECT_EQ(written, !failed) << "step " << step;
-                const std::string now = files.contents.contains(kFile) ? files.contents.at(kFile)
-                                                                       : files.contents.at(kBackup);
-                EXPECT_TRUE(now == "old" || now == kGolden) << "step " << step << ": " << now;
-                if (!failed)
-                    break;
-            }
-}
-
-TEST_F(LibraryFilesTest, LockedTargetKeepsItsContentAndLeavesNothingBesideIt) {
-    MakeLibrary();
-    files.contents[kFile] = "old";
-    files.locked[kFile] = true;
-    for (const bool backups : {true, false}) {
-        settings.createBackups = backups;
-        EXPECT_FALSE(Write());
-        EXPECT_EQ(files.contents.size(), 1U);
-        EXPECT_EQ(files.contents.at(kFile), "old");
-    }
-}
-
-TEST_F(LibraryFilesTest, UndeclaredGroupComesBeforeABrokenValue) {
-    EXPECT_FALSE(
-        Read("\"D#L=0D:2\"\r\n\"G#g=0DG1\"\r\n\"E#a=0DG7:" + ValuesOf("a", "x") + "\"\r\n"));
-    ExpectInvalidFileMessage();
-}
-
-TEST_F(LibraryFilesTest, UnstorableCharacterIsToldOnce) {
-    library.NewMainNode("日本");
-    library.NewGroupNode("0D", "本日");
-    prompts.answers = {Answer::Cancel};
-    EXPECT_FALSE(Write());
-    EXPECT_EQ(prompts.messages.at(0).prompt, "<104>\r\n日本");
-}
-
-TEST_F(LibraryFilesTest, LibraryWithoutGroupsLeavesTheFileWithBackupsOff) {
+TEST_F(LibraryFilesTest, BackingUpMovesTheFileOrSaysThatItCouldNot) {
     library.NewMainNode("Lib");
-    settings.createBackups = false;
-    files.contents[kFile] = "old";
-    EXPECT_FALSE(Write());
-    EXPECT_EQ(files.contents.at(kFile), "old");
-    EXPECT_EQ(prompts.messages.size(), 1U);
+    const SaveTarget target{.fileName = kFile, .mainKey = "0D", .unknown = UnknownContent::GivenUp};
+    EXPECT_EQ(libraryFiles.BackUp(target), "") << "there was nothing to keep";
+    files.contents[kFile] = kContent;
+    EXPECT_EQ(libraryFiles.BackUp(target), "");
+    EXPECT_EQ(files.contents.count(kFile), 0U);
+    files.contents[kFile] = kContent;
+    files.FailAtStep(1, FakeFiles::FailureKind::FromHereOn);
+    EXPECT_EQ(libraryFiles.BackUp(target), std::nullopt);
+    EXPECT_EQ(files.contents.at(kFile), kContent);
 }
 
 } // namespace

@@ -72,9 +72,12 @@ TEST(LibraryTree, SelectionElsewhereStays) {
     EXPECT_EQ(tree.Selected(), "1D");
 }
 
-TEST(LibraryNode, KeyThatContainsGBelongsToAGroup) {
-    EXPECT_TRUE(IsGroupKey("0DG1"));
-    EXPECT_FALSE(IsGroupKey("12D"));
+TEST(LibraryTree, GroupsAreToldFromLibrariesAndFromWhatIsNotThere) {
+    const LibraryTree tree = TwoLibraries();
+    EXPECT_TRUE(tree.IsGroup("0DG1"));
+    EXPECT_FALSE(tree.IsGroup("0D"));
+    EXPECT_FALSE(tree.IsGroup("7DG1"));
+    EXPECT_FALSE(tree.IsGroup(""));
 }
 
 } // namespace

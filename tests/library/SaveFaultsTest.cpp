@@ -2,7 +2,6 @@
 // Nothing is lost when a save goes wrong: each step of it fails in turn, alone or together with
 // everything after it, or ends the process.
 
-#include "library/FileCommands.h"
 #include "library/SafeFileWriter.h"
 #include "tests/fakes/LibraryOnFakes.h"
 
@@ -33,7 +32,6 @@ struct Way {
 // A library that was opened and changed, one Save before its end.
 struct ChangedLibrary : LibraryOnFakes {
     explicit ChangedLibrary(const Way& way) {
-        commands.SetHost(commandsHost);
         settings.createBackups = way.backups;
         files.exchanges = way.exchange;
         files.contents[kFile] = kOld;
@@ -43,7 +41,7 @@ struct ChangedLibrary : LibraryOnFakes {
         commands.mnuFileOpen_Click();
         library.NewGroupNode("0D", "added");
         prompts.messages.clear();
-        commandsHost.status.clear();
+        view.infoPanels.clear();
     }
 
     // The content under the file's name, else the one under its backup's.
@@ -52,9 +50,6 @@ struct ChangedLibrary : LibraryOnFakes {
         return file == files.contents.end() ? files.contents.at(kBackup) : file->second;
     }
     [[nodiscard]] bool IsWhole() const { return Kept() == kOld || Kept() == kNew; }
-
-    FakeFileCommandsHost commandsHost;
-    FileCommands commands{{library, libraryFiles, settings, prompts, texts, codePage, "C:\\prog"}};
 };
 
 class SaveFaults : public testing::TestWithParam<Way> {
@@ -90,7 +85,7 @@ TEST_P(SaveFaults, EveryFailedStepIsToldOnceWithTheFilesName) {
     ForEachStep(FailureKind::Reported, [](const ChangedLibrary& changed) {
         EXPECT_EQ(changed.prompts.messages,
                   (std::vector<Message>{{"<4>C:\\lib\\a.tnt", 16, "<98>"}}));
-        EXPECT_TRUE(changed.commandsHost.status.empty());
+        EXPECT_TRUE(changed.view.infoPanels.empty());
     });
 }
 
@@ -104,7 +99,7 @@ TEST_P(SaveFaults, MediumThatGoesAwayLeavesTheOldContentUnderNameOrBackup) {
 
 TEST_P(SaveFaults, LibraryKeepsItsStateAndIsSavedWhenTheFaultIsGone) {
     ForEachStep(FailureKind::FromHereOn, [](ChangedLibrary& changed) {
-        EXPECT_EQ(changed.library.Tree().At("0D").tag, kFile);
+        EXPECT_EQ(changed.library.Tree().At("0D").file, kFile);
         EXPECT_EQ(changed.library.GetGroupInMainnode("0D").size(), 2U);
         changed.files.FailAtStep(0, FailureKind::Reported);
         changed.commands.mnuFileSave_Click();
@@ -211,7 +206,7 @@ TEST_P(SaveFaults, UnknownContentIsNotKeptTwiceByASaveThatFails) {
         EXPECT_EQ(changed.files.contents.at(kFile), kForeign);
         for (const auto& [path, content] : changed.files.contents)
             EXPECT_EQ(path.find("(kept"), std::string::npos) << "step " << step;
-        EXPECT_TRUE(changed.commandsHost.status.empty());
+        EXPECT_TRUE(changed.view.infoPanels.empty());
     }
 }
 

@@ -1,11 +1,7 @@
 // Rules: Editing commands
 #include "mainwindow/EditingCommands.h"
 
-#include "tests/fakes/FakeClipboard.h"
-#include "tests/fakes/FakeCollation.h"
-#include "tests/fakes/FakeMainView.h"
-#include "tests/fakes/FakePrompts.h"
-#include "tests/fakes/FakeTexts.h"
+#include "tests/fakes/LibraryOnFakes.h"
 
 #include <gtest/gtest.h>
 
@@ -15,10 +11,9 @@ using Names = std::vector<std::string>;
 
 // The libraries 0D with the groups "g" (colours a, b, c) and "h" (x), and 1D with "o" (y).  The
 // group "g" is shown, its colour a is selected.
-class DeleteByKey : public testing::Test {
+class DeleteByKey : public testing::Test, protected LibraryOnFakes {
 protected:
     DeleteByKey() {
-        library.SetHost(panes);
         editor.ShowInitialColor();
         library.NewMainNode("Lib");
         library.NewGroupNode("0D", "g");
@@ -28,7 +23,7 @@ protected:
         for (const auto& [group, name] :
              {std::pair{"0DG1", "a"}, std::pair{"0DG1", "b"}, std::pair{"0DG1", "c"},
               std::pair{"0DG2", "x"}, std::pair{"1DG1", "y"}})
-            library.NewColorNode(group, name);
+            library.NewColorNode(group, name, {});
         panes.NodeClicked("0DG1");
         panes.RowClicked(0);
     }
@@ -39,20 +34,6 @@ protected:
             names.push_back(library.Colors().At(index).name);
         return names;
     }
-
-    FakeMainView view;
-    FakePrompts prompts;
-    FakeTexts texts;
-    FakeCollation collation;
-    FakeClipboard clipboard;
-    Settings settings;
-    ColorLibrary library{prompts, texts};
-    ColorEditor editor{view, prompts, texts};
-    ColorList list{library, view, collation};
-    MainActivity activity;
-    LibraryPanes panes{
-        {.library = library, .tree = view, .list = list, .editor = editor, .activity = activity}};
-    EditingCommands editing{{library, list, panes, settings, clipboard, prompts, texts}};
 };
 
 TEST_F(DeleteByKey, RecordOfTheKeyGoesButTheSelectedRowLeavesTheList) {

@@ -1,10 +1,7 @@
 // Rules: Tree and list views
 #include "mainwindow/LibraryPanes.h"
 
-#include "tests/fakes/FakeCollation.h"
-#include "tests/fakes/FakeMainView.h"
-#include "tests/fakes/FakePrompts.h"
-#include "tests/fakes/FakeTexts.h"
+#include "tests/fakes/LibraryOnFakes.h"
 
 #include <gtest/gtest.h>
 
@@ -13,10 +10,9 @@ namespace {
 using Names = std::vector<std::string>;
 
 // A library with the groups "one" (colours b, A, c) and "two" (none).
-class LibraryPanesTest : public testing::Test {
+class LibraryPanesTest : public testing::Test, protected LibraryOnFakes {
 protected:
     LibraryPanesTest() {
-        library.SetHost(panes);
         library.Tree().Observe(&view);
         editor.ShowInitialColor();
         library.NewMainNode("Lib");
@@ -38,17 +34,6 @@ protected:
             names.push_back(list.CellText(row, 1));
         return names;
     }
-
-    FakeMainView view;
-    FakePrompts prompts;
-    FakeTexts texts;
-    FakeCollation collation;
-    ColorLibrary library{prompts, texts};
-    ColorEditor editor{view, prompts, texts};
-    ColorList list{library, view, collation};
-    MainActivity activity;
-    LibraryPanes panes{
-        {.library = library, .tree = view, .list = list, .editor = editor, .activity = activity}};
 };
 
 TEST_F(LibraryPanesTest, ClickedLibraryShowsTheColorsOfItsFirstGroup) {
@@ -78,7 +63,7 @@ TEST_F(LibraryPanesTest, ClickedColorIsRememberedAndSelectedWhenTheGroupIsShownA
     panes.NodeClicked("0DG1");
     panes.RowClicked(2);
     EXPECT_EQ(view.colorName, "c");
-    EXPECT_EQ(library.Tree().At("0DG1").tag, "0DG1E3");
+    EXPECT_EQ(library.Tree().At("0DG1").lastColor, "0DG1E3");
     panes.NodeClicked("0DG2");
     panes.NodeClicked("0DG1");
     EXPECT_EQ(view.selectedRow, 2);
@@ -86,14 +71,14 @@ TEST_F(LibraryPanesTest, ClickedColorIsRememberedAndSelectedWhenTheGroupIsShownA
 }
 
 TEST_F(LibraryPanesTest, RememberedColorThatIsGoneLeavesTheFirstSelected) {
-    library.Tree().SetTag("0DG1", "0DG1E99");
+    library.Tree().RememberColor("0DG1", "0DG1E99");
     panes.NodeClicked("0DG1");
     EXPECT_EQ(view.selectedRow, 0);
 }
 
 TEST_F(LibraryPanesTest, SelectKeyIsStoredInTheGroupAndSelected) {
     panes.ShowColorNodes("0DG1", "0DG1E2");
-    EXPECT_EQ(library.Tree().At("0DG1").tag, "0DG1E2");
+    EXPECT_EQ(library.Tree().At("0DG1").lastColor, "0DG1E2");
     EXPECT_EQ(view.selectedRow, 1);
 }
 
@@ -102,7 +87,7 @@ TEST_F(LibraryPanesTest, EmptyGroupEmptiesTheListAndTheEditorKeepsItsColor) {
     panes.NodeClicked("0DG2");
     EXPECT_EQ(view.rowCount, 0);
     EXPECT_EQ(view.colorName, "b");
-    EXPECT_EQ(panes.SelectedColorKey(), "");
+    EXPECT_EQ(list.SelectedKey(), "");
 }
 
 TEST_F(LibraryPanesTest, LibraryWithoutGroupsShowsAnEmptyList) {
@@ -112,21 +97,11 @@ TEST_F(LibraryPanesTest, LibraryWithoutGroupsShowsAnEmptyList) {
     EXPECT_EQ(view.rowCount, 0);
 }
 
-TEST_F(LibraryPanesTest, WithoutASelectedNodeANewLibraryIsAskedForAndTheListIsEmpty) {
+TEST_F(LibraryPanesTest, WithoutASelectedNodeTheListIsEmptyAndNothingIsAsked) {
     panes.NodeClicked("0DG1");
     ASSERT_EQ(view.rowCount, 3);
     library.Tree().Remove("0D");
-    panes.ShowColorNodes({}, {});
-    ASSERT_EQ(prompts.questions.size(), 1U);
-    EXPECT_EQ(prompts.questions[0].prompt, "<50>");
-    EXPECT_EQ(view.rowCount, 0);
-}
-
-TEST_F(LibraryPanesTest, RefreshAfterADeletionNeverAsks) {
-    panes.NodeClicked("0DG1");
-    ASSERT_EQ(view.rowCount, 3);
-    library.Tree().Remove("0D");
-    panes.ShowSelectedGroup();
+    panes.ShowColorNodes();
     EXPECT_TRUE(prompts.questions.empty());
     EXPECT_EQ(view.rowCount, 0);
 }
@@ -151,7 +126,7 @@ TEST_F(LibraryPanesTest, RenamedColorLeavesTheNameOfAnotherColorInTheEditor) {
 
 TEST_F(LibraryPanesTest, SelectKeyIsNotRememberedInAGroupWithoutColors) {
     panes.ShowColorNodes("0DG2", "0DG2E1");
-    EXPECT_EQ(library.Tree().At("0DG2").tag, "");
+    EXPECT_EQ(library.Tree().At("0DG2").file, std::nullopt);
 }
 
 TEST_F(LibraryPanesTest, UpdateWithATextThatIsNoNumberChangesNothing) {

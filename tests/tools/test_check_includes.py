@@ -71,6 +71,14 @@ class OwnHeaders(unittest.TestCase):
         self.assertEqual(faults("app/main.cpp", '#include "mainwindow/frmMain.h"',
                                 '#include "platform/Window.h"', '#include "common/Text.h"'), [])
 
+    def test_that_ask_or_show_are_closed_to_the_library(self):
+        for header in ("common/ports/Prompts.h", "common/ports/InfoTexts.h", "common/ShownProgress.h",
+                       "common/InfoTextNumber.h"):
+            with self.subTest(header):
+                self.assertEqual(len(faults("library/Library.cpp", f'#include "{header}"')), 1)
+                self.assertEqual(faults("mainwindow/Views.cpp", f'#include "{header}"'), [])
+        self.assertEqual(faults("library/Library.cpp", '#include "common/ports/Files.h"'), [])
+
     def test_of_the_toolkit_belong_to_the_form_and_its_panes(self):
         header = '#include "platform/Window.h"'
         self.assertEqual(faults("mainwindow/frmMain.h", header,

@@ -67,7 +67,7 @@ void MeasureOnce(BenchPlatform& platform, const std::string& path, Growth& growt
     MeasuredLibrary measured(platform);
     growth.load.Measure([&] { measured.libraryFiles.FileReadColorValues(path); });
     MeasureLookUps(measured.library, growth);
-    growth.newColor.Measure([&] { measured.library.NewColorNode("0DG1", "new"); });
+    growth.newColor.Measure([&] { measured.library.NewColorNode("0DG1", "new", {}); });
     MeasureDeleting(measured.library, growth);
 }
 

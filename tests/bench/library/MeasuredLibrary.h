@@ -1,11 +1,7 @@
 #pragma once
 
-#include "library/LibraryFiles.h"
 #include "tests/bench/library/BenchPlatform.h"
-#include "tests/fakes/FakeCalendarClock.h"
-#include "tests/fakes/FakeLibraryHost.h"
-#include "tests/fakes/FakePrompts.h"
-#include "tests/fakes/FakeTexts.h"
+#include "tests/fakes/LibrarySession.h"
 
 // A progress window that takes no time; counts what it is told.
 class NoProgress : public ProgressView {
@@ -18,23 +14,13 @@ public:
     long long calls = 0;
 };
 
-// The library as the program has it, on the platform's files.
-struct MeasuredLibrary {
-    explicit MeasuredLibrary(BenchPlatform& bench, ProgressView* shown = nullptr)
-        : platform(bench), libraryFiles(library, settings,
-                                        {platform.FileSystem(), platform.CodePage(), prompts, texts,
-                                         shown != nullptr ? *shown : progress, clock}) {
-        library.SetHost(host);
-        libraryFiles.SetHost(host);
-    }
+struct MeasuredProgress {
+    NoProgress noProgress;
+};
 
-    BenchPlatform& platform;
-    FakeCalendarClock clock;
-    FakePrompts prompts;
-    FakeTexts texts;
-    NoProgress progress;
-    FakeLibraryHost host;
-    Settings settings;
-    ColorLibrary library{prompts, texts};
-    LibraryFiles libraryFiles;
+// The library as the program has it, on the platform's files.
+struct MeasuredLibrary : MeasuredProgress, LibrarySession {
+    explicit MeasuredLibrary(BenchPlatform& bench, ProgressView* shown = nullptr)
+        : LibrarySession(bench.FileSystem(), bench.CodePage(),
+                         shown != nullptr ? shown : &noProgress) {}
 };

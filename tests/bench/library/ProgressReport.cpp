@@ -20,7 +20,7 @@ void MeasureProgress(BenchPlatform& platform, int colors, int repetitions) {
         (withWindow ? with : without).Measure([&] {
             library.libraryFiles.FileReadColorValues(file.Path());
         });
-        calls = withWindow ? calls : library.progress.calls;
+        calls = withWindow ? calls : library.noProgress.calls;
     };
     for (int repetition = 0; repetition <= repetitions; ++repetition) {
         load(repetition % 2 == 0);

@@ -1,16 +1,20 @@
-#include "library/FileCommands.h"
+#include "mainwindow/FileCommands.h"
 
 #include "common/FileNames.h"
 #include "common/InfoTextNumber.h"
 #include "common/RuntimeError.h"
 #include "common/Text.h"
-#include "common/ValueRestorer.h"
 
 #include <exception>
 
 namespace {
 
 constexpr const char* kLibraryExtension = ".tnt";
+
+// Letters of A to Z count in either case.
+bool IsSameFile(const std::string& path, const std::string& other) {
+    return ToLowerAscii(path) == ToLowerAscii(other);
+}
 
 } // namespace
 
@@ -23,10 +27,6 @@ FileDialogRequest FileCommands::Request(unsigned flags) const {
             Text(InfoTextNumber::ColorLibraries) + "|*.tnt|" + Text(InfoTextNumber::AllFiles) +
                 "|*.*",
             dialogFileName_, flags};
-}
-
-void FileCommands::mnuFileNew_Click() {
-    parts_.library.NewMainNode();
 }
 
 void FileCommands::mnuFileOpen_Click() {
@@ -59,7 +59,7 @@ bool FileCommands::OpenLibrary(const std::string& path) {
         TellOpenFailed(path);
         return false;
     }
-    host_->ShowStatus("Okay " + FileNamePart(path));
+    parts_.bars.SetInfoPanelText("Okay " + FileNamePart(path));
     return true;
 }
 
@@ -86,31 +86,32 @@ void FileCommands::mnuFileSave_Click() {
     const std::string mainKey = parts_.library.GetActiveMainnode();
     if (mainKey.empty())
         return;
-    const std::string path = parts_.library.Tree().At(mainKey).tag;
-    if (path == kUnsavedTag) {
+    const std::optional<std::string> path = parts_.library.Tree().At(mainKey).file;
+    if (!path) {
         mnuFileSaveAs_Click();
         return;
     }
     // What is told, and what the library's file is then, comes from the dialog and not from the
     // file that is written, on purpose: after another file was opened, the library is re-targeted
     // to the dialog's file.  A dialog that has had no file yet has no say.
-    SaveTo({path, dialogFileName_.empty() ? path : dialogFileName_, UnknownContent::Kept}, mainKey);
+    SaveTo({*path, dialogFileName_.empty() ? *path : dialogFileName_, UnknownContent::Kept},
+           mainKey);
 }
 
 void FileCommands::mnuFileSaveAs_Click() {
     const std::string mainKey = parts_.library.GetActiveMainnode();
     if (mainKey.empty())
         return;
-    const std::string tag = parts_.library.Tree().At(mainKey).tag;
+    const LibraryNode& library = parts_.library.Tree().At(mainKey);
     FileDialogRequest request = Request(FileDialogFlags::SaveAs);
-    request.fileName = tag == kUnsavedTag ? parts_.programFolder + "\\newtnt.tnt" : tag;
+    request.fileName = library.file.value_or(parts_.programFolder + "\\newtnt.tnt");
     const auto path = parts_.prompts.AskSaveFile(request);
     if (!path)
         return;
     // The dialog has asked whether another file is to be replaced; of its own file the user cannot
     // know that it has something in it which the library has not.
     const bool isOwnFile =
-        ToLowerAscii(*path) == ToLowerAscii(tag) || parts_.files.IsSource(*path, mainKey);
+        IsSameFile(*path, library.file.value_or("")) || IsSameFile(*path, library.source);
     if (SaveTo({*path, *path, isOwnFile ? UnknownContent::Kept : UnknownContent::GivenUp}, mainKey))
         dialogFileName_ = *path;
 }
@@ -119,7 +120,7 @@ bool FileCommands::SaveTo(const SaveTarget& target, const std::string& mainKey) 
     const WriteResult result =
         parts_.files.FileWriteColorValues(target.path, mainKey, target.unknown);
     if (result.isWritten)
-        parts_.library.Tree().SetTag(mainKey, target.nextPath);
+        parts_.library.Tree().SetFile(mainKey, target.nextPath);
     ShowSaved(result.isWritten ? "Okay " + FileNamePart(target.nextPath) : "", result.keptPath);
     if (!result.isWritten)
         parts_.prompts.ShowMessage(Text(InfoTextNumber::SaveFailed) + target.nextPath,
@@ -133,12 +134,11 @@ void FileCommands::ShowSaved(const std::string& outcome, const std::string& kept
         status += (status.empty() ? "" : "  -  ") + Text(InfoTextNumber::EarlierContentKept) + " " +
                   FileNamePart(keptPath);
     if (!status.empty())
-        host_->ShowStatus(status);
+        parts_.bars.SetInfoPanelText(status);
 }
 
 void FileCommands::mnuFileClose_Click() {
-    const ValueRestorer withoutAsking(parts_.settings.confirmDel, false);
-    host_->DeleteSelectedNode();
+    parts_.editing.DeleteSelectedNode(EditingCommands::Confirmation::None);
 }
 
 void FileCommands::mnuFileCancelAutoload_Click() {

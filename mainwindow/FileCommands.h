@@ -5,22 +5,13 @@
 #include "common/ports/InfoTexts.h"
 #include "common/ports/Prompts.h"
 #include "library/ColorLibrary.h"
-#include "library/LibraryFiles.h"
+#include "mainwindow/BarsPane.h"
+#include "mainwindow/EditingCommands.h"
+#include "mainwindow/NewNodes.h"
+#include "mainwindow/ShownLibraryFiles.h"
 
 #include <string>
 #include <vector>
-
-// What the file commands ask of the main window.
-class FileCommandsHost {
-public:
-    virtual ~FileCommandsHost() = default;
-
-    // The status bar's first panel.
-    virtual void ShowStatus(const std::string& text) = 0;
-
-    // The delete command without a node argument: removes the selected tree node.
-    virtual void DeleteSelectedNode() = 0;
-};
 
 // The file menu but for Quit.  One file dialog serves Open and Save As and keeps the name of the
 // last file that it has opened or saved; a failure and a dropped file leave that name.
@@ -28,7 +19,10 @@ class FileCommands {
 public:
     struct Parts {
         ColorLibrary& library;
-        LibraryFiles& files;
+        ShownLibraryFiles& files;
+        NewNodes& newNodes;
+        EditingCommands& editing;
+        BarsPane& bars;
         Settings& settings;
         Prompts& prompts;
         InfoTexts& texts;
@@ -38,10 +32,7 @@ public:
 
     explicit FileCommands(Parts parts) : parts_(std::move(parts)) {}
 
-    // Must be called before any other operation.
-    void SetHost(FileCommandsHost& host) noexcept { host_ = &host; }
-
-    void mnuFileNew_Click();
+    void mnuFileNew_Click() { parts_.newNodes.NewMainNode(); }
     void mnuFileOpen_Click();
     // Files dropped onto the window: each library file opens as with Open, one that was dropped
     // alone also with the question about every start; files with another extension are left alone.
@@ -71,6 +62,5 @@ private:
     void ShowSaved(const std::string& outcome, const std::string& keptPath);
 
     Parts parts_;
-    FileCommandsHost* host_ = nullptr;
     std::string dialogFileName_;
 };

@@ -1,18 +1,11 @@
 // Rules: File commands
-#include "library/FileCommands.h"
+#include "mainwindow/FileCommands.h"
 
 #include "common/RuntimeError.h"
 
-#include "tests/fakes/FakeCalendarClock.h"
-#include "tests/fakes/FakeCodePage.h"
-#include "tests/fakes/FakeFiles.h"
-#include "tests/fakes/FakeLibraryHost.h"
-#include "tests/fakes/FakeProgress.h"
-#include "tests/fakes/FakePrompts.h"
-#include "tests/fakes/FakeTexts.h"
+#include "tests/fakes/LibraryOnFakes.h"
 
 #include <gtest/gtest.h>
-#include <stdexcept>
 
 namespace {
 
@@ -22,14 +15,12 @@ constexpr const char* kA = "C:\\lib\\a.tnt";
 constexpr const char* kB = "C:\\lib\\b.tnt";
 constexpr const char* kContent = "\"D#Lib=0D:1\"\r\n\"G#g=0DG1\"\r\n";
 
-class FileCommandsTest : public testing::Test {
+class FileCommandsTest : public testing::Test, protected LibraryOnFakes {
 protected:
     FileCommandsTest() {
-        library.SetHost(libraryHost);
-        libraryFiles.SetHost(libraryHost);
-        commands.SetHost(host);
         files.contents[kA] = kContent;
         files.contents[kB] = kContent;
+        editor.ShowInitialColor();
     }
 
     void Open(const std::string& path, Answer autoload = Answer::No) {
@@ -37,20 +28,6 @@ protected:
         prompts.answers.push_back(autoload);
         commands.mnuFileOpen_Click();
     }
-
-    FakePrompts prompts;
-    FakeTexts texts;
-    FakeFiles files;
-    FakeProgress progress;
-    FakeLibraryHost libraryHost;
-    FakeFileCommandsHost host;
-    Settings settings;
-    FakeCodePage codePage = FakeCodePage::Western();
-    ColorLibrary library{prompts, texts};
-    FakeCalendarClock clock;
-    LibraryFiles libraryFiles{
-        library, settings, {files, codePage, prompts, texts, progress, clock}};
-    FileCommands commands{{library, libraryFiles, settings, prompts, texts, codePage, "C:\\prog"}};
 };
 
 TEST_F(FileCommandsTest, OpenAsksWithTitleFilterAndFlags) {
@@ -63,7 +40,7 @@ TEST_F(FileCommandsTest, OpenAsksWithTitleFilterAndFlags) {
 
 TEST_F(FileCommandsTest, SeveralDroppedLibrariesOpenInTheirOrderWithoutAQuestion) {
     commands.OpenDropped({kB, kA});
-    EXPECT_EQ(host.status, (std::vector<std::string>{"Okay b.tnt", "Okay a.tnt"}));
+    EXPECT_EQ(view.infoPanels, (std::vector<std::string>{"Okay b.tnt", "Okay a.tnt"}));
     EXPECT_TRUE(prompts.messages.empty());
     EXPECT_TRUE(prompts.fileRequests.empty());
 }
@@ -77,7 +54,7 @@ TEST_F(FileCommandsTest, LibraryThatIsDroppedAloneOpensWithTheQuestionAboutEvery
 
 TEST_F(FileCommandsTest, LibraryThatIsDroppedWithAFileOfAnotherKindOpensWithoutAQuestion) {
     commands.OpenDropped({"C:\\lib\\a.txt", kA});
-    EXPECT_EQ(host.status, std::vector<std::string>{"Okay a.tnt"});
+    EXPECT_EQ(view.infoPanels, std::vector<std::string>{"Okay a.tnt"});
     EXPECT_TRUE(prompts.messages.empty());
 }
 
@@ -88,7 +65,7 @@ TEST_F(FileCommandsTest, DroppedLibraryWithAnErrorLetsTheOthersOpen) {
         color += "\xF7" + std::to_string(value);
     files.contents[kB] += color + "\"\r\n";
     EXPECT_THROW(commands.OpenDropped({kB, kA}), RuntimeError);
-    EXPECT_EQ(host.status, std::vector<std::string>{"Okay a.tnt"});
+    EXPECT_EQ(view.infoPanels, std::vector<std::string>{"Okay a.tnt"});
 }
 
 TEST_F(FileCommandsTest, PathThatTheSettingsCannotHoldIsNotLoadedAtEveryStartAndTheUserIsTold) {
@@ -107,12 +84,12 @@ TEST_F(FileCommandsTest, DroppedFilesOfOtherKindsAreLeftAlone) {
     files.contents["C:\\lib\\tnt"] = kContent;
     files.contents["C:\\lib\\c.TNT"] = kContent;
     commands.OpenDropped({"C:\\lib\\a.txt", "C:\\lib\\tnt", "C:\\lib\\c.TNT", ""});
-    EXPECT_EQ(host.status, std::vector<std::string>{"Okay c.TNT"});
+    EXPECT_EQ(view.infoPanels, std::vector<std::string>{"Okay c.TNT"});
 }
 
 TEST_F(FileCommandsTest, OpenShowsTheFilesNameAndAsksWhetherToLoadItAtEveryStart) {
     Open(kA, Answer::Yes);
-    EXPECT_EQ(host.status, std::vector<std::string>{"Okay a.tnt"});
+    EXPECT_EQ(view.infoPanels, std::vector<std::string>{"Okay a.tnt"});
     EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<24>\r\nC:\\lib\\a.tnt", 36, "<21>"}}));
     EXPECT_EQ(settings.defaultColorFile, kA);
 }
@@ -135,7 +112,7 @@ TEST_F(FileCommandsTest, InvalidFileGivesTwoMessages) {
     Open(kA);
     EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<5> C:\\lib\\a.tnt", 48, "<98>"},
                                                       {"<6>C:\\lib\\a.tnt", 16, "<98>"}}));
-    EXPECT_TRUE(host.status.empty());
+    EXPECT_TRUE(view.infoPanels.empty());
 }
 
 TEST_F(FileCommandsTest, SaveWithoutALibraryDoesNothing) {
@@ -151,7 +128,7 @@ TEST_F(FileCommandsTest, SaveWritesToTheLibrarysFileAndKeepsABackup) {
     commands.mnuFileSave_Click();
     EXPECT_NE(files.contents.at(kA).find("renamed"), std::string::npos);
     EXPECT_EQ(files.contents.at(std::string(kA) + ".bak"), kContent);
-    EXPECT_EQ(host.status.back(), "Okay a.tnt");
+    EXPECT_EQ(view.infoPanels.back(), "Okay a.tnt");
 }
 
 TEST_F(FileCommandsTest, SaveRetargetsTheLibraryToTheDialogsFile) {
@@ -159,8 +136,8 @@ TEST_F(FileCommandsTest, SaveRetargetsTheLibraryToTheDialogsFile) {
     Open(kB);
     library.Tree().Select("0D");
     commands.mnuFileSave_Click();
-    EXPECT_EQ(library.Tree().At("0D").tag, kB) << "the dialog's file, not the one just written";
-    EXPECT_EQ(host.status.back(), "Okay b.tnt");
+    EXPECT_EQ(library.Tree().At("0D").file, kB) << "the dialog's file, not the one just written";
+    EXPECT_EQ(view.infoPanels.back(), "Okay b.tnt");
     EXPECT_EQ(files.contents.at(kB), kContent) << "written was the library's own file";
     EXPECT_TRUE(files.contents.contains(std::string(kA) + ".bak"));
 }
@@ -173,9 +150,9 @@ TEST_F(FileCommandsTest, SaveOfANewLibraryIsSaveAsInTheProgramsFolder) {
     ASSERT_EQ(prompts.fileRequests.size(), 1U);
     EXPECT_EQ(prompts.fileRequests[0].fileName, "C:\\prog\\newtnt.tnt");
     EXPECT_EQ(prompts.fileRequests[0].flags, 0x8806U);
-    EXPECT_EQ(library.Tree().At("0D").tag, "C:\\lib\\new.tnt");
+    EXPECT_EQ(library.Tree().At("0D").file, "C:\\lib\\new.tnt");
     EXPECT_EQ(library.Tree().At("0D").text, "Lib") << "saving does not rename a library";
-    EXPECT_EQ(host.status.back(), "Okay new.tnt");
+    EXPECT_EQ(view.infoPanels.back(), "Okay new.tnt");
 }
 
 TEST_F(FileCommandsTest, SaveAsPresetsTheLibrarysFile) {
@@ -200,7 +177,7 @@ TEST_F(FileCommandsTest, FailedSaveNamesTheDialogsFileAndKeepsTheTag) {
     prompts.messages.clear();
     commands.mnuFileSave_Click();
     EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<4>C:\\lib\\a.tnt", 16, "<98>"}}));
-    EXPECT_EQ(library.Tree().At("0D").tag, kA);
+    EXPECT_EQ(library.Tree().At("0D").file, kA);
     EXPECT_EQ(files.contents.at(kA), kContent);
 }
 
@@ -208,12 +185,12 @@ TEST_F(FileCommandsTest, FailedSaveAsTellsTheChosenFileAndKeepsTheOldTarget) {
     Open(kA);
     files.locked[kB] = true;
     prompts.messages.clear();
-    host.status.clear();
+    view.infoPanels.clear();
     prompts.chosenFiles.emplace_back(kB);
     commands.mnuFileSaveAs_Click();
     EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<4>C:\\lib\\b.tnt", 16, "<98>"}}));
-    EXPECT_EQ(library.Tree().At("0D").tag, kA);
-    EXPECT_TRUE(host.status.empty());
+    EXPECT_EQ(library.Tree().At("0D").file, kA);
+    EXPECT_TRUE(view.infoPanels.empty());
     EXPECT_EQ(files.contents.at(kB), kContent);
 }
 
@@ -224,7 +201,7 @@ TEST_F(FileCommandsTest, FailedSaveAsOfANewLibraryLeavesItUnsaved) {
     prompts.chosenFiles.emplace_back("C:\\lib\\new.tnt");
     commands.mnuFileSaveAs_Click();
     EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<4>C:\\lib\\new.tnt", 16, "<98>"}}));
-    EXPECT_EQ(library.Tree().At("0D").tag, "unsaved");
+    EXPECT_EQ(library.Tree().At("0D").file, std::nullopt);
     EXPECT_FALSE(files.contents.contains("C:\\lib\\new.tnt"));
     commands.mnuFileSave_Click();
     EXPECT_EQ(prompts.fileRequests.back().fileName, "C:\\prog\\newtnt.tnt")
@@ -252,8 +229,8 @@ TEST_F(FileCommandsTest, FailedOpenLeavesTheDialogsFileSoThatSaveStaysRight) {
     Open("C:\\lib\\gone.tnt");
     EXPECT_EQ(commands.DialogFileName(), kA);
     commands.mnuFileSave_Click();
-    EXPECT_EQ(library.Tree().At("0D").tag, kA);
-    EXPECT_EQ(host.status.back(), "Okay a.tnt");
+    EXPECT_EQ(library.Tree().At("0D").file, kA);
+    EXPECT_EQ(view.infoPanels.back(), "Okay a.tnt");
     EXPECT_EQ(files.contents.at(kB), "rubbish");
 }
 
@@ -274,15 +251,15 @@ TEST_F(FileCommandsTest, DroppedFilesLeaveTheDialogsFile) {
     EXPECT_EQ(commands.DialogFileName(), kA);
     library.Tree().Select("0D");
     commands.mnuFileSave_Click();
-    EXPECT_EQ(library.Tree().At("0D").tag, kA);
+    EXPECT_EQ(library.Tree().At("0D").file, kA);
 }
 
 TEST_F(FileCommandsTest, DroppedLibraryKeepsItsFileWhileTheDialogHasHadNone) {
     commands.OpenDropped({kA});
     for (int save = 1; save <= 2; ++save) {
         commands.mnuFileSave_Click();
-        EXPECT_EQ(library.Tree().At("0D").tag, kA);
-        EXPECT_EQ(host.status.back(), "Okay a.tnt");
+        EXPECT_EQ(library.Tree().At("0D").file, kA);
+        EXPECT_EQ(view.infoPanels.back(), "Okay a.tnt");
     }
 }
 
@@ -315,7 +292,7 @@ TEST_F(FileCommandsTest, SaveAsOntoAnExistingFileKeepsItsContentUnderBak) {
     EXPECT_EQ(files.contents.at(std::string(kB) + ".bak"), other);
     EXPECT_EQ(files.contents.at(kA), kContent);
     EXPECT_FALSE(files.contents.contains(std::string(kA) + ".bak"));
-    EXPECT_EQ(library.Tree().At("0D").tag, kB);
+    EXPECT_EQ(library.Tree().At("0D").file, kB);
 }
 
 TEST_F(FileCommandsTest, FailedSaveNamesTheDialogsFileAlsoWhenTheLibraryHasAnother) {
@@ -326,7 +303,7 @@ TEST_F(FileCommandsTest, FailedSaveNamesTheDialogsFileAlsoWhenTheLibraryHasAnoth
     prompts.messages.clear();
     commands.mnuFileSave_Click();
     EXPECT_EQ(prompts.messages, (std::vector<Message>{{"<4>C:\\lib\\b.tnt", 16, "<98>"}}));
-    EXPECT_EQ(library.Tree().At("0D").tag, kA);
+    EXPECT_EQ(library.Tree().At("0D").file, kA);
 }
 
 TEST_F(FileCommandsTest, RefusedLossOfCharactersIsAFailedSaveThatWritesNothing) {
@@ -344,24 +321,23 @@ TEST_F(FileCommandsTest, RefusedLossOfCharactersIsAFailedSaveThatWritesNothing) 
 
 TEST_F(FileCommandsTest, LibraryWithoutGroupsCountsAsAFailedSave) {
     library.NewMainNode("Lib");
-    library.Tree().SetTag("0D", "C:\\lib\\c.tnt");
+    library.Tree().SetFile("0D", "C:\\lib\\c.tnt");
     commands.mnuFileSave_Click();
     EXPECT_EQ(prompts.messages,
               (std::vector<Message>{{"<103>", 64, "<30>"}, {"<4>C:\\lib\\c.tnt", 16, "<98>"}}));
 }
 
-TEST_F(FileCommandsTest, CloseDoesNotAskAndRestoresConfirmDel) {
-    bool during = true;
-    host.onDelete = [&] { during = settings.confirmDel; };
+TEST_F(FileCommandsTest, CloseTakesTheSelectedNodeWithoutAQuestionAndLeavesTheSetting) {
+    Open(kA);
+    Open(kB);
+    prompts.messages.clear();
+    library.Tree().Select("1DG1");
     commands.mnuFileClose_Click();
-    EXPECT_EQ(host.deletions, 1);
-    EXPECT_FALSE(during);
-    EXPECT_TRUE(settings.confirmDel);
-}
-
-TEST_F(FileCommandsTest, CloseRestoresConfirmDelAlsoWhenSomethingFails) {
-    host.onDelete = [] { throw std::runtime_error("failed"); };
-    EXPECT_THROW(commands.mnuFileClose_Click(), std::runtime_error);
+    EXPECT_TRUE(library.GetGroupInMainnode("1D").empty()) << "a group goes alone";
+    library.Tree().Select("0D");
+    commands.mnuFileClose_Click();
+    EXPECT_EQ(library.Tree().MainNodes(), std::vector<std::string>{"1D"});
+    EXPECT_TRUE(prompts.messages.empty());
     EXPECT_TRUE(settings.confirmDel);
 }
 
@@ -386,7 +362,7 @@ TEST_F(FileCommandsTest, AutoloadIsSilentAndStartsTheDialogWithItsFile) {
     commands.Autoload();
     EXPECT_TRUE(prompts.messages.empty());
     commands.mnuFileSave_Click();
-    EXPECT_EQ(library.Tree().At("0D").tag, kA);
+    EXPECT_EQ(library.Tree().At("0D").file, kA);
 }
 
 TEST_F(FileCommandsTest, AutoloadOfAMissingFileLeavesAnEmptyTreeAndNoMessage) {

@@ -1,0 +1,71 @@
+#include "library/LibraryReader.h"
+
+#include "library/LibraryFileFormat.h"
+
+#include <optional>
+
+bool LibraryReader::Read(WorkProgress& progress) {
+    if (!ReadHeader(progress))
+        return false;
+    const std::string separator = LibraryFileFormat::FieldSeparator(codePage_);
+    std::int32_t lineNumber = 0;
+    bool complete = true;
+    while (complete) {
+        const std::optional<std::string_view> line = lines_.Next();
+        if (!line)
+            break;
+        complete = ReadRecord(*line, separator);
+        progress.Reaches(++lineNumber);
+    }
+    return complete;
+}
+
+bool LibraryReader::ReadHeader(WorkProgress& progress) {
+    using namespace LibraryFileFormat;
+    const std::string_view line = lines_.Next().value_or("");
+    const auto header = ParseHeader(WithoutFirstCharacter(line));
+    if (!header)
+        return false;
+    Hold(IsHeaderTakenWhole(line));
+    progress.Starts(header->count);
+    mainKey_ = library_.NewMainNode(header->name);
+    library_.Tree().SetFile(mainKey_, fileName_);
+    library_.Tree().SetSource(mainKey_, fileName_);
+    return true;
+}
+
+bool LibraryReader::ReadRecord(std::string_view line, std::string_view separator) {
+    const std::string_view record = LibraryFileFormat::WithoutQuotes(line);
+    if (record.starts_with("G#"))
+        return ReadGroup(line);
+    if (record.starts_with("E#"))
+        return ReadColor(line, separator);
+    Hold(line.empty());
+    return true;
+}
+
+bool LibraryReader::ReadGroup(std::string_view line) {
+    const auto group = LibraryFileFormat::ParseGroup(LibraryFileFormat::WithoutQuotes(line));
+    if (!group)
+        return false;
+    Hold(LibraryFileFormat::IsGroupTakenWhole(line));
+    const std::string key = library_.NewGroupNode(mainKey_, group->name);
+    // The first group with a key keeps it, as the first match in a list would.
+    groups_.try_emplace(group->key, library_.Colors().NumberOfGroup(key));
+    return true;
+}
+
+bool LibraryReader::ReadColor(std::string_view line, std::string_view separator) {
+    using namespace LibraryFileFormat;
+    ++colorNumber_;
+    const auto color = ParseColor(WithoutQuotes(line), separator);
+    if (!color)
+        return false;
+    const auto group = groups_.find(color->groupKey);
+    if (group == groups_.end())
+        return false;
+    library_.Colors().Append(group->second, colorNumber_, std::string(color->name), color->altName,
+                             ValuesOf(*color));
+    Hold(IsColorTakenWhole(line, *color));
+    return true;
+}
