@@ -34,7 +34,7 @@ MainWindow::~MainWindow() {
 
 void MainWindow::SetFormDefaults() {
     PlaceWindow();
-    ApplyLanguage();
+    parts_.commands.options.ApplyLanguage();
     if (parts_.settings.alwaysOnTop)
         parts_.commands.options.mnuOptionsAlwaysOnTop_Click();
     parts_.commands.options.ShowConfirmDelAndCreateBackups();
@@ -53,14 +53,6 @@ void MainWindow::PlaceWindow() {
     position_.SetSubKey(ProgramNames::FormPositionsKey);
     if (!position_.RestoreForm(true))
         position_.CenterForm();
-}
-
-// Any other number leaves every text as it is built in.
-void MainWindow::ApplyLanguage() {
-    if (parts_.settings.language == 0)
-        parts_.commands.options.mnuOptionsLngGerman_Click();
-    else if (parts_.settings.language == 1)
-        parts_.commands.options.mnuOptionsLngEnglish_Click();
 }
 
 void MainWindow::RunCommand(int command) {

@@ -55,7 +55,6 @@ private:
     void ForgetStatus();
     void EndAfterOperation();
     void PlaceWindow();
-    void ApplyLanguage();
     [[nodiscard]] MainActivity& Activity() noexcept { return parts_.panes.activity; }
 
     Parts parts_;

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
 namespace {
 
@@ -17,17 +16,17 @@ constexpr int kFirstEmission = 10;
 constexpr std::ptrdiff_t kFirstMaterialValue = 3;
 
 struct RefusalText {
-    std::string_view resultKey;
+    ResultKind kind;
     std::int32_t textNumber;
 };
 
 constexpr std::array kRefusalTexts = {
-    RefusalText{ResultKey::NoSolidWorksFound, InfoTextNumber::NoSolidWorks},
-    RefusalText{ResultKey::NoActiveDocument, InfoTextNumber::NoActiveDocument},
-    RefusalText{ResultKey::NoPartOrAssembly, InfoTextNumber::NoPartOrAssembly},
-    RefusalText{ResultKey::NoRequiredSWAPI, InfoTextNumber::RevisionTooLow},
-    RefusalText{ResultKey::NoPart, InfoTextNumber::NoPart},
-    RefusalText{ResultKey::NoAssembly, InfoTextNumber::NoAssembly},
+    RefusalText{ResultKind::NoSolidWorks, InfoTextNumber::NoSolidWorks},
+    RefusalText{ResultKind::NoActiveDocument, InfoTextNumber::NoActiveDocument},
+    RefusalText{ResultKind::NoPartOrAssembly, InfoTextNumber::NoPartOrAssembly},
+    RefusalText{ResultKind::RevisionTooLow, InfoTextNumber::RevisionTooLow},
+    RefusalText{ResultKind::NoPart, InfoTextNumber::NoPart},
+    RefusalText{ResultKind::NoAssembly, InfoTextNumber::NoAssembly},
 };
 
 // The material values come from the editor; the emission tells the place in the table, on purpose,
@@ -53,7 +52,7 @@ void SolidWorksCommands::ShowMessage(const std::string& text) {
 }
 
 bool SolidWorksCommands::ReportRefusal(const std::string& resultKey) {
-    const auto refusal = std::ranges::find(kRefusalTexts, resultKey, &RefusalText::resultKey);
+    const auto refusal = std::ranges::find(kRefusalTexts, KindOfResult(resultKey), &RefusalText::kind);
     if (refusal == kRefusalTexts.end())
         return false;
     ShowMessage(parts_.texts.GetInfoText(refusal->textNumber));
@@ -61,7 +60,7 @@ bool SolidWorksCommands::ReportRefusal(const std::string& resultKey) {
 }
 
 void SolidWorksCommands::Report(const std::string& resultKey) {
-    if (resultKey == ResultKey::Okay)
+    if (KindOfResult(resultKey) == ResultKind::Okay)
         parts_.bars.SetInfoPanelText(kStatusOkay);
     else if (!ReportRefusal(resultKey))
         ShowMessage(resultKey);
@@ -129,7 +128,7 @@ void SolidWorksCommands::mnuSWXGetStandardColor_Click() {
     const std::string result = parts_.tools.SWXGetStandardColors(colors);
     if (ReportRefusal(result) || parts_.activity.endRequested)
         return;
-    const bool isStopped = result == ResultKey::ProgressStopped;
+    const bool isStopped = KindOfResult(result) == ResultKind::Stopped;
     if (tree.Selected() != selected && tree.Find(selected))
         tree.Select(selected);
     if (!isStopped || !colors.empty())

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 // What the operations of modSldTools return.
 namespace ResultKey {
 inline constexpr const char* Okay = "okay";
@@ -21,3 +23,18 @@ inline constexpr const char* NoValidSelection = "NoValidSelection: ";
 inline constexpr const char* NoValidSelectionNoObject = "NoValidSelection:"; // no blank, on purpose
 inline constexpr const char* NoColorValueFound = "NoColorValueFound: ";
 } // namespace ResultKey
+
+// What a result key means to the one who asked for the operation.
+enum class ResultKind {
+    Okay,
+    NoSolidWorks,
+    NoActiveDocument,
+    NoPartOrAssembly,
+    RevisionTooLow,
+    NoPart,
+    NoAssembly,
+    Stopped, // by the user
+    Other,   // the success of an operation with a key of its own, or a report as it is
+};
+
+[[nodiscard]] ResultKind KindOfResult(std::string_view resultKey);

@@ -1,7 +1,7 @@
 #include "support/language/Localisation.h"
 
 #include "common/RuntimeError.h"
-#include "support/language/LanguageCodes.h"
+#include "support/language/Languages.h"
 
 void Localisation::Choose(std::int32_t number) {
     const std::string code = LanguageCodeOrNone(number);

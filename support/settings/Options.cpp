@@ -4,18 +4,25 @@
 #include "support/settings/modWindowsHandling.h"
 
 void Options::mnuOptionsLngGerman_Click() {
-    ChooseLanguage(0, IDM_mnuOptionsLngGerman, IDM_mnuOptionsLngEnglish);
+    Choose(*FindLanguage(LanguageNumber::German));
 }
 
 void Options::mnuOptionsLngEnglish_Click() {
-    ChooseLanguage(1, IDM_mnuOptionsLngEnglish, IDM_mnuOptionsLngGerman);
+    Choose(*FindLanguage(LanguageNumber::English));
 }
 
-void Options::ChooseLanguage(std::int16_t number, int chosenEntry, int otherEntry) {
-    parts_.settings.language = number;
-    SetMark(otherEntry, false);
-    SetMark(chosenEntry, true);
-    parts_.localisation.Choose(number);
+void Options::ApplyLanguage() {
+    if (const Language* language = FindLanguage(parts_.settings.language))
+        Choose(*language);
+}
+
+void Options::Choose(const Language& chosen) {
+    parts_.settings.language = chosen.number;
+    for (const Language& language : kLanguages)
+        if (language.number != chosen.number)
+            SetMark(language.command, false);
+    SetMark(chosen.command, true);
+    parts_.localisation.Choose(chosen.number);
 }
 
 void Options::mnuOptionsConfirmDel_Click() {

@@ -3,6 +3,7 @@
 #include "common/Settings.h"
 #include "common/ports/FormWindow.h"
 #include "common/ports/MenuMarks.h"
+#include "support/language/Languages.h"
 #include "support/language/Localisation.h"
 
 #include <functional>
@@ -29,11 +30,15 @@ public:
     void mnuOptionsAlwaysOnTop_Click();
     void mnuOptionsSaveSettings_Click() const;
 
+    // Start-up: the language of the settings.  A number without one leaves every text as it is
+    // built in.
+    void ApplyLanguage();
+
     // Start-up: the marks of the two entries that no command sets then.
     void ShowConfirmDelAndCreateBackups();
 
 private:
-    void ChooseLanguage(std::int16_t number, int chosenEntry, int otherEntry);
+    void Choose(const Language& chosen);
     bool ToggleMark(int entry);
     void SetMark(int entry, bool checked);
 

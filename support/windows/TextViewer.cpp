@@ -1,6 +1,6 @@
 #include "support/windows/TextViewer.h"
 
-#include "support/language/LanguageCodes.h"
+#include "support/language/Languages.h"
 
 #include <algorithm>
 #include <vector>

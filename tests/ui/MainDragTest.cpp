@@ -1,5 +1,6 @@
 // Rules: Editing commands
 #include "platform/DragCursor.h"
+#include "tests/fakes/LibraryNodes.h"
 #include "tests/ui/MainFormTest.h"
 
 #include <algorithm>
@@ -26,9 +27,9 @@ protected:
         view.list.AddColumns({{"Name", "Name", 1500}});
         view.list.SetListViewMode(ListViewMode::Details);
         view.list.RowsChanged(10);
-        view.tree.NodeAdded({"1D", "Materialien", "Colfile", "unsaved", "", {}});
-        view.tree.NodeAdded({"1DG1", "Metalle", "Palette", "", "1D", {}});
-        view.tree.NodeAdded({"1DG2", "Kunststoffe", "Palette", "", "1D", {}});
+        view.tree.NodeAdded(NodeOfLibrary("1D", "Materialien"));
+        view.tree.NodeAdded(NodeOfGroup("1DG1", "Metalle", "1D"));
+        view.tree.NodeAdded(NodeOfGroup("1DG2", "Kunststoffe", "1D"));
         view.tree.NodeExpanded("1D");
         form.ShowWindow();
         view.list.SelectRow(2);
@@ -252,7 +253,7 @@ TEST_F(MainDragging, DropTargetIsMarkedWithoutASelection) {
 
 TEST_F(MainDragging, TreeScrollsByALineEachWay) {
     for (int group = 3; group < 100; ++group)
-        view.tree.NodeAdded({"1DG" + std::to_string(group), "Gruppe", "Palette", "", "1D", {}});
+        view.tree.NodeAdded(NodeOfGroup("1DG" + std::to_string(group), "Gruppe", "1D"));
     const HTREEITEM top = Next(TVGN_FIRSTVISIBLE);
     view.drag.ScrollTree(TreeEdge::Bottom);
     EXPECT_EQ(Next(TVGN_FIRSTVISIBLE), Next(TVGN_NEXTVISIBLE, top));

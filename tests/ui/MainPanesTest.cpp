@@ -1,4 +1,5 @@
 // Rules: Tree and list views
+#include "tests/fakes/LibraryNodes.h"
 #include "tests/ui/MainFormTest.h"
 
 #include "platform/GlobalMemory.h"
@@ -91,7 +92,7 @@ protected:
         view.list.AddColumns({{"Name", "Name", 1500}});
         view.list.RowsChanged(5);
         view.list.SelectRow(1);
-        view.tree.NodeAdded({"0D", "Library", "Colfile", "", "", {}});
+        view.tree.NodeAdded(NodeOfLibrary("0D", "Library"));
         view.tree.NodeSelected("0D");
     }
 
@@ -153,8 +154,8 @@ protected:
         view.list.AddColumns({{"Name", "Name", 1500}, {"R", "red", 600}});
         view.list.SetListViewMode(ListViewMode::Details);
         view.list.RowsChanged(3);
-        view.tree.NodeAdded({"0D", "Library", "Colfile", "", "", {}});
-        view.tree.NodeAdded({"1D", longName, "Colfile", "", "", {}});
+        view.tree.NodeAdded(NodeOfLibrary("0D", "Library"));
+        view.tree.NodeAdded(NodeOfLibrary("1D", longName));
         Control("tvColor")->SetProperty("ToolTipText", "the tree");
         Control("lvColor")->SetProperty("ToolTipText", "the list");
         PumpMessages();

@@ -5,6 +5,7 @@
 #include "support/windows/frmAbout.h"
 #include "support/windows/frmProgress.h"
 #include "support/windows/frmTxtView.h"
+#include "tests/fakes/LibraryNodes.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/fakes/FakeWaitingClock.h"
 #include "tests/ui/MainFormTest.h"
@@ -71,7 +72,7 @@ protected:
         form.Attach(events.Events());
         view.list.AddColumns({{"Name", "Name", 1500}, {"R", "red", 600}});
         view.list.RowsChanged(5);
-        view.tree.NodeAdded({"0D", "Library", "Colfile", "", "", {}});
+        view.tree.NodeAdded(NodeOfLibrary("0D", "Library"));
         view.editor.SetColorName("A name that has more characters than the frame has room for");
         view.editor.SetSmallSwatchCaption("A color with a name (R:1 G:2 B:3)");
         view.editor.SetLargeSwatch(0x4080C0);
