@@ -15,10 +15,6 @@ constexpr std::size_t kMostBytes = 16000;
 constexpr std::size_t kLongWord = 80; // bytes; a line of the box may have room for fewer
 constexpr std::size_t kShortWord = 10;
 
-constexpr bool IsInsideCharacter(char byte) noexcept {
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80;
-}
-
 std::string_view WholeCharacters(std::string_view text, std::size_t bytes) {
     std::size_t end = std::min(bytes, text.size());
     while (end > 0 && end < text.size() && IsInsideCharacter(text[end]))

@@ -1,5 +1,7 @@
 #include "common/SingleByteCodePage.h"
 
+#include "common/Text.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstring>
@@ -22,9 +24,7 @@ std::uint32_t TailBits(char byte) {
 
 bool HasTails(std::string_view utf8, std::size_t count) {
     const std::string_view tails = utf8.substr(1, count);
-    return tails.size() == count && std::ranges::all_of(tails, [](char byte) {
-               return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-           });
+    return tails.size() == count && std::ranges::all_of(tails, IsInsideCharacter);
 }
 
 CodePoint Checked(CodePoint character, bool isWhole, std::uint32_t least) {

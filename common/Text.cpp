@@ -23,8 +23,7 @@ std::string ToLowerAscii(std::string_view text) {
 std::vector<std::string> CharactersOf(std::string_view text) {
     std::vector<std::string> characters;
     for (const char byte : text) {
-        const bool continues = (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-        if (!continues || characters.empty())
+        if (!IsInsideCharacter(byte) || characters.empty())
             characters.emplace_back();
         characters.back() += byte;
     }

@@ -9,6 +9,11 @@
 [[nodiscard]] std::vector<std::string> SplitFields(std::string_view text,
                                                    std::string_view separator);
 
+// Whether a byte of UTF-8 belongs to the character that began before it.
+[[nodiscard]] constexpr bool IsInsideCharacter(char byte) noexcept {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
 // The characters of a UTF-8 text.
 [[nodiscard]] std::vector<std::string> CharactersOf(std::string_view text);
 

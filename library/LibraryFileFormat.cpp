@@ -23,10 +23,6 @@ bool HasTag(std::string_view record, std::string_view tag) {
     return record.substr(0, kTagLength) == tag;
 }
 
-bool IsContinuationByte(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
-
 void AppendNumber(std::string& text, int number) {
     std::array<char, kLongestNumber> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
@@ -123,14 +119,14 @@ std::int32_t CountOf(std::string_view record) {
 
 std::string_view WithoutFirstCharacter(std::string_view line) {
     std::size_t length = std::min<std::size_t>(1, line.size());
-    while (length < line.size() && IsContinuationByte(line[length]))
+    while (length < line.size() && IsInsideCharacter(line[length]))
         ++length;
     return line.substr(length);
 }
 
 std::string_view WithoutQuotes(std::string_view line) {
     std::string_view record = WithoutFirstCharacter(line);
-    while (!record.empty() && IsContinuationByte(record.back()))
+    while (!record.empty() && IsInsideCharacter(record.back()))
         record.remove_suffix(1);
     if (!record.empty())
         record.remove_suffix(1);

@@ -1,15 +1,12 @@
 #include "library/NewFile.h"
 
 #include "common/FileNames.h"
+#include "common/Text.h"
 
 namespace {
 
 constexpr std::size_t kLongestName = 255; // counted in bytes, which no file system exceeds
 constexpr int kMostChoices = 1000;
-
-bool IsInsideCharacter(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; // of UTF-8
-}
 
 bool WriteAll(OutputFile& file, std::string_view content) {
     const bool written = file.Write(content) && file.Flush();

@@ -99,7 +99,7 @@ void frmMain::ConnectCommands(MainFrameEvents& events) {
 }
 
 void frmMain::OpenColorMenu(POINT at) const {
-    menu_.OpenPopup(IDM_mnuColor, Handle(), at);
+    menu_.OpenPopup(IDM_mnuColor, at);
 }
 
 MessageResult frmMain::OnMessage(const WindowMessage& message) {
@@ -114,7 +114,7 @@ MessageResult frmMain::OnMessage(const WindowMessage& message) {
         events_->editor.Repainted();
         return {};
     case WM_TIMER:
-        if (message.wParam == MainDrag::kTimer)
+        if (message.wParam == DragTracker::kTimer)
             drag_.Tick();
         else
             events_->banner.BannerTicked();

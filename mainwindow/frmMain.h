@@ -3,7 +3,7 @@
 #include "mainwindow/MainView.h"
 #include "mainwindow/panes/MainArea.h"
 #include "mainwindow/panes/MainBars.h"
-#include "mainwindow/panes/MainDrag.h"
+#include "mainwindow/panes/DragTracker.h"
 #include "mainwindow/panes/MainEditor.h"
 #include "mainwindow/panes/MainList.h"
 #include "mainwindow/panes/MainTree.h"
@@ -85,7 +85,7 @@ private:
     MainTree tree_;
     MainList list_;
     MainArea area_;
-    MainDrag drag_;
+    DragTracker drag_;
     std::optional<WaitCursor> waiting_;
     std::array<HiddenCaption, 3> accessibleNames_ = {
         Announce(tlbarMain_, "nameToolbar", "Symbolleiste"),

@@ -1,6 +1,6 @@
 #include "platform/DragCursor.h"
 
-#include "platform/Icons.h"
+#include "platform/IconList.h"
 
 CursorHandle LoadNamedCursor(const std::string& icon, int size) {
     const IconHandle loaded = LoadNamedIcon(icon, size);

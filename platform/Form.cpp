@@ -3,7 +3,7 @@
 #include "common/RuntimeError.h"
 #include "platform/Fonts.h"
 #include "platform/Guarded.h"
-#include "platform/Icons.h"
+#include "platform/IconList.h"
 #include "platform/Utf16.h"
 #include "platform/WindowGeometry.h"
 

@@ -56,17 +56,21 @@ const ErrorText* OwnWordsFor(HRESULT result) {
                                                                      : nullptr;
 }
 
-} // namespace
-
-std::string SystemMessage(HRESULT result) {
+std::string WithNumber(const std::wstring& words, HRESULT result) {
     const std::string number = "(" + HexNumber(result) + ")";
-    const std::wstring words = SystemWords(result);
     return words.empty() ? number : ToUtf8(words) + " " + number;
 }
 
+} // namespace
+
+std::string SystemMessage(HRESULT result) {
+    return WithNumber(SystemWords(result), result);
+}
+
 RuntimeError SystemError(HRESULT result, int number, const std::string& member) {
-    const ErrorText* own = SystemWords(result).empty() ? OwnWordsFor(result) : nullptr;
+    const std::wstring words = SystemWords(result);
+    const ErrorText* own = words.empty() ? OwnWordsFor(result) : nullptr;
     if (own != nullptr)
         return {number, *own, {HexNumber(result)}, member};
-    return {number, SystemMessage(result), member};
+    return {number, WithNumber(words, result), member};
 }

@@ -127,4 +127,4 @@
 
 // Icons and pictures
 #define IDI_tnt4swx 1
-#define IDI_swx_standin 2
+#define IDI_swx_standin 1

@@ -3,7 +3,7 @@
 #include "platform/controls/Control.h"
 #include "platform/controls/LabelEdit.h"
 #include "platform/controls/MouseDrag.h"
-#include "platform/Icons.h"
+#include "platform/IconList.h"
 
 #include <functional>
 #include <string>

@@ -138,6 +138,7 @@ void MenuBar::AddShortcut(const ShortcutDesign& design) {
 bool MenuBar::AttachTo(HWND form) {
     if (SetMenu(form, bar_) == FALSE)
         return false;
+    form_ = form;
     static_cast<void>(owned_.Release());
     return true;
 }
@@ -160,7 +161,7 @@ std::vector<FormControl*> MenuBar::Entries() const {
     return entries;
 }
 
-void MenuBar::OpenPopup(int titleCommand, HWND form, POINT at) const {
+void MenuBar::OpenPopup(int titleCommand, POINT at) const {
     TrackPopupMenu(Find(titleCommand).Submenu(), TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON,
-                   at.x, at.y, 0, form, nullptr);
+                   at.x, at.y, 0, form_, nullptr);
 }

@@ -66,15 +66,17 @@ public:
     void SetChecked(int command, bool checked);
     [[nodiscard]] std::vector<FormControl*> Entries() const; // and the names of keys
 
-    // Opens the menu under a title at a point of the screen; the form gets its command.
-    void OpenPopup(int titleCommand, HWND form, POINT at) const;
+    // Opens the menu under a title at a point of the screen; the form that the bar is attached to
+    // gets its command.
+    void OpenPopup(int titleCommand, POINT at) const;
 
 private:
     MenuEntry& NewEntry(HMENU menu, int command, const char* name);
     void NameKey(WORD virtualKey, const std::string& caption);
     [[nodiscard]] MenuEntry& Find(int command) const;
 
-    MenuHandle owned_; // until a window takes the menu over
+    HWND form_ = nullptr; // that shows it
+    MenuHandle owned_;    // until a window takes the menu over
     HMENU bar_;
     HMENU open_ = nullptr;    // menu of the last title
     HMENU submenu_ = nullptr; // the last submenu

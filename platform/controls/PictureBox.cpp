@@ -1,7 +1,7 @@
 #include "platform/controls/PictureBox.h"
 
 #include "platform/DpiScale.h"
-#include "platform/Icons.h"
+#include "platform/IconList.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/controls/Control.h"
-#include "platform/Icons.h"
+#include "platform/IconList.h"
 
 #include <functional>
 #include <string>

@@ -2,7 +2,7 @@
 
 #include "platform/controls/Control.h"
 #include "platform/controls/LabelEdit.h"
-#include "platform/Icons.h"
+#include "platform/IconList.h"
 
 #include <functional>
 #include <string>

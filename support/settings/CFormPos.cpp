@@ -1,7 +1,7 @@
 #include "support/settings/CFormPos.h"
 
 #include "common/ProgramNames.h"
-#include "support/settings/FormPositionText.h"
+#include "support/settings/FormPosition.h"
 
 #include <algorithm>
 

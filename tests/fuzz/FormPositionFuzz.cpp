@@ -1,5 +1,5 @@
 #include "support/settings/CFormPos.h"
-#include "support/settings/FormPositionText.h"
+#include "support/settings/FormPosition.h"
 #include "tests/fakes/FakeCodePage.h"
 #include "tests/fakes/FakeFormWindow.h"
 #include "tests/fakes/FakeRegistry.h"

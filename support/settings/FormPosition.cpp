@@ -1,4 +1,4 @@
-#include "support/settings/FormPositionText.h"
+#include "support/settings/FormPosition.h"
 
 #include "common/Numbers.h"
 #include "common/RuntimeError.h"

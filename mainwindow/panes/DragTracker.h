@@ -10,9 +10,10 @@
 
 class Form;
 
-// A colour that is dragged from lvColor to tvColor on frmMain: lblDrag at the pointer, the
-// pointer's picture and the reports.
-class MainDrag : public DragPane {
+// Follows a drag over frmMain: where the pointer is (list, node, edge of the tree), lblDrag beside
+// it and its picture.  MouseDrag, below it, knows only the mouse; ColorDrag, above it, what becomes
+// of the color.
+class DragTracker : public DragPane {
 public:
     struct Controls {
         ListView& list;
@@ -20,7 +21,7 @@ public:
         Label& label;
     };
 
-    MainDrag(Form& form, const Controls& controls) : form_(form), controls_(controls) {}
+    DragTracker(Form& form, const Controls& controls) : form_(form), controls_(controls) {}
 
     void Attach(DragEvents& events);
     void Tick(); // the form's timer kTimer

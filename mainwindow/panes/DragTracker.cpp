@@ -1,4 +1,4 @@
-#include "mainwindow/panes/MainDrag.h"
+#include "mainwindow/panes/DragTracker.h"
 
 #include "platform/Form.h"
 
@@ -18,7 +18,7 @@ HeldKeys KeysHeld() {
 
 } // namespace
 
-void MainDrag::Attach(DragEvents& events) {
+void DragTracker::Attach(DragEvents& events) {
     events_ = &events;
     ListView& list = controls_.list;
     list.onPress = [&events] { events.ListPressed(); };
@@ -34,25 +34,25 @@ void MainDrag::Attach(DragEvents& events) {
     list.Drag().onCancel = [&events] { events.DragCancelled(); };
 }
 
-void MainDrag::Tick() {
+void DragTracker::Tick() {
     if (events_ != nullptr)
         events_->DragTicked(Point());
 }
 
-void MainDrag::LoadCursors() {
+void DragTracker::LoadCursors() {
     const int size = form_.Scale().FromDesign(kCursorSize);
     move_ = LoadNamedCursor("DragMove", size);
     copy_ = LoadNamedCursor("DragCopy", size);
 }
 
-void MainDrag::ShowDrag(float left, float top, DragMode picture) {
+void DragTracker::ShowDrag(float left, float top, DragMode picture) {
     const RECT before = controls_.label.Bounds();
     const POINT at = {form_.Scale().ToPixels(left), form_.Scale().ToPixels(top)};
     controls_.label.Place({at.x, at.y, at.x + WidthOf(before), at.y + HeightOf(before)});
     SetCursor(CursorOf(picture));
 }
 
-HCURSOR MainDrag::CursorOf(DragMode picture) const {
+HCURSOR DragTracker::CursorOf(DragMode picture) const {
     switch (picture) {
     case DragMode::Move:
         return move_.Get();
@@ -63,21 +63,21 @@ HCURSOR MainDrag::CursorOf(DragMode picture) const {
     }
 }
 
-void MainDrag::MarkDropNode(const std::string& key) {
+void DragTracker::MarkDropNode(const std::string& key) {
     controls_.tree.MarkDropTarget(key);
 }
 
-void MainDrag::ScrollTree(TreeEdge towards) {
+void DragTracker::ScrollTree(TreeEdge towards) {
     controls_.tree.ScrollLine(towards == TreeEdge::Bottom);
 }
 
-void MainDrag::EndDrag() {
+void DragTracker::EndDrag() {
     KillTimer(form_.Handle(), kTimer);
     controls_.list.Drag().End();
     SetCursor(LoadCursorW(nullptr, IDC_ARROW));
 }
 
-bool MainDrag::TakeKey(const MSG& message) {
+bool DragTracker::TakeKey(const MSG& message) {
     if (!controls_.list.Drag().IsUnderWay())
         return false;
     if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE)
@@ -85,11 +85,11 @@ bool MainDrag::TakeKey(const MSG& message) {
     return true;
 }
 
-DragPoint MainDrag::Point() const {
+DragPoint DragTracker::Point() const {
     return PointAt(controls_.list.Drag().Pointer());
 }
 
-DragPoint MainDrag::PointAt(POINT screen) const {
+DragPoint DragTracker::PointAt(POINT screen) const {
     POINT inForm = screen;
     ScreenToClient(form_.Handle(), &inForm);
     const HWND under = WindowFromPoint(screen);
@@ -105,7 +105,7 @@ DragPoint MainDrag::PointAt(POINT screen) const {
     return at;
 }
 
-TreeEdge MainDrag::EdgeAt(POINT screen) const {
+TreeEdge DragTracker::EdgeAt(POINT screen) const {
     RECT area{};
     GetClientRect(controls_.tree.Handle(), &area);
     ScreenToClient(controls_.tree.Handle(), &screen);

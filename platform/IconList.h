@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-// The program's icons, in pixels; an icon that the executable does not hold is none (LoadImageW).
-[[nodiscard]] IconHandle LoadProgramIcon(int size);
+// The icons of the executable, in pixels; one that it does not hold is none (LoadImageW).
+[[nodiscard]] IconHandle LoadProgramIcon(int size);                        // resource 1
 [[nodiscard]] IconHandle LoadNamedIcon(const std::string& name, int size); // resource "ICON_<name>"
 
 // A named image list of a form; the keys of its pictures are icon names.

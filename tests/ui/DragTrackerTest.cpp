@@ -201,17 +201,17 @@ TEST_F(MainDragging, RefusedDragDoesNotFollowTheMouse) {
     events.mayDrag = false;
     StartDrag();
     EXPECT_FALSE(FollowsMouse());
-    EXPECT_FALSE(KillTimer(form.Handle(), MainDrag::kTimer));
+    EXPECT_FALSE(KillTimer(form.Handle(), DragTracker::kTimer));
 }
 
 TEST_F(MainDragging, TicksAreReportedUntilTheEnd) {
     StartDrag();
     MoveTo(BesideTheNodes());
-    SendMessageW(form.Handle(), WM_TIMER, MainDrag::kTimer, 0);
+    SendMessageW(form.Handle(), WM_TIMER, DragTracker::kTimer, 0);
     EXPECT_EQ(events.ticks, Lines{""});
     EXPECT_EQ(events.lines, (Lines{"drag start list", "drag move"})) << "no tick of the banner";
     view.drag.EndDrag();
-    EXPECT_FALSE(KillTimer(form.Handle(), MainDrag::kTimer));
+    EXPECT_FALSE(KillTimer(form.Handle(), DragTracker::kTimer));
     EXPECT_FALSE(FollowsMouse());
     EXPECT_EQ(events.lines.size(), 2U) << "the program's own end is not reported";
 }

@@ -1,13 +1,14 @@
-#include "platform/Icons.h"
+#include "platform/IconList.h"
 
 #include "platform/IconStrip.h"
 #include "platform/Utf16.h"
-#include "resources/controls.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace {
+
+constexpr int kProgramIcon = 1; // the first of an executable is the one that the shell shows
 
 IconHandle LoadIconResource(const wchar_t* resource, int size) {
     return IconHandle(static_cast<HICON>(
@@ -17,7 +18,7 @@ IconHandle LoadIconResource(const wchar_t* resource, int size) {
 } // namespace
 
 IconHandle LoadProgramIcon(int size) {
-    return LoadIconResource(MAKEINTRESOURCEW(IDI_tnt4swx), size);
+    return LoadIconResource(MAKEINTRESOURCEW(kProgramIcon), size);
 }
 
 IconHandle LoadNamedIcon(const std::string& name, int size) {
