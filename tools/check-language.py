@@ -21,8 +21,9 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 FILES = tuple(ROOT / "resources" / "language" / f"tntlng_{code}.ini" for code in ("de", "us"))
 LONGEST_VALUE = 255
 
-MENU_ROW = re.compile(r'MenuRow\{\s*\w+,\s*"(\w+)",\s*"[^"]*",\s*MenuKind::(\w+)')
-KEY_ROW = re.compile(r'KeyRow\{\s*\w+,\s*"(\w+)"')
+MENU_ROW = re.compile(r'\b(Title|Submenu|Entry|SubmenuEntry|Reporting|Operation|Separator)\('
+                      r'\s*\w+,\s*"(\w+)"')
+KEY_ROW = re.compile(r'KeyRow\{\s*[\w:]+,\s*"(\w+)"')
 TOOLBAR_ROW = re.compile(r'ToolbarRow\{\s*"([^"]+)",\s*ToolbarButtonStyle::(\w+)')
 BUTTON_MENU_ROW = re.compile(r'ButtonMenuRow\{\s*"([^"]+)",\s*"([^"]+)"')
 INFO_NUMBER = re.compile(r"std::int32_t \w+ = (\d+);")
@@ -59,7 +60,7 @@ def parse(content):
 def menus(table):
     """Names of the entries that are seen together, title bar first."""
     levels, current = {"the menu bar": []}, None
-    for name, kind in MENU_ROW.findall(table):
+    for kind, name in MENU_ROW.findall(table):
         if kind == "Title":
             current = name
             levels["the menu bar"].append(name)
@@ -72,7 +73,7 @@ def menus(table):
 
 
 def required_keys(table, info_numbers):
-    keys = {("frmMain", f"{name}.Caption") for name, kind in MENU_ROW.findall(table)
+    keys = {("frmMain", f"{name}.Caption") for kind, name in MENU_ROW.findall(table)
             if kind != "Separator"}
     keys |= {("frmMain", f"{name}.Caption") for name in KEY_ROW.findall(table)}
     keys |= {("frmMain", f"tlbarMain.{key}.ToolTipText")
@@ -80,6 +81,14 @@ def required_keys(table, info_numbers):
     keys |= {("frmMain", f"tlbarMain.{button}.{key}.Text")
              for button, key in BUTTON_MENU_ROW.findall(table)}
     return keys | {("Info", f"Text.{number}") for number in INFO_NUMBER.findall(info_numbers)}
+
+
+def unread_tables(table):
+    """A table that is written in another way would be checked no more."""
+    for name, row in (("menus", MENU_ROW), ("keys", KEY_ROW), ("toolbar", TOOLBAR_ROW),
+                      ("menus of buttons", BUTTON_MENU_ROW)):
+        if not row.search(table):
+            yield f"the program's table of the {name} was not found"
 
 
 def access_key_faults(entries, table):
@@ -127,7 +136,8 @@ def faults_of(content, table, info_numbers):
 
 
 def main():
-    table = (ROOT / "mainwindow" / "CommandTable.h").read_text(encoding="utf-8")
+    table = "".join((ROOT / "mainwindow" / f"CommandTable.{ending}").read_text(encoding="utf-8")
+                    for ending in ("h", "cpp"))
     info_numbers = (ROOT / "common" / "InfoTextNumber.h").read_text(encoding="utf-8")
     faults = [f"{file.name}: {fault}" for file in FILES
               for fault in faults_of(file.read_bytes(), table, info_numbers)]
@@ -135,6 +145,7 @@ def main():
     german, english = (parse(file.read_bytes())[0] for file in FILES)
     faults += [f"{section} {key}: only in one language"
                for section, key in german.keys() ^ english.keys()]
+    faults += list(unread_tables(table))
     faults += list(built_in_faults(english, error_texts, info_numbers))
     faults += list(argument_faults(german, english))
     for source in sorted(file for room in ROOMS for file in (ROOT / room).rglob("*.*")

@@ -1,111 +1,104 @@
 // Rules: Layout, bars and views
 #include "mainwindow/CommandTable.h"
 
+#include "tests/fakes/SourceFolder.h"
+#include "tests/fakes/Transcripts.h"
+
+#include <algorithm>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
-#include <vector>
 
 namespace {
 
-struct Button {
-    std::string key;
-    ToolbarGroup group;
-    std::string toolTip;
-    int command;
-
-    bool operator==(const Button&) const = default;
-};
-
-TEST(CommandTable, ToolbarHasItsButtonsInTheirOrderWithTheirCommands) {
-    using enum ToolbarGroup;
-    const std::vector<Button> expected = {
-        {"sepST1", Standard, "", 0},
-        {"New", Standard, "", IDM_mnuColorNewColor},
-        {"sepST2", Standard, "", 0},
-        {"Open", Standard, "", IDM_mnuFileOpen},
-        {"Close", Standard, "", IDM_mnuFileClose},
-        {"Save", Standard, "", IDM_mnuFileSave},
-        {"sepST3", Standard, "", 0},
-        {"Delete", Standard, "", IDM_mnuColorDelColor},
-        {"sepCO1", Color, "", 0},
-        {"Cut", Color, "", IDM_mnuColorCut},
-        {"Copy", Color, "", IDM_mnuColorCopy},
-        {"Paste", Color, "", IDM_mnuColorPaste},
-        {"sepCO2", Color, "", 0},
-        {"ToggleColorFrame", Color, "Toggle huge color frame on/off", IDM_mnuViewHugeColorDialog},
-        {"UpdateColor", Color, "Update color", IDM_mnuColorUpdateColor},
-        {"sepLV1", ListView, "", 0},
-        {"View Large Icons", ListView, "", IDM_mnuViewColorLargeIcons},
-        {"View Small Icons", ListView, "", IDM_mnuViewColorSmallIcons},
-        {"View List", ListView, "", IDM_mnuViewColorList},
-        {"View Details", ListView, "", IDM_mnuViewColorDetails},
-        {"sepSWX1", SolidWorks, "", 0},
-        {"GetSWX", SolidWorks, "Get color from SolidWorks", IDM_mnuSWXGetColor},
-        {"NewColorUpdate", SolidWorks, "Get NEW color from SolidWorks", IDM_mnuSWXNewColorUpdate},
-        {"SetSWX", SolidWorks, "Set color in SolidWorks", IDM_mnuSWXSetColor},
-        {"SetSWXComponent", SolidWorks, "Set color for component in SolidWorks",
-         IDM_mnuSWXSetColorComponent},
-        {"sepSWX2", SolidWorks, "", 0},
-        {"ClearColorSWX", SolidWorks, "Clear color in SolidWorks",
-         IDM_mnuSWXClearColorFromSelection},
-        {"ClearColorComponentSWX", SolidWorks, "Clear color of component in SolidWorks",
-         IDM_mnuSWXClearComponentColorFromSelection}};
-    std::vector<Button> actual;
-    for (const ToolbarRow& row : kToolbarRows)
-        actual.push_back({row.key, row.group, row.toolTip, row.command});
-    EXPECT_EQ(actual, expected);
+bool IsSeparator(const ToolbarRow& row) {
+    return row.style == ToolbarButtonStyle::Separator;
 }
 
-TEST(CommandTable, EveryButtonHasAPictureOfItsOwnThatSaysWhatItDoes) {
+// A line for each button: its key, and the entry of the menus that it runs.
+TEST(CommandTable, ToolbarHasItsButtonsInTheirOrderWithTheirCommands) {
+    std::string lines;
+    for (const ToolbarRow& row : kToolbarRows) {
+        const MenuRow* entry = FindCommand(row.command);
+        lines += row.key + std::string(": ") + (entry ? entry->name : "-") + "\n";
+    }
+    ExpectTranscript(lines);
+}
+
+TEST(CommandTable, BarsStandInTheirOrderAndEachBeginsWithASeparator) {
+    auto before = ToolbarGroup::Standard;
+    bool mayBeginBar = true;
+    for (const ToolbarRow& row : kToolbarRows) {
+        EXPECT_GE(row.group, before) << row.key;
+        mayBeginBar = mayBeginBar || row.group != before;
+        if (mayBeginBar) {
+            EXPECT_TRUE(IsSeparator(row)) << row.key;
+        }
+        mayBeginBar = false;
+        before = row.group;
+    }
+    EXPECT_EQ(before, ToolbarGroup::SolidWorks);
+}
+
+TEST(CommandTable, SeparatorsPartButtonsAndHaveNothingElse) {
+    bool wasSeparator = false;
+    for (const ToolbarRow& row : kToolbarRows) {
+        EXPECT_FALSE(wasSeparator && IsSeparator(row)) << row.key;
+        EXPECT_EQ(row.command == 0, IsSeparator(row)) << row.key;
+        if (IsSeparator(row)) {
+            EXPECT_STREQ(row.toolTip, "") << row.key;
+        }
+        wasSeparator = IsSeparator(row);
+    }
+    EXPECT_FALSE(wasSeparator) << "none stands last";
+}
+
+TEST(CommandTable, EveryButtonHasAPictureOfItsOwn) {
     std::set<std::string> pictures;
     for (const ToolbarRow& row : kToolbarRows) {
-        if (row.command == 0) {
+        if (IsSeparator(row)) {
             EXPECT_STREQ(row.icon, "");
             continue;
         }
-        EXPECT_STRNE(row.icon, "") << row.key;
         EXPECT_TRUE(pictures.insert(row.icon).second) << row.key;
-        if (row.key == std::string("ToggleColorFrame")) {
-            EXPECT_STREQ(row.icon, "HugeSmall");
+        for (const char* kind : {".svg", ".ico"}) {
+            const std::string file = SourceFolder() + "/resources/icons/" + row.icon + kind;
+            EXPECT_TRUE(std::filesystem::is_regular_file(file)) << row.key << ": " << file;
         }
     }
 }
 
-TEST(CommandTable, NewAndDeleteHaveTheirButtonMenus) {
-    struct Entry {
-        std::string button;
-        std::string key;
-        int command;
-        bool operator==(const Entry&) const = default;
-    };
-    const std::vector<Entry> expected = {{"New", "NewMainNode", IDM_mnuColorNewMainNode},
-                                         {"New", "NewGroup", IDM_mnuColorNewGroup},
-                                         {"New", "NewColor", IDM_mnuColorNewColor},
-                                         {"Delete", "DeleteMainNode", IDM_mnuColorDelMainNode},
-                                         {"Delete", "DeleteGroup", IDM_mnuColorDelGroup},
-                                         {"Delete", "DeleteColor", IDM_mnuColorDelColor}};
-    std::vector<Entry> actual;
-    for (const ButtonMenuRow& row : kButtonMenuRows)
-        actual.push_back({row.buttonKey, row.key, row.command});
-    EXPECT_EQ(actual, expected);
+// The button itself runs one of the entries of its menu.
+TEST(CommandTable, OnlyDropDownButtonsHaveMenusAndEachHasItsOwnCommandThere) {
+    for (const ToolbarRow& button : kToolbarRows) {
+        const auto belongs = [&](const ButtonMenuRow& row) {
+            return row.buttonKey == std::string(button.key);
+        };
+        const auto runsTheSame = [&](const ButtonMenuRow& row) {
+            return belongs(row) && row.command == button.command;
+        };
+        const bool isDropDown = button.style == ToolbarButtonStyle::DropDown;
+        EXPECT_EQ(std::ranges::any_of(kButtonMenuRows, belongs), isDropDown) << button.key;
+        EXPECT_EQ(std::ranges::count_if(kButtonMenuRows, runsTheSame), isDropDown) << button.key;
+    }
 }
 
-TEST(CommandTable, OptionsMenuHasItsBuiltInCaptionsInTheirOrder) {
-    const std::vector<std::string> expected = {"Optionen",
-                                               "Sprache",
-                                               "Deutsch",
-                                               "Englisch",
-                                               "Löschen immer bestätigen",
-                                               "Erzeuge Sicherungskopien",
-                                               "Immer im Vordergrund",
-                                               "-",
-                                               "Einstellungen speichern"};
-    std::vector<std::string> actual;
+TEST(CommandTable, ButtonMenusSayWhatTheMenusSay) {
+    std::set<std::string> keys;
+    for (const ButtonMenuRow& row : kButtonMenuRows) {
+        EXPECT_TRUE(keys.insert(row.key).second) << row.key;
+        ASSERT_NE(FindCommand(row.command), nullptr) << row.key;
+        EXPECT_STREQ(row.text, FindCommand(row.command)->caption);
+    }
+}
+
+// The captions are those of a program that finds no language file.
+TEST(CommandTable, MenusHaveTheirEntriesInTheirOrderWithBuiltInCaptions) {
+    std::string lines;
     for (const MenuRow& row : MenuRows())
-        if (std::string(row.name).starts_with("mnuOptions"))
-            actual.emplace_back(row.caption);
-    EXPECT_EQ(actual, expected);
+        lines += row.name + std::string(": ") + row.caption + "\n";
+    ExpectTranscript(lines);
 }
 
 TEST(CommandTable, EveryEntryHasAHandlerAndTitlesAndSeparatorsHaveNone) {
@@ -126,10 +119,15 @@ TEST(CommandTable, NoNumberAndNoNameStandsTwice) {
 }
 
 TEST(CommandTable, EveryButtonRunsAnEntryOfTheMenus) {
-    for (const ToolbarRow& row : kToolbarRows)
-        EXPECT_EQ(FindCommand(row.command) != nullptr, row.command != 0) << row.key;
-    for (const ButtonMenuRow& row : kButtonMenuRows)
+    std::set<std::string> keys;
+    std::set<int> commands;
+    for (const ToolbarRow& row : kToolbarRows) {
+        EXPECT_TRUE(keys.insert(row.key).second) << row.key;
+        if (IsSeparator(row))
+            continue;
         EXPECT_NE(FindCommand(row.command), nullptr) << row.key;
+        EXPECT_TRUE(commands.insert(row.command).second) << row.key;
+    }
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // Rules: SolidWorks session
+#include "mainwindow/CommandTable.h"
 #include "resources/controls.h"
 #include "tests/fakes/FakeProgram.h"
+#include "tests/fakes/MemberFault.h"
 #include "tests/standin/StandInClient.h"
 
 #include <gtest/gtest.h>
@@ -24,6 +26,10 @@ protected:
     void Run(int command) { program->Main().frame.RunCommand(command); }
     void Select(const AutomationObjectPtr& object, bool append = false) const {
         object->Invoke("Select", {append});
+    }
+    // The next call of the member goes wrong.
+    void FailNext(const std::string& member, const std::string& fault) const {
+        FailAt(member, fault, program->retryingService, program->solidWorks.Gate());
     }
     void TypeValue(std::size_t index, const std::string& text) {
         program->Main().editor.ValueTextChanged(index, text);
@@ -49,16 +55,15 @@ protected:
     std::unique_ptr<FakeProgram> program;
 };
 
-const std::vector<int> kAllCommands = {IDM_mnuSWXGetColor,
-                                       IDM_mnuSWXNewColorUpdate,
-                                       IDM_mnuSWXSetColor,
-                                       IDM_mnuSWXSetColorComponent,
-                                       IDM_mnuSWXClearColorFromSelection,
-                                       IDM_mnuSWXClearComponentColorFromSelection,
-                                       IDM_mnuSWXClearColorPart,
-                                       IDM_mnuSWXClearColorAssembly,
-                                       IDM_mnuSWXGetStandardColor,
-                                       IDM_mnuSWXSetStandardColor};
+std::vector<int> AllCommands() {
+    std::vector<int> commands;
+    for (const MenuRow& row : MenuRows())
+        if (row.kind == CommandKind::Operation)
+            commands.push_back(row.command);
+    return commands;
+}
+
+const std::vector<int> kAllCommands = AllCommands();
 
 TEST_F(SolidWorksCommandsTest, EveryCommandShowsTextZeroWithoutSolidWorksAndChangesNothing) {
     program->Main().tree.NodeClicked("0DG1");
@@ -492,8 +497,7 @@ TEST_F(SolidWorksCommandsTest, StandardColorsSetWithoutEditsAreWrittenBackUnchan
 
 TEST_F(SolidWorksCommandsTest, FailingCallNamesItsMemberAndEverythingStays) {
     const auto texts = program->view.valueTexts;
-    program->solidWorks.Gate().ClearFaults();
-    program->solidWorks.Gate().AddFault(ParseFault("3:error:Out of paint"));
+    FailNext("SelectionManager", "error:Out of paint");
     try {
         Run(IDM_mnuSWXSetColor);
         FAIL() << "the form reports what a command throws";
@@ -508,8 +512,7 @@ TEST_F(SolidWorksCommandsTest, FailingCallNamesItsMemberAndEverythingStays) {
 }
 
 TEST_F(SolidWorksCommandsTest, ProgressWindowIsTakenDownWhenAWalkFails) {
-    program->solidWorks.Gate().ClearFaults();
-    program->solidWorks.Gate().AddFault(ParseFault("12:error"));
+    FailNext("SelectedFeatureProperties", "error");
     program->progress.calls.clear();
     EXPECT_THROW(Run(IDM_mnuSWXClearColorPart), RuntimeError);
     EXPECT_EQ(program->progress.calls.front().substr(0, 9), "show <62>");
@@ -567,8 +570,7 @@ TEST_F(SolidWorksCommandsTest, NoDragStartsDuringAWalk) {
 }
 
 TEST_F(SolidWorksCommandsTest, QuitDuringACallThatFailsEndsTheProgramWithoutAMessage) {
-    program->solidWorks.Gate().ClearFaults();
-    program->solidWorks.Gate().AddFault(ParseFault("3:error"));
+    FailNext("SelectionManager", "error");
     program->solidWorks.Log().SetListener([&](const CallRecord& call) {
         if (call.member == "SelectionManager")
             Run(IDM_mnuQuit);
@@ -620,7 +622,7 @@ TEST_F(SolidWorksCommandsTest, EndOfTheSessionWaitsForNoWalk) {
 }
 
 TEST_F(SolidWorksCommandsTest, QuitIsSeenWhileAWalkWaitsForABusySolidWorks) {
-    program->solidWorks.Gate().AddFault(ParseFault("9:busy:always"));
+    FailNext("IsSuppressed", "busy:always");
     program->events.onEvents = [&] {
         if (program->events.count == 3) // before the item, then after each rejection
             Run(IDM_mnuQuit);
@@ -632,7 +634,7 @@ TEST_F(SolidWorksCommandsTest, QuitIsSeenWhileAWalkWaitsForABusySolidWorks) {
 }
 
 TEST_F(SolidWorksCommandsTest, StopIsSeenWhileAWalkWaitsForABusySolidWorks) {
-    program->solidWorks.Gate().AddFault(ParseFault("9:busy:always"));
+    FailNext("IsSuppressed", "busy:always");
     program->events.onEvents = [&] {
         if (program->events.count == 5)
             program->application.ProgressWindowEvents().StopClicked();
@@ -686,8 +688,7 @@ TEST_F(SolidWorksCommandsTest, EscapeGivesUpABusySolidWorksInEveryCommand) {
 TEST_F(SolidWorksCommandsTest, GivingUpWhileAColorIsReadLeavesTheEditorAsItIs) {
     Select(Client().Face(0));
     const std::string name = program->view.colorName;
-    program->solidWorks.Gate().ClearFaults();
-    program->solidWorks.Gate().AddFault(ParseFault("7:busy:always")); // the face's colour
+    FailNext("MaterialPropertyValues", "busy:always");
     program->events.onDrop = [] { return true; };
     Run(IDM_mnuSWXGetColor);
     EXPECT_EQ(program->solidWorks.Gate().RejectedCalls(), 1U) << "and no other source is asked";
@@ -824,8 +825,7 @@ TEST_F(SolidWorksCommandsTest, DyingSolidWorksIsReportedAndNothingIsWrittenIntoT
     Run(IDM_mnuColorNewColor);
     const std::string red = program->Main().rows.CellText(0, 2);
     Select(Client().Face(0));
-    program->solidWorks.Gate().ClearFaults();
-    program->solidWorks.Gate().AddFault(ParseFault("7:die")); // the face's colour
+    FailNext("MaterialPropertyValues", "die");
     EXPECT_THROW(Run(IDM_mnuSWXNewColorUpdate), RuntimeError);
     EXPECT_EQ(program->Main().rows.CellText(0, 1), "kept");
     EXPECT_EQ(program->Main().rows.CellText(0, 2), red);

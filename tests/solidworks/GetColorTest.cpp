@@ -8,9 +8,9 @@ constexpr ColorValueArray kOwnRead{51, 102, 153, 10, 20, 30, 40, 50, 60};
 
 class GetColor : public OperationTest {
 protected:
-    std::string Calls(const std::string& fault = {}) {
+    std::string Calls() {
         color = {};
-        return CallsOf([&] { return tools->SWXGetColor(color); }, fault);
+        return CallsOf([&] { return tools->SWXGetColor(color); });
     }
     // Whether the record was filled with what an object carries.
     [[nodiscard]] bool HasRead(const ColorValueArray& values) const {
@@ -20,30 +20,14 @@ protected:
 
 TEST_F(GetColor, NothingSelectedReadsTheDocument) {
     model->Part().SetColor(kOwn);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call document "Housing.SLDPRT" MaterialPropertyValues()
-= 
-)");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
 TEST_F(GetColor, FaceWithAColorOfItsOwn) {
     FaceAt(0)->SetColor(kOwn);
     FaceAt(0)->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call face "Face 1" MaterialPropertyValues()
-= 
-)");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
@@ -51,53 +35,21 @@ TEST_F(GetColor, OnlyTheFirstSelectedObjectIsLookedAt) {
     FaceAt(0)->SetColor(kOwn);
     FaceAt(0)->Select(true);
     AnEdge()->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call face "Face 1" MaterialPropertyValues()
-= 
-)");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
 TEST_F(GetColor, UnsetFaceAsksItsFeature) {
     FeatureAt(0)->SetColor(kOwn);
     FaceAt(0)->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call face "Face 1" MaterialPropertyValues()
-call face "Face 1" GetFeature()
-call feature "Base" GetMaterialPropertyValues()
-= 
-)");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
 TEST_F(GetColor, UnsetFaceOfAnUnsetFeatureAsksTheDocument) {
     model->Part().SetColor(kOwn);
     FaceAt(0)->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call face "Face 1" MaterialPropertyValues()
-call face "Face 1" GetFeature()
-call feature "Base" GetMaterialPropertyValues()
-call document "Housing.SLDPRT" MaterialPropertyValues()
-= 
-)");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
@@ -105,103 +57,42 @@ TEST_F(GetColor, UnsetFaceWithoutAFeatureAsksTheDocument) {
     Start("features=0,faces=1");
     model->Part().SetColor(kOwn);
     FaceAt(0)->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Generated.SLDPRT" GetType()
-call document "Generated.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call face "Face 1" MaterialPropertyValues()
-call face "Face 1" GetFeature()
-call document "Generated.SLDPRT" MaterialPropertyValues()
-= 
-)");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
 TEST_F(GetColor, FaceForWhichNothingCarriesAColor) {
     Start("no-colors");
     FaceAt(0)->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call face "Face 1" MaterialPropertyValues()
-call face "Face 1" GetFeature()
-call feature "Base" GetMaterialPropertyValues()
-call document "Housing.SLDPRT" MaterialPropertyValues()
-= NoColorValueFound: 2
-)");
+    ExpectTranscript(Calls());
     EXPECT_EQ(color, ColorRecord()) << "the record stays as it was handed in";
 }
 
 TEST_F(GetColor, FeatureWithAColorOfItsOwn) {
     FeatureAt(0)->SetColor(kOwn);
     FeatureAt(0)->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call feature "Base" GetMaterialPropertyValues()
-= 
-)");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
 TEST_F(GetColor, UnsetFeatureAsksTheDocument) {
     model->Part().SetColor(kOwn);
     FeatureAt(0)->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call feature "Base" GetMaterialPropertyValues()
-call document "Housing.SLDPRT" MaterialPropertyValues()
-= 
-)");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
 TEST_F(GetColor, FeatureForWhichNothingCarriesAColor) {
     Start("no-colors");
     FeatureAt(0)->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call feature "Base" GetMaterialPropertyValues()
-call document "Housing.SLDPRT" MaterialPropertyValues()
-= NoColorValueFound: 22
-)");
+    ExpectTranscript(Calls());
 }
 
 TEST_F(GetColor, ComponentWithAColorOfItsOwn) {
     Start("assembly");
     ComponentNamed("Screw-1")->SetColor(kOwn);
     ComponentNamed("Screw-1")->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Enclosure.SLDASM" GetType()
-call document "Enclosure.SLDASM" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call component "Screw-1" MaterialPropertyValues()
-= 
-)");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
@@ -209,158 +100,76 @@ TEST_F(GetColor, UnsetComponentAsksItsModel) {
     Start("assembly");
     model->Part().SetColor(kOwn);
     ComponentNamed("Housing-1")->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Enclosure.SLDASM" GetType()
-call document "Enclosure.SLDASM" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call component "Housing-1" MaterialPropertyValues()
-call component "Housing-1" GetModelDoc()
-call document "Housing.SLDPRT" MaterialPropertyValues()
-= 
-)");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
 TEST_F(GetColor, UnsetLightweightComponentHasNoModelToAsk) {
     Start("assembly");
     ComponentNamed("Seal-1")->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Enclosure.SLDASM" GetType()
-call document "Enclosure.SLDASM" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call component "Seal-1" MaterialPropertyValues()
-call component "Seal-1" GetModelDoc()
-= NoColorValueFound: 20
-)");
+    ExpectTranscript(Calls());
 }
 
 TEST_F(GetColor, ComponentThatIsNoObjectAsksTheDocument) {
     Start("assembly");
     model->Assembly().SetColor(kOwn);
     ComponentNamed("Screw-1")->Select(true);
-    EXPECT_EQ(Calls("5:null"), R"(
-call application ActiveDoc()
-call document "Enclosure.SLDASM" GetType()
-call document "Enclosure.SLDASM" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call document "Enclosure.SLDASM" MaterialPropertyValues()
-= 
-)");
+    FailNext("GetSelectedObject3", "null");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
 TEST_F(GetColor, LoadedComponentForWhichNothingCarriesAColor) {
     Start("assembly,no-colors");
     ComponentNamed("Housing-1")->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Enclosure.SLDASM" GetType()
-call document "Enclosure.SLDASM" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call component "Housing-1" MaterialPropertyValues()
-call component "Housing-1" GetModelDoc()
-call document "Housing.SLDPRT" MaterialPropertyValues()
-= NoColorValueFound: 20
-)");
+    ExpectTranscript(Calls());
     EXPECT_EQ(color, ColorRecord());
 }
 
 TEST_F(GetColor, ComponentThatCannotTellItsModelHasNoModelToAsk) {
     Start("assembly");
     ComponentNamed("Housing-1")->Select(true);
-    EXPECT_EQ(Calls("8:error"), R"(
-call application ActiveDoc()
-call document "Enclosure.SLDASM" GetType()
-call document "Enclosure.SLDASM" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call component "Housing-1" MaterialPropertyValues()
-call component "Housing-1" GetModelDoc()
-= NoColorValueFound: 20
-)");
+    FailNext("GetModelDoc", "error");
+    ExpectTranscript(Calls());
     EXPECT_EQ(color, ColorRecord());
 }
 
 TEST_F(GetColor, FaceThatIsNoObjectAsksTheDocument) {
     model->Part().SetColor(kOwn);
     FaceAt(0)->Select(true);
-    EXPECT_EQ(Calls("5:null"), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call document "Housing.SLDPRT" MaterialPropertyValues()
-= 
-)");
+    FailNext("GetSelectedObject3", "null");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
 TEST_F(GetColor, FeatureThatIsNoObjectAsksTheDocument) {
     model->Part().SetColor(kOwn);
     FeatureAt(0)->Select(true);
-    EXPECT_EQ(Calls("5:null"), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call document "Housing.SLDPRT" MaterialPropertyValues()
-= 
-)");
+    FailNext("GetSelectedObject3", "null");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
 TEST_F(GetColor, EdgeCarriesNoColor) {
     AnEdge()->Select(true);
-    EXPECT_EQ(Calls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-= NoValidSelection: 1
-)");
+    ExpectTranscript(Calls());
     EXPECT_EQ(color, ColorRecord());
 }
 
 TEST_F(GetColor, SourceThatFailsIsPassedOver) {
     FeatureAt(0)->SetColor(kOwn);
     FaceAt(0)->Select(true);
-    EXPECT_EQ(Calls("7:error"), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetType()
-call document "Housing.SLDPRT" SelectionManager()
-call selection manager GetSelectedObjectCount()
-call selection manager GetSelectedObject3(1)
-call selection manager GetSelectedObjectType2(1)
-call face "Face 1" MaterialPropertyValues()
-call face "Face 1" GetFeature()
-call feature "Base" GetMaterialPropertyValues()
-= 
-)");
+    FailNext("MaterialPropertyValues", "error");
+    ExpectTranscript(Calls());
     EXPECT_TRUE(HasRead(kOwnRead));
 }
 
 TEST_F(GetColor, FaceThatCannotTellItsFeatureAsksTheDocument) {
     model->Part().SetColor(kOwn);
     FaceAt(0)->Select(true);
-    for (const char* fault : {"8:error", "8:text", "8:empty"}) {
-        Calls(fault);
+    for (const char* fault : {"error", "text", "empty"}) {
+        FailNext("GetFeature", fault);
+        Calls();
         EXPECT_TRUE(HasRead(kOwnRead)) << fault;
     }
 }
@@ -368,15 +177,17 @@ TEST_F(GetColor, FaceThatCannotTellItsFeatureAsksTheDocument) {
 TEST_F(GetColor, ArrayWhoseFirstElementIsNoNumberIsNotUsable) {
     FeatureAt(0)->SetColor(kOwn);
     FaceAt(0)->Select(true);
-    for (const char* fault : {"7:text-array", "7:text", "7:empty", "7:null"}) {
-        Calls(fault);
+    for (const char* fault : {"text-array", "text", "empty", "null"}) {
+        FailNext("MaterialPropertyValues", fault);
+        Calls();
         EXPECT_TRUE(HasRead(kOwnRead)) << fault;
     }
 }
 
 TEST_F(GetColor, UsableArrayThatIsTooShortIsAnErrorThatNamesIt) {
     FaceAt(0)->Select(true);
-    EXPECT_EQ(ErrorOf([&] { Calls("7:short-array"); }),
+    FailNext("MaterialPropertyValues", "short-array");
+    EXPECT_EQ(ErrorOf([&] { Calls(); }),
               "The color array does not have nine numbers (MaterialPropertyValues)");
     EXPECT_EQ(color, ColorRecord());
 }

@@ -8,7 +8,9 @@
 #include "tests/fakes/FakePrompts.h"
 #include "tests/fakes/FakeTexts.h"
 #include "tests/fakes/FakeWaitingClock.h"
+#include "tests/fakes/MemberFault.h"
 #include "tests/fakes/RetryingService.h"
+#include "tests/fakes/Transcripts.h"
 #include "tests/standin/StandInClient.h"
 
 #include <gtest/gtest.h>
@@ -47,25 +49,25 @@ protected:
         throw std::out_of_range(name);
     }
 
-    // The calls that the operation makes, one line for each, and what it returns.  fault: what goes
-    // wrong, counted from its first call.
-    std::string CallsOf(const std::function<std::string()>& operation,
-                        const std::string& fault = {}) {
-        model->Gate().ClearFaults();
-        if (!fault.empty())
-            model->Gate().AddFault(ParseFault(fault));
+    // The next call of the member goes wrong.
+    void FailNext(const std::string& member, const std::string& fault) {
+        FailAt(member, fault, *automation, model->Gate());
+    }
+
+    // The calls that the operation makes, one line for each, and what it returns.
+    std::string CallsOf(const std::function<std::string()>& operation) {
         model->Log().Clear();
         const std::string result = operation();
-        return LoggedCalls() + "= " + OnOneLine(result) + "\n";
+        return LoggedCalls() + (result.empty() ? "=" : "= " + OnOneLine(result)) + "\n";
     }
-    std::string CallsOf(std::string (modSldTools::*operation)(), const std::string& fault = {}) {
-        return CallsOf([&] { return ((*tools).*operation)(); }, fault);
+    std::string CallsOf(std::string (modSldTools::*operation)()) {
+        return CallsOf([&] { return ((*tools).*operation)(); });
     }
 
     // The calls made since the log was cleared, one line for each; also of an operation that
     // failed.
     [[nodiscard]] std::string LoggedCalls() const {
-        std::string text = "\n";
+        std::string text;
         for (const std::string& line : model->Log().Lines())
             text += line + "\n";
         return text;

@@ -39,18 +39,7 @@ const Messages kAskSize{{"<72>\r\n<74>", 65, "TNT4SWX"}};
 const Messages kAskName{{"<73>\r\n<74>", 65, "TNT4SWX"}};
 
 TEST_F(StandardColorsOfTable, NamesAndColorsAreReadByIndexFromZero) {
-    EXPECT_EQ(GetCalls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetColorTable()
-call color table GetStandardCount()
-call color table GetNameAtIndex(0)
-call color table GetColorRefAtIndex(0)
-call color table GetNameAtIndex(1)
-call color table GetColorRefAtIndex(1)
-call color table GetNameAtIndex(2)
-call color table GetColorRefAtIndex(2)
-= Okay
-)");
+    ExpectTranscript(GetCalls());
     ASSERT_EQ(colors.size(), 3U);
     EXPECT_EQ(colors[0].name, "First");
     EXPECT_EQ(colors[0].values, (ColorValueArray{64, 128, 255}));
@@ -60,12 +49,7 @@ call color table GetColorRefAtIndex(2)
 TEST_F(StandardColorsOfTable, EmptyTableGivesNoColors) {
     Start("standard-colors=0");
     colors.resize(2);
-    EXPECT_EQ(GetCalls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetColorTable()
-call color table GetStandardCount()
-= Okay
-)");
+    ExpectTranscript(GetCalls());
     EXPECT_TRUE(colors.empty());
 }
 
@@ -77,18 +61,7 @@ TEST_F(StandardColorsOfTable, DrawingHasATableToo) {
 
 TEST_F(StandardColorsOfTable, EveryEntryIsWrittenWithItsIndexItsNumberAndZero) {
     ReadAndChange();
-    EXPECT_EQ(SetCalls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetColorTable()
-call color table GetStandardCount()
-call color table GetNameAtIndex(0)
-call color table SetColorRefAtIndex(0, 197121, 0)
-call color table GetNameAtIndex(1)
-call color table SetColorRefAtIndex(1, 197121, 0)
-call color table GetNameAtIndex(2)
-call color table SetColorRefAtIndex(2, 197121, 0)
-= Okay
-)");
+    ExpectTranscript(SetCalls());
     EXPECT_EQ(Numbers(), std::vector<ColorNumber>(3, 0x030201));
     EXPECT_TRUE(prompts.messages.empty());
 }
@@ -104,30 +77,14 @@ TEST_F(StandardColorsOfTable, DifferingSizeAsksAndCancelWritesNothing) {
     ReadAndChange();
     colors.emplace_back();
     prompts.answers = {Answer::Cancel};
-    EXPECT_EQ(SetCalls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetColorTable()
-call color table GetStandardCount()
-= NoValidColorScheme
-)");
+    ExpectTranscript(SetCalls());
     EXPECT_EQ(prompts.messages, kAskSize);
 }
 
 TEST_F(StandardColorsOfTable, DifferingSizeAndOkWritesTheEntriesOfTheTable) {
     ReadAndChange();
     colors.emplace_back();
-    EXPECT_EQ(SetCalls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetColorTable()
-call color table GetStandardCount()
-call color table GetNameAtIndex(0)
-call color table SetColorRefAtIndex(0, 197121, 0)
-call color table GetNameAtIndex(1)
-call color table SetColorRefAtIndex(1, 197121, 0)
-call color table GetNameAtIndex(2)
-call color table SetColorRefAtIndex(2, 197121, 0)
-= Okay
-)");
+    ExpectTranscript(SetCalls());
     EXPECT_EQ(Numbers(), std::vector<ColorNumber>(3, 0x030201));
     EXPECT_EQ(prompts.messages, kAskSize);
 }
@@ -140,29 +97,14 @@ TEST_F(StandardColorsOfTable, NoColorsForATableAreADifferingSize) {
 
 TEST_F(StandardColorsOfTable, NoColorsForAnEmptyTableAgree) {
     Start("standard-colors=0");
-    EXPECT_EQ(SetCalls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetColorTable()
-call color table GetStandardCount()
-= Okay
-)");
+    ExpectTranscript(SetCalls());
     EXPECT_TRUE(prompts.messages.empty());
 }
 
 TEST_F(StandardColorsOfTable, DifferingNameAsksAndOkSkipsThatEntry) {
     ReadAndChange();
     colors[1].name = "second"; // letter case counts
-    EXPECT_EQ(SetCalls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetColorTable()
-call color table GetStandardCount()
-call color table GetNameAtIndex(0)
-call color table SetColorRefAtIndex(0, 197121, 0)
-call color table GetNameAtIndex(1)
-call color table GetNameAtIndex(2)
-call color table SetColorRefAtIndex(2, 197121, 0)
-= Okay
-)");
+    ExpectTranscript(SetCalls());
     EXPECT_EQ(Numbers(), (std::vector<ColorNumber>{0x030201, 0, 0x030201}));
     EXPECT_EQ(prompts.messages, kAskName);
 }
@@ -171,15 +113,7 @@ TEST_F(StandardColorsOfTable, DifferingNameAndCancelEndsAtOnce) {
     ReadAndChange();
     colors[1].name = "renamed";
     prompts.answers = {Answer::Cancel};
-    EXPECT_EQ(SetCalls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetColorTable()
-call color table GetStandardCount()
-call color table GetNameAtIndex(0)
-call color table SetColorRefAtIndex(0, 197121, 0)
-call color table GetNameAtIndex(1)
-= NoValidColorName
-)");
+    ExpectTranscript(SetCalls());
     EXPECT_EQ(Numbers(), (std::vector<ColorNumber>{0x030201, 0, 0xFFFFFF}));
 }
 
@@ -194,16 +128,7 @@ TEST_F(StandardColorsOfTable, FewerColorsThanEntriesIsAnErrorAfterThoseWereWritt
     ReadAndChange();
     colors.resize(2);
     EXPECT_EQ(ErrorNumberOf([&] { SetCalls(); }), ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(LoggedCalls(), R"(
-call application ActiveDoc()
-call document "Housing.SLDPRT" GetColorTable()
-call color table GetStandardCount()
-call color table GetNameAtIndex(0)
-call color table SetColorRefAtIndex(0, 197121, 0)
-call color table GetNameAtIndex(1)
-call color table SetColorRefAtIndex(1, 197121, 0)
-call color table GetNameAtIndex(2)
-)");
+    ExpectTranscript(LoggedCalls());
     EXPECT_EQ(prompts.messages, kAskSize);
     EXPECT_EQ(Numbers(), (std::vector<ColorNumber>{0x030201, 0x030201, 0xFFFFFF}));
     EXPECT_EQ(model->Gate().LiveObjects(), 0U);

@@ -1,4 +1,5 @@
 # Rules: Tools and packages
+import re
 import unittest
 
 import tool
@@ -6,12 +7,13 @@ import tool
 check = tool.load("check-language")
 
 TABLE = """
-    MenuRow{IDM_mnuFile, "mnuFile", "Datei", MenuKind::Title},
-    MenuRow{IDM_mnuFileNew,
-            "mnuFileNew", "Neu", MenuKind::Entry, {true, false, 'N'}},
-    MenuRow{IDM_mnuFileHR, "mnuFileHR", "-", MenuKind::Separator},
-    MenuRow{IDM_mnuQuit, "mnuQuit", "Beenden", MenuKind::Entry},
-    KeyRow{0x11, "keyCtrl", "Strg"},
+    Title(IDM_mnuFile, "mnuFile", "Datei"),
+    Reporting(
+        IDM_mnuFileNew, "mnuFileNew", "Neu", [](Commands c) { c.file.mnuFileNew_Click(); },
+        Ctrl('N')),
+    Separator(IDM_mnuFileHR, "mnuFileHR"),
+    Entry(IDM_mnuQuit, "mnuQuit", "Beenden", [](Commands c) { c.quit(); }),
+    KeyRow{Key::Control, "keyCtrl", "Strg"},
     ToolbarRow{"sepST1", ToolbarButtonStyle::Separator, ToolbarGroup::Standard, "", 0, ""},
     ToolbarRow{"View List", ToolbarButtonStyle::ButtonGroup, ToolbarGroup::ListView, "", 1, "V"},
     ButtonMenuRow{"New", "NewGroup", "Neue Gruppe", IDM_mnuColorNewGroup},
@@ -31,10 +33,19 @@ class LanguageFile(unittest.TestCase):
         self.assertEqual(faults(), [])
 
     def test_without_a_key_that_the_program_asks_for_is_faulty(self):
-        for key in (b"mnuQuit.Caption=&Quit\r\n", b"tlbarMain.View List.ToolTipText=List\r\n",
+        for key in (b"mnuQuit.Caption=&Quit\r\n", b"keyCtrl.Caption=Ctrl\r\n",
+                    b"tlbarMain.View List.ToolTipText=List\r\n",
                     b"tlbarMain.New.NewGroup.Text=New group\r\n", b"Text.30=Save\r\n"):
             with self.subTest(key):
                 self.assertIn(key.decode().partition("=")[0] + ": missing", faults(key)[0])
+
+    def test_is_compared_with_tables_that_are_found(self):
+        self.assertEqual(list(check.unread_tables(TABLE)), [])
+        for name, row in (("menus", r"(Title|Reporting|Entry|Separator)\("), ("keys", "KeyRow{"),
+                          ("toolbar", "ToolbarRow{"), ("menus of buttons", "ButtonMenuRow{")):
+            with self.subTest(name):
+                self.assertEqual(list(check.unread_tables(re.sub(row, "Row(", TABLE))),
+                                 [f"the program's table of the {name} was not found"])
 
     def test_with_an_access_key_twice_in_one_menu_is_faulty(self):
         self.assertEqual(faults(b"&Quit", b"Qui&n"),
