@@ -14,10 +14,10 @@ constexpr DWORD kPauseMilliseconds = 20;
 // Only one program can hold the clipboard open, each for a moment: so several short tries.
 class OpenedClipboard {
 public:
-    explicit OpenedClipboard(HWND owner) {
+    OpenedClipboard(HWND owner, const std::function<void()>& pause) {
         isOpen_ = OpenClipboard(owner) != FALSE;
         for (int attempt = 1; !isOpen_ && attempt < kOpenAttempts; ++attempt) {
-            Sleep(kPauseMilliseconds);
+            pause();
             isOpen_ = OpenClipboard(owner) != FALSE;
         }
     }
@@ -56,9 +56,13 @@ GlobalMemory MakeText(const std::wstring& text) {
 
 } // namespace
 
+void Win32Clipboard::ShortPause() {
+    Sleep(kPauseMilliseconds);
+}
+
 std::optional<std::string> Win32Clipboard::Text() {
     // Only now does nobody change it: another program may be about to put its text there.
-    const OpenedClipboard clipboard(owner_());
+    const OpenedClipboard clipboard(owner_(), pause_);
     if (!clipboard)
         return std::nullopt;
     if (!IsClipboardFormatAvailable(CF_UNICODETEXT))
@@ -69,7 +73,7 @@ std::optional<std::string> Win32Clipboard::Text() {
 
 bool Win32Clipboard::SetText(const std::string& text) {
     GlobalMemory memory = MakeText(ToUtf16(text));
-    const OpenedClipboard clipboard(owner_());
+    const OpenedClipboard clipboard(owner_(), pause_);
     if (!memory || !clipboard || !EmptyClipboard())
         return false;
     if (SetClipboardData(CF_UNICODETEXT, memory.Get()) == nullptr)

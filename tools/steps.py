@@ -77,9 +77,9 @@ def told_lines(log):
 class Running:
     """A step's process, with all that it starts, and its log."""
 
-    def __init__(self, step, log):
-        self.step, self.log, self.shown = step, log, 0
-        self.started = time.monotonic()
+    def __init__(self, step, log, clock=time.monotonic):
+        self.step, self.log, self.shown, self.clock = step, log, 0, clock
+        self.started = clock()
         command = list(map(str, step.command))
         if step.background and os.name == "posix":
             command[:0] = ["nice", "-n", "19"]
@@ -93,7 +93,7 @@ class Running:
             self.process = None
 
     def seconds(self):
-        return time.monotonic() - self.started
+        return self.clock() - self.started
 
     def status(self):
         """The exit status; None while the process runs within its limit."""
@@ -139,12 +139,13 @@ class Runner:
     """Runs steps; at most as many beside each other as there are lanes, background ones aside.
 
     live: whether their output is shown as it comes, and not only the end of it when one fails.
+    clock: gives the seconds by which the limits are kept.
     """
 
-    def __init__(self, steps, lanes, logs, tell=print, live=False):
+    def __init__(self, steps, lanes, logs, tell=print, live=False, clock=time.monotonic):
         self.waiting, self.running, self.ended = list(steps), [], {}
         self.lanes, self.logs, self.tell, self.live = lanes, logs, tell, live
-        self.totals = Totals()
+        self.totals, self.clock = Totals(), clock
 
     def run(self):
         self.logs.mkdir(parents=True, exist_ok=True)
@@ -172,7 +173,7 @@ class Runner:
         while step := next_step(self.waiting, [running.step for running in self.running],
                                 self.ended, self.lanes):
             self.waiting.remove(step)
-            self.running.append(Running(step, self.logs / f"{step.name}.log"))
+            self.running.append(Running(step, self.logs / f"{step.name}.log", self.clock))
 
     def look_after_what_runs(self):
         for running in list(self.running):

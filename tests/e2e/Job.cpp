@@ -106,7 +106,7 @@ std::filesystem::path Job::PathOf(const std::string& utf8) {
 }
 
 void Job::SavePicture(int step, const std::string& name) {
-    static_cast<void>(PollUntil([this] { return IsPainted(); }, std::chrono::seconds(3)));
+    static_cast<void>(PollUntil([this] { return IsPainted(); }));
     const std::string file = PictureName(step, name);
     if (!screenshot_.Save(pictureFolder_ + "\\" + file))
         report_.Check(false, "picture " + file);

@@ -67,14 +67,10 @@ void MouseJob::Open(const std::string& path) {
     RemoteDialogs::AnswerMessageBox(Main().Window(), IDNO); // not at every start
 }
 
-// Looks whether a click was taken and else makes it again, as a person does.
 void MouseJob::ClickGroup(const std::string& group) {
     const std::string path = "0/Materials/" + group;
-    for (int attempt = 0; attempt < 3 && Main().Tree().SelectedPath() != path; ++attempt) {
-        Main().Tree().ClickChild(0, group);
-        static_cast<void>(PollUntil([&] { return Main().Tree().SelectedPath() == path; },
-                                    std::chrono::seconds(3)));
-    }
+    static_cast<void>(ActUntil([&] { Main().Tree().ClickChild(0, group); },
+                               [&] { return Main().Tree().SelectedPath() == path; }));
     Report().CheckEqual("selected node", Main().Tree().SelectedPath(), path);
 }
 

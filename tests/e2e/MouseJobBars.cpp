@@ -161,9 +161,8 @@ void MouseJob::MenuStep(const std::string& name, const std::function<void()>& op
         open();
         WaitForMenu();
     });
-    for (int attempt = 0; attempt < 3 && Main().Window().HasMenuOpen(); ++attempt)
-        RealInput::PressKey(VK_ESCAPE);
-    Report().Check(PollUntil([this] { return !Main().Window().HasMenuOpen(); }),
+    Report().Check(ActUntil([] { RealInput::PressKey(VK_ESCAPE); },
+                            [this] { return !Main().Window().HasMenuOpen(); }),
                    "Escape closes the menu");
 }
 

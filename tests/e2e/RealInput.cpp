@@ -73,16 +73,13 @@ void PressWith(WORD held, WORD virtualKey) {
 // On a busy machine the display tells the positions that the pointer had a moment ago, and takes it
 // back there: it is moved again until it stays.
 void Settle(POINT to) {
-    constexpr int kSteadyLooks = 20;
-    int steady = 0;
-    const bool stays = PollUntil([&] {
+    const bool stays = PollUntilItStays([&] {
         POINT at{};
         GetCursorPos(&at);
         const bool isThere = std::abs(at.x - to.x) <= 1 && std::abs(at.y - to.y) <= 1;
-        steady = isThere ? steady + 1 : 0;
         if (!isThere)
             Send({MouseMove(to)});
-        return steady > kSteadyLooks;
+        return isThere;
     });
     if (!stays)
         throw std::runtime_error("The pointer does not stay where it is put");

@@ -9,16 +9,14 @@
 #include <commdlg.h>
 #include <dlgs.h>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
 constexpr int kMessageText = 0xFFFF;
 constexpr int kFileName = 1148;
 constexpr int kKinds = cmb1;         // the combo box with the kinds of files
-constexpr int kUnchanged = 20;       // reads in a row that show that something stays
 constexpr int kFirstColorPart = 706; // red; green and blue follow
-constexpr int kClickAttempts = 3;
-constexpr std::chrono::milliseconds kClickPatience{2000};
 
 bool HasChild(const RemoteWindow& window, int id) {
     return GetDlgItem(window.Handle(), id) != nullptr;
@@ -52,12 +50,11 @@ void WaitUntilGone(const RemoteWindow& dialog, int control) {
 // button.
 void WaitUntilStill(const RemoteWindow& dialog) {
     RECT place{};
-    int unchanged = 0;
-    static_cast<void>(PollUntil([&] {
+    static_cast<void>(PollUntilItStays([&] {
         const RECT now = dialog.Bounds();
-        unchanged = EqualRect(&now, &place) != FALSE ? unchanged + 1 : 0;
+        const bool isStill = EqualRect(&now, &place) != FALSE;
         place = now;
-        return unchanged > kUnchanged && dialog.FocusedChild() != nullptr;
+        return isStill && dialog.FocusedChild() != nullptr;
     }));
 }
 
@@ -73,13 +70,12 @@ RemoteWindow WaitForFileDialog(const RemoteWindow& owner) {
 // stays.
 void SetFileName(const RemoteWindow& dialog, const std::string& path) {
     const std::wstring name = ToUtf16(path);
-    int unchanged = 0;
-    const bool entered = PollUntil([&] {
-        unchanged = dialog.Child(kFileName).Text() == path ? unchanged + 1 : 0;
-        if (unchanged == 0)
+    const bool entered = PollUntilItStays([&] {
+        const bool isEntered = dialog.Child(kFileName).Text() == path;
+        if (!isEntered)
             SendDlgItemMessageW(dialog.Handle(), kFileName, WM_SETTEXT, 0,
                                 reinterpret_cast<LPARAM>(name.c_str()));
-        return unchanged > kUnchanged;
+        return isEntered;
     });
     if (!entered)
         throw std::runtime_error("The dialog does not take the name");
@@ -87,12 +83,9 @@ void SetFileName(const RemoteWindow& dialog, const std::string& path) {
 
 std::string SettledFileName(const RemoteWindow& dialog) {
     std::string name;
-    int unchanged = 0;
-    static_cast<void>(PollUntil([&] {
-        const std::string now = dialog.Child(kFileName).Text();
-        unchanged = now == name ? unchanged + 1 : 0;
-        name = now;
-        return unchanged > kUnchanged;
+    static_cast<void>(PollUntilItStays([&] {
+        const std::string before = std::exchange(name, dialog.Child(kFileName).Text());
+        return name == before;
     }));
     return name.substr(name.rfind('\\') + 1);
 }
@@ -125,16 +118,13 @@ RemoteDialogs::Message RemoteDialogs::ReadMessageBox(const RemoteWindow& owner) 
     return {dialog.Title(), dialog.Child(kMessageText).Text()};
 }
 
-// A click that is lost is made again.
 RemoteDialogs::Message RemoteDialogs::AnswerMessageBox(const RemoteWindow& owner, int button) {
     const RemoteWindow dialog = WaitForPopup(owner, L"#32770", kMessageText);
     Message message{dialog.Title(), dialog.Child(kMessageText).Text()};
     WaitUntilStill(dialog);
-    for (int attempt = 0; attempt < kClickAttempts && !IsGone(dialog, kMessageText); ++attempt) {
-        dialog.Child(button).Click();
-        static_cast<void>(PollUntil([&] { return IsGone(dialog, kMessageText); }, kClickPatience));
-    }
-    WaitUntilGone(dialog, kMessageText);
+    if (!ActUntil([&] { dialog.Child(button).Click(); },
+                  [&] { return IsGone(dialog, kMessageText); }))
+        throw std::runtime_error("The message box stays open: " + message.text);
     return message;
 }
 

@@ -42,16 +42,15 @@ void RemoteMain::ChooseFromMenu(const std::string& menu, const std::string& entr
         throw std::runtime_error("The menu stays open: " + menu);
 }
 
-// A busy machine may lose keys while the focus comes back from a box that has just gone: a person
-// would look and press them again.
+// Keys may be lost while the focus comes back from a box that has just gone.
 bool RemoteMain::OpenMenu(WORD accessKey) const {
-    for (int attempt = 0; attempt < 3; ++attempt) {
-        RealInput::PressWithAlt(accessKey);
-        if (PollUntil([&] { return window_.HasMenuOpen(); }, std::chrono::seconds(5)))
-            return true;
-        SetForegroundWindow(window_.Handle());
-    }
-    return false;
+    return ActUntil(
+        [&] {
+            if (GetForegroundWindow() != window_.Handle())
+                SetForegroundWindow(window_.Handle());
+            RealInput::PressWithAlt(accessKey);
+        },
+        [&] { return window_.HasMenuOpen(); });
 }
 
 // The character behind the "&" of the caption; its virtual key is its capital letter.
@@ -119,11 +118,7 @@ void RemoteMain::ClearInfoText() const {
 void RemoteMain::TypeValue(std::size_t index, const std::string& digits) const {
     const RemoteWindow box = ValueBox(index);
     const auto hasFocus = [&] { return box.FocusedChild() == box.Handle(); };
-    box.Click();
-    // A click into a layout that is just changing is made again, as a person does.
-    for (int attempt = 0; attempt < 3 && !PollUntil(hasFocus, std::chrono::seconds(3)); ++attempt)
-        box.Click();
-    if (!PollUntil(hasFocus))
+    if (!ActUntil([&] { box.Click(); }, hasFocus)) // the layout may just be changing
         throw std::runtime_error("The value box takes no focus");
     RealInput::TypeText(ToUtf16(digits));
 }

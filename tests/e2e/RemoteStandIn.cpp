@@ -21,15 +21,11 @@ POINT RemoteStandIn::PointOf(const std::string& name) const {
         .ToScreen({static_cast<short>(LOWORD(point)), static_cast<short>(HIWORD(point))});
 }
 
-// A window that is just coming to the front can swallow a click; a person sees that and clicks
-// again.
+// A window that is just coming to the front can swallow a click.
 void RemoteStandIn::ClickObject(const std::string& name) const {
     const std::vector<std::string> expected = {name};
     const auto isSelected = [&] { return SelectedObjects() == expected; };
-    RealInput::Click(PointOf(name));
-    if (!PollUntil(isSelected, std::chrono::seconds(2)))
-        RealInput::Click(PointOf(name));
-    static_cast<void>(PollUntil(isSelected, std::chrono::seconds(2)));
+    static_cast<void>(ActUntil([&] { RealInput::Click(PointOf(name)); }, isSelected));
 }
 
 void RemoteStandIn::CtrlClickObject(const std::string& name) const {

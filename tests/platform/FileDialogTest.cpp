@@ -23,10 +23,11 @@ protected:
     // The dialog fills its name in a moment after it is visible.
     static void EnterName(HWND dialog, const std::string& path) {
         const std::wstring wide = ToUtf16(path);
-        EXPECT_TRUE(PollUntil([&] {
-            SetDlgItemTextW(dialog, kFileName, wide.c_str());
-            Sleep(100);
-            return TextOfControl(dialog, kFileName) == wide;
+        EXPECT_TRUE(PollUntilItStays([&] {
+            const bool isEntered = TextOfControl(dialog, kFileName) == wide;
+            if (!isEntered)
+                SetDlgItemTextW(dialog, kFileName, wide.c_str());
+            return isEntered;
         }));
         Press(dialog, IDOK);
     }

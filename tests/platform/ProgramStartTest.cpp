@@ -42,7 +42,8 @@ public:
         const HWND window = Main().Handle();
         DWORD_PTR answer = 0;
         return IsWindowEnabled(window) != FALSE &&
-               SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, 10'000, &answer) != 0;
+               SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL,
+                                   std::chrono::milliseconds(kPatience).count(), &answer) != 0;
     }
     [[nodiscard]] LRESULT NodeCount() const {
         return SendMessageW(Main().Child(IDC_tvColor).Handle(), TVM_GETCOUNT, 0, 0);

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr DWORD kPatience = 20'000; // milliseconds
+constexpr DWORD kLimit = std::chrono::milliseconds(kPatience).count();
 
 std::wstring Quoted(const std::wstring& text) {
     return L"\"" + text + L"\"";
@@ -28,7 +28,7 @@ KernelHandle Start(std::wstring commandLine, const STARTUPINFOW& startup) {
 }
 
 unsigned long ExitCode(const KernelHandle& process) {
-    WaitForSingleObject(process.Get(), kPatience);
+    WaitForSingleObject(process.Get(), kLimit);
     DWORD code = 0;
     GetExitCodeProcess(process.Get(), &code);
     return code;
@@ -135,7 +135,7 @@ unsigned long StandInProcess::Stop() {
     if (!process_)
         return 0;
     PostMessageW(window_, WM_CLOSE, 0, 0);
-    if (WaitForSingleObject(process_.Get(), kPatience) != WAIT_OBJECT_0)
+    if (WaitForSingleObject(process_.Get(), kLimit) != WAIT_OBJECT_0)
         TerminateProcess(process_.Get(), 1);
     return WaitForEnd();
 }

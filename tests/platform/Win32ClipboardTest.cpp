@@ -22,31 +22,47 @@ void PutOnClipboard(HWND owner, UINT format, const void* bytes, std::size_t size
     CloseClipboard();
 }
 
-// Another thread that holds the clipboard open for some time, as other programs do.
+// Another thread that holds the clipboard open until it is let go, as other programs do.
 class ClipboardHolder {
 public:
-    explicit ClipboardHolder(std::chrono::milliseconds time)
-        : thread_([this, time] {
+    ClipboardHolder()
+        : thread_([this] {
               EXPECT_TRUE(PollUntil([] { return OpenClipboard(nullptr) != FALSE; }));
               isOpen_.set_value();
-              std::this_thread::sleep_for(time);
+              isOver_.get_future().wait();
               CloseClipboard();
           }) {
         isOpen_.get_future().wait();
     }
     ClipboardHolder(const ClipboardHolder&) = delete;
     ClipboardHolder& operator=(const ClipboardHolder&) = delete;
-    ~ClipboardHolder() { thread_.join(); }
+    ~ClipboardHolder() { LetGo(); }
+
+    // The clipboard is free when it returns.
+    void LetGo() {
+        if (!thread_.joinable())
+            return;
+        isOver_.set_value();
+        thread_.join();
+    }
 
 private:
     std::promise<void> isOpen_; // a semaphore of this library can miss its wake-up on this target
+    std::promise<void> isOver_;
     std::thread thread_;
 };
 
 class Win32ClipboardTest : public testing::Test {
 protected:
     MessageWindow window;
-    Win32Clipboard clipboard{[this] { return window.Handle(); }};
+    int pauses = 0;
+    std::function<void()> onPause;
+    Win32Clipboard clipboard{[this] { return window.Handle(); },
+                             [this] {
+                                 ++pauses;
+                                 if (onPause)
+                                     onPause();
+                             }};
 };
 
 } // namespace
@@ -100,16 +116,23 @@ TEST_F(Win32ClipboardTest, AbsurdlyLongTextIsNoText) {
 
 TEST_F(Win32ClipboardTest, WaitsForAProgramThatHoldsTheClipboardForAMoment) {
     ASSERT_TRUE(clipboard.SetText("x"));
-    const ClipboardHolder holder(std::chrono::milliseconds(80));
+    ClipboardHolder holder;
+    onPause = [&] {
+        if (pauses == 4)
+            holder.LetGo();
+    };
     EXPECT_EQ(clipboard.Text(), "x");
+    EXPECT_EQ(pauses, 4);
 }
 
 TEST_F(Win32ClipboardTest, GivesUpOnAProgramThatKeepsTheClipboard) {
     ASSERT_TRUE(clipboard.SetText("x"));
     {
-        const ClipboardHolder holder(std::chrono::milliseconds(1500));
+        const ClipboardHolder holder;
         EXPECT_FALSE(clipboard.Text());
+        EXPECT_EQ(pauses, 9) << "between ten tries";
         EXPECT_FALSE(clipboard.SetText("y"));
+        EXPECT_EQ(pauses, 18);
     }
     EXPECT_EQ(clipboard.Text(), "x");
 }
@@ -117,6 +140,6 @@ TEST_F(Win32ClipboardTest, GivesUpOnAProgramThatKeepsTheClipboard) {
 // It may be about to put a text there.
 TEST_F(Win32ClipboardTest, ProgramThatKeepsAClipboardWithoutATextIsToldToo) {
     PutOnClipboard(window.Handle(), RegisterClipboardFormatW(L"tnt test"), "x", 2);
-    const ClipboardHolder holder(std::chrono::milliseconds(1500));
+    const ClipboardHolder holder;
     EXPECT_FALSE(clipboard.Text());
 }

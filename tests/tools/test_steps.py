@@ -60,8 +60,8 @@ class Run(unittest.TestCase):
         self.folder = pathlib.Path(temporary.name)
         self.told = []
 
-    def run_steps(self, *plan, lanes=2):
-        return steps.Runner(plan, lanes, self.folder, self.told.append).run()
+    def run_steps(self, *plan, lanes=2, clock=time.monotonic):
+        return steps.Runner(plan, lanes, self.folder, self.told.append, clock=clock).run()
 
     def test_counts_each_test_of_a_suite_and_other_steps_as_one(self):
         totals = self.run_steps(python("suite", PASSES, counts=True), python("check", ""))
@@ -93,10 +93,14 @@ class Run(unittest.TestCase):
 
     def test_a_step_is_ended_at_its_limit_with_what_it_started(self):
         child = self.folder / "child"
-        code = ("import os, time\n"
+        code = ("import os, signal\n"
                 f"if os.fork() == 0: open({str(child)!r}, 'w').write(str(os.getpid()))\n"
-                "time.sleep(600)")
-        totals = self.run_steps(python("slow", code, limit=1))
+                "signal.pause()")
+
+        def clock():
+            return 1000 if child.exists() and child.read_text() else 0
+
+        totals = self.run_steps(python("slow", code, limit=1), clock=clock)
         self.assertEqual((totals.passed, totals.failed), (0, 1))
         self.assertIn("time limit of 1 s", self.told[-1])
         end = time.monotonic() + 30

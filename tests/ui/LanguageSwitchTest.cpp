@@ -90,8 +90,10 @@ protected:
         static std::function<void(HWND)> pending;
         pending = std::move(look);
         SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR timer, DWORD) {
-            KillTimer(nullptr, timer);
             const HWND about = FindWindowW(L"frmAbout", nullptr);
+            if (IsWindowVisible(about) == FALSE)
+                return; // not yet
+            KillTimer(nullptr, timer);
             pending(about);
             PostMessageW(about, WM_CLOSE, 0, 0);
         });

@@ -23,8 +23,7 @@ void PumpMessages();
 
 // Handles messages until the condition holds; false when it does not within the time.
 template <typename Condition>
-[[nodiscard]] bool PumpUntil(Condition condition,
-                             std::chrono::milliseconds time = std::chrono::seconds(15)) {
+[[nodiscard]] bool PumpUntil(Condition condition, std::chrono::milliseconds time = kPatience) {
     return PollUntil(
         [&] {
             PumpMessages();

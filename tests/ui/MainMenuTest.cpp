@@ -61,7 +61,6 @@ bool MenuIsOpen() {
 }
 
 TEST_F(MainMenu, EndOfTheProgramLeavesAnOpenMenu) {
-    constexpr std::chrono::seconds kPatience(30);
     static frmMain* ending;
     static std::chrono::steady_clock::time_point deadline;
     static bool isEnded;
