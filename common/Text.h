@@ -9,9 +9,9 @@
 [[nodiscard]] std::vector<std::string> SplitFields(std::string_view text,
                                                    std::string_view separator);
 
-// Whether a byte of UTF-8 belongs to the character that began before it.
-[[nodiscard]] constexpr bool IsInsideCharacter(char byte) noexcept {
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+// Whether a unit of UTF-8 (a byte) belongs to the character that began before it.
+[[nodiscard]] constexpr bool IsInsideCharacter(char unit) noexcept {
+    return (static_cast<unsigned char>(unit) & 0xC0U) == 0x80U;
 }
 
 // The characters of a UTF-8 text.

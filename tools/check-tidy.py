@@ -8,8 +8,9 @@ A file that was clean is not looked at again until it, a project header that it 
 options or the checks change; what is known lies below build/tidy.
 
 Most of the time of clang-tidy goes into the headers that every file includes, so several files are
-looked at as if they were one.  When something is found there, or the files do not go together, each
-is looked at by itself, and what is found then is what is told.
+looked at as if they were one, unless two of them have names of their own that are the same.  When
+something is found there, or the files do not go together, halves of them are looked at, down to single
+files, and what is found then is what is told.
 
 Tests are left out: the test
 framework's macros raise checks that say nothing about the program.
@@ -31,7 +32,10 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build"
 KNOWN = BUILD / "tidy"
 ROOMS = ("app", "common", "library", "mainwindow", "platform", "solidworks", "standin", "support")
-TOGETHER = 6  # files that are looked at as one
+TOGETHER = 24  # files that are looked at as one, at most
+OWN_PART = re.compile(r"^namespace \{$(.*?)^\} // namespace$", re.MULTILINE | re.DOTALL)
+OWN_NAME = re.compile(r"^(?:template <.*> )?(?:(?:class|struct|enum|enum class|using|namespace) (\w+)|"
+                      r"[^\s/#}][^(={;]*?(\w+)\s*[(={;\[])", re.MULTILINE)
 INCLUDE = re.compile(r"\s*#\s*include\s+(\S+)")
 OWN_INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
 MINGW = "x86_64-w64-mingw32"
@@ -135,26 +139,53 @@ def are_clean_together(files, options):
         return not findings(text.name, options)
 
 
+def findings_of_each(files, options):
+    if len(files) == 1:
+        return [findings(files[0], options)]
+    if are_clean_together(files, options):
+        return [""] * len(files)
+    half = len(files) // 2
+    return findings_of_each(files[:half], options) + findings_of_each(files[half:], options)
+
+
 def check(files, options, tool):
     """What is found in files that share their options, a text for each."""
-    if len(files) > 1 and are_clean_together(files, options):
-        found = [""] * len(files)
-    else:
-        found = [findings(file, options) for file in files]
+    found = findings_of_each(files, options)
     for file, text in zip(files, found):
         if not text:
             (KNOWN / fingerprint(file, options, tool)).touch()
     return found
 
 
+def own_names(file):
+    """What the file declares for itself alone; another file may mean something else by it."""
+    return {first or second for part in OWN_PART.findall(file.read_text(encoding="utf-8"))
+            for first, second in OWN_NAME.findall(part)}
+
+
+def groups(files, count):
+    """The files in so many groups at least, in each of which no own name stands twice."""
+    found = [([], set()) for _ in range(count)]
+    for file in files:
+        names = own_names(file)
+        fitting = [group for group in found if len(group[0]) < TOGETHER and not names & group[1]]
+        if not fitting:
+            fitting = [([], set())]
+            found += fitting
+        members, taken = min(fitting, key=lambda group: len(group[0]))
+        members.append(file)
+        taken |= names
+    return [members for members, _ in found if members]
+
+
 def batches(commands, tool):
-    """The files that nothing is known of, with their options, so many together as is quick."""
+    """The files that nothing is known of, with their options, as many together as go together."""
     unknown = {}
     for file, options in sorted(commands.items()):
         if not (KNOWN / fingerprint(file, options, tool)).exists():
             unknown.setdefault(tuple(options), []).append(file)
-    return [(files[start:start + TOGETHER], options) for options, files in unknown.items()
-            for start in range(0, len(files), TOGETHER)]
+    return [(files, options) for options, members in unknown.items()
+            for files in groups(members, -(-len(members) // TOGETHER))]
 
 
 def main():

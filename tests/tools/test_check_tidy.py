@@ -36,12 +36,26 @@ class CheckTidy(unittest.TestCase):
                           f'#line 1 "{b}"', "#include <vector>", "", "int b;"])
 
     def test_only_files_with_the_same_options_of_which_nothing_is_known_go_together(self):
-        files = [self.write(f"{index}.cpp", f"int a{index};\n") for index in range(9)]
-        commands = {file: ["-std=c++20"] for file in files[:8]} | {files[8]: ["-DX"]}
+        files = [self.write(f"{index}.cpp", f"int a{index};\n") for index in range(5)]
+        commands = {file: ["-std=c++20"] for file in files[:4]} | {files[4]: ["-DX"]}
         (self.folder / tidy.fingerprint(files[0], ["-std=c++20"], "tool")).touch()
         self.assertEqual(tidy.batches(commands, "tool"),
-                         [(files[1:7], ("-std=c++20",)), (files[7:8], ("-std=c++20",)),
-                          (files[8:9], ("-DX",))])
+                         [(files[1:4], ("-std=c++20",)), (files[4:5], ("-DX",))])
+
+    def test_no_more_files_than_are_quick_go_together_and_they_are_spread_evenly(self):
+        files = [self.write(f"{index:02}.cpp", "") for index in range(tidy.TOGETHER + 2)]
+        self.assertEqual([len(group) for group in tidy.groups(files, 2)],
+                         [tidy.TOGETHER // 2 + 1] * 2)
+
+    def test_files_that_have_the_same_name_for_themselves_do_not_go_together(self):
+        for declared in ("int One() {", "constexpr int One = 1;", "struct One {", "class One : Two {",
+                         "enum class One {", "using One = int;", "const std::array<int, 2> One{1, 2};",
+                         "template <typename T> T One(T t) {", "int One[2];"):
+            with self.subTest(declared):
+                own = f"namespace {{\n\n{declared}\n    One();\n\n}} // namespace\n"
+                files = [self.write("a.cpp", own), self.write("b.cpp", own),
+                         self.write("c.cpp", "int Three() {\n    One();\n}\n")]
+                self.assertEqual(tidy.groups(files, 1), [[files[0], files[2]], [files[1]]])
 
     def test_files_that_are_clean_together_are_known_to_be_clean(self):
         files = [self.write(f"{index}.cpp", f"int a{index};\n") for index in range(3)]
@@ -60,7 +74,7 @@ class CheckTidy(unittest.TestCase):
         self.assertIn("clang-analyzer", found)
 
     @unittest.skipUnless(shutil.which("clang-tidy"), "clang-tidy is not there")
-    def test_files_that_do_not_go_together_are_looked_at_one_by_one(self):
+    def test_files_that_do_not_go_together_after_all_are_looked_at_in_halves(self):
         files = [self.write("a.cpp", USES_ONE), self.write("b.cpp", USES_ONE.replace("First", "B"))]
         self.assertEqual(tidy.check(files, ["-std=c++20"], "tool"), ["", ""])
 
