@@ -36,6 +36,7 @@ TOGETHER = 24  # files that are looked at as one, at most
 OWN_PART = re.compile(r"^namespace \{$(.*?)^\} // namespace$", re.MULTILINE | re.DOTALL)
 OWN_NAME = re.compile(r"^(?:template <.*> )?(?:(?:class|struct|enum|enum class|using|namespace) (\w+)|"
                       r"[^\s/#}][^(={;]*?(\w+)\s*[(={;\[])", re.MULTILINE)
+MAIN = re.compile(r"\bw?(?:Win)?[mM]ain(?=\()")
 INCLUDE = re.compile(r"\s*#\s*include\s+(\S+)")
 OWN_INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
 MINGW = "x86_64-w64-mingw32"
@@ -158,9 +159,11 @@ def check(files, options, tool):
 
 
 def own_names(file):
-    """What the file declares for itself alone; another file may mean something else by it."""
-    return {first or second for part in OWN_PART.findall(file.read_text(encoding="utf-8"))
-            for first, second in OWN_NAME.findall(part)}
+    """What the file declares for itself alone, or for its program; another file may mean something
+    else by it."""
+    text = file.read_text(encoding="utf-8")
+    return {first or second for part in OWN_PART.findall(text)
+            for first, second in OWN_NAME.findall(part)} | set(MAIN.findall(text))
 
 
 def groups(files, count):

@@ -69,8 +69,9 @@ void MouseJob::Open(const std::string& path) {
 
 void MouseJob::ClickGroup(const std::string& group) {
     const std::string path = "0/Materials/" + group;
-    static_cast<void>(ActUntil([&] { Main().Tree().ClickChild(0, group); },
-                               [&] { return Main().Tree().SelectedPath() == path; }));
+    const auto isSelected = [&] { return Main().Tree().SelectedPath() == path; };
+    if (!isSelected())
+        static_cast<void>(ActUntil([&] { Main().Tree().ClickChild(0, group); }, isSelected));
     Report().CheckEqual("selected node", Main().Tree().SelectedPath(), path);
 }
 
