@@ -2,11 +2,27 @@
 # Rules: Tools and packages
 
 import pathlib
+import re
 import unittest
 
-DOCUMENTS = pathlib.Path(__file__).resolve().parents[2] / "resources" / "documents"
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+DOCUMENTS = ROOT / "resources" / "documents"
 ENTRIES = ("readme", "lizenz", "changes", "todo", "limitations")
 LANGUAGES = ("de", "us")
+
+
+def words(text):
+    """The text on one line, so that it may be broken anywhere."""
+    return " ".join(text.split())
+
+
+def document(entry, language):
+    return words((DOCUMENTS / f"{entry}_{language}.txt").read_bytes().decode("cp1252"))
+
+
+def section(page, heading):
+    text = (ROOT / page).read_text(encoding="utf-8")
+    return words(text.partition(f"\n## {heading}\n")[2].partition("\n## ")[0].replace("**", ""))
 
 
 class Documents(unittest.TestCase):
@@ -37,6 +53,60 @@ class Documents(unittest.TestCase):
                 counts = {(DOCUMENTS / f"{entry}_{language}.txt").read_bytes().count(b"\r\n\r\n")
                           for language in LANGUAGES}
                 self.assertEqual(len(counts), 1)
+
+    def test_readme_says_to_which_file_save_writes(self):
+        self.assertIn("From then on its file is the one that was opened or saved last",
+                      document("readme", "us"))
+        self.assertIn("Danach ist ihre Datei diejenige, die zuletzt im Dateidialog geöffnet oder "
+                      "gespeichert wurde", document("readme", "de"))
+
+    def test_readme_says_that_a_library_without_groups_is_not_written(self):
+        self.assertIn("A library without groups is not written.", document("readme", "us"))
+        self.assertIn("Eine Bibliothek ohne Gruppen wird nicht geschrieben.",
+                      document("readme", "de"))
+
+    def test_readme_says_that_there_are_two_languages_and_none_plans_a_third(self):
+        self.assertIn("The program has these two languages.", document("readme", "us"))
+        self.assertIn("Das Programm hat diese zwei Sprachen.", document("readme", "de"))
+        for language in LANGUAGES:
+            with self.subTest(language):
+                self.assertNotRegex(document("todo", language), re.compile("language|sprache", re.I))
+
+
+class Banners(unittest.TestCase):
+    """The page for those who put banners beside the program says what the code does."""
+
+    RULES = (
+        "the bitmap files (`.bmp`) of the folder `banners`; no other format is shown",
+        "Their number is free: after the last comes the first again",
+        "Their size is free, too: a picture is scaled to its place and keeps its proportions",
+        "The number at the end of a picture's name is its place",
+        "Pictures without a number come last, in the order of their names",
+        "`banners.txt` holds the web addresses, one in each line",
+        "The picture with the number 3 has line 3",
+        "An empty line, or one that is not there, is a picture without an address",
+        "Without the file all pictures are shown without links",
+        "A picture that cannot be loaded keeps its turn and shows nothing",
+        "Without pictures there is no banner",
+    )
+
+    def test_page_says_their_rules(self):
+        page = section("docs/distributing.md", "Banners")
+        for rule in self.RULES:
+            with self.subTest(rule):
+                self.assertIn(rule, page)
+
+    def test_page_names_folder_file_format_and_time_of_the_code(self):
+        page = section("docs/distributing.md", "Banners")
+        for source, constant, said in (
+                ("app/main.cpp", r'"\\\\banners"', "folder `banners`"),
+                ("app/main.cpp", r'"\\\\banners\.txt"', "`banners.txt`"),
+                ("platform/BannerPictures.cpp", r'HasExtension\(.*"\.bmp"\)', "(`.bmp`)"),
+                ("mainwindow/frmMain.cpp", r"kBannerInterval = 5000; // milliseconds",
+                 "every five seconds")):
+            with self.subTest(said):
+                self.assertRegex((ROOT / source).read_text(encoding="utf-8"), constant)
+                self.assertIn(said, page)
 
 
 if __name__ == "__main__":
