@@ -33,6 +33,10 @@ function(tnt_test_program name)
         # The tests' own code is built once and run once; the code under test is as it is shipped.
         target_compile_options(${name} PRIVATE -O0)
     endif()
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        # The compiler need not tidy up its memory before it has used a gigabyte.
+        target_compile_options(${name} PRIVATE --param=ggc-min-heapsize=1000000)
+    endif()
     if(TNT_SANITIZE)
         # A null or misaligned pointer ends the process under AddressSanitizer anyway; asking before
         # each access makes the tests a third slower to compile.  The code under test has it all.
