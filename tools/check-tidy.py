@@ -186,8 +186,9 @@ def batches(commands, tool):
     unknown = {}
     for file, options in sorted(commands.items()):
         if not (KNOWN / fingerprint(file, options, tool)).exists():
-            unknown.setdefault(tuple(options), []).append(file)
-    return [(files, options) for options, members in unknown.items()
+            unknown.setdefault((tuple(options), "standin" in file.parts), []).append(file)
+    # The stand-in and the program call different things by the same names.
+    return [(files, options) for (options, _), members in unknown.items()
             for files in groups(members, -(-len(members) // TOGETHER))]
 
 
