@@ -120,6 +120,7 @@ private:
     EditingCommands editing_;
     FileCommands fileCommands_;
     ColorDrag drag_;
+    HistoryCommands historyCommands_;
     SolidWorksCommands solidWorksCommands_;
     MainWindow mainWindow_;
 };

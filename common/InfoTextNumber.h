@@ -49,6 +49,15 @@ inline constexpr std::int32_t SolidWorksIsBusy = 160;
 inline constexpr std::int32_t SolidWorksStopped = 161;
 inline constexpr std::int32_t ReadingStandardColors = 162;
 
+// Steps that are taken back and done again; the first four have the step as their argument.
+inline constexpr std::int32_t UndoStep = 170;
+inline constexpr std::int32_t RedoStep = 171;
+inline constexpr std::int32_t StepUndone = 172;
+inline constexpr std::int32_t StepRedone = 173;
+inline constexpr std::int32_t RenameColor = 174;
+inline constexpr std::int32_t MoveColor = 175;
+inline constexpr std::int32_t CopyColor = 176;
+
 // Of a failed automation call, where the system has no words; ErrorText.h has the built-in ones.
 inline constexpr std::int32_t ServerRejectsCall = 163;
 inline constexpr std::int32_t ObjectIsGone = 164;

@@ -3,7 +3,7 @@
 #include "library/LibraryKeys.h"
 
 std::string ColorLibrary::NewMainNode(const std::string& name) {
-    std::string key = LowestFreeMainKey();
+    std::string key = tree_.LowestFreeMainKey();
     tree_.AddMainNode(key, name);
     tree_.Select(key);
     tree_.Expand(key);
@@ -76,13 +76,6 @@ std::string ColorLibrary::SelectedGroup() const {
     if (node->kind == NodeKind::Group)
         return node->key;
     return node->children.empty() ? std::string() : node->children.front();
-}
-
-std::string ColorLibrary::LowestFreeMainKey() const {
-    std::size_t number = 0;
-    while (tree_.Find(LibraryKeys::OfLibrary(number)))
-        ++number;
-    return LibraryKeys::OfLibrary(number);
 }
 
 std::string ColorLibrary::FreeColorKey(const std::string& groupKey, int& number, int count) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "library/ColorTable.h"
+#include "library/LibraryHistory.h"
 #include "library/LibraryTree.h"
 
 #include <string>
@@ -18,6 +19,9 @@ public:
     [[nodiscard]] const LibraryTree& Tree() const noexcept { return tree_; }
     [[nodiscard]] ColorTable& Colors() noexcept { return colors_; }
     [[nodiscard]] const ColorTable& Colors() const noexcept { return colors_; }
+
+    [[nodiscard]] LibraryHistory& History() noexcept { return history_; }
+    [[nodiscard]] const LibraryHistory& History() const noexcept { return history_; }
 
     // Adds a library without a file, with the lowest number that is free, and selects it; gives its
     // key.
@@ -53,11 +57,11 @@ public:
 
 private:
     [[nodiscard]] std::string NextGroupKey(const std::string& mainKey) const;
-    [[nodiscard]] std::string LowestFreeMainKey() const;
     // number: is counted on to the first that is free, but not beyond count.
     [[nodiscard]] std::string FreeColorKey(const std::string& groupKey, int& number,
                                            int count) const;
 
     LibraryTree tree_;
     ColorTable colors_;
+    LibraryHistory history_{tree_, colors_};
 };

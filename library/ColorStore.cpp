@@ -12,12 +12,22 @@ ColorId ColorStore::Add(StoredColor&& color) {
     const ColorId id = next_++;
     if (BlockOf(id) == blocks_.size())
         blocks_.push_back(nullptr);
+    Place(id, std::move(color));
+    return id;
+}
+
+void ColorStore::Place(ColorId id, StoredColor&& color) {
     std::unique_ptr<Block>& block = blocks_[BlockOf(id)];
     if (block == nullptr)
         block = std::make_unique<Block>();
     block->colors[id % kBlockSize] = std::move(color);
     ++block->count;
-    return id;
+}
+
+void ColorStore::PutBack(ColorId id, StoredColor&& color) {
+    for (; gone_ > id / kBlockSize; --gone_)
+        blocks_.push_front(nullptr);
+    Place(id, std::move(color));
 }
 
 void ColorStore::Remove(ColorId id) {

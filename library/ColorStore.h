@@ -34,7 +34,8 @@ public:
     void Clear();
 
     ColorId Add(StoredColor&& color);
-    void Remove(ColorId id); // of a colour that is there
+    void Remove(ColorId id);                       // of a color that is there
+    void PutBack(ColorId id, StoredColor&& color); // that was removed, under its id
 
     // The colour must be there.
     [[nodiscard]] const StoredColor& At(ColorId id) const noexcept {
@@ -52,6 +53,8 @@ private:
     };
 
     [[nodiscard]] std::size_t BlockOf(ColorId id) const noexcept { return id / kBlockSize - gone_; }
+
+    void Place(ColorId id, StoredColor&& color);
 
     std::deque<std::unique_ptr<Block>> blocks_; // null: all of its colours have gone
     ColorId next_ = 1;

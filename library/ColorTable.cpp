@@ -49,6 +49,30 @@ ColorKeyIndex::Hash HashOfKey(std::string_view key) {
     throw RuntimeError(ErrorNumber::SubscriptOutOfRange, ErrorTexts::NoSuchNumber);
 }
 
+// Both ascending; what goes is there.
+void EraseSorted(std::vector<ColorId>& ids, const std::vector<ColorId>& going) {
+    if (going.size() == 1) {
+        ids.erase(std::ranges::lower_bound(ids, going.front()));
+        return;
+    }
+    auto next = going.begin();
+    std::erase_if(ids, [&](ColorId id) {
+        const bool goes = next != going.end() && *next == id;
+        next += goes ? 1 : 0;
+        return goes;
+    });
+}
+
+void MergeSorted(std::vector<ColorId>& ids, const std::vector<ColorId>& coming) {
+    if (coming.size() == 1) {
+        ids.insert(std::ranges::lower_bound(ids, coming.front()), coming.front());
+        return;
+    }
+    const auto middle = static_cast<std::ptrdiff_t>(ids.size());
+    ids.insert(ids.end(), coming.begin(), coming.end());
+    std::inplace_merge(ids.begin(), ids.begin() + middle, ids.end());
+}
+
 } // namespace
 
 void ColorTable::Reset() {
@@ -160,15 +184,38 @@ void ColorTable::Insert(StoredColor&& color) {
     groups_[group].ids.push_back(id);
     if (keysIndexed_ && !IndexKey(id))
         keysAreUnique_ = false;
+    if (journal_)
+        journal_->ColorAdded(id, groups_[group].key);
+}
+
+void ColorTable::TellChange(ColorId id) const {
+    if (!journal_)
+        return;
+    const StoredColor& color = store_.At(id);
+    StoredColor before;
+    before.name = color.name;
+    if (color.altName)
+        before.altName = std::make_unique<std::string>(*color.altName);
+    before.values = color.values;
+    journal_->ColorChanges(id, std::move(before));
+}
+
+void ColorTable::Exchange(ColorId id, StoredColor& other) {
+    StoredColor& color = store_.At(id);
+    std::swap(color.name, other.name);
+    std::swap(color.altName, other.altName);
+    std::swap(color.values, other.values);
 }
 
 void ColorTable::SetNames(int index, const std::string& name) {
+    TellChange(IdAt(index));
     StoredColor& color = ColorAt(index);
     color.name = name;
     color.altName.reset();
 }
 
 void ColorTable::SetName(int index, const std::string& name) {
+    TellChange(IdAt(index));
     StoredColor& color = ColorAt(index);
     const std::string altName = color.AltName();
     color.altName = altName != name ? std::make_unique<std::string>(altName) : nullptr;
@@ -176,44 +223,79 @@ void ColorTable::SetName(int index, const std::string& name) {
 }
 
 void ColorTable::SetValues(int index, const ColorValueArray& values) {
+    TellChange(IdAt(index));
     ColorAt(index).values = values;
 }
 
 void ColorTable::Erase(int index) {
     const ColorId id = IdAt(index);
-    if (keysIndexed_ && keysAreUnique_)
-        keys_.Remove(id, HashOf(id));
-    else
-        keysIndexed_ = false; // the next one with its key is the first then
-    std::vector<ColorId>& ids = groups_[store_.At(id).group].ids;
-    ids.erase(std::ranges::lower_bound(ids, id));
-    order_.erase(order_.begin() + (index - 1));
+    const std::string groupKey = groups_[store_.At(id).group].key;
+    std::vector<RemovedColor> removed = TakeOut({id});
+    if (journal_)
+        journal_->ColorsRemoved(groupKey, std::move(removed));
+}
+
+std::vector<RemovedColor> ColorTable::TakeOut(const std::vector<ColorId>& ids) {
+    LeaveOrder(ids);
+    std::vector<RemovedColor> removed;
+    removed.reserve(ids.size());
+    if (!ids.empty())
+        EraseSorted(groups_[store_.At(ids.front()).group].ids, ids);
+    for (const ColorId id : ids)
+        removed.push_back(MoveOut(id));
+    return removed;
+}
+
+RemovedColor ColorTable::MoveOut(ColorId id) {
+    RemovedColor removed{id, std::move(store_.At(id))};
     store_.Remove(id);
+    return removed;
+}
+
+void ColorTable::LeaveOrder(const std::vector<ColorId>& ids) {
+    // Where much goes, the index is made anew when it is needed; also where keys are not unique,
+    // for the next one with a key is the first then.
+    const bool isLittle = ids.size() <= 1 || ids.size() < order_.size() / 4;
+    keysIndexed_ = keysIndexed_ && keysAreUnique_ && isLittle;
+    if (keysIndexed_)
+        for (const ColorId id : ids)
+            keys_.Remove(id, HashOf(id));
+    else
+        keys_.Clear();
+    EraseSorted(order_, ids);
+}
+
+void ColorTable::PutBack(const std::string& groupKey, std::vector<RemovedColor> colors) {
+    const GroupNumber group = NumberOfGroup(groupKey);
+    std::vector<ColorId> ids;
+    ids.reserve(colors.size());
+    for (RemovedColor& removed : colors) {
+        removed.color.group = group;
+        ids.push_back(removed.id);
+        store_.PutBack(removed.id, std::move(removed.color));
+    }
+    MergeSorted(order_, ids);
+    MergeSorted(groups_[group].ids, ids);
+    keysIndexed_ = keysIndexed_ && keysAreUnique_;
+    for (const ColorId id : ids)
+        keysIndexed_ = keysIndexed_ && IndexKey(id);
 }
 
 void ColorTable::EraseGroups(const std::vector<std::string>& groupKeys) {
-    std::vector<bool> goes(groups_.size());
-    std::size_t count = 0;
-    for (const std::string& key : groupKeys)
-        if (const Group* group = FindGroup(key)) {
-            goes[static_cast<std::size_t>(group - groups_.data())] = true;
-            count += group->ids.size();
-        }
-    // Where much goes, the index is made anew when it is needed.
-    keysIndexed_ = keysIndexed_ && keysAreUnique_ && count < order_.size() / 4;
-    std::erase_if(order_, [&](ColorId id) {
-        const bool isGone = goes[store_.At(id).group];
-        if (isGone && keysIndexed_)
-            keys_.Remove(id, HashOf(id));
-        if (isGone)
-            store_.Remove(id);
-        return isGone;
-    });
-    for (std::size_t number = 0; number < groups_.size(); ++number)
-        if (goes[number])
-            groups_[number].ids = {};
-    if (!keysIndexed_)
-        keys_.Clear();
+    std::vector<ColorId> leaving;
+    for (const std::string& key : groupKeys) {
+        const std::vector<ColorId>& ids = IdsOfGroup(key);
+        leaving.insert(leaving.end(), ids.begin(), ids.end());
+    }
+    std::ranges::sort(leaving);
+    LeaveOrder(leaving);
+    for (const std::string& key : groupKeys) {
+        std::vector<RemovedColor> removed;
+        for (const ColorId id : std::exchange(groups_[NumberOfGroup(key)].ids, {}))
+            removed.push_back(MoveOut(id));
+        if (journal_ && !removed.empty())
+            journal_->ColorsRemoved(key, std::move(removed));
+    }
 }
 
 void ColorTable::IndexKeys() const {

@@ -3,6 +3,7 @@
 #include "common/ColorRecord.h"
 #include "library/ColorKeyIndex.h"
 #include "library/ColorStore.h"
+#include "library/LibraryJournal.h"
 
 #include <cstdint>
 #include <string>
@@ -19,6 +20,18 @@ public:
     ColorTable() = default;
     ColorTable(const ColorTable&) = delete;
     ColorTable& operator=(const ColorTable&) = delete;
+
+    // At most one journal, which hears of every change but Reset; null: none.
+    void SetJournal(ColorJournal* journal) noexcept { journal_ = journal; }
+
+    // Takes colors out, by their ids in the order of the table, and puts them back in their places,
+    // as colors of a group.  Neither is told to the journal.
+    [[nodiscard]] std::vector<RemovedColor> TakeOut(const std::vector<ColorId>& ids);
+    void PutBack(const std::string& groupKey, std::vector<RemovedColor> colors);
+
+    // Names and values of a color that is there and those given change places; not told to the
+    // journal.
+    void Exchange(ColorId id, StoredColor& other);
 
     // Back to the placeholder alone.
     void Reset();
@@ -78,6 +91,9 @@ private:
 
     [[nodiscard]] StoredColor& ColorAt(int index);
     void Insert(StoredColor&& color);
+    void LeaveOrder(const std::vector<ColorId>& ids); // and the index of keys
+    [[nodiscard]] RemovedColor MoveOut(ColorId id);   // of the store alone
+    void TellChange(ColorId id) const;
     [[nodiscard]] const Group* FindGroup(const std::string& groupKey) const;
     [[nodiscard]] std::string KeyOf(ColorId id) const;
     [[nodiscard]] ColorKeyIndex::Hash HashOf(ColorId id) const;
@@ -94,4 +110,6 @@ private:
     mutable ColorKeyIndex keys_;
     mutable bool keysIndexed_ = false;
     mutable bool keysAreUnique_ = true;
+
+    ColorJournal* journal_ = nullptr;
 };

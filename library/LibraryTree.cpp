@@ -1,6 +1,7 @@
 #include "library/LibraryTree.h"
 
 #include "common/RuntimeError.h"
+#include "library/LibraryKeys.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,7 +12,7 @@ void LibraryTree::AddMainNode(const std::string& key, const std::string& text) {
     node.id = ++lastId_;
     node.key = key;
     node.text = text;
-    Insert(node, mainNodes_);
+    Add(node, mainNodes_);
 }
 
 void LibraryTree::AddGroup(const std::string& mainKey, const std::string& key,
@@ -21,37 +22,97 @@ void LibraryTree::AddGroup(const std::string& mainKey, const std::string& key,
     node.key = key;
     node.text = text;
     node.parent = mainKey;
-    LibraryNode& mainNode = Existing(mainKey);
-    Insert(node, mainNode.children);
-    // A tree control cannot expand a node before it has a child.
-    if (mainNode.expanded && mainNode.children.size() == 1)
-        Expand(mainKey);
+    Add(node, Existing(mainKey).children);
 }
 
-void LibraryTree::Insert(const LibraryNode& node, std::vector<std::string>& siblings) {
-    const auto [place, added] = nodes_.try_emplace(node.key, node);
+void LibraryTree::Add(const LibraryNode& node, std::vector<std::string>& siblings) {
+    Insert(node, siblings, siblings.size());
+    if (journal_)
+        journal_->NodeAdded(node);
+}
+
+void LibraryTree::Insert(const LibraryNode& node, std::vector<std::string>& siblings,
+                         std::size_t place) {
+    const auto [entry, added] = nodes_.try_emplace(node.key, node);
     if (!added)
         throw RuntimeError(ErrorNumber::DuplicateKey, ErrorTexts::GroupNumberTaken);
-    siblings.push_back(node.key);
+    siblings.insert(siblings.begin() + static_cast<std::ptrdiff_t>(place), node.key);
     if (observer_)
-        observer_->NodeAdded(node);
+        observer_->NodeAdded(node, place == 0 ? std::string() : siblings[place - 1]);
+    // A tree control cannot expand a node before it has a child.
+    if (siblings.size() == 1 && !node.parent.empty() && At(node.parent).expanded)
+        Expand(node.parent);
 }
 
 void LibraryTree::Remove(const std::string& key) {
-    const LibraryNode node = At(key);
+    RemovedNode removed = TakeOut(key);
+    if (journal_)
+        journal_->NodeRemoved(std::move(removed));
+}
+
+RemovedNode LibraryTree::TakeOut(const std::string& key) {
+    const LibraryNode& node = At(key);
     const bool selectionGoes = HoldsSelection(node);
     const std::string nextSelection = SelectionWithout(node);
+    RemovedNode removed{.node = node};
     for (const std::string& child : node.children)
-        nodes_.erase(child);
-    nodes_.erase(key);
-    std::erase(node.parent.empty() ? mainNodes_ : Existing(node.parent).children, key);
+        removed.groups.push_back(std::move(nodes_.extract(child).mapped()));
+    nodes_.erase(removed.node.key);
+    const std::string& parent = removed.node.parent;
+    std::vector<std::string>& siblings = parent.empty() ? mainNodes_ : Existing(parent).children;
+    const auto place = std::ranges::find(siblings, removed.node.key);
+    removed.place = static_cast<std::size_t>(place - siblings.begin());
+    siblings.erase(place);
     if (selectionGoes)
         selected_ = nextSelection;
-    if (!observer_)
-        return;
-    observer_->NodeRemoved(key);
-    if (selectionGoes)
-        observer_->NodeSelected(selected_);
+    if (observer_) {
+        observer_->NodeRemoved(removed.node.key);
+        if (selectionGoes)
+            observer_->NodeSelected(selected_);
+    }
+    return removed;
+}
+
+void LibraryTree::PutBack(RemovedNode removed, const std::string& parentKey) {
+    const std::string before = removed.node.key;
+    LibraryNode& node = removed.node;
+    node.parent = parentKey;
+    if (node.kind == NodeKind::Group)
+        node.key = parentKey + before.substr(before.find(LibraryKeys::kGroupLetter));
+    else if (Find(node.key))
+        node.key = LowestFreeMainKey();
+    if (node.lastColor.starts_with(before))
+        node.lastColor = node.key + node.lastColor.substr(before.size());
+    node.children.clear();
+    std::vector<std::string>& siblings =
+        parentKey.empty() ? mainNodes_ : Existing(parentKey).children;
+    Insert(node, siblings, std::min(removed.place, siblings.size()));
+    std::size_t place = 0;
+    for (LibraryNode& group : removed.groups)
+        PutBack({.node = std::move(group), .place = place++}, node.key);
+}
+
+NodeRef LibraryTree::RefOf(const std::string& key) const {
+    const LibraryNode& node = At(key);
+    if (node.kind == NodeKind::Library)
+        return {node.id};
+    return {At(node.parent).id, key.substr(node.parent.size())};
+}
+
+std::string LibraryTree::KeyOf(const NodeRef& ref) const {
+    const auto library = std::ranges::find_if(
+        mainNodes_, [&](const std::string& key) { return At(key).id == ref.library; });
+    if (library == mainNodes_.end())
+        return {};
+    std::string key = *library + ref.group;
+    return Find(key) ? key : std::string();
+}
+
+std::string LibraryTree::LowestFreeMainKey() const {
+    std::size_t number = 0;
+    while (Find(LibraryKeys::OfLibrary(number)))
+        ++number;
+    return LibraryKeys::OfLibrary(number);
 }
 
 const LibraryNode* LibraryTree::Find(const std::string& key) const {
@@ -79,13 +140,22 @@ void LibraryTree::SetText(const std::string& key, const std::string& text) {
     LibraryNode& node = Existing(key);
     if (node.text == text)
         return;
-    node.text = text;
+    const std::string before = std::exchange(node.text, text);
+    if (journal_)
+        journal_->NodeRenamed(key, before);
     if (observer_)
         observer_->NodeTextChanged(key, text);
 }
 
 void LibraryTree::SetFile(const std::string& mainKey, const std::string& path) {
-    Existing(mainKey).file = path;
+    ChangeFile(mainKey, path);
+}
+
+void LibraryTree::ChangeFile(const std::string& mainKey, std::optional<std::string> path) {
+    const std::optional<std::string> before =
+        std::exchange(Existing(mainKey).file, std::move(path));
+    if (journal_)
+        journal_->FileChanged(mainKey, before);
 }
 
 void LibraryTree::SetSource(const std::string& mainKey, const std::string& path) {
@@ -93,11 +163,13 @@ void LibraryTree::SetSource(const std::string& mainKey, const std::string& path)
 }
 
 void LibraryTree::SetUnsaved(const std::string& mainKey) {
-    Existing(mainKey).file.reset();
+    ChangeFile(mainKey, {});
 }
 
 void LibraryTree::RememberColor(const std::string& groupKey, const std::string& colorKey) {
-    Existing(groupKey).lastColor = colorKey;
+    const std::string before = std::exchange(Existing(groupKey).lastColor, colorKey);
+    if (journal_)
+        journal_->ColorRemembered(groupKey, before);
 }
 
 void LibraryTree::Expand(const std::string& key) {

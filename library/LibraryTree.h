@@ -1,8 +1,12 @@
 #pragma once
 
+#include "library/LibraryJournal.h"
 #include "library/LibraryNode.h"
 #include "library/LibraryTreeObserver.h"
+#include "library/LibraryView.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -13,6 +17,8 @@ class LibraryTree {
 public:
     // At most one observer; null: none.
     void Observe(LibraryTreeObserver* observer) noexcept { observer_ = observer; }
+    // At most one journal, which hears of every change but selecting and expanding; null: none.
+    void SetJournal(TreeJournal* journal) noexcept { journal_ = journal; }
 
     // Adds a main node, or a group as the last child of an existing node.  Throws RuntimeError
     // DuplicateKey when the key is taken; the tree is unchanged then.
@@ -22,6 +28,18 @@ public:
     // Removes a node with everything below it.  When the selected node goes, the selection moves to
     // the next sibling of the removed node, else the previous one, else the parent, else nothing.
     void Remove(const std::string& key);
+
+    // Takes a node out as Remove does, and puts one back in its place among its siblings; a library
+    // whose key has been given again meanwhile gets another one, together with all in it.  Neither
+    // is told to the journal.
+    [[nodiscard]] RemovedNode TakeOut(const std::string& key);
+    void PutBack(RemovedNode removed, const std::string& parentKey);
+
+    [[nodiscard]] NodeRef RefOf(const std::string& key) const; // of a node that is there
+    [[nodiscard]] std::string KeyOf(const NodeRef& ref) const; // empty: it is not there now
+
+    // The lowest key that no library has.
+    [[nodiscard]] std::string LowestFreeMainKey() const;
 
     // Null when there is no such node.
     [[nodiscard]] const LibraryNode* Find(const std::string& key) const;
@@ -48,7 +66,9 @@ public:
 
 private:
     LibraryNode& Existing(const std::string& key);
-    void Insert(const LibraryNode& node, std::vector<std::string>& siblings);
+    void Insert(const LibraryNode& node, std::vector<std::string>& siblings, std::size_t place);
+    void ChangeFile(const std::string& mainKey, std::optional<std::string> path);
+    void Add(const LibraryNode& node, std::vector<std::string>& siblings);
     [[nodiscard]] std::string SelectionWithout(const LibraryNode& node) const;
     [[nodiscard]] const std::vector<std::string>& SiblingsOf(const LibraryNode& node) const;
     [[nodiscard]] bool HoldsSelection(const LibraryNode& node) const;
@@ -58,4 +78,5 @@ private:
     std::string selected_;
     LibraryId lastId_ = 0;
     LibraryTreeObserver* observer_ = nullptr;
+    TreeJournal* journal_ = nullptr;
 };

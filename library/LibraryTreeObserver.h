@@ -7,7 +7,8 @@ class LibraryTreeObserver {
 public:
     virtual ~LibraryTreeObserver() = default;
 
-    virtual void NodeAdded(const LibraryNode& node) = 0;  // as the last child of its parent
+    // Behind the sibling with a key; empty: as the first of them.
+    virtual void NodeAdded(const LibraryNode& node, const std::string& previousKey) = 0;
     virtual void NodeRemoved(const std::string& key) = 0; // with everything below it
     virtual void NodeTextChanged(const std::string& key, const std::string& text) = 0;
     virtual void NodeExpanded(const std::string& key) = 0;

@@ -7,6 +7,10 @@
 // Menus, toolbar and status bar.  Texts are UTF-8.
 class BarsPane : public MenuMarks {
 public:
+    // The entry's caption; a text that is shown in its stead (empty: none), and whether it is grey.
+    [[nodiscard]] virtual std::string MenuCaption(int command) const = 0;
+    virtual void SetMenuText(int command, const std::string& text) = 0;
+    virtual void SetMenuEnabled(int command, bool enabled) = 0;
     virtual void SetButtonPressed(const std::string& buttonKey, bool pressed) = 0;
     // What was shown or hidden takes its place with ArrangeBars, once for all.
     virtual void SetButtonVisible(const std::string& buttonKey, bool visible) = 0;

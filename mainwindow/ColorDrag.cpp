@@ -1,6 +1,7 @@
 #include "mainwindow/ColorDrag.h"
 
 #include "common/InfoTextNumber.h"
+#include "mainwindow/HistoryStep.h"
 
 #include <utility>
 
@@ -22,7 +23,7 @@ void ColorDrag::DragMoved(const DragPoint& at) {
 
 void ColorDrag::Show(const DragPoint& at) {
     Rest(at);
-    const std::string group = parts_.tree.IsGroup(at.node) ? at.node : std::string();
+    const std::string group = parts_.library.Tree().IsGroup(at.node) ? at.node : std::string();
     parts_.pane.MarkDropNode(group);
     parts_.pane.ShowDrag(at.left, at.top,
                          at.isOverList || !group.empty() ? parts_.activity.drag : DragMode::None);
@@ -40,7 +41,7 @@ void ColorDrag::DragTicked(const DragPoint& at) {
         parts_.pane.ScrollTree(at.edge);
     Show(at);
     if (!restsOn_.empty() && ++ticks_ == kTicksToExpand)
-        parts_.tree.Expand(restsOn_);
+        parts_.library.Tree().Expand(restsOn_);
 }
 
 void ColorDrag::DragDropped(const DragPoint& at) {
@@ -56,11 +57,17 @@ void ColorDrag::DragDropped(const DragPoint& at) {
 void ColorDrag::DropOnNode(const std::string& key) {
     // Idle whatever happens from here on.
     const DragMode mode = std::exchange(parts_.activity.drag, DragMode::None);
-    if (!parts_.tree.IsGroup(key))
+    if (!parts_.library.Tree().IsGroup(key)) {
         parts_.prompts.ShowMessage(parts_.texts.GetInfoText(InfoTextNumber::DropOnGroupOnly),
                                    MessageStyle::Information,
                                    parts_.texts.GetInfoText(InfoTextNumber::Color));
-    else if (mode == DragMode::Move)
+        return;
+    }
+    const bool moves = mode == DragMode::Move;
+    const HistoryStep step(
+        parts_.library.History(), parts_.panes,
+        {.textNumber = moves ? InfoTextNumber::MoveColor : InfoTextNumber::CopyColor});
+    if (moves)
         parts_.editing.MoveInto(key);
     else
         parts_.editing.CopyInto(key);

@@ -2,8 +2,9 @@
 
 #include "common/ports/InfoTexts.h"
 #include "common/ports/Prompts.h"
-#include "library/LibraryTree.h"
+#include "library/ColorLibrary.h"
 #include "mainwindow/EditingCommands.h"
+#include "mainwindow/LibraryPanes.h"
 #include "mainwindow/MainActivity.h"
 #include "mainwindow/ColorList.h"
 #include "mainwindow/DragPane.h"
@@ -16,7 +17,8 @@ class ColorDrag : public DragEvents {
 public:
     struct Parts {
         DragPane& pane;
-        LibraryTree& tree;
+        ColorLibrary& library;
+        const LibraryPanes& panes;
         const ColorList& list;
         EditingCommands& editing;
         Prompts& prompts;

@@ -87,6 +87,17 @@ std::string ColorList::SelectedKey() const {
     return selected_ ? KeyOfRow(*selected_) : std::string();
 }
 
+ColorId ColorList::SelectedColor() const {
+    return selected_ ? rows_[static_cast<std::size_t>(*selected_)] : 0;
+}
+
+bool ColorList::SelectColor(ColorId color) {
+    const std::optional<int> row = RowOfColor(color);
+    if (row)
+        Select(*row);
+    return row.has_value();
+}
+
 void ColorList::ShowSelected() {
     if (selected_)
         pane_.EnsureRowVisible(*selected_);
@@ -118,7 +129,7 @@ void ColorList::SortByColumn(int column) {
     sortKey_ = column - 1;
     sorted_ = true;
     pane_.ShowSortOrder(column, descending_);
-    const ColorId selectedColor = selected_ ? rows_[static_cast<std::size_t>(*selected_)] : 0;
+    const ColorId selectedColor = SelectedColor();
     Sort();
     selected_.reset();
     pane_.RowsChanged(RowCount());

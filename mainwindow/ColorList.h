@@ -35,6 +35,10 @@ public:
     [[nodiscard]] std::optional<int> SelectedRow() const noexcept { return selected_; }
     [[nodiscard]] std::string SelectedKey() const; // empty: none
     void ShowSelected();
+    [[nodiscard]] ColorId SelectedColor() const; // 0: none
+    bool SelectColor(ColorId color);             // false: it is not in the list
+    [[nodiscard]] int FirstRowInSight() const { return pane_.FirstRowInSight(); }
+    void ShowFromRow(int row) { pane_.ShowFromRow(row); }
     void EditSelected(); // its label; nothing without one
     void FinishEdit() { pane_.FinishLabelEdit(); }
 

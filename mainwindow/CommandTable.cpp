@@ -63,11 +63,21 @@ constexpr MenuRow Operation(int command, const char* name, const char* caption,
     return row;
 }
 
+// What it changes in the libraries is one step.
+constexpr MenuRow Step(MenuRow row) {
+    row.isStep = true;
+    return row;
+}
+constexpr MenuRow AlsoBy(Shortcut shortcut, MenuRow row) {
+    row.otherShortcut = shortcut;
+    return row;
+}
+
 constexpr std::array kMenuRows = {
     Title(IDM_mnuFile, "mnuFile", "Datei"),
-    Reporting(
+    Step(Reporting(
         IDM_mnuFileNew, "mnuFileNew", "Neu", [](Commands c) { c.file.mnuFileNew_Click(); },
-        Ctrl('N')),
+        Ctrl('N'))),
     Reporting(
         IDM_mnuFileOpen, "mnuFileOpen", "Öffnen ...",
         [](Commands c) { c.file.mnuFileOpen_Click(); }, Ctrl('O')),
@@ -77,46 +87,55 @@ constexpr std::array kMenuRows = {
     Reporting(
         IDM_mnuFileSaveAs, "mnuFileSaveAs", "Speichern unter ...",
         [](Commands c) { c.file.mnuFileSaveAs_Click(); }, CtrlShift('S')),
-    Reporting(IDM_mnuFileClose, "mnuFileClose", "Schließen",
-              [](Commands c) { c.file.mnuFileClose_Click(); }),
+    Step(Reporting(IDM_mnuFileClose, "mnuFileClose", "Schließen",
+                   [](Commands c) { c.file.mnuFileClose_Click(); })),
     Reporting(IDM_mnuFileCancelAutoload, "mnuFileCancelAutoload", "Automatisches Laden aufheben",
               [](Commands c) { c.file.mnuFileCancelAutoload_Click(); }),
     Separator(IDM_mnuFileHR, "mnuFileHR"),
     Entry(IDM_mnuQuit, "mnuQuit", "Beenden", [](Commands c) { c.quit(); }),
 
+    Title(IDM_mnuEdit, "mnuEdit", "Bearbeiten"),
+    Reporting(
+        IDM_mnuEditUndo, "mnuEditUndo", "Rückgängig",
+        [](Commands c) { c.history.mnuEditUndo_Click(); }, OutsideText('Z')),
+    AlsoBy({.ctrl = true, .shift = true, .key = 'Z', .reach = ShortcutReach::OutsideText},
+           Reporting(
+               IDM_mnuEditRedo, "mnuEditRedo", "Wiederholen",
+               [](Commands c) { c.history.mnuEditRedo_Click(); }, OutsideText('Y'))),
+
     Title(IDM_mnuColor, "mnuColor", "Farbe"),
-    Entry(IDM_mnuColorNewMainNode, "mnuColorNewMainNode", "Neue Bibliothek",
-          [](Commands c) { c.newNodes.NewMainNode(); }),
-    Entry(IDM_mnuColorNewGroup, "mnuColorNewGroup", "Neue Gruppe",
-          [](Commands c) { c.newNodes.NewGroupNode(); }),
-    Entry(IDM_mnuColorNewColor, "mnuColorNewColor", "Neue Farbe",
-          [](Commands c) { c.newNodes.NewColorNode(); }),
+    Step(Entry(IDM_mnuColorNewMainNode, "mnuColorNewMainNode", "Neue Bibliothek",
+               [](Commands c) { c.newNodes.NewMainNode(); })),
+    Step(Entry(IDM_mnuColorNewGroup, "mnuColorNewGroup", "Neue Gruppe",
+               [](Commands c) { c.newNodes.NewGroupNode(); })),
+    Step(Entry(IDM_mnuColorNewColor, "mnuColorNewColor", "Neue Farbe",
+               [](Commands c) { c.newNodes.NewColorNode(); })),
     Separator(IDM_mnuColorHR1, "mnuColorHR1"),
     Entry(IDM_mnuColorRenameNode, "mnuColorRenameNode", "Bibliothek oder Gruppe umbenennen",
           [](Commands c) { c.panes.EditSelectedNode(); }),
     Separator(IDM_mnuColorHR2, "mnuColorHR2"),
-    Entry(IDM_mnuColorDelMainNode, "mnuColorDelMainNode", "Bibliothek löschen",
-          [](Commands c) { c.editing.DeleteMainNode(); }),
-    Entry(IDM_mnuColorDelGroup, "mnuColorDelGroup", "Gruppe löschen",
-          [](Commands c) { c.editing.DeleteGroup(); }),
-    Entry(
+    Step(Entry(IDM_mnuColorDelMainNode, "mnuColorDelMainNode", "Bibliothek löschen",
+               [](Commands c) { c.editing.DeleteMainNode(); })),
+    Step(Entry(IDM_mnuColorDelGroup, "mnuColorDelGroup", "Gruppe löschen",
+               [](Commands c) { c.editing.DeleteGroup(); })),
+    Step(Entry(
         IDM_mnuColorDelColor, "mnuColorDelColor", "Farbe löschen",
-        [](Commands c) { c.editing.DeleteColor(); }, InList(Key::Delete)),
+        [](Commands c) { c.editing.DeleteColor(); }, InList(Key::Delete))),
     Separator(IDM_mnuColorHR3, "mnuColorHR3"),
     Entry(
         IDM_mnuColorCopy, "mnuColorCopy", "Kopieren", [](Commands c) { c.editing.Copy(); },
         OutsideText('C')),
-    Entry(
+    Step(Entry(
         IDM_mnuColorCut, "mnuColorCut", "Ausschneiden", [](Commands c) { c.editing.Cut(); },
-        OutsideText('X')),
-    Entry(
+        OutsideText('X'))),
+    Step(Entry(
         IDM_mnuColorPaste, "mnuColorPaste", "Einfügen", [](Commands c) { c.editing.Paste(); },
-        OutsideText('V')),
+        OutsideText('V'))),
     Separator(IDM_mnuColorHR4, "mnuColorHR4"),
     Entry(IDM_mnuColorChange, "mnuColorChange", "Farbwert wählen ...",
           [](Commands c) { c.editor.PickActiveColorFromDialog(); }),
-    Entry(IDM_mnuColorUpdateColor, "mnuColorUpdateColor", "Farbe aktualisieren",
-          [](Commands c) { c.panes.UpdateFromColorPreview(); }),
+    Step(Entry(IDM_mnuColorUpdateColor, "mnuColorUpdateColor", "Farbe aktualisieren",
+               [](Commands c) { c.panes.UpdateFromColorPreview(); })),
 
     Title(IDM_mnuView, "mnuView", "Ansicht"),
     Entry(IDM_mnuViewToolbar, "mnuViewToolbar", "Symbolleiste",
@@ -147,8 +166,9 @@ constexpr std::array kMenuRows = {
     Title(IDM_mnuSWX, "mnuSWX", "SolidWorks"),
     Operation(IDM_mnuSWXGetColor, "mnuSWXGetColor", "Farbe aus SolidWorks holen",
               [](Commands c) { c.solidWorks.mnuSWXGetColor_Click(); }),
-    Operation(IDM_mnuSWXNewColorUpdate, "mnuSWXNewColorUpdate", "Neue Farbe aus SolidWorks holen",
-              [](Commands c) { c.solidWorks.mnuSWXNewColorUpdate_Click(); }),
+    Step(Operation(IDM_mnuSWXNewColorUpdate, "mnuSWXNewColorUpdate",
+                   "Neue Farbe aus SolidWorks holen",
+                   [](Commands c) { c.solidWorks.mnuSWXNewColorUpdate_Click(); })),
     Separator(IDM_mnuSWXHR1, "mnuSWXHR1"),
     Operation(IDM_mnuSWXSetColor, "mnuSWXSetColor", "Farbe in SolidWorks setzen",
               [](Commands c) { c.solidWorks.mnuSWXSetColor_Click(); }),
@@ -168,8 +188,8 @@ constexpr std::array kMenuRows = {
               "Farben aller Komponenten entfernen",
               [](Commands c) { c.solidWorks.mnuSWXClearColorAssembly_Click(); }),
     Separator(IDM_mnuSWXHR3, "mnuSWXHR3"),
-    Operation(IDM_mnuSWXGetStandardColor, "mnuSWXGetStandardColor", "Standardfarben holen",
-              [](Commands c) { c.solidWorks.mnuSWXGetStandardColor_Click(); }),
+    Step(Operation(IDM_mnuSWXGetStandardColor, "mnuSWXGetStandardColor", "Standardfarben holen",
+                   [](Commands c) { c.solidWorks.mnuSWXGetStandardColor_Click(); })),
     Operation(IDM_mnuSWXSetStandardColor, "mnuSWXSetStandardColor", "Standardfarben setzen",
               [](Commands c) { c.solidWorks.mnuSWXSetStandardColor_Click(); }),
 

@@ -51,6 +51,8 @@ struct MenuRow {
     CommandHandler run = nullptr; // of an entry
     CommandKind kind = CommandKind::Plain;
     Shortcut shortcut{};
+    Shortcut otherShortcut{}; // does the same; not shown in the menu
+    bool isStep = false;      // changes the libraries: can be taken back
 };
 
 // Menu titles, each followed by its entries, in order.

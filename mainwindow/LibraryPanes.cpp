@@ -1,5 +1,9 @@
 #include "mainwindow/LibraryPanes.h"
 
+#include "common/InfoTextNumber.h"
+#include "mainwindow/HistoryStep.h"
+#include "resources/controls.h"
+
 void LibraryPanes::ShowColorNodes(const std::optional<std::string>& groupKey,
                                   const std::optional<std::string>& selectKey) {
     const std::string& selectedNode = library_.Tree().Selected();
@@ -26,6 +30,24 @@ void LibraryPanes::SelectRememberedColor(const std::string& groupKey) {
     const LibraryNode* group = library_.Tree().Find(groupKey);
     const std::optional<int> row = group ? list_.RowOfKey(group->lastColor) : std::nullopt;
     list_.Select(row.value_or(0));
+}
+
+LibraryView LibraryPanes::View() const {
+    const LibraryTree& tree = library_.Tree();
+    return {.node = tree.Selected().empty() ? NodeRef{} : tree.RefOf(tree.Selected()),
+            .color = list_.SelectedColor(),
+            .firstRow = list_.FirstRowInSight()};
+}
+
+void LibraryPanes::Show(const LibraryView& view) {
+    const std::string key = library_.Tree().KeyOf(view.node);
+    if (!key.empty() && key != library_.Tree().Selected())
+        library_.Tree().Select(key);
+    ShowColorNodes();
+    if (list_.SelectColor(view.color)) {
+        list_.ShowFromRow(view.firstRow);
+        ShowColorPreview();
+    }
 }
 
 void LibraryPanes::ShowColorPreview() {
@@ -64,8 +86,10 @@ void LibraryPanes::NodeClicked(const std::string& key) {
 }
 
 void LibraryPanes::NodeLabelEdited(const std::string& key, const std::string& text) {
-    if (library_.Tree().Find(key))
-        library_.Tree().SetText(key, text);
+    if (!library_.Tree().Find(key))
+        return;
+    const HistoryStep step(library_.History(), *this, {.command = IDM_mnuColorRenameNode});
+    library_.Tree().SetText(key, text);
 }
 
 void LibraryPanes::RowClicked(int row) {
@@ -95,6 +119,7 @@ void LibraryPanes::RowLabelEdited(int row, const std::string& text) {
     const int index = library_.GetColornodeIndex(list_.KeyOfRow(row));
     if (index == 0)
         return;
+    const HistoryStep step(library_.History(), *this, {.textNumber = InfoTextNumber::RenameColor});
     library_.Colors().SetNames(index, text);
     if (list_.SelectedRow() == row && editor_.IsNameOfLibrary())
         editor_.Rename(text);

@@ -32,6 +32,10 @@ public:
     void ShowColorNodes(const std::optional<std::string>& groupKey = {},
                         const std::optional<std::string>& selectKey = {});
 
+    // What the user sees now, and the same shown again as far as it is still there.
+    [[nodiscard]] LibraryView View() const;
+    void Show(const LibraryView& view);
+
     // Loads the list's selected colour into the editor; nothing without one.
     void ShowColorPreview();
 

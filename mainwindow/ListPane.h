@@ -24,6 +24,9 @@ public:
     virtual void RowsChanged(int rowCount) = 0;
     virtual void SelectRow(int row) = 0;
     virtual void EnsureRowVisible(int row) = 0;
+    // The first row that is in sight, and the same by program as far as there are rows below it.
+    [[nodiscard]] virtual int FirstRowInSight() const = 0;
+    virtual void ShowFromRow(int row) = 0;
     virtual void EditRowLabel(int row) = 0;
     // An open edit of a label ends and reports its text.
     virtual void FinishLabelEdit() = 0;

@@ -4,6 +4,7 @@
 #include "mainwindow/ColorEditor.h"
 #include "mainwindow/EditingCommands.h"
 #include "mainwindow/FileCommands.h"
+#include "mainwindow/HistoryCommands.h"
 #include "mainwindow/LibraryPanes.h"
 #include "mainwindow/NewNodes.h"
 #include "mainwindow/SolidWorksCommands.h"
@@ -20,6 +21,7 @@ struct MainCommands {
     ColorLibrary& library;
     NewNodes& newNodes;
     EditingCommands& editing;
+    HistoryCommands& history;
     LibraryPanes& panes;
     ColorEditor& editor;
     ViewCommands& view;

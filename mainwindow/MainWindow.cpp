@@ -3,7 +3,10 @@
 #include "common/InfoTextNumber.h"
 #include "common/ProgramNames.h"
 #include "common/ValueRestorer.h"
+#include "mainwindow/HistoryStep.h"
 #include "resources/controls.h"
+
+#include <optional>
 
 namespace {
 
@@ -43,6 +46,7 @@ void MainWindow::SetFormDefaults() {
     parts_.panes.editor.ShowInitialColor();
     parts_.commands.library.Colors().Reset();
     parts_.commands.view.SetListView(ListViewMode::Details);
+    parts_.commands.history.ShowEntries();
     parts_.commands.file.Autoload();
 }
 
@@ -77,7 +81,16 @@ void MainWindow::Run(const MenuRow& row) {
     if (row.kind == CommandKind::Operation)
         RunOperation(row);
     else
-        row.run(parts_.commands);
+        RunStep(row);
+    parts_.commands.history.ShowEntries(); // the language may be another one
+}
+
+void MainWindow::RunStep(const MenuRow& row) {
+    std::optional<HistoryStep> step;
+    if (row.isStep)
+        step.emplace(parts_.commands.library.History(), parts_.panes.library,
+                     StepName{.command = row.command});
+    row.run(parts_.commands);
 }
 
 void MainWindow::RunOperation(const MenuRow& row) {
@@ -99,7 +112,7 @@ void MainWindow::RunWatched(const MenuRow& row) {
     const ValueRestorer running(Activity().operationRuns, true);
     const WaitingShown waiting(parts_.view.frame);
     const WatchedCalls watched(parts_.retry, busy_);
-    row.run(parts_.commands);
+    RunStep(row);
 }
 
 // So that the status panel never tells of an earlier command.

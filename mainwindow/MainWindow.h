@@ -50,6 +50,7 @@ public:
 private:
     void Run(const MenuRow& row);
     void RunOperation(const MenuRow& row);
+    void RunStep(const MenuRow& row);
     void RunWatched(const MenuRow& row);
     void ShowStatus(const std::string& text);
     void ForgetStatus();

@@ -52,7 +52,8 @@ void SolidWorksCommands::ShowMessage(const std::string& text) {
 }
 
 bool SolidWorksCommands::ReportRefusal(const std::string& resultKey) {
-    const auto refusal = std::ranges::find(kRefusalTexts, KindOfResult(resultKey), &RefusalText::kind);
+    const auto refusal =
+        std::ranges::find(kRefusalTexts, KindOfResult(resultKey), &RefusalText::kind);
     if (refusal == kRefusalTexts.end())
         return false;
     ShowMessage(parts_.texts.GetInfoText(refusal->textNumber));

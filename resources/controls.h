@@ -124,6 +124,9 @@
 #define IDM_mnuHlpAbout 2065
 #define IDM_mnuHlpShowReadme 2066
 #define IDM_mnuHlpShowLizenz 2067
+#define IDM_mnuEdit 2068
+#define IDM_mnuEditUndo 2069
+#define IDM_mnuEditRedo 2070
 
 // Icons and pictures
 #define IDI_tnt4swx 1

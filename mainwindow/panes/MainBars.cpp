@@ -9,9 +9,8 @@ namespace {
 // Separators need a number of their own to be hidden by.
 constexpr int kFirstSeparator = 3001;
 
-ShortcutDesign KeyOf(const MenuRow& row) {
-    const Shortcut& shortcut = row.shortcut;
-    return {.command = row.command,
+ShortcutDesign DesignOf(int command, const Shortcut& shortcut) {
+    return {.command = command,
             .ctrl = shortcut.ctrl,
             .shift = shortcut.shift,
             .key = shortcut.key,
@@ -55,15 +54,17 @@ void MainBars::BuildMenu(MenuBar& menu) {
     AddEntries(menu);
     for (const KeyRow& row : kKeyRows)
         menu.AddKey(row.key, row.name, row.caption);
-    for (const ShortcutDesign& shortcut : ShortcutKeys())
-        menu.AddShortcut(shortcut);
+    for (const MenuRow& row : MenuRows())
+        if (row.shortcut.key != 0)
+            menu.AddShortcut(DesignOf(row.command, row.shortcut));
 }
 
 std::vector<ShortcutDesign> MainBars::ShortcutKeys() {
     std::vector<ShortcutDesign> keys;
     for (const MenuRow& row : MenuRows())
-        if (row.shortcut.key != 0)
-            keys.push_back(KeyOf(row));
+        for (const Shortcut& shortcut : {row.shortcut, row.otherShortcut})
+            if (shortcut.key != 0)
+                keys.push_back(DesignOf(row.command, shortcut));
     return keys;
 }
 
@@ -91,6 +92,18 @@ bool MainBars::IsMenuCommand(int command) {
 
 void MainBars::SetMenuChecked(int command, bool checked) {
     controls_.menu.SetChecked(command, checked);
+}
+
+std::string MainBars::MenuCaption(int command) const {
+    return controls_.menu.Caption(command);
+}
+
+void MainBars::SetMenuText(int command, const std::string& text) {
+    controls_.menu.ShowInstead(command, text);
+}
+
+void MainBars::SetMenuEnabled(int command, bool enabled) {
+    controls_.menu.SetEnabled(command, enabled);
 }
 
 void MainBars::SetButtonPressed(const std::string& buttonKey, bool pressed) {

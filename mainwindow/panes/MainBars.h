@@ -29,6 +29,9 @@ public:
     [[nodiscard]] static bool IsMenuCommand(int command);
 
     void SetMenuChecked(int command, bool checked) override;
+    std::string MenuCaption(int command) const override;
+    void SetMenuText(int command, const std::string& text) override;
+    void SetMenuEnabled(int command, bool enabled) override;
     void SetButtonPressed(const std::string& buttonKey, bool pressed) override;
     void SetButtonVisible(const std::string& buttonKey, bool visible) override;
     void SetToolbarVisible(bool visible) override;

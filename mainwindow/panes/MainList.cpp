@@ -41,6 +41,14 @@ void MainList::EnsureRowVisible(int row) {
     control_.EnsureVisible(row);
 }
 
+int MainList::FirstRowInSight() const {
+    return control_.FirstRowInSight();
+}
+
+void MainList::ShowFromRow(int row) {
+    control_.ShowFromRow(row);
+}
+
 void MainList::EditRowLabel(int row) {
     control_.EditLabel(row);
 }

@@ -18,6 +18,8 @@ public:
     void RowsChanged(int rowCount) override;
     void SelectRow(int row) override;
     void EnsureRowVisible(int row) override;
+    int FirstRowInSight() const override;
+    void ShowFromRow(int row) override;
     void EditRowLabel(int row) override;
     void FinishLabelEdit() override;
     void SetListViewMode(ListViewMode mode) override;

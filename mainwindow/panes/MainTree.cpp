@@ -10,8 +10,12 @@ void MainTree::Attach(TreeEvents& events) {
     };
 }
 
-void MainTree::NodeAdded(const LibraryNode& node) {
-    control_.AddNode(node.key, node.parent, node.text, NodeImages::Of(node.kind));
+void MainTree::NodeAdded(const LibraryNode& node, const std::string& previousKey) {
+    control_.AddNode({.key = node.key,
+                      .parent = node.parent,
+                      .previous = previousKey,
+                      .text = node.text,
+                      .image = NodeImages::Of(node.kind)});
 }
 
 void MainTree::NodeRemoved(const std::string& key) {

@@ -10,7 +10,7 @@ public:
 
     void Attach(TreeEvents& events);
 
-    void NodeAdded(const LibraryNode& node) override;
+    void NodeAdded(const LibraryNode& node, const std::string& previousKey) override;
     void NodeRemoved(const std::string& key) override;
     void NodeTextChanged(const std::string& key, const std::string& text) override;
     void NodeExpanded(const std::string& key) override;

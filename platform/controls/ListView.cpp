@@ -125,6 +125,17 @@ void ListView::EnsureVisible(int row) {
     Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), LPARAM{FALSE});
 }
 
+int ListView::FirstRowInSight() const {
+    return static_cast<int>(Send(LVM_GETTOPINDEX));
+}
+
+// A row that comes into sight from below stands at the end, from above at the start.
+void ListView::ShowFromRow(int row) {
+    const int last = static_cast<int>(Send(LVM_GETITEMCOUNT)) - 1;
+    EnsureVisible(last);
+    EnsureVisible(std::min(row, last));
+}
+
 void ListView::EditLabel(int row) {
     Focus();
     Send(LVM_EDITLABELW, static_cast<WPARAM>(row));

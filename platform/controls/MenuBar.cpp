@@ -3,19 +3,11 @@
 #include "platform/controls/NoSuchMember.h"
 #include "platform/Utf16.h"
 
+#include <utility>
+
 namespace {
 
 constexpr const char* kCaption = "Caption";
-
-// The window whose menu bar shows the menu is redrawn by whoever owns it: find it by its menu.
-void RedrawBarOf(HMENU bar) {
-    const auto redraw = [](HWND window, LPARAM wanted) -> BOOL {
-        if (GetMenu(window) == reinterpret_cast<HMENU>(wanted))
-            DrawMenuBar(window);
-        return TRUE;
-    };
-    EnumThreadWindows(GetCurrentThreadId(), redraw, reinterpret_cast<LPARAM>(bar));
-}
 
 } // namespace
 
@@ -35,6 +27,11 @@ void MenuEntry::SetProperty(const std::string& property, const std::string& text
         ShowTexts();
 }
 
+void MenuEntry::ShowInstead(const std::string& text) {
+    if (std::exchange(instead_, text) != text)
+        ShowTexts();
+}
+
 void MenuEntry::SetShortcut(const std::string& text) {
     shortcut_ = text;
     ShowTexts();
@@ -47,12 +44,13 @@ void MenuEntry::ShowTexts() {
     item.fMask = MIIM_STRING;
     item.dwTypeData = shown.data();
     SetMenuItemInfoW(menu_, position_, TRUE, &item);
-    if (Submenu() != nullptr)
-        RedrawBarOf(menu_);
+    if (redrawBar_)
+        redrawBar_();
 }
 
 std::wstring MenuEntry::ShownText() const {
-    return ToUtf16(shortcut_.empty() ? caption_ : caption_ + "\t" + shortcut_);
+    const std::string& text = instead_.empty() ? caption_ : instead_;
+    return ToUtf16(shortcut_.empty() ? text : text + "\t" + shortcut_);
 }
 
 void MenuEntry::Append(const std::string& caption, HMENU submenu) {
@@ -84,6 +82,10 @@ void MenuEntry::SetChecked(bool checked) {
     CheckMenuItem(menu_, position_, MF_BYPOSITION | (checked ? MF_CHECKED : MF_UNCHECKED));
 }
 
+void MenuEntry::SetEnabled(bool enabled) {
+    EnableMenuItem(menu_, position_, MF_BYPOSITION | (enabled ? MF_ENABLED : MF_GRAYED));
+}
+
 HMENU MenuEntry::Submenu() const {
     return GetSubMenu(menu_, static_cast<int>(position_));
 }
@@ -91,7 +93,13 @@ HMENU MenuEntry::Submenu() const {
 MenuBar::MenuBar() : owned_(CreateMenu()), bar_(owned_.Get()) {}
 
 MenuEntry& MenuBar::NewEntry(HMENU menu, int command, const char* name) {
-    entries_.push_back(std::make_unique<MenuEntry>(menu, command, name));
+    std::function<void()> redrawBar;
+    if (menu == bar_)
+        redrawBar = [this] {
+            if (form_ != nullptr)
+                DrawMenuBar(form_);
+        };
+    entries_.push_back(std::make_unique<MenuEntry>(menu, command, name, std::move(redrawBar)));
     byCommand_[command] = entries_.back().get();
     return *entries_.back();
 }
@@ -149,6 +157,18 @@ MenuEntry& MenuBar::Find(int command) const {
 
 void MenuBar::SetChecked(int command, bool checked) {
     Find(command).SetChecked(checked);
+}
+
+void MenuBar::SetEnabled(int command, bool enabled) {
+    Find(command).SetEnabled(enabled);
+}
+
+std::string MenuBar::Caption(int command) const {
+    return Find(command).Property(kCaption);
+}
+
+void MenuBar::ShowInstead(int command, const std::string& text) {
+    Find(command).ShowInstead(text);
 }
 
 std::vector<FormControl*> MenuBar::Entries() const {

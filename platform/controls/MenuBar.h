@@ -5,6 +5,7 @@
 #include "platform/Handles.h"
 #include "platform/Shortcuts.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -14,8 +15,10 @@
 // One title, entry or separator of a menu.  Its caption is shown as soon as it is set.
 class MenuEntry : public FormControl {
 public:
-    MenuEntry(HMENU menu, int command, std::string name)
-        : menu_(menu), command_(command), name_(std::move(name)) {}
+    // redrawBar: for an entry that stands in the bar of a window.
+    MenuEntry(HMENU menu, int command, std::string name, std::function<void()> redrawBar)
+        : menu_(menu), command_(command), name_(std::move(name)), redrawBar_(std::move(redrawBar)) {
+    }
 
     [[nodiscard]] std::string Name() const override { return name_; }
     [[nodiscard]] std::string TypeName() const override { return "Menu"; }
@@ -26,7 +29,9 @@ public:
     void Append(const std::string& caption, HMENU submenu);
     void AppendSeparator(const std::string& caption);
     void SetShortcut(const std::string& text); // shown behind the caption
+    void ShowInstead(const std::string& text); // of the caption, which stays; empty: the caption
     void SetChecked(bool checked);
+    void SetEnabled(bool enabled);
     [[nodiscard]] HMENU Submenu() const;
 
 private:
@@ -36,8 +41,10 @@ private:
     HMENU menu_;
     int command_;
     std::string name_;
+    std::function<void()> redrawBar_;
     std::string shortcut_;
     std::string caption_;
+    std::string instead_;
     bool separator_ = false;
     UINT position_ = 0;
 };
@@ -64,6 +71,9 @@ public:
     // The menu goes with the form's window from then on; false: the window refused it.
     bool AttachTo(HWND form);
     void SetChecked(int command, bool checked);
+    void SetEnabled(int command, bool enabled);
+    [[nodiscard]] std::string Caption(int command) const;
+    void ShowInstead(int command, const std::string& text);  // of its caption; empty: the caption
     [[nodiscard]] std::vector<FormControl*> Entries() const; // and the names of keys
 
     // Opens the menu under a title at a point of the screen; the form that the bar is attached to

@@ -52,18 +52,17 @@ void TreeView::ApplyColors() {
     Send(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(GetSysColor(COLOR_WINDOW)));
 }
 
-void TreeView::AddNode(const std::string& key, const std::string& parentKey,
-                       const std::string& text, const std::string& image) {
+void TreeView::AddNode(const Node& added) {
     const ValueRestorer inserting(inserting_, true);
-    const auto place = items_.emplace(key, nullptr).first;
-    std::wstring wide = ToUtf16(text);
+    const auto place = items_.emplace(added.key, nullptr).first;
+    std::wstring wide = ToUtf16(added.text);
     TVINSERTSTRUCTW node{};
-    node.hParent = parentKey.empty() ? TVI_ROOT : Find(parentKey);
+    node.hParent = added.parent.empty() ? TVI_ROOT : Find(added.parent);
     PauseDrawing(node.hParent);
-    node.hInsertAfter = TVI_LAST;
+    node.hInsertAfter = added.previous.empty() ? TVI_FIRST : Find(added.previous);
     node.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_PARAM;
     node.item.pszText = wide.data();
-    node.item.iImage = images_.IndexOf(image);
+    node.item.iImage = images_.IndexOf(added.image);
     node.item.iSelectedImage = node.item.iImage;
     node.item.lParam = reinterpret_cast<LPARAM>(&place->first);
     // Straight to the class: nothing else has to see it, and for thousands of nodes the way there

@@ -15,8 +15,14 @@ public:
     // The image list is kept by the caller and fitted by this tree.
     TreeView(Form& form, const ControlPlace& place, IconList& images);
 
-    void AddNode(const std::string& key, const std::string& parentKey, const std::string& text,
-                 const std::string& image);
+    struct Node {
+        std::string key;
+        std::string parent;   // key; empty: none
+        std::string previous; // key of the sibling before it; empty: it is the first
+        std::string text;
+        std::string image;
+    };
+    void AddNode(const Node& node);
     void RemoveNode(const std::string& key);
     void SetNodeText(const std::string& key, const std::string& text);
     void ExpandNode(const std::string& key);

@@ -77,9 +77,9 @@ class RecordingView : public FakeMainView {
 public:
     explicit RecordingView(Effects& effects) : effects_(effects) {}
 
-    void NodeAdded(const LibraryNode& node) override {
+    void NodeAdded(const LibraryNode& node, const std::string& previousKey) override {
         effects_.push_back("node " + node.text);
-        FakeMainView::NodeAdded(node);
+        FakeMainView::NodeAdded(node, previousKey);
     }
     void AddColumns(const std::vector<ListColumn>& added) override {
         effects_.emplace_back("columns");

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "common/RuntimeError.h"
+#include "mainwindow/CommandTable.h"
 #include "mainwindow/MainView.h"
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <map>
@@ -30,8 +32,16 @@ public:
     }
 
     // Tree
-    void NodeAdded(const LibraryNode& node) override { nodes[node.key] = node.text; }
+    void NodeAdded(const LibraryNode& node, const std::string& previousKey) override {
+        nodes[node.key] = node.text;
+        std::vector<std::string>& siblings = children[node.parent];
+        const auto before = std::ranges::find(siblings, previousKey);
+        siblings.insert(previousKey.empty() ? siblings.begin() : std::next(before), node.key);
+    }
     void NodeRemoved(const std::string& key) override {
+        children.erase(key);
+        for (auto& [parent, siblings] : children)
+            std::erase(siblings, key);
         std::erase_if(nodes, [&](const auto& node) {
             return node.first == key || node.first.starts_with(key + "G");
         });
@@ -58,6 +68,8 @@ public:
     }
     void SelectRow(int row) override { selectedRow = row; }
     void EnsureRowVisible(int row) override { visibleRow = row; }
+    int FirstRowInSight() const override { return firstRow; }
+    void ShowFromRow(int row) override { firstRow = row; }
     void EditRowLabel(int row) override { editedRow = row; }
     void FinishLabelEdit() override {
         if (const auto finish = std::exchange(openEdit, {}))
@@ -84,6 +96,11 @@ public:
 
     // Bars
     void SetMenuChecked(int command, bool checked) override { checks[command] = checked; }
+    std::string MenuCaption(int command) const override {
+        return FindCommand(command) != nullptr ? FindCommand(command)->caption : "";
+    }
+    void SetMenuText(int command, const std::string& text) override { menuTexts[command] = text; }
+    void SetMenuEnabled(int command, bool enabled) override { menuEnabled[command] = enabled; }
     void SetButtonPressed(const std::string& key, bool pressed) override { presses[key] = pressed; }
     void SetButtonVisible(const std::string& key, bool visible) override {
         buttonsVisible[key] = visible;
@@ -133,7 +150,8 @@ public:
     }
     void EndProgram() override { isEnded = true; }
 
-    std::map<std::string, std::string> nodes; // text by key
+    std::map<std::string, std::string> nodes;                 // text by key
+    std::map<std::string, std::vector<std::string>> children; // keys in order, by parent
     std::map<std::string, bool> expanded;
     std::string selectedNode;
     std::string editedNode;
@@ -145,6 +163,7 @@ public:
     bool rowsChangeFails = false;
     int selectedRow = -1;
     int visibleRow = -1;
+    int firstRow = 0; // in sight
     int editedRow = -1;
     ListViewMode listMode = ListViewMode::LargeIcons;
     std::string colorName;
@@ -156,6 +175,8 @@ public:
     ColorNumber smallSwatchText = 0;
     std::string smallCaption;
     std::map<int, bool> checks;
+    std::map<int, std::string> menuTexts; // in the caption's stead
+    std::map<int, bool> menuEnabled;
     std::map<std::string, bool> presses;
     std::map<std::string, bool> buttonsVisible;
     bool toolbarVisible = true;

@@ -82,7 +82,8 @@ public:
         files.contents["C:\\prog\\tntlng_de.ini"] = "";
         files.contents["C:\\prog\\tntlng_us.ini"] = "";
         for (int number = 0; number < 300; ++number) {
-            const bool hasArguments = number >= 110 && number < 150;
+            const bool hasArguments =
+                (number >= 110 && number < 150) || (number >= 170 && number < 174);
             if (hasArguments)
                 continue;
             for (const char* code : {"de", "us"})

@@ -27,9 +27,9 @@ protected:
         view.list.AddColumns({{"Name", "Name", 1500}});
         view.list.SetListViewMode(ListViewMode::Details);
         view.list.RowsChanged(10);
-        view.tree.NodeAdded(NodeOfLibrary("1D", "Materialien"));
-        view.tree.NodeAdded(NodeOfGroup("1DG1", "Metalle", "1D"));
-        view.tree.NodeAdded(NodeOfGroup("1DG2", "Kunststoffe", "1D"));
+        view.tree.NodeAdded(NodeOfLibrary("1D", "Materialien"), "");
+        view.tree.NodeAdded(NodeOfGroup("1DG1", "Metalle", "1D"), "");
+        view.tree.NodeAdded(NodeOfGroup("1DG2", "Kunststoffe", "1D"), "1DG1");
         view.tree.NodeExpanded("1D");
         form.ShowWindow();
         view.list.SelectRow(2);
@@ -253,7 +253,8 @@ TEST_F(MainDragging, DropTargetIsMarkedWithoutASelection) {
 
 TEST_F(MainDragging, TreeScrollsByALineEachWay) {
     for (int group = 3; group < 100; ++group)
-        view.tree.NodeAdded(NodeOfGroup("1DG" + std::to_string(group), "Gruppe", "1D"));
+        view.tree.NodeAdded(NodeOfGroup("1DG" + std::to_string(group), "Gruppe", "1D"),
+                            "1DG" + std::to_string(group - 1));
     const HTREEITEM top = Next(TVGN_FIRSTVISIBLE);
     view.drag.ScrollTree(TreeEdge::Bottom);
     EXPECT_EQ(Next(TVGN_FIRSTVISIBLE), Next(TVGN_NEXTVISIBLE, top));

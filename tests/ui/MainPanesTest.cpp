@@ -92,7 +92,7 @@ protected:
         view.list.AddColumns({{"Name", "Name", 1500}});
         view.list.RowsChanged(5);
         view.list.SelectRow(1);
-        view.tree.NodeAdded(NodeOfLibrary("0D", "Library"));
+        view.tree.NodeAdded(NodeOfLibrary("0D", "Library"), "");
         view.tree.NodeSelected("0D");
     }
 
@@ -154,8 +154,8 @@ protected:
         view.list.AddColumns({{"Name", "Name", 1500}, {"R", "red", 600}});
         view.list.SetListViewMode(ListViewMode::Details);
         view.list.RowsChanged(3);
-        view.tree.NodeAdded(NodeOfLibrary("0D", "Library"));
-        view.tree.NodeAdded(NodeOfLibrary("1D", longName));
+        view.tree.NodeAdded(NodeOfLibrary("0D", "Library"), "");
+        view.tree.NodeAdded(NodeOfLibrary("1D", longName), "0D");
         Control("tvColor")->SetProperty("ToolTipText", "the tree");
         Control("lvColor")->SetProperty("ToolTipText", "the list");
         PumpMessages();

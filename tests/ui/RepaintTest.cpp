@@ -72,7 +72,7 @@ protected:
         form.Attach(events.Events());
         view.list.AddColumns({{"Name", "Name", 1500}, {"R", "red", 600}});
         view.list.RowsChanged(5);
-        view.tree.NodeAdded(NodeOfLibrary("0D", "Library"));
+        view.tree.NodeAdded(NodeOfLibrary("0D", "Library"), "");
         view.editor.SetColorName("A name that has more characters than the frame has room for");
         view.editor.SetSmallSwatchCaption("A color with a name (R:1 G:2 B:3)");
         view.editor.SetLargeSwatch(0x4080C0);

@@ -19,9 +19,9 @@ void SetShift(bool down) {
 class MainTree : public MainFormTest {
 protected:
     MainTree() {
-        view.tree.NodeAdded(NodeOfLibrary("1D", "Materialien"));
-        view.tree.NodeAdded(NodeOfGroup("1DG1", "Metalle", "1D"));
-        view.tree.NodeAdded(NodeOfGroup("1DG2", "Kunststoffe", "1D"));
+        view.tree.NodeAdded(NodeOfLibrary("1D", "Materialien"), "");
+        view.tree.NodeAdded(NodeOfGroup("1DG1", "Metalle", "1D"), "");
+        view.tree.NodeAdded(NodeOfGroup("1DG2", "Kunststoffe", "1D"), "1DG1");
         view.tree.NodeExpanded("1D");
     }
 
@@ -72,7 +72,8 @@ TEST_F(MainTree, NodesThatComeInThousandsAreArrangedOnceTheyAreAsked) {
     form.ShowWindow();
     const HWND tree = Tree();
     for (int group = 3; group <= 3000; ++group)
-        view.tree.NodeAdded(NodeOfGroup("1DG" + std::to_string(group), "Gruppe", "1D"));
+        view.tree.NodeAdded(NodeOfGroup("1DG" + std::to_string(group), "Gruppe", "1D"),
+                            "1DG" + std::to_string(group - 1));
     EXPECT_EQ(SendMessageW(tree, TVM_GETCOUNT, 0, 0), 3001);
     PumpMessages();
     SCROLLINFO scroll{sizeof scroll, SIF_RANGE, 0, 0, 0, 0, 0};
@@ -113,8 +114,8 @@ TEST_F(MainTree, RemovedNodeTakesItsGroupsWithIt) {
     view.tree.NodeSelected("1DG1");
     view.tree.NodeRemoved("1D");
     EXPECT_EQ(Next(TVGN_ROOT), nullptr);
-    view.tree.NodeAdded(NodeOfLibrary("1D", "Neu"));
-    view.tree.NodeAdded(NodeOfGroup("1DG1", "Gruppe", "1D"));
+    view.tree.NodeAdded(NodeOfLibrary("1D", "Neu"), "");
+    view.tree.NodeAdded(NodeOfGroup("1DG1", "Gruppe", "1D"), "");
     EXPECT_EQ(Text(Next(TVGN_CHILD, Next(TVGN_ROOT))), "Gruppe");
     EXPECT_TRUE(events.lines.empty());
 }

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "library/LibraryChange.h"
+#include "library/LibraryJournal.h"
+#include "library/LibraryView.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+// What can change in the open libraries.  Each change keeps the other side of what is there now.
+namespace LibraryChanges {
+
+// Colors that came into a group or left it.
+class Colors : public LibraryChange {
+public:
+    Colors(NodeRef group, std::vector<ColorId> added)
+        : group_(std::move(group)), ids_(std::move(added)) {}
+    Colors(NodeRef group, std::vector<RemovedColor> removed)
+        : group_(std::move(group)), out_(std::move(removed)) {}
+
+    // One more has been added: false when these are other ones.
+    [[nodiscard]] bool TakesOneMore(ColorId id, const NodeRef& group);
+
+    void TurnRound(LibraryTree& tree, ColorTable& colors) override;
+
+private:
+    NodeRef group_;
+    std::vector<ColorId> ids_;      // that are in the table
+    std::vector<RemovedColor> out_; // that are not
+};
+
+// Other names or values of a color.
+class Values : public LibraryChange {
+public:
+    Values(ColorId color, StoredColor other) : color_(color), other_(std::move(other)) {}
+
+    [[nodiscard]] ColorId Color() const noexcept { return color_; }
+    void TurnRound(LibraryTree& tree, ColorTable& colors) override;
+
+private:
+    ColorId color_;
+    StoredColor other_;
+};
+
+// A library or group that was added or removed.
+class Node : public LibraryChange {
+public:
+    explicit Node(NodeRef added) : ref_(std::move(added)) {}
+    Node(NodeRef ref, RemovedNode removed) : ref_(std::move(ref)), out_(std::move(removed)) {}
+
+    void TurnRound(LibraryTree& tree, ColorTable& colors) override;
+
+private:
+    NodeRef ref_;
+    std::optional<RemovedNode> out_;
+};
+
+class Name : public LibraryChange {
+public:
+    Name(NodeRef node, std::string other) : node_(std::move(node)), other_(std::move(other)) {}
+
+    void TurnRound(LibraryTree& tree, ColorTable& colors) override;
+
+private:
+    NodeRef node_;
+    std::string other_;
+};
+
+// The file that a library is saved to.  One that it got by a later save stays.
+class File : public LibraryChange {
+public:
+    using Path = std::optional<std::string>;
+
+    File(NodeRef library, Path before, Path after)
+        : library_(std::move(library)), other_(std::move(before)), now_(std::move(after)) {}
+
+    void TurnRound(LibraryTree& tree, ColorTable& colors) override;
+
+private:
+    NodeRef library_;
+    Path other_;
+    Path now_;
+};
+
+// The color that a group remembers, by what its key has behind the group's; empty: none.
+class LastColor : public LibraryChange {
+public:
+    LastColor(NodeRef group, std::string other)
+        : group_(std::move(group)), other_(std::move(other)) {}
+
+    [[nodiscard]] static std::string InGroup(std::string_view groupKey, std::string_view colorKey);
+
+    [[nodiscard]] const NodeRef& Group() const noexcept { return group_; }
+    void TurnRound(LibraryTree& tree, ColorTable& colors) override;
+
+private:
+    NodeRef group_;
+    std::string other_;
+};
+
+} // namespace LibraryChanges

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "library/ColorTable.h"
+#include "library/LibraryChanges.h"
+#include "library/LibraryJournal.h"
+#include "library/LibraryTree.h"
+#include "library/LibraryView.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+// What a step is called: by the command that made it, or by a text of its own.
+struct StepName {
+    int command = 0; // IDM_ number; 0: none
+    std::int32_t textNumber = 0;
+};
+
+// Everything that was done to the open libraries, step by step, so that it can be taken back and
+// done again.  A step holds what it changed and nothing else.  Who changes the libraries does not
+// know of it: the history hears of each change from tree and table.
+//
+// What happens outside of a step (opening and saving files) is not taken back and drops nothing.
+// Steps name libraries and colors by what stays theirs, so that they hold whatever keys have been
+// given meanwhile.
+class LibraryHistory : public ColorJournal, public TreeJournal {
+public:
+    LibraryHistory(LibraryTree& tree, ColorTable& colors);
+    ~LibraryHistory() override;
+    LibraryHistory(const LibraryHistory&) = delete;
+    LibraryHistory& operator=(const LibraryHistory&) = delete;
+
+    // Called when there is another step to take back or to do again.
+    std::function<void()> onChange;
+
+    // A step from here on; one in another is part of it.  view: what the user sees now.
+    void BeginStep(const LibraryView& view);
+    // Nothing is added when nothing was changed.
+    void EndStep(const StepName& name, const LibraryView& view);
+
+    // Null when there is none.
+    [[nodiscard]] const StepName* NextUndo() const noexcept;
+    [[nodiscard]] const StepName* NextRedo() const noexcept;
+
+    // Takes the last step back, or does it again; there must be one.  Gives what the user saw
+    // before or after it.
+    [[nodiscard]] LibraryView Undo();
+    [[nodiscard]] LibraryView Redo();
+
+    void Clear();
+
+    void ColorAdded(ColorId id, const std::string& groupKey) override;
+    void ColorsRemoved(const std::string& groupKey, std::vector<RemovedColor> colors) override;
+    void ColorChanges(ColorId id, StoredColor before) override;
+    void NodeAdded(const LibraryNode& node) override;
+    void NodeRemoved(RemovedNode removed) override;
+    void NodeRenamed(const std::string& key, const std::string& before) override;
+    void FileChanged(const std::string& mainKey, const std::optional<std::string>& before) override;
+    void ColorRemembered(const std::string& groupKey, const std::string& before) override;
+
+private:
+    struct Step {
+        StepName name;
+        LibraryView before;
+        LibraryView after;
+        std::vector<std::unique_ptr<LibraryChange>> changes;
+        // What groups remember since then, one for each group.
+        std::vector<std::unique_ptr<LibraryChanges::LastColor>> afterwards;
+    };
+
+    template <typename Kind, typename... Arguments>
+    void Note(Arguments&&... arguments);
+    void TellChange() const;
+
+    LibraryTree& tree_;
+    ColorTable& colors_;
+    std::vector<Step> steps_;
+    std::size_t done_ = 0; // the first steps are done, the others taken back
+    Step open_;
+    int depth_ = 0; // of steps in steps
+};

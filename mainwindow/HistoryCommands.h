@@ -1,0 +1,45 @@
+#pragma once
+
+#include "common/ports/InfoTexts.h"
+#include "library/LibraryHistory.h"
+#include "mainwindow/BarsPane.h"
+#include "mainwindow/LibraryPanes.h"
+
+#include <cstdint>
+#include <string>
+
+// Undo and redo: the entries of the edit menu name the step and are grey when there is none.
+class HistoryCommands {
+public:
+    struct Parts {
+        LibraryHistory& history;
+        LibraryPanes& panes;
+        BarsPane& bars;
+        InfoTexts& texts;
+    };
+
+    explicit HistoryCommands(const Parts& parts);
+    ~HistoryCommands();
+    HistoryCommands(const HistoryCommands&) = delete;
+    HistoryCommands& operator=(const HistoryCommands&) = delete;
+
+    // The status panel says what was taken back or done again.  Nothing without a step.
+    void mnuEditUndo_Click();
+    void mnuEditRedo_Click();
+
+    // In the words of the active language.
+    void ShowEntries();
+
+private:
+    struct EntryTexts {
+        int command;
+        std::int32_t caption;
+        const char* builtInCaption;
+    };
+
+    void ShowEntry(const EntryTexts& entry, const StepName* step);
+    void Report(std::int32_t textNumber, const char* builtIn, const StepName& step);
+    [[nodiscard]] std::string NameOf(const StepName& step) const;
+
+    Parts parts_;
+};
