@@ -28,23 +28,6 @@ std::optional<KeyParts> PartsOf(std::string_view key) {
     return error == std::errc() && stop == end && isAsWritten ? std::optional(parts) : std::nullopt;
 }
 
-std::size_t HashOfText(std::string_view text) {
-    return std::hash<std::string_view>()(text);
-}
-
-ColorKeyIndex::Hash HashOfParts(std::size_t groupHash, std::uint32_t number) {
-    std::uint64_t mixed = groupHash + number * 0x9E3779B97F4A7C15U;
-    mixed = (mixed ^ mixed >> 32U) * 0xD6E8FEB86659FD93U;
-    return static_cast<ColorKeyIndex::Hash>(mixed >> 32U);
-}
-
-// Equal for equal keys, whichever way they are kept.
-ColorKeyIndex::Hash HashOfKey(std::string_view key) {
-    const std::optional<KeyParts> parts = PartsOf(key);
-    return parts ? HashOfParts(HashOfText(parts->group), parts->number)
-                 : static_cast<ColorKeyIndex::Hash>(HashOfText(key));
-}
-
 [[noreturn]] void ThrowOutOfRange() {
     throw RuntimeError(ErrorNumber::SubscriptOutOfRange, ErrorTexts::NoSuchNumber);
 }
@@ -56,8 +39,7 @@ void ColorTable::Reset() {
     order_ = {};
     groups_ = {};
     numberOfGroup_ = {};
-    keys_.Clear();
-    keysIndexed_ = false;
+    otherKeys_ = {};
 }
 
 ColorId ColorTable::IdAt(int index) const {
@@ -66,9 +48,20 @@ ColorId ColorTable::IdAt(int index) const {
     return order_[static_cast<std::size_t>(index) - 1];
 }
 
+// Ids grow by one or more from place to place: where no color has gone an id says its place, and
+// where few have gone, few places are left to look at.
 int ColorTable::IndexOfId(ColorId id) const {
-    const auto found = std::ranges::lower_bound(order_, id);
-    return found != order_.end() && *found == id ? static_cast<int>(found - order_.begin()) + 1 : 0;
+    if (order_.empty() || id < order_.front() || id > order_.back())
+        return 0;
+    const std::size_t last = order_.size() - 1;
+    const std::size_t latest = std::min<std::size_t>(id - order_.front(), last);
+    const std::size_t earliest = last - std::min<std::size_t>(order_.back() - id, last);
+    if (earliest == latest)
+        return static_cast<int>(latest) + 1;
+    const auto begin = order_.begin() + static_cast<std::ptrdiff_t>(earliest);
+    const auto end = order_.begin() + static_cast<std::ptrdiff_t>(latest) + 1;
+    const auto found = std::lower_bound(begin, end, id);
+    return found != end && *found == id ? static_cast<int>(found - order_.begin()) + 1 : 0;
 }
 
 StoredColor& ColorTable::ColorAt(int index) {
@@ -85,34 +78,24 @@ ColorRecord ColorTable::At(int index) const {
         return {};
     const ColorId id = IdAt(index);
     const StoredColor& color = store_.At(id);
-    return {color.name,  KeyOf(id),    groups_[color.group].key,
-            color.isNew, color.values, color.AltName()};
+    return {std::string(color.name.View()),
+            KeyOf(id),
+            groups_[color.group].key,
+            color.isNew,
+            color.values,
+            std::string(color.AltName())};
 }
 
 std::string ColorTable::KeyOf(ColorId id) const {
     const StoredColor& color = store_.At(id);
-    if (color.otherKey)
-        return *color.otherKey;
+    if (const std::string* const otherKey = color.OtherKey())
+        return *otherKey;
     return LibraryKeys::OfColor(groups_[color.group].key, color.number);
-}
-
-ColorKeyIndex::Hash ColorTable::HashOf(ColorId id) const {
-    const StoredColor& color = store_.At(id);
-    return color.otherKey ? HashOfKey(*color.otherKey)
-                          : HashOfParts(groups_[color.group].hash, color.number);
-}
-
-bool ColorTable::HaveSameKey(ColorId left, ColorId right) const {
-    const StoredColor& one = store_.At(left);
-    const StoredColor& other = store_.At(right);
-    if (one.otherKey || other.otherKey)
-        return KeyOf(left) == KeyOf(right);
-    return one.number == other.number && one.group == other.group;
 }
 
 bool ColorTable::KeyBeginsWith(int index, std::string_view start) const {
     const auto [color, groupKey] = ViewAt(index);
-    if (!color.otherKey && start.size() <= groupKey.size())
+    if (color.OtherKey() == nullptr && start.size() <= groupKey.size())
         return std::string_view(groupKey).starts_with(start);
     return KeyOf(IdAt(index)).starts_with(start);
 }
@@ -121,7 +104,7 @@ ColorTable::GroupNumber ColorTable::NumberOfGroup(const std::string& groupKey) {
     const auto [place, added] =
         numberOfGroup_.try_emplace(groupKey, static_cast<GroupNumber>(groups_.size()));
     if (added)
-        groups_.push_back({groupKey, HashOfText(groupKey), {}});
+        groups_.emplace_back().key = groupKey;
     return place->second;
 }
 
@@ -132,47 +115,52 @@ void ColorTable::Append(ColorRecord record) {
     if (parts && parts->group == record.groupKey)
         color.number = parts->number;
     else
-        color.otherKey = std::make_unique<std::string>(std::move(record.key));
-    if (record.altName != record.name)
-        color.altName = std::make_unique<std::string>(std::move(record.altName));
-    color.name = std::move(record.name);
+        color.SetOtherKey(std::move(record.key));
+    color.name = CompactText(record.name);
+    color.SetAltName(record.altName);
     color.values = record.values;
     color.isNew = record.isNew;
     Insert(std::move(color));
 }
 
-void ColorTable::Append(GroupNumber group, std::uint32_t number, std::string name,
+void ColorTable::Append(GroupNumber group, std::uint32_t number, std::string_view name,
                         std::string_view altName, const ColorValueArray& values) {
     StoredColor color;
     color.group = group;
     color.number = number;
-    if (altName != name)
-        color.altName = std::make_unique<std::string>(altName);
-    color.name = std::move(name);
+    color.name = CompactText(name);
+    color.SetAltName(altName);
     color.values = values;
     Insert(std::move(color));
 }
 
 void ColorTable::Insert(StoredColor&& color) {
-    const GroupNumber group = color.group;
+    Group& group = groups_[color.group];
+    const std::uint32_t number = color.number;
+    const std::string* const otherKey = color.OtherKey(); // does not move
     const ColorId id = store_.Add(std::move(color));
+    if (group.ids.empty())
+        group.firstId = id - number;
+    group.isInOrder = otherKey == nullptr &&
+                      (group.ids.empty() || (group.isInOrder && group.numbers.back() < number));
     order_.push_back(id);
-    groups_[group].ids.push_back(id);
-    if (keysIndexed_ && !IndexKey(id))
-        keysAreUnique_ = false;
+    group.ids.push_back(id);
+    group.numbers.push_back(number);
+    if (otherKey != nullptr)
+        otherKeys_[*otherKey].push_back(id);
 }
 
 void ColorTable::SetNames(int index, const std::string& name) {
     StoredColor& color = ColorAt(index);
-    color.name = name;
-    color.altName.reset();
+    color.name = CompactText(name);
+    color.SetAltName(name);
 }
 
 void ColorTable::SetName(int index, const std::string& name) {
     StoredColor& color = ColorAt(index);
-    const std::string altName = color.AltName();
-    color.altName = altName != name ? std::make_unique<std::string>(altName) : nullptr;
-    color.name = name;
+    const std::string altName(color.AltName());
+    color.name = CompactText(name);
+    color.SetAltName(altName);
 }
 
 void ColorTable::SetValues(int index, const ColorValueArray& values) {
@@ -181,66 +169,84 @@ void ColorTable::SetValues(int index, const ColorValueArray& values) {
 
 void ColorTable::Erase(int index) {
     const ColorId id = IdAt(index);
-    if (keysIndexed_ && keysAreUnique_)
-        keys_.Remove(id, HashOf(id));
-    else
-        keysIndexed_ = false; // the next one with its key is the first then
-    std::vector<ColorId>& ids = groups_[store_.At(id).group].ids;
-    ids.erase(std::ranges::lower_bound(ids, id));
+    ForgetOtherKey(id);
+    Group& group = groups_[store_.At(id).group];
+    const auto place = std::ranges::lower_bound(group.ids, id);
+    group.numbers.erase(group.numbers.begin() + (place - group.ids.begin()));
+    group.ids.erase(place);
     order_.erase(order_.begin() + (index - 1));
     store_.Remove(id);
 }
 
+void ColorTable::ForgetOtherKey(ColorId id) {
+    const std::string* const key = store_.At(id).OtherKey();
+    if (key == nullptr)
+        return;
+    const auto sameKey = otherKeys_.find(*key);
+    std::erase(sameKey->second, id);
+    if (sameKey->second.empty())
+        otherKeys_.erase(sameKey);
+}
+
 void ColorTable::EraseGroups(const std::vector<std::string>& groupKeys) {
     std::vector<bool> goes(groups_.size());
-    std::size_t count = 0;
     for (const std::string& key : groupKeys)
-        if (const Group* group = FindGroup(key)) {
+        if (const Group* group = FindGroup(key))
             goes[static_cast<std::size_t>(group - groups_.data())] = true;
-            count += group->ids.size();
-        }
-    // Where much goes, the index is made anew when it is needed.
-    keysIndexed_ = keysIndexed_ && keysAreUnique_ && count < order_.size() / 4;
     std::erase_if(order_, [&](ColorId id) {
-        const bool isGone = goes[store_.At(id).group];
-        if (isGone && keysIndexed_)
-            keys_.Remove(id, HashOf(id));
-        if (isGone)
-            store_.Remove(id);
-        return isGone;
+        if (!goes[store_.At(id).group])
+            return false;
+        ForgetOtherKey(id);
+        store_.Remove(id);
+        return true;
     });
     for (std::size_t number = 0; number < groups_.size(); ++number)
-        if (goes[number])
+        if (goes[number]) {
             groups_[number].ids = {};
-    if (!keysIndexed_)
-        keys_.Clear();
-}
-
-void ColorTable::IndexKeys() const {
-    keys_.Clear();
-    keys_.Reserve(order_.size());
-    keysIndexed_ = true;
-    keysAreUnique_ = true;
-    for (const ColorId id : order_)
-        if (!IndexKey(id))
-            keysAreUnique_ = false;
-}
-
-bool ColorTable::IndexKey(ColorId id) const {
-    return keys_.Add(id, HashOf(id), [this, id](ColorId other) { return HaveSameKey(id, other); });
+            groups_[number].numbers = {};
+        }
 }
 
 int ColorTable::IndexOfKey(const std::string& key) const {
-    if (!keysIndexed_)
-        IndexKeys();
+    const ColorId numbered = FirstOfNumber(key);
+    const ColorId other = FirstOfOtherKey(key);
+    if (numbered == 0 || other == 0)
+        return IndexOfId(std::max(numbered, other));
+    return IndexOfId(std::min(numbered, other));
+}
+
+// A file's colors are numbered as they come: where all of them are still there, a number tells the
+// id at once, however many there are.
+ColorId ColorTable::FirstOfNumber(const std::string& key) const {
     const std::optional<KeyParts> parts = PartsOf(key);
-    const ColorId id = keys_.Find(HashOfKey(key), [&](ColorId other) {
-        const StoredColor& color = store_.At(other);
-        if (color.otherKey)
-            return *color.otherKey == key;
-        return parts && color.number == parts->number && groups_[color.group].key == parts->group;
-    });
-    return id == 0 ? 0 : IndexOfId(id);
+    const Group* const group = parts ? FindGroup(std::string(parts->group)) : nullptr;
+    if (group == nullptr)
+        return 0;
+    const std::uint32_t number = parts->number;
+    const auto groupNumber = static_cast<GroupNumber>(group - groups_.data());
+    if (!group->isInOrder) {
+        const auto found = std::ranges::find_if(
+            group->ids, [&](ColorId id) { return IsNumbered(id, groupNumber, number); });
+        return found == group->ids.end() ? 0 : *found;
+    }
+    const ColorId expected = group->firstId + number;
+    if (IndexOfId(expected) != 0 && IsNumbered(expected, groupNumber, number))
+        return expected;
+    const auto found = std::ranges::lower_bound(group->numbers, number);
+    return found != group->numbers.end() && *found == number
+               ? group->ids[static_cast<std::size_t>(found - group->numbers.begin())]
+               : 0;
+}
+
+// id: of a color that is there.
+bool ColorTable::IsNumbered(ColorId id, GroupNumber group, std::uint32_t number) const {
+    const StoredColor& color = store_.At(id);
+    return color.group == group && color.number == number && color.OtherKey() == nullptr;
+}
+
+ColorId ColorTable::FirstOfOtherKey(const std::string& key) const {
+    const auto found = otherKeys_.find(key);
+    return found == otherKeys_.end() ? 0 : found->second.front();
 }
 
 const ColorTable::Group* ColorTable::FindGroup(const std::string& groupKey) const {

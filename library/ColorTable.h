@@ -1,10 +1,10 @@
 #pragma once
 
 #include "common/ColorRecord.h"
-#include "library/ColorKeyIndex.h"
 #include "library/ColorStore.h"
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -43,8 +43,8 @@ public:
     // "group key, E, number".
     using GroupNumber = std::uint32_t;
     [[nodiscard]] GroupNumber NumberOfGroup(const std::string& groupKey);
-    void Append(GroupNumber group, std::uint32_t number, std::string name, std::string_view altName,
-                const ColorValueArray& values);
+    void Append(GroupNumber group, std::uint32_t number, std::string_view name,
+                std::string_view altName, const ColorValueArray& values);
 
     // Both names of a colour, or its values; the keys of a record never change.
     void SetNames(int index, const std::string& name);
@@ -72,26 +72,24 @@ public:
 private:
     struct Group {
         std::string key;
-        std::size_t hash = 0;     // of the key
-        std::vector<ColorId> ids; // ascending
+        std::vector<ColorId> ids;           // ascending
+        std::vector<std::uint32_t> numbers; // of the same colors
+        bool isInOrder = true; // numbers ascend without repeating, and no color has another key
+        ColorId firstId = 0; // what the id of a number 0 would have been when the first color came
     };
 
     [[nodiscard]] StoredColor& ColorAt(int index);
     void Insert(StoredColor&& color);
+    void ForgetOtherKey(ColorId id);
     [[nodiscard]] const Group* FindGroup(const std::string& groupKey) const;
     [[nodiscard]] std::string KeyOf(ColorId id) const;
-    [[nodiscard]] ColorKeyIndex::Hash HashOf(ColorId id) const;
-    [[nodiscard]] bool HaveSameKey(ColorId left, ColorId right) const;
-    void IndexKeys() const;
-    bool IndexKey(ColorId id) const; // false: there was a colour with its key
+    [[nodiscard]] ColorId FirstOfNumber(const std::string& key) const; // 0: none
+    [[nodiscard]] bool IsNumbered(ColorId id, GroupNumber group, std::uint32_t number) const;
+    [[nodiscard]] ColorId FirstOfOtherKey(const std::string& key) const;
 
     ColorStore store_;
     std::vector<ColorId> order_; // ascending
-    std::vector<Group> groups_;  // also those whose colours have gone
+    std::vector<Group> groups_;  // also those whose colors have gone
     std::unordered_map<std::string, GroupNumber> numberOfGroup_;
-
-    // Made when a key is first looked up.
-    mutable ColorKeyIndex keys_;
-    mutable bool keysIndexed_ = false;
-    mutable bool keysAreUnique_ = true;
+    std::map<std::string, std::vector<ColorId>> otherKeys_; // ids ascending, never empty
 };
