@@ -28,6 +28,21 @@ std::optional<KeyParts> PartsOf(std::string_view key) {
     return error == std::errc() && stop == end && isAsWritten ? std::optional(parts) : std::nullopt;
 }
 
+// The place of a value in an ascending list, or where it would stand.
+template <typename Value>
+auto PlaceOf(std::vector<Value>& ascending, const Value& value) {
+    return std::ranges::lower_bound(ascending, value);
+}
+
+// Nearly always at the end.
+template <typename Value>
+void AddInOrder(std::vector<Value>& ascending, const Value& value) {
+    if (ascending.empty() || ascending.back() < value)
+        ascending.push_back(value);
+    else
+        ascending.insert(PlaceOf(ascending, value), value);
+}
+
 [[noreturn]] void ThrowOutOfRange() {
     throw RuntimeError(ErrorNumber::SubscriptOutOfRange, ErrorTexts::NoSuchNumber);
 }
@@ -139,15 +154,12 @@ void ColorTable::Insert(StoredColor&& color) {
     const std::uint32_t number = color.number;
     const std::string* const otherKey = color.OtherKey(); // does not move
     const ColorId id = store_.Add(std::move(color));
-    if (group.ids.empty())
-        group.firstId = id - number;
-    group.isInOrder = otherKey == nullptr &&
-                      (group.ids.empty() || (group.isInOrder && group.numbers.back() < number));
     order_.push_back(id);
     group.ids.push_back(id);
-    group.numbers.push_back(number);
     if (otherKey != nullptr)
         otherKeys_[*otherKey].push_back(id);
+    else
+        AddInOrder(group.numbered, Numbered{number, id});
 }
 
 void ColorTable::SetNames(int index, const std::string& name) {
@@ -169,20 +181,22 @@ void ColorTable::SetValues(int index, const ColorValueArray& values) {
 
 void ColorTable::Erase(int index) {
     const ColorId id = IdAt(index);
-    ForgetOtherKey(id);
-    Group& group = groups_[store_.At(id).group];
-    const auto place = std::ranges::lower_bound(group.ids, id);
-    group.numbers.erase(group.numbers.begin() + (place - group.ids.begin()));
-    group.ids.erase(place);
+    ForgetKey(id);
+    std::vector<ColorId>& ids = groups_[store_.At(id).group].ids;
+    ids.erase(PlaceOf(ids, id));
     order_.erase(order_.begin() + (index - 1));
     store_.Remove(id);
 }
 
-void ColorTable::ForgetOtherKey(ColorId id) {
-    const std::string* const key = store_.At(id).OtherKey();
-    if (key == nullptr)
+void ColorTable::ForgetKey(ColorId id) {
+    const StoredColor& color = store_.At(id);
+    const std::string* const otherKey = color.OtherKey();
+    if (otherKey == nullptr) {
+        std::vector<Numbered>& numbered = groups_[color.group].numbered;
+        numbered.erase(PlaceOf(numbered, {color.number, id}));
         return;
-    const auto sameKey = otherKeys_.find(*key);
+    }
+    const auto sameKey = otherKeys_.find(*otherKey);
     std::erase(sameKey->second, id);
     if (sameKey->second.empty())
         otherKeys_.erase(sameKey);
@@ -194,16 +208,18 @@ void ColorTable::EraseGroups(const std::vector<std::string>& groupKeys) {
         if (const Group* group = FindGroup(key))
             goes[static_cast<std::size_t>(group - groups_.data())] = true;
     std::erase_if(order_, [&](ColorId id) {
-        if (!goes[store_.At(id).group])
+        const StoredColor& color = store_.At(id);
+        if (!goes[color.group])
             return false;
-        ForgetOtherKey(id);
+        if (color.OtherKey() != nullptr)
+            ForgetKey(id);
         store_.Remove(id);
         return true;
     });
     for (std::size_t number = 0; number < groups_.size(); ++number)
         if (goes[number]) {
             groups_[number].ids = {};
-            groups_[number].numbers = {};
+            groups_[number].numbered = {};
         }
 }
 
@@ -215,33 +231,14 @@ int ColorTable::IndexOfKey(const std::string& key) const {
     return IndexOfId(std::min(numbered, other));
 }
 
-// A file's colors are numbered as they come: where all of them are still there, a number tells the
-// id at once, however many there are.
 ColorId ColorTable::FirstOfNumber(const std::string& key) const {
     const std::optional<KeyParts> parts = PartsOf(key);
     const Group* const group = parts ? FindGroup(std::string(parts->group)) : nullptr;
     if (group == nullptr)
         return 0;
-    const std::uint32_t number = parts->number;
-    const auto groupNumber = static_cast<GroupNumber>(group - groups_.data());
-    if (!group->isInOrder) {
-        const auto found = std::ranges::find_if(
-            group->ids, [&](ColorId id) { return IsNumbered(id, groupNumber, number); });
-        return found == group->ids.end() ? 0 : *found;
-    }
-    const ColorId expected = group->firstId + number;
-    if (IndexOfId(expected) != 0 && IsNumbered(expected, groupNumber, number))
-        return expected;
-    const auto found = std::ranges::lower_bound(group->numbers, number);
-    return found != group->numbers.end() && *found == number
-               ? group->ids[static_cast<std::size_t>(found - group->numbers.begin())]
-               : 0;
-}
-
-// id: of a color that is there.
-bool ColorTable::IsNumbered(ColorId id, GroupNumber group, std::uint32_t number) const {
-    const StoredColor& color = store_.At(id);
-    return color.group == group && color.number == number && color.OtherKey() == nullptr;
+    const auto found =
+        std::ranges::lower_bound(group->numbered, parts->number, {}, &Numbered::number);
+    return found != group->numbered.end() && found->number == parts->number ? found->id : 0;
 }
 
 ColorId ColorTable::FirstOfOtherKey(const std::string& key) const {

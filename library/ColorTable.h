@@ -70,21 +70,23 @@ public:
     [[nodiscard]] int IndexOfId(ColorId id) const; // 0: the colour is not there any more
 
 private:
+    struct Numbered {
+        std::uint32_t number = 0;
+        ColorId id = 0;
+        auto operator<=>(const Numbered&) const = default;
+    };
     struct Group {
         std::string key;
-        std::vector<ColorId> ids;           // ascending
-        std::vector<std::uint32_t> numbers; // of the same colors
-        bool isInOrder = true; // numbers ascend without repeating, and no color has another key
-        ColorId firstId = 0; // what the id of a number 0 would have been when the first color came
+        std::vector<ColorId> ids;       // ascending
+        std::vector<Numbered> numbered; // ascending; those with a key of group and number
     };
 
     [[nodiscard]] StoredColor& ColorAt(int index);
     void Insert(StoredColor&& color);
-    void ForgetOtherKey(ColorId id);
+    void ForgetKey(ColorId id);
     [[nodiscard]] const Group* FindGroup(const std::string& groupKey) const;
     [[nodiscard]] std::string KeyOf(ColorId id) const;
     [[nodiscard]] ColorId FirstOfNumber(const std::string& key) const; // 0: none
-    [[nodiscard]] bool IsNumbered(ColorId id, GroupNumber group, std::uint32_t number) const;
     [[nodiscard]] ColorId FirstOfOtherKey(const std::string& key) const;
 
     ColorStore store_;
