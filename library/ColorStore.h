@@ -1,13 +1,17 @@
 #pragma once
 
 #include "common/ColorRecord.h"
+#include "library/CompactText.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 // Names a colour for as long as it is in the table, whatever is added or removed beside it; later
 // colours have greater ones.  0: none.
@@ -16,15 +20,41 @@ using ColorId = std::uint32_t;
 // A colour as the table keeps it.  Keys are the key of the group, "E" and a number, so the number
 // is enough; the second name is nearly always the name.
 struct StoredColor {
-    std::string name;
-    std::unique_ptr<std::string> altName;  // null: equal to the name
-    std::unique_ptr<std::string> otherKey; // null: made of group and number
-    std::uint32_t group = 0;               // number of its group
+    // What few colors have.
+    struct Seldom {
+        std::optional<std::string> altName;
+        std::optional<std::string> otherKey;
+    };
+
+    std::unique_ptr<Seldom> seldom;
+    std::uint32_t group = 0; // number of its group
     std::uint32_t number = 0;
     ColorValueArray values{};
     bool isNew = false;
+    CompactText name;
 
-    [[nodiscard]] const std::string& AltName() const noexcept { return altName ? *altName : name; }
+    [[nodiscard]] std::string_view AltName() const noexcept {
+        return seldom && seldom->altName ? std::string_view(*seldom->altName) : name.View();
+    }
+    // Null: the key is made of group and number.
+    [[nodiscard]] const std::string* OtherKey() const noexcept {
+        return seldom && seldom->otherKey ? &*seldom->otherKey : nullptr;
+    }
+
+    void SetAltName(std::string_view text) {
+        if (text != name.View())
+            SeldomTexts().altName = text;
+        else if (seldom)
+            seldom->altName.reset();
+    }
+    void SetOtherKey(std::string text) { SeldomTexts().otherKey = std::move(text); }
+
+private:
+    Seldom& SeldomTexts() {
+        if (!seldom)
+            seldom = std::make_unique<Seldom>();
+        return *seldom;
+    }
 };
 
 // Keeps colours in blocks, so that they never move and no room is kept in advance; a block goes

@@ -28,21 +28,19 @@ std::optional<KeyParts> PartsOf(std::string_view key) {
     return error == std::errc() && stop == end && isAsWritten ? std::optional(parts) : std::nullopt;
 }
 
-std::size_t HashOfText(std::string_view text) {
-    return std::hash<std::string_view>()(text);
+// The place of a value in an ascending list, or where it would stand.
+template <typename Value>
+auto PlaceOf(std::vector<Value>& ascending, const Value& value) {
+    return std::ranges::lower_bound(ascending, value);
 }
 
-ColorKeyIndex::Hash HashOfParts(std::size_t groupHash, std::uint32_t number) {
-    std::uint64_t mixed = groupHash + number * 0x9E3779B97F4A7C15U;
-    mixed = (mixed ^ mixed >> 32U) * 0xD6E8FEB86659FD93U;
-    return static_cast<ColorKeyIndex::Hash>(mixed >> 32U);
-}
-
-// Equal for equal keys, whichever way they are kept.
-ColorKeyIndex::Hash HashOfKey(std::string_view key) {
-    const std::optional<KeyParts> parts = PartsOf(key);
-    return parts ? HashOfParts(HashOfText(parts->group), parts->number)
-                 : static_cast<ColorKeyIndex::Hash>(HashOfText(key));
+// Nearly always at the end.
+template <typename Value>
+void AddInOrder(std::vector<Value>& ascending, const Value& value) {
+    if (ascending.empty() || ascending.back() < value)
+        ascending.push_back(value);
+    else
+        ascending.insert(PlaceOf(ascending, value), value);
 }
 
 [[noreturn]] void ThrowOutOfRange() {
@@ -52,7 +50,7 @@ ColorKeyIndex::Hash HashOfKey(std::string_view key) {
 // Both ascending; what goes is there.
 void EraseSorted(std::vector<ColorId>& ids, const std::vector<ColorId>& going) {
     if (going.size() == 1) {
-        ids.erase(std::ranges::lower_bound(ids, going.front()));
+        ids.erase(PlaceOf(ids, going.front()));
         return;
     }
     auto next = going.begin();
@@ -63,14 +61,15 @@ void EraseSorted(std::vector<ColorId>& ids, const std::vector<ColorId>& going) {
     });
 }
 
-void MergeSorted(std::vector<ColorId>& ids, const std::vector<ColorId>& coming) {
+template <typename Value>
+void MergeSorted(std::vector<Value>& ascending, const std::vector<Value>& coming) {
     if (coming.size() == 1) {
-        ids.insert(std::ranges::lower_bound(ids, coming.front()), coming.front());
+        AddInOrder(ascending, coming.front());
         return;
     }
-    const auto middle = static_cast<std::ptrdiff_t>(ids.size());
-    ids.insert(ids.end(), coming.begin(), coming.end());
-    std::inplace_merge(ids.begin(), ids.begin() + middle, ids.end());
+    const auto middle = static_cast<std::ptrdiff_t>(ascending.size());
+    ascending.insert(ascending.end(), coming.begin(), coming.end());
+    std::inplace_merge(ascending.begin(), ascending.begin() + middle, ascending.end());
 }
 
 } // namespace
@@ -80,8 +79,7 @@ void ColorTable::Reset() {
     order_ = {};
     groups_ = {};
     numberOfGroup_ = {};
-    keys_.Clear();
-    keysIndexed_ = false;
+    otherKeys_ = {};
 }
 
 ColorId ColorTable::IdAt(int index) const {
@@ -90,9 +88,20 @@ ColorId ColorTable::IdAt(int index) const {
     return order_[static_cast<std::size_t>(index) - 1];
 }
 
+// Ids grow by one or more from place to place: where no color has gone an id says its place, and
+// where few have gone, few places are left to look at.
 int ColorTable::IndexOfId(ColorId id) const {
-    const auto found = std::ranges::lower_bound(order_, id);
-    return found != order_.end() && *found == id ? static_cast<int>(found - order_.begin()) + 1 : 0;
+    if (order_.empty() || id < order_.front() || id > order_.back())
+        return 0;
+    const std::size_t last = order_.size() - 1;
+    const std::size_t latest = std::min<std::size_t>(id - order_.front(), last);
+    const std::size_t earliest = last - std::min<std::size_t>(order_.back() - id, last);
+    if (earliest == latest)
+        return static_cast<int>(latest) + 1;
+    const auto begin = order_.begin() + static_cast<std::ptrdiff_t>(earliest);
+    const auto end = order_.begin() + static_cast<std::ptrdiff_t>(latest) + 1;
+    const auto found = std::lower_bound(begin, end, id);
+    return found != end && *found == id ? static_cast<int>(found - order_.begin()) + 1 : 0;
 }
 
 StoredColor& ColorTable::ColorAt(int index) {
@@ -109,34 +118,24 @@ ColorRecord ColorTable::At(int index) const {
         return {};
     const ColorId id = IdAt(index);
     const StoredColor& color = store_.At(id);
-    return {color.name,  KeyOf(id),    groups_[color.group].key,
-            color.isNew, color.values, color.AltName()};
+    return {std::string(color.name.View()),
+            KeyOf(id),
+            groups_[color.group].key,
+            color.isNew,
+            color.values,
+            std::string(color.AltName())};
 }
 
 std::string ColorTable::KeyOf(ColorId id) const {
     const StoredColor& color = store_.At(id);
-    if (color.otherKey)
-        return *color.otherKey;
+    if (const std::string* const otherKey = color.OtherKey())
+        return *otherKey;
     return LibraryKeys::OfColor(groups_[color.group].key, color.number);
-}
-
-ColorKeyIndex::Hash ColorTable::HashOf(ColorId id) const {
-    const StoredColor& color = store_.At(id);
-    return color.otherKey ? HashOfKey(*color.otherKey)
-                          : HashOfParts(groups_[color.group].hash, color.number);
-}
-
-bool ColorTable::HaveSameKey(ColorId left, ColorId right) const {
-    const StoredColor& one = store_.At(left);
-    const StoredColor& other = store_.At(right);
-    if (one.otherKey || other.otherKey)
-        return KeyOf(left) == KeyOf(right);
-    return one.number == other.number && one.group == other.group;
 }
 
 bool ColorTable::KeyBeginsWith(int index, std::string_view start) const {
     const auto [color, groupKey] = ViewAt(index);
-    if (!color.otherKey && start.size() <= groupKey.size())
+    if (color.OtherKey() == nullptr && start.size() <= groupKey.size())
         return std::string_view(groupKey).starts_with(start);
     return KeyOf(IdAt(index)).starts_with(start);
 }
@@ -145,7 +144,7 @@ ColorTable::GroupNumber ColorTable::NumberOfGroup(const std::string& groupKey) {
     const auto [place, added] =
         numberOfGroup_.try_emplace(groupKey, static_cast<GroupNumber>(groups_.size()));
     if (added)
-        groups_.push_back({groupKey, HashOfText(groupKey), {}});
+        groups_.emplace_back().key = groupKey;
     return place->second;
 }
 
@@ -156,36 +155,38 @@ void ColorTable::Append(ColorRecord record) {
     if (parts && parts->group == record.groupKey)
         color.number = parts->number;
     else
-        color.otherKey = std::make_unique<std::string>(std::move(record.key));
-    if (record.altName != record.name)
-        color.altName = std::make_unique<std::string>(std::move(record.altName));
-    color.name = std::move(record.name);
+        color.SetOtherKey(std::move(record.key));
+    color.name = CompactText(record.name);
+    color.SetAltName(record.altName);
     color.values = record.values;
     color.isNew = record.isNew;
     Insert(std::move(color));
 }
 
-void ColorTable::Append(GroupNumber group, std::uint32_t number, std::string name,
+void ColorTable::Append(GroupNumber group, std::uint32_t number, std::string_view name,
                         std::string_view altName, const ColorValueArray& values) {
     StoredColor color;
     color.group = group;
     color.number = number;
-    if (altName != name)
-        color.altName = std::make_unique<std::string>(altName);
-    color.name = std::move(name);
+    color.name = CompactText(name);
+    color.SetAltName(altName);
     color.values = values;
     Insert(std::move(color));
 }
 
 void ColorTable::Insert(StoredColor&& color) {
-    const GroupNumber group = color.group;
+    Group& group = groups_[color.group];
+    const std::uint32_t number = color.number;
+    const std::string* const otherKey = color.OtherKey(); // does not move
     const ColorId id = store_.Add(std::move(color));
     order_.push_back(id);
-    groups_[group].ids.push_back(id);
-    if (keysIndexed_ && !IndexKey(id))
-        keysAreUnique_ = false;
+    group.ids.push_back(id);
+    if (otherKey != nullptr)
+        otherKeys_[*otherKey].push_back(id);
+    else
+        AddInOrder(group.numbered, Numbered{number, id});
     if (journal_)
-        journal_->ColorAdded(id, groups_[group].key);
+        journal_->ColorAdded(id, group.key);
 }
 
 void ColorTable::TellChange(ColorId id) const {
@@ -193,33 +194,35 @@ void ColorTable::TellChange(ColorId id) const {
         return;
     const StoredColor& color = store_.At(id);
     StoredColor before;
-    before.name = color.name;
-    if (color.altName)
-        before.altName = std::make_unique<std::string>(*color.altName);
+    before.name = CompactText(color.name.View());
+    before.SetAltName(color.AltName());
     before.values = color.values;
     journal_->ColorChanges(id, std::move(before));
 }
 
 void ColorTable::Exchange(ColorId id, StoredColor& other) {
     StoredColor& color = store_.At(id);
+    const std::string altName(color.AltName());
+    const std::string otherAltName(other.AltName());
     std::swap(color.name, other.name);
-    std::swap(color.altName, other.altName);
+    color.SetAltName(otherAltName);
+    other.SetAltName(altName);
     std::swap(color.values, other.values);
 }
 
 void ColorTable::SetNames(int index, const std::string& name) {
     TellChange(IdAt(index));
     StoredColor& color = ColorAt(index);
-    color.name = name;
-    color.altName.reset();
+    color.name = CompactText(name);
+    color.SetAltName(name);
 }
 
 void ColorTable::SetName(int index, const std::string& name) {
     TellChange(IdAt(index));
     StoredColor& color = ColorAt(index);
-    const std::string altName = color.AltName();
-    color.altName = altName != name ? std::make_unique<std::string>(altName) : nullptr;
-    color.name = name;
+    const std::string altName(color.AltName());
+    color.name = CompactText(name);
+    color.SetAltName(altName);
 }
 
 void ColorTable::SetValues(int index, const ColorValueArray& values) {
@@ -236,51 +239,64 @@ void ColorTable::Erase(int index) {
 }
 
 std::vector<RemovedColor> ColorTable::TakeOut(const std::vector<ColorId>& ids) {
-    LeaveOrder(ids);
+    EraseSorted(order_, ids);
+    return ids.empty() ? std::vector<RemovedColor>()
+                       : LeaveGroup(groups_[store_.At(ids.front()).group], ids);
+}
+
+std::vector<RemovedColor> ColorTable::LeaveGroup(Group& group, const std::vector<ColorId>& ids) {
+    EraseSorted(group.ids, ids);
+    ForgetKeys(group, ids);
     std::vector<RemovedColor> removed;
     removed.reserve(ids.size());
-    if (!ids.empty())
-        EraseSorted(groups_[store_.At(ids.front()).group].ids, ids);
-    for (const ColorId id : ids)
-        removed.push_back(MoveOut(id));
+    for (const ColorId id : ids) {
+        removed.push_back({id, std::move(store_.At(id))});
+        store_.Remove(id);
+    }
     return removed;
-}
-
-RemovedColor ColorTable::MoveOut(ColorId id) {
-    RemovedColor removed{id, std::move(store_.At(id))};
-    store_.Remove(id);
-    return removed;
-}
-
-void ColorTable::LeaveOrder(const std::vector<ColorId>& ids) {
-    // Where much goes, the index is made anew when it is needed; also where keys are not unique,
-    // for the next one with a key is the first then.
-    const bool isLittle = ids.size() <= 1 || ids.size() < order_.size() / 4;
-    keysIndexed_ = keysIndexed_ && keysAreUnique_ && isLittle;
-    if (keysIndexed_)
-        for (const ColorId id : ids)
-            keys_.Remove(id, HashOf(id));
-    else
-        keys_.Clear();
-    EraseSorted(order_, ids);
 }
 
 void ColorTable::PutBack(const std::string& groupKey, std::vector<RemovedColor> colors) {
-    const GroupNumber group = NumberOfGroup(groupKey);
+    const GroupNumber number = NumberOfGroup(groupKey);
+    Group& group = groups_[number];
     std::vector<ColorId> ids;
-    ids.reserve(colors.size());
-    for (RemovedColor& removed : colors) {
-        removed.color.group = group;
-        ids.push_back(removed.id);
-        store_.PutBack(removed.id, std::move(removed.color));
+    std::vector<Numbered> numbered;
+    for (auto& [id, color] : colors) {
+        color.group = number;
+        ids.push_back(id);
+        if (const std::string* const otherKey = color.OtherKey())
+            AddInOrder(otherKeys_[*otherKey], id);
+        else
+            numbered.push_back({color.number, id});
+        store_.PutBack(id, std::move(color));
     }
+    std::ranges::sort(numbered);
     MergeSorted(order_, ids);
-    MergeSorted(groups_[group].ids, ids);
-    keysIndexed_ = keysIndexed_ && keysAreUnique_;
-    for (const ColorId id : ids)
-        keysIndexed_ = keysIndexed_ && IndexKey(id);
+    MergeSorted(group.ids, ids);
+    MergeSorted(group.numbered, numbered);
 }
 
+void ColorTable::ForgetKeys(Group& group, const std::vector<ColorId>& ids) {
+    for (const ColorId id : ids)
+        if (const std::string* const otherKey = store_.At(id).OtherKey())
+            ForgetOtherKey(id, *otherKey);
+    if (ids.size() != 1) {
+        std::erase_if(group.numbered, [&](const Numbered& color) {
+            return std::ranges::binary_search(ids, color.id);
+        });
+    } else if (const StoredColor& color = store_.At(ids.front()); color.OtherKey() == nullptr) {
+        group.numbered.erase(PlaceOf(group.numbered, {color.number, ids.front()}));
+    }
+}
+
+void ColorTable::ForgetOtherKey(ColorId id, const std::string& key) {
+    const auto sameKey = otherKeys_.find(key);
+    std::erase(sameKey->second, id);
+    if (sameKey->second.empty())
+        otherKeys_.erase(sameKey);
+}
+
+// One pass over the table for all groups.
 void ColorTable::EraseGroups(const std::vector<std::string>& groupKeys) {
     std::vector<ColorId> leaving;
     for (const std::string& key : groupKeys) {
@@ -288,41 +304,38 @@ void ColorTable::EraseGroups(const std::vector<std::string>& groupKeys) {
         leaving.insert(leaving.end(), ids.begin(), ids.end());
     }
     std::ranges::sort(leaving);
-    LeaveOrder(leaving);
+    EraseSorted(order_, leaving);
     for (const std::string& key : groupKeys) {
-        std::vector<RemovedColor> removed;
-        for (const ColorId id : std::exchange(groups_[NumberOfGroup(key)].ids, {}))
-            removed.push_back(MoveOut(id));
+        Group& group = groups_[NumberOfGroup(key)];
+        const std::vector<ColorId> ids = group.ids;
+        std::vector<RemovedColor> removed = LeaveGroup(group, ids);
+        group.numbered = {};
         if (journal_ && !removed.empty())
             journal_->ColorsRemoved(key, std::move(removed));
     }
 }
 
-void ColorTable::IndexKeys() const {
-    keys_.Clear();
-    keys_.Reserve(order_.size());
-    keysIndexed_ = true;
-    keysAreUnique_ = true;
-    for (const ColorId id : order_)
-        if (!IndexKey(id))
-            keysAreUnique_ = false;
-}
-
-bool ColorTable::IndexKey(ColorId id) const {
-    return keys_.Add(id, HashOf(id), [this, id](ColorId other) { return HaveSameKey(id, other); });
-}
-
 int ColorTable::IndexOfKey(const std::string& key) const {
-    if (!keysIndexed_)
-        IndexKeys();
+    const ColorId numbered = FirstOfNumber(key);
+    const ColorId other = FirstOfOtherKey(key);
+    if (numbered == 0 || other == 0)
+        return IndexOfId(std::max(numbered, other));
+    return IndexOfId(std::min(numbered, other));
+}
+
+ColorId ColorTable::FirstOfNumber(const std::string& key) const {
     const std::optional<KeyParts> parts = PartsOf(key);
-    const ColorId id = keys_.Find(HashOfKey(key), [&](ColorId other) {
-        const StoredColor& color = store_.At(other);
-        if (color.otherKey)
-            return *color.otherKey == key;
-        return parts && color.number == parts->number && groups_[color.group].key == parts->group;
-    });
-    return id == 0 ? 0 : IndexOfId(id);
+    const Group* const group = parts ? FindGroup(std::string(parts->group)) : nullptr;
+    if (group == nullptr)
+        return 0;
+    const auto found =
+        std::ranges::lower_bound(group->numbered, parts->number, {}, &Numbered::number);
+    return found != group->numbered.end() && found->number == parts->number ? found->id : 0;
+}
+
+ColorId ColorTable::FirstOfOtherKey(const std::string& key) const {
+    const auto found = otherKeys_.find(key);
+    return found == otherKeys_.end() ? 0 : found->second.front();
 }
 
 const ColorTable::Group* ColorTable::FindGroup(const std::string& groupKey) const {

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "common/ColorRecord.h"
-#include "library/ColorKeyIndex.h"
 #include "library/ColorStore.h"
 #include "library/LibraryJournal.h"
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -56,8 +56,8 @@ public:
     // "group key, E, number".
     using GroupNumber = std::uint32_t;
     [[nodiscard]] GroupNumber NumberOfGroup(const std::string& groupKey);
-    void Append(GroupNumber group, std::uint32_t number, std::string name, std::string_view altName,
-                const ColorValueArray& values);
+    void Append(GroupNumber group, std::uint32_t number, std::string_view name,
+                std::string_view altName, const ColorValueArray& values);
 
     // Both names of a colour, or its values; the keys of a record never change.
     void SetNames(int index, const std::string& name);
@@ -83,33 +83,35 @@ public:
     [[nodiscard]] int IndexOfId(ColorId id) const; // 0: the colour is not there any more
 
 private:
+    struct Numbered {
+        std::uint32_t number = 0;
+        ColorId id = 0;
+        auto operator<=>(const Numbered&) const = default;
+    };
     struct Group {
         std::string key;
-        std::size_t hash = 0;     // of the key
-        std::vector<ColorId> ids; // ascending
+        std::vector<ColorId> ids;       // ascending
+        std::vector<Numbered> numbered; // ascending; those with a key of group and number
     };
 
     [[nodiscard]] StoredColor& ColorAt(int index);
     void Insert(StoredColor&& color);
-    void LeaveOrder(const std::vector<ColorId>& ids); // and the index of keys
-    [[nodiscard]] RemovedColor MoveOut(ColorId id);   // of the store alone
     void TellChange(ColorId id) const;
+    // All of one group, ascending; they are out of the order already.
+    [[nodiscard]] std::vector<RemovedColor> LeaveGroup(Group& group,
+                                                       const std::vector<ColorId>& ids);
+    void ForgetKeys(Group& group, const std::vector<ColorId>& ids);
+    void ForgetOtherKey(ColorId id, const std::string& key);
     [[nodiscard]] const Group* FindGroup(const std::string& groupKey) const;
     [[nodiscard]] std::string KeyOf(ColorId id) const;
-    [[nodiscard]] ColorKeyIndex::Hash HashOf(ColorId id) const;
-    [[nodiscard]] bool HaveSameKey(ColorId left, ColorId right) const;
-    void IndexKeys() const;
-    bool IndexKey(ColorId id) const; // false: there was a colour with its key
+    [[nodiscard]] ColorId FirstOfNumber(const std::string& key) const; // 0: none
+    [[nodiscard]] ColorId FirstOfOtherKey(const std::string& key) const;
 
     ColorStore store_;
     std::vector<ColorId> order_; // ascending
-    std::vector<Group> groups_;  // also those whose colours have gone
+    std::vector<Group> groups_;  // also those whose colors have gone
     std::unordered_map<std::string, GroupNumber> numberOfGroup_;
-
-    // Made when a key is first looked up.
-    mutable ColorKeyIndex keys_;
-    mutable bool keysIndexed_ = false;
-    mutable bool keysAreUnique_ = true;
+    std::map<std::string, std::vector<ColorId>> otherKeys_; // ids ascending, never empty
 
     ColorJournal* journal_ = nullptr;
 };

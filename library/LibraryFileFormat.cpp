@@ -2,11 +2,11 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "library/LeadingDigits.h"
 
 #include <algorithm>
 #include <charconv>
 #include <limits>
-#include <tuple>
 #include <utility>
 
 namespace LibraryFileFormat {
@@ -42,7 +42,7 @@ bool StandsAt(std::string_view text, std::size_t place, std::string_view part) {
     return true;
 }
 
-// Fields are short: a search that is quick to start beats one that is quick over a long way.
+// Values are short: a search that is quick to start beats one that is quick over a long way.
 std::size_t FindSeparator(std::string_view text, std::string_view separator) {
     const char first = separator.front();
     for (std::size_t place = 0; place < text.size(); ++place)
@@ -55,7 +55,7 @@ std::size_t FindSeparator(std::string_view text, std::string_view separator) {
 // sign may also stand in the name, so then it is the ninth from the end.
 std::size_t FindValues(std::string_view text, std::string_view separator) {
     if (separator == kDivisionSign)
-        return FindSeparator(text, separator);
+        return text.find(separator);
     std::size_t place = text.size();
     for (std::size_t value = 0; value < kColorValueCount; ++value) {
         place = place == 0 ? std::string_view::npos : text.rfind(separator, place - 1);
@@ -84,26 +84,61 @@ bool IsSpelledAsSaved(std::string_view value) {
     return !digits.empty() && (digits.front() != '0' || value == "0") && AreDigits(digits);
 }
 
+// The fields of a text one by one.
+class Fields {
+public:
+    Fields(std::string_view text, std::string_view separator)
+        : rest_(text), separator_(separator) {}
+
+    std::string_view Next() {
+        const std::size_t end = FindSeparator(rest_, separator_);
+        const std::string_view field = rest_.substr(0, end);
+        isAtEnd_ = end == std::string_view::npos;
+        rest_.remove_prefix(isAtEnd_ ? rest_.size() : end + separator_.size());
+        return field;
+    }
+    [[nodiscard]] bool IsAtEnd() const noexcept { return isAtEnd_; }
+
+private:
+    std::string_view rest_;
+    std::string_view separator_;
+    bool isAtEnd_ = false;
+};
+
+bool AreNineFields(std::string_view text, std::string_view separator) {
+    Fields fields(text, separator);
+    std::size_t count = 0;
+    for (; !fields.IsAtEnd(); ++count)
+        static_cast<void>(fields.Next());
+    return count == kColorValueCount;
+}
+
+// False: at least one of the values is not plain, or there are not nine.
+bool ReadPlainValues(std::string_view text, std::string_view separator, ColorValueArray& values) {
+    for (std::int16_t& value : values) {
+        if (&value != &values.front()) {
+            if (!StandsAt(text, 0, separator))
+                return false;
+            text.remove_prefix(separator.size());
+        }
+        const LeadingDigits digits = LeadingDigits::Of(text);
+        if (digits.count == 0 || (digits.count > 1 && text.front() == '0'))
+            return false;
+        value = static_cast<std::int16_t>(digits.number);
+        text.remove_prefix(digits.count);
+    }
+    return text.empty();
+}
+
 // The fields behind the colon; false when there are not exactly ten of them.
 bool SplitColorFields(std::string_view text, std::string_view separator, Color& color) {
     const std::size_t nameEnd = FindValues(text, separator);
     if (nameEnd == std::string_view::npos)
         return false;
     color.altName = text.substr(0, nameEnd);
-    text.remove_prefix(nameEnd + separator.size());
-    const auto nextField = [&] {
-        const std::size_t end = FindSeparator(text, separator);
-        const std::string_view field = text.substr(0, end);
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + separator.size());
-        return std::pair(field, end != std::string_view::npos);
-    };
-    bool more = true;
-    for (std::string_view& value : color.values) {
-        if (!more)
-            return false;
-        std::tie(value, more) = nextField();
-    }
-    return !more;
+    color.values = text.substr(nameEnd + separator.size());
+    color.hasPlainValues = ReadPlainValues(color.values, separator, color.plainValues);
+    return color.hasPlainValues || AreNineFields(color.values, separator);
 }
 
 // What follows the first colon, read as a number; the bar copes with any range.
@@ -154,17 +189,18 @@ std::optional<Group> ParseGroup(std::string_view record) {
 }
 
 std::optional<Color> ParseColor(std::string_view record, std::string_view separator) {
+    std::optional<Color> color; // made where the caller has it: it is large, and there are many
     const std::size_t equals = record.find('=');
     if (!HasTag(record, "E#") || equals == std::string_view::npos)
-        return {};
+        return color;
     const std::size_t colon = record.find(':', equals + 1);
     if (colon == std::string_view::npos)
-        return {};
-    Color color;
-    color.name = record.substr(kTagLength, equals - kTagLength);
-    color.groupKey = record.substr(equals + 1, colon - equals - 1);
-    if (!SplitColorFields(record.substr(colon + 1), separator, color))
-        return {};
+        return color;
+    color.emplace();
+    color->name = record.substr(kTagLength, equals - kTagLength);
+    color->groupKey = record.substr(equals + 1, colon - equals - 1);
+    if (!SplitColorFields(record.substr(colon + 1), separator, *color))
+        color.reset();
     return color;
 }
 
@@ -179,25 +215,36 @@ bool IsGroupTakenWhole(std::string_view line) {
     return IsInQuotesAndKnown(line) && line.find('=') == line.rfind('=');
 }
 
-bool IsColorTakenWhole(std::string_view line, const Color& color) {
-    return IsInQuotesAndKnown(line) && std::ranges::all_of(color.values, IsSpelledAsSaved);
+bool IsColorTakenWhole(std::string_view line, const Color& color, std::string_view separator) {
+    if (!IsInQuotesAndKnown(line))
+        return false;
+    Fields fields(color.values, separator);
+    bool asSaved = true;
+    while (!color.hasPlainValues && asSaved && !fields.IsAtEnd())
+        asSaved = IsSpelledAsSaved(fields.Next());
+    return asSaved;
 }
 
 bool NameComesBack(std::string_view name) {
-    return name.find_first_of("=\r\n") == std::string_view::npos;
+    return std::ranges::none_of(
+        name, [](char letter) { return letter == '=' || letter == '\r' || letter == '\n'; });
 }
 
 bool SecondNameComesBack(std::string_view name, std::string_view separator) {
     // A letter that stands in for the division sign does no harm in a name.
     const bool endsEarly =
         separator == kDivisionSign && name.find(separator) != std::string_view::npos;
-    return !endsEarly && name.find_first_of("\r\n") == std::string_view::npos;
+    return !endsEarly &&
+           std::ranges::none_of(name, [](char letter) { return letter == '\r' || letter == '\n'; });
 }
 
-ColorValueArray ValuesOf(const Color& color) {
+ColorValueArray ValuesOf(const Color& color, std::string_view separator) {
+    if (color.hasPlainValues)
+        return color.plainValues;
     ColorValueArray values{};
-    std::ranges::transform(color.values, values.begin(),
-                           [](std::string_view text) { return TextToInt16(text); });
+    Fields fields(color.values, separator);
+    for (std::int16_t& value : values)
+        value = TextToInt16(fields.Next());
     return values;
 }
 

@@ -33,7 +33,12 @@ struct Color {
     std::string_view name;
     std::string_view groupKey; // as saved
     std::string_view altName;
-    std::array<std::string_view, kColorValueCount> values;
+    std::string_view values; // all nine, with separators between them
+
+    // Nearly always a save wrote the values, and none has more than four digits: they are read
+    // then.
+    bool hasPlainValues = false;
+    ColorValueArray plainValues{};
 };
 
 // A line without its first character (header), or without its first and last character (all
@@ -58,7 +63,8 @@ struct Color {
 //   color: a value in another spelling than that of a save, as "007" or "1.5".
 [[nodiscard]] bool IsHeaderTakenWhole(std::string_view line);
 [[nodiscard]] bool IsGroupTakenWhole(std::string_view line);
-[[nodiscard]] bool IsColorTakenWhole(std::string_view line, const Color& color);
+[[nodiscard]] bool IsColorTakenWhole(std::string_view line, const Color& color,
+                                     std::string_view separator);
 
 // Whether a name is read back as it was written.  The second name of a colour has a rule of its
 // own: it stands among the values.
@@ -66,7 +72,7 @@ struct Color {
 [[nodiscard]] bool SecondNameComesBack(std::string_view name, std::string_view separator);
 
 // Throws RuntimeError TypeMismatch or Overflow for a value that is no 16-bit number.
-[[nodiscard]] ColorValueArray ValuesOf(const Color& color);
+[[nodiscard]] ColorValueArray ValuesOf(const Color& color, std::string_view separator);
 
 // Each adds a line to a text for the file, with quotes and CR LF, in UTF-8.
 void AppendHeader(std::string& text, std::string_view name, std::string_view mainKey, int count);

@@ -64,8 +64,8 @@ bool LibraryReader::ReadColor(std::string_view line, std::string_view separator)
     const auto group = groups_.find(color->groupKey);
     if (group == groups_.end())
         return false;
-    library_.Colors().Append(group->second, colorNumber_, std::string(color->name), color->altName,
-                             ValuesOf(*color));
-    Hold(IsColorTakenWhole(line, *color));
+    library_.Colors().Append(group->second, colorNumber_, color->name, color->altName,
+                             ValuesOf(*color, separator));
+    Hold(IsColorTakenWhole(line, *color, separator));
     return true;
 }

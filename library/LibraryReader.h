@@ -37,7 +37,9 @@ public:
 private:
     struct TextHash {
         using is_transparent = void;
-        std::size_t operator()(std::string_view text) const noexcept {
+        // Not noexcept: the map keeps the hashes then, and need not make those of the keys it
+        // passes.
+        std::size_t operator()(std::string_view text) const {
             return std::hash<std::string_view>()(text);
         }
     };

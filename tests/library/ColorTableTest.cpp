@@ -49,7 +49,7 @@ public:
 // Random operations on both tables, from a small choice of keys so that they meet.
 class TwoTables {
 public:
-    enum class Keys { Any, Unique };
+    enum class Keys { Any, Unique, Growing };
     TwoTables(unsigned seed, Keys keys) : random_(seed), keys_(keys) {}
 
     void Step() {
@@ -96,7 +96,10 @@ private:
         record.key = (Number(4) == 0 ? GroupKey() : record.groupKey) +
                      (Number(5) == 0 ? odd[static_cast<std::size_t>(Number(6))]
                                      : "E" + std::to_string(Number(60)));
-        record.name = "name " + std::to_string(Number(5));
+        if (keys_ == Keys::Growing)
+            record.key = record.groupKey + "E" + std::to_string(last_ += 1 + Number(3) / 2);
+        record.name = Number(3) == 0 ? "a name that is too long to be kept in place"
+                                     : "name " + std::to_string(Number(5));
         record.altName = Number(3) == 0 ? "other" : record.name;
         record.isNew = Number(2) == 0;
         record.values[3] = static_cast<std::int16_t>(Number(100));
@@ -134,6 +137,7 @@ private:
 
     std::mt19937 random_;
     Keys keys_;
+    int last_ = 0;
     ColorTable table_;
     ScannedTable scanned_;
 };
@@ -229,6 +233,23 @@ TEST(ColorTable, RandomOperationsGiveWhatAScannedListGives) {
 
 TEST(ColorTable, RandomOperationsOnUniqueKeysGiveWhatAScannedListGives) {
     CompareAfterRandomOperations(TwoTables::Keys::Unique);
+}
+
+TEST(ColorTable, RandomOperationsOnGrowingKeysGiveWhatAScannedListGives) {
+    CompareAfterRandomOperations(TwoTables::Keys::Growing);
+}
+
+TEST(ColorTable, KeyOfAColorThatHasGoneIsNotFound) {
+    ColorTable table;
+    const auto group = table.NumberOfGroup("0DG1");
+    for (const std::uint32_t number : {5U, 6U, 7U, 8U})
+        table.Append(group, number, "a", "a", {});
+    table.Erase(2);
+    EXPECT_EQ(table.IndexOfKey("0DG1E5"), 1);
+    EXPECT_EQ(table.IndexOfKey("0DG1E6"), 0);
+    EXPECT_EQ(table.IndexOfKey("0DG1E7"), 2);
+    EXPECT_EQ(table.IndexOfKey("0DG1E9"), 0);
+    EXPECT_EQ(table.IndexOfKey("0DG1E4"), 0);
 }
 
 } // namespace

@@ -24,6 +24,7 @@ int main(int count, char** arguments) {
         ReportFiles(platform, sizes);
         ReportGrowth(platform, sizes);
         ReportList(platform, sizes);
+        ReportHistory(platform, sizes);
         ReportProgress(platform, sizes);
         return 0;
     } catch (const std::exception& error) {

@@ -11,4 +11,5 @@ struct BenchSizes {
 void ReportFiles(BenchPlatform& platform, const BenchSizes& sizes);    // beside the floors; memory
 void ReportGrowth(BenchPlatform& platform, const BenchSizes& sizes);   // from a thousand colours
 void ReportList(BenchPlatform& platform, const BenchSizes& sizes);     // showing a group
+void ReportHistory(BenchPlatform& platform, const BenchSizes& sizes);  // steps, undo; memory
 void ReportProgress(BenchPlatform& platform, const BenchSizes& sizes); // cost of the window
