@@ -37,7 +37,7 @@
 #include <string>
 #include <vector>
 
-// The whole program on top of its ports: owns the application-wide state (settings, colour library,
+// The whole program on top of its ports: owns the application-wide state (settings, color library,
 // language, banner, stop flag) and everything that works on it.
 class Application {
 public:

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-// A colour number as Windows keeps it: 0x00BBGGRR, red in the low byte.
+// A color number as Windows keeps it: 0x00BBGGRR, red in the low byte.
 using ColorNumber = std::uint32_t;
 
 struct RedGreenBlue {
@@ -13,13 +13,13 @@ struct RedGreenBlue {
     bool operator==(const RedGreenBlue&) const = default;
 };
 
-// The two masks that turn a background into a text colour.  They are different on purpose: the
+// The two masks that turn a background into a text color.  They are different on purpose: the
 // 20-bit mask inverts blue only in its low four bits.
 inline constexpr ColorNumber kFullComplementMask = 0xFFFFFF;
 inline constexpr ColorNumber kPartialComplementMask = 0xFFFFF;
 
-// red, green, blue: 0..255 each; other numbers give some colour number.
+// red, green, blue: 0..255 each; other numbers give some color number.
 [[nodiscard]] ColorNumber MakeColorNumber(int red, int green, int blue) noexcept;
 
-// Splits a colour number; bits above the third byte are ignored.
+// Splits a color number; bits above the third byte are ignored.
 [[nodiscard]] RedGreenBlue SplitColorNumber(ColorNumber color) noexcept;

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-// Number of values of a colour, and their order: the order of the automation interface's
+// Number of values of a color, and their order: the order of the automation interface's
 // MaterialPropertyValues array.
 inline constexpr std::size_t kColorValueCount = 9;
 
@@ -29,14 +29,14 @@ using ColorValueArray = std::array<std::int16_t, kColorValueCount>;
     return index <= static_cast<std::size_t>(ColorValue::Blue) ? 255 : 100;
 }
 
-// One colour of the library.  Names are UTF-8.
+// One color of the library.  Names are UTF-8.
 struct ColorRecord {
     std::string name;
     std::string key;      // group key, "E", decimal number; unique in the table
-    std::string groupKey; // key of the group that holds the colour
+    std::string groupKey; // key of the group that holds the color
     bool isNew = false;   // made by the user, not read from a file
     ColorValueArray values{};
-    std::string altName; // second text of the colour; equal to the name when the colour is made
+    std::string altName; // second text of the color; equal to the name when the color is made
 
     bool operator==(const ColorRecord&) const = default;
 };

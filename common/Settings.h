@@ -8,7 +8,7 @@
 struct Settings {
     std::int16_t language = 1; // 0 German, 1 English; index into the language code list
     bool alwaysOnTop = true;
-    bool confirmDel = true;    // ask before a library, group or colour is deleted
+    bool confirmDel = true;    // ask before a library, group or color is deleted
     bool createBackups = true; // keep a ".bak" copy when a library file is overwritten
     bool viewToolbar = true;
     bool viewBarStandards = false;

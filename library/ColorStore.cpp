@@ -35,7 +35,7 @@ void ColorStore::Remove(ColorId id) {
     block->colors[id % kBlockSize] = {};
     if (--block->count == 0)
         block.reset();
-    // All but the block that the next colour may come into.
+    // All but the block that the next color may come into.
     for (; blocks_.size() > 1 && blocks_.front() == nullptr; ++gone_)
         blocks_.pop_front();
 }

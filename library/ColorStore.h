@@ -13,11 +13,11 @@
 #include <string_view>
 #include <utility>
 
-// Names a colour for as long as it is in the table, whatever is added or removed beside it; later
-// colours have greater ones.  0: none.
+// Names a color for as long as it is in the table, whatever is added or removed beside it; later
+// colors have greater ones.  0: none.
 using ColorId = std::uint32_t;
 
-// A colour as the table keeps it.  Keys are the key of the group, "E" and a number, so the number
+// A color as the table keeps it.  Keys are the key of the group, "E" and a number, so the number
 // is enough; the second name is nearly always the name.
 struct StoredColor {
     // What few colors have.
@@ -57,8 +57,8 @@ private:
     }
 };
 
-// Keeps colours in blocks, so that they never move and no room is kept in advance; a block goes
-// when its last colour has gone.
+// Keeps colors in blocks, so that they never move and no room is kept in advance; a block goes
+// when its last color has gone.
 class ColorStore {
 public:
     void Clear();
@@ -67,7 +67,7 @@ public:
     void Remove(ColorId id);                       // of a color that is there
     void PutBack(ColorId id, StoredColor&& color); // that was removed, under its id
 
-    // The colour must be there.
+    // The color must be there.
     [[nodiscard]] const StoredColor& At(ColorId id) const noexcept {
         return blocks_[BlockOf(id)]->colors[id % kBlockSize];
     }
@@ -86,7 +86,7 @@ private:
 
     void Place(ColorId id, StoredColor&& color);
 
-    std::deque<std::unique_ptr<Block>> blocks_; // null: all of its colours have gone
+    std::deque<std::unique_ptr<Block>> blocks_; // null: all of its colors have gone
     ColorId next_ = 1;
     ColorId gone_ = 0; // blocks that are not even remembered
 };

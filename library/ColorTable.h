@@ -11,8 +11,8 @@
 #include <unordered_map>
 #include <vector>
 
-// `ColorValues`: every colour of every open library, in the order of creation or loading.  Element
-// 0 is a placeholder that never holds a colour; colours occupy 1..UpperBound().  Look-ups by key
+// `ColorValues`: every color of every open library, in the order of creation or loading.  Element
+// 0 is a placeholder that never holds a color; colors occupy 1..UpperBound().  Look-ups by key
 // and by group give what a scan from element 0 would give (exact, case-sensitive comparison), but
 // through indexes.
 class ColorTable {
@@ -41,7 +41,7 @@ public:
     // index: 0..UpperBound().  Throws RuntimeError SubscriptOutOfRange.
     [[nodiscard]] ColorRecord At(int index) const;
 
-    // The colour with its key as "group key, E, number", as At gives it, but not copied together;
+    // The color with its key as "group key, E, number", as At gives it, but not copied together;
     // valid until the table changes.  index: 1..UpperBound(), as above.
     struct View {
         const StoredColor& color;
@@ -52,22 +52,22 @@ public:
 
     void Append(ColorRecord record);
 
-    // The same for many colours of one group: the group's number is looked up once, and the key is
+    // The same for many colors of one group: the group's number is looked up once, and the key is
     // "group key, E, number".
     using GroupNumber = std::uint32_t;
     [[nodiscard]] GroupNumber NumberOfGroup(const std::string& groupKey);
     void Append(GroupNumber group, std::uint32_t number, std::string_view name,
                 std::string_view altName, const ColorValueArray& values);
 
-    // Both names of a colour, or its values; the keys of a record never change.
+    // Both names of a color, or its values; the keys of a record never change.
     void SetNames(int index, const std::string& name);
     void SetName(int index, const std::string& name);
     void SetValues(int index, const ColorValueArray& values);
 
-    // Removes a colour (index from 1); later colours move down by one place.
+    // Removes a color (index from 1); later colors move down by one place.
     void Erase(int index);
 
-    // Removes all colours of these groups, as erasing them one by one would.
+    // Removes all colors of these groups, as erasing them one by one would.
     void EraseGroups(const std::vector<std::string>& groupKeys);
 
     // Index of the first record with the key; 0 if none.
@@ -77,10 +77,10 @@ public:
     [[nodiscard]] std::vector<int> IndexesOfGroup(const std::string& groupKey) const;
     [[nodiscard]] int CountOfGroup(const std::string& groupKey) const;
 
-    // The same colours by what stays the same while colours before them come and go.
+    // The same colors by what stays the same while colors before them come and go.
     [[nodiscard]] const std::vector<ColorId>& IdsOfGroup(const std::string& groupKey) const;
     [[nodiscard]] ColorId IdAt(int index) const;   // index: 1..UpperBound(), as above
-    [[nodiscard]] int IndexOfId(ColorId id) const; // 0: the colour is not there any more
+    [[nodiscard]] int IndexOfId(ColorId id) const; // 0: the color is not there any more
 
 private:
     struct Numbered {

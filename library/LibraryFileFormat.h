@@ -20,7 +20,7 @@ namespace LibraryFileFormat {
 
 struct Header {
     std::string name;
-    std::int32_t count = 0; // groups plus colours; only the range of the progress bar
+    std::int32_t count = 0; // groups plus colors; only the range of the progress bar
 };
 
 struct Group {
@@ -46,7 +46,7 @@ struct Color {
 [[nodiscard]] std::string_view WithoutFirstCharacter(std::string_view line);
 [[nodiscard]] std::string_view WithoutQuotes(std::string_view line);
 
-// What separates the fields of a colour record, after decoding: the division sign, or what stands
+// What separates the fields of a color record, after decoding: the division sign, or what stands
 // for byte 0xF7 in a code page that has no division sign.
 [[nodiscard]] std::string FieldSeparator(const AnsiCodePage& codePage);
 
@@ -66,7 +66,7 @@ struct Color {
 [[nodiscard]] bool IsColorTakenWhole(std::string_view line, const Color& color,
                                      std::string_view separator);
 
-// Whether a name is read back as it was written.  The second name of a colour has a rule of its
+// Whether a name is read back as it was written.  The second name of a color has a rule of its
 // own: it stands among the values.
 [[nodiscard]] bool NameComesBack(std::string_view name);
 [[nodiscard]] bool SecondNameComesBack(std::string_view name, std::string_view separator);

@@ -10,13 +10,13 @@
 struct SaveLosses {
     std::string characters;         // that the code page cannot hold
     std::string libraryName;        // when it would be cut
-    std::vector<std::string> names; // of groups and colours with which it could not be read whole
+    std::vector<std::string> names; // of groups and colors with which it could not be read whole
 
     [[nodiscard]] bool IsNothing() const noexcept {
         return characters.empty() && libraryName.empty() && names.empty();
     }
 };
 
-// The names of a library that would not come back.  separator: of the fields of a colour.
+// The names of a library that would not come back.  separator: of the fields of a color.
 [[nodiscard]] SaveLosses NamesLostBySaving(const ColorLibrary& library, const std::string& mainKey,
                                            std::string_view separator);

@@ -11,7 +11,7 @@
 
 #include <string>
 
-// Drags the list's selected colour onto a group of the tree: a move, or a copy when Ctrl alone was
+// Drags the list's selected color onto a group of the tree: a move, or a copy when Ctrl alone was
 // held as the drag began.  Over the tree the drag scrolls and expands what the pointer rests on.
 class ColorDrag : public DragEvents {
 public:
@@ -31,14 +31,14 @@ public:
 
     explicit ColorDrag(const Parts& parts) : parts_(parts) {}
 
-    // The pointer carries a colour.
+    // The pointer carries a color.
     [[nodiscard]] bool IsUnderWay() const noexcept { return underWay_; }
 
     bool DragStarted(const HeldKeys& keys, const DragPoint& at) override;
     void DragMoved(const DragPoint& at) override;
     void DragTicked(const DragPoint& at) override;
 
-    // On a group: the colour is put there.  On a library: a note, nothing is moved.  Elsewhere
+    // On a group: the color is put there.  On a library: a note, nothing is moved.  Elsewhere
     // nothing happens.
     void DragDropped(const DragPoint& at) override;
 

@@ -105,7 +105,7 @@ void ColorEditor::ValueTextChanged(std::size_t index, const std::string& text) {
         pane_.SelectWholeValueText(index);
     pane_.SetSlider(index, value);
     PaintSwatches();
-    // Without the colour's name on purpose: an edited colour is not the named one any more.
+    // Without the color's name on purpose: an edited color is not the named one any more.
     captionHasName_ = false;
     captionNumbers_ = ColorInNumbers(texts_);
     ShowCaption();

@@ -10,7 +10,7 @@
 #include <span>
 #include <string>
 
-// The active-colour editor: a scratch copy of a colour in nine text boxes with sliders, a name
+// The active-color editor: a scratch copy of a color in nine text boxes with sliders, a name
 // label and two swatches.  It knows nothing of the library.
 class ColorEditor : public EditorEvents {
 public:
@@ -19,19 +19,19 @@ public:
     // "New Color", white, as the program starts.
     void ShowInitialColor();
 
-    // Loads a colour of the library.
+    // Loads a color of the library.
     void ShowColor(const ColorRecord& color);
 
-    // Loads a colour that was read from SolidWorks: as above, but the small swatch's text takes the
+    // Loads a color that was read from SolidWorks: as above, but the small swatch's text takes the
     // partial complement, on purpose.
     void ShowColorFromSolidWorks(const ColorRecord& color);
 
     void SetName(const std::string& name);
 
-    // Whether the name is that of a colour of the library, not one of SolidWorks or of the start.
+    // Whether the name is that of a color of the library, not one of SolidWorks or of the start.
     [[nodiscard]] bool IsNameOfLibrary() const noexcept { return isNameOfLibrary_; }
 
-    // The shown colour was renamed in the library: also the small swatch follows while it carries
+    // The shown color was renamed in the library: also the small swatch follows while it carries
     // the name.
     void Rename(const std::string& name);
     [[nodiscard]] const std::string& Name() const noexcept { return name_; }

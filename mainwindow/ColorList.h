@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-// The rows of lvColor: one for each colour of the current group, with the selected one, sorted by a
+// The rows of lvColor: one for each color of the current group, with the selected one, sorted by a
 // column once the user asked for it.  Rows count from 0, columns from 1.
 class ColorList : public ListRows {
 public:
@@ -19,7 +19,7 @@ public:
     // Name and nine values, with widths that are shares of the list's width at this moment.
     void AddColumns();
 
-    // Fills the list with a group's colours; nothing is selected afterwards.
+    // Fills the list with a group's colors; nothing is selected afterwards.
     void Fill(const std::string& groupKey);
     void Clear();
 
@@ -42,7 +42,7 @@ public:
     void EditSelected(); // its label; nothing without one
     void FinishEdit() { pane_.FinishLabelEdit(); }
 
-    // A colour is about to leave the library: a row that it has keeps its key, and shows nothing.
+    // A color is about to leave the library: a row that it has keeps its key, and shows nothing.
     void ColorLeaves(int index);
 
     // Takes the selected row out; the row after it (else the last one) is selected then.
@@ -65,7 +65,7 @@ private:
     ListPane& pane_;
     const TextCollation& collation_;
     std::vector<ColorId> rows_; // taken over from the table as a whole, whatever a group's size
-    std::map<ColorId, std::string> keysOfGone_; // of rows without a colour
+    std::map<ColorId, std::string> keysOfGone_; // of rows without a color
     std::optional<int> selected_;
     bool sorted_ = false;
     int sortKey_ = 0; // column - 1

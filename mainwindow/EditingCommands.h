@@ -12,7 +12,7 @@
 #include <optional>
 #include <string>
 
-// The commands of the colour menu that change the library: deleting, copying, cutting and pasting.
+// The commands of the color menu that change the library: deleting, copying, cutting and pasting.
 // With nothing suitable selected they do nothing.  One confirmation covers a whole cascade.
 class EditingCommands {
 public:
@@ -43,13 +43,13 @@ public:
     // The selected library or group.
     void DeleteSelectedNode(Confirmation confirmation);
 
-    // Each throws RuntimeError when the clipboard cannot be written.  A colour is cut only when its
-    // copy stands on the clipboard and a paste would make the same colour of it: one that a paste
+    // Each throws RuntimeError when the clipboard cannot be written.  A color is cut only when its
+    // copy stands on the clipboard and a paste would make the same color of it: one that a paste
     // would refuse or change gives the invalid-format message at once and stays.
     void Copy() { static_cast<void>(CopyLine()); }
     void Cut() { static_cast<void>(CutLine()); }
 
-    // A text that is no colour is ignored; one that is broken gives the invalid-format message.
+    // A text that is no color is ignored; one that is broken gives the invalid-format message.
     // Throws RuntimeError when the clipboard cannot be read.
     void Paste();
 

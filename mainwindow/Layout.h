@@ -6,7 +6,7 @@
 namespace Layout {
 
 inline constexpr float kSmallestPane = 750; // width of the left pane; also from the right edge
-inline constexpr float kPaneGap = 40;       // between the panes; also room below the colour area
+inline constexpr float kPaneGap = 40;       // between the panes; also room below the color area
 inline constexpr float kListMargin = 140;
 inline constexpr float kSplitterBarInset = 20;
 inline constexpr float kSmallestPaneHeight = 300;

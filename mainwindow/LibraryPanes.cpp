@@ -12,7 +12,7 @@ void LibraryPanes::ShowColorNodes(const std::optional<std::string>& groupKey,
         return;
     }
     const std::string firstGroup = library_.SelectedGroup();
-    // A main node without groups is used as it is; it has no colours.
+    // A main node without groups is used as it is; it has no colors.
     const std::string shown =
         groupKey ? *groupKey : (firstGroup.empty() ? selectedNode : firstGroup);
     list_.Fill(shown);
@@ -25,7 +25,7 @@ void LibraryPanes::ShowColorNodes(const std::optional<std::string>& groupKey,
     ShowColorPreview();
 }
 
-// The first colour, or the one that was last selected in the group when it is still there.
+// The first color, or the one that was last selected in the group when it is still there.
 void LibraryPanes::SelectRememberedColor(const std::string& groupKey) {
     const LibraryNode* group = library_.Tree().Find(groupKey);
     const std::optional<int> row = group ? list_.RowOfKey(group->lastColor) : std::nullopt;
@@ -64,7 +64,7 @@ void LibraryPanes::UpdateFromColorPreview() {
     const ColorRecord color = library_.Colors().At(index);
     library_.Colors().SetName(index, editor_.Name());
     library_.Colors().SetValues(index, values);
-    // A refresh in place: the group may remember another colour than the one that is selected.
+    // A refresh in place: the group may remember another color than the one that is selected.
     ShowColorNodes(color.groupKey, color.key);
 }
 

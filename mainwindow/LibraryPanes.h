@@ -11,7 +11,7 @@
 #include <string>
 
 // Tree, list and editor together: how a selection in one is carried into the others, and how the
-// editor's colour gets into the library.
+// editor's color gets into the library.
 class LibraryPanes : public TreeEvents, public ListEvents {
 public:
     struct Parts {
@@ -36,10 +36,10 @@ public:
     [[nodiscard]] LibraryView View() const;
     void Show(const LibraryView& view);
 
-    // Loads the list's selected colour into the editor; nothing without one.
+    // Loads the list's selected color into the editor; nothing without one.
     void ShowColorPreview();
 
-    // Writes the editor into the list's selected colour; nothing without one.
+    // Writes the editor into the list's selected color; nothing without one.
     void UpdateFromColorPreview();
 
     void EditSelectedNode(); // its label; nothing without one

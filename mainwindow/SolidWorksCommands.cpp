@@ -87,8 +87,8 @@ bool SolidWorksCommands::ShowSelectedColor() {
     return true;
 }
 
-// A cancelled name goes on with the colour that was active before, on purpose.  A refusal changes
-// nothing: a new colour has the editor's values already.
+// A cancelled name goes on with the color that was active before, on purpose.  A refusal changes
+// nothing: a new color has the editor's values already.
 void SolidWorksCommands::NewColorNodeFromSWX() {
     parts_.newNodes.NewColorNode();
     if (ShowSelectedColor())

@@ -45,8 +45,8 @@ public:
     void mnuSWXGetStandardColor_Click();
     void mnuSWXSetStandardColor_Click();
 
-    // A new colour with a name asked from the user and the colour of SolidWorks's selection.  The
-    // colour is read and written also when the user cancelled the name, on purpose.
+    // A new color with a name asked from the user and the color of SolidWorks's selection.  The
+    // color is read and written also when the user cancelled the name, on purpose.
     void NewColorNodeFromSWX();
 
 private:

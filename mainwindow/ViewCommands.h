@@ -7,7 +7,7 @@
 
 #include <map>
 
-// The view menu: which bars are shown, which editor, and how the list shows its colours.  A switch
+// The view menu: which bars are shown, which editor, and how the list shows its colors.  A switch
 // flips its entry's check mark first; the window and the setting follow the mark.
 class ViewCommands {
 public:

@@ -7,12 +7,12 @@
 #include <string>
 #include <windows.h>
 
-// The system's colour dialog, ChooseColorW, opened with its custom-colour part.
+// The system's color dialog, ChooseColorW, opened with its custom-color part.
 class ColorDialog {
 public:
     ColorDialog();
 
-    // Nothing when the user cancels.  The sixteen custom colours stay for the next time.  Throws
+    // Nothing when the user cancels.  The sixteen custom colors stay for the next time.  Throws
     // RuntimeError when the dialog cannot be shown.
     [[nodiscard]] std::optional<ColorNumber> Show(HWND owner, const std::string& title,
                                                   ColorNumber initial);

@@ -16,7 +16,7 @@ void* ResourceBytes(const wchar_t* name, const wchar_t* type) {
 }
 
 // The icon's picture of just this size; null when there is none.  Its header counts the lines of
-// the colours and of the mask.
+// the colors and of the mask.
 const BITMAPINFOHEADER* FindPicture(const std::string& name, int size) {
     void* directory = ResourceBytes(ToUtf16("ICON_" + name).c_str(), RT_GROUP_ICON);
     if (directory == nullptr)

@@ -17,7 +17,7 @@ struct FindHandleTraits {
 };
 using FindHandle = UniqueHandle<FindHandleTraits>;
 
-constexpr LONGLONG kLargestFile = 1LL << 30;    // a library of 100,000 colours has about 10 MB
+constexpr LONGLONG kLargestFile = 1LL << 30;    // a library of 100,000 colors has about 10 MB
 constexpr std::size_t kLargestRead = 1U << 24U; // one call counts in 32 bits
 
 bool IsNormalFile(const WIN32_FIND_DATAW& found) {

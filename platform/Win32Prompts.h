@@ -4,7 +4,7 @@
 #include "platform/ColorDialog.h"
 #include "platform/OwnerWindow.h"
 
-// Message box, input box and the system's file and colour dialogs.  Each is owned by the main
+// Message box, input box and the system's file and color dialogs.  Each is owned by the main
 // window's active popup, so that it never opens behind another window of the program.
 class Win32Prompts : public Prompts {
 public:

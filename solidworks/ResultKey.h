@@ -5,9 +5,9 @@
 // What the operations of modSldTools return.
 namespace ResultKey {
 inline constexpr const char* Okay = "okay";
-// The standard-colour operations', capitalised on purpose; their callers test the failures only.
+// The standard-color operations', capitalised on purpose; their callers test the failures only.
 inline constexpr const char* StandardColorsOkay = "Okay";
-inline constexpr const char* ColorRead = ""; // success of reading a colour
+inline constexpr const char* ColorRead = ""; // success of reading a color
 inline constexpr const char* NoSolidWorksFound = "NoSolidWorksFound";
 inline constexpr const char* NoActiveDocument = "NoActiveDocument";
 inline constexpr const char* NoPartOrAssembly = "NoPartOrAssembly";

@@ -4,7 +4,7 @@ namespace SelectedProperties {
 
 namespace {
 
-// Colour, six material values and "use part properties".  With the part's properties the others
+// Color, six material values and "use part properties".  With the part's properties the others
 // carry no meaning: zeros.
 AutomationArray UsePartProperties() {
     return {std::int32_t{0}, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, true};

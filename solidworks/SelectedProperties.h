@@ -2,7 +2,7 @@
 
 #include "common/ports/AutomationObject.h"
 
-// Take the colour off what is selected: it has the part's properties again, and keeps its name.
+// Take the color off what is selected: it has the part's properties again, and keeps its name.
 namespace SelectedProperties {
 
 void ClearFace(AutomationObject& document);

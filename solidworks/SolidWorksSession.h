@@ -39,7 +39,7 @@ public:
         return documentType_ == DocumentType::Assembly;
     }
 
-    // Reads RevisionNumber: component colours can be removed from 9.0 on.
+    // Reads RevisionNumber: component colors can be removed from 9.0 on.
     [[nodiscard]] bool HasRequiredRevision() const;
 
 private:

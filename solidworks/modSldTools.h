@@ -37,30 +37,30 @@ public:
     // selected. The record stays as it was unless the result is ResultKey::ColorRead.
     std::string SWXGetColor(ColorRecord& color);
 
-    // Colours every selected face, feature and component, or the document when nothing is selected.
+    // Colors every selected face, feature and component, or the document when nothing is selected.
     std::string SWXSetColor(const ColorRecord& color);
 
-    // Colours the components that own the selected objects.
+    // Colors the components that own the selected objects.
     std::string SWXSetColorComponent(const ColorRecord& color);
 
-    // Takes the colours off the selected faces, features and components.
+    // Takes the colors off the selected faces, features and components.
     std::string SWXClearColor();
 
-    // Takes the colours off the components that own the selected objects.
+    // Takes the colors off the components that own the selected objects.
     std::string SWXClearComponentColor();
 
-    // Takes the colours off every feature and face of the active part.
+    // Takes the colors off every feature and face of the active part.
     std::string SWXClearColorPart();
 
-    // Takes the colours off the direct children of the active assembly's root component.  It does
-    // not descend, on purpose: sub-assemblies keep the colours of their own components.
+    // Takes the colors off the direct children of the active assembly's root component.  It does
+    // not descend, on purpose: sub-assemblies keep the colors of their own components.
     std::string SWXClearColorAssembly();
 
-    // Names and red, green, blue of the colour table's standard colours; those that were read so
+    // Names and red, green, blue of the color table's standard colors; those that were read so
     // far when the user stops it.
     std::string SWXGetStandardColors(std::vector<ColorRecord>& colors);
 
-    // Writes red, green and blue into the colour table, entry by entry, where the names agree.
+    // Writes red, green and blue into the color table, entry by entry, where the names agree.
     std::string SWXSetStandardColors(const std::vector<ColorRecord>& colors);
 
 private:

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <limits>
 
-// Taking colours off a whole part or assembly, so that objects show the colour of their parent
+// Taking colors off a whole part or assembly, so that objects show the color of their parent
 // again.
 
 namespace {

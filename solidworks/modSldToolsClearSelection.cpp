@@ -5,7 +5,7 @@
 #include "solidworks/SolidWorksSession.h"
 #include "solidworks/modSldTools.h"
 
-// Taking colours off the selection, so that objects show the colour of their parent again.
+// Taking colors off the selection, so that objects show the color of their parent again.
 
 std::string modSldTools::SWXClearColor() {
     SolidWorksSession session(ports_.service);

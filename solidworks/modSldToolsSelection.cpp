@@ -7,7 +7,7 @@
 
 #include <functional>
 
-// Colours from and to the selection.
+// Colors from and to the selection.
 
 namespace {
 
@@ -16,7 +16,7 @@ constexpr const char* kValues = "MaterialPropertyValues";
 // Always this name, whatever the user's language.
 constexpr const char* kNameOfReadColor = "Neuer Farbwert";
 
-// Asks one source of a colour.  A call that fails is a source without a usable array, unless
+// Asks one source of a color.  A call that fails is a source without a usable array, unless
 // SolidWorks itself is gone or the user has given up.
 AutomationAnswer Probe(const std::function<AutomationAnswer()>& source) {
     try {
@@ -83,7 +83,7 @@ void Fill(ColorRecord& color, const AutomationAnswer& array) {
     color.name = kNameOfReadColor;
 }
 
-// Colours one selected object; an object of another kind is reported and left alone.
+// Colors one selected object; an object of another kind is reported and left alone.
 void SetColorOfSelected(const SolidWorksSelection& selection, std::int32_t index,
                         const std::vector<double>& array, AutomationObject& document,
                         std::string& report) {
@@ -101,7 +101,7 @@ void SetColorOfSelected(const SolidWorksSelection& selection, std::int32_t index
         report += kLineBreak + (ResultKey::NoValidSelection + std::to_string(type));
 }
 
-// Colours the document when nothing is selected, else what is at each index; then rebuilds once.
+// Colors the document when nothing is selected, else what is at each index; then rebuilds once.
 void ColorSelection(AutomationObject& document, const std::vector<double>& array,
                     const std::function<void(const SolidWorksSelection&, std::int32_t)>& colorAt) {
     const SolidWorksSelection selection(document);

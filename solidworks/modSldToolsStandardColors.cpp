@@ -9,7 +9,7 @@
 
 #include <limits>
 
-// The document's table of named standard colours.
+// The document's table of named standard colors.
 
 namespace {
 

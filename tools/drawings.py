@@ -52,10 +52,10 @@ def decode_png(png):
     """Rows of RGBA bytes, top down."""
     if not png.startswith(PNG_SIGNATURE):
         raise ValueError("not a PNG picture")
-    width, height, depth, colour, _, _, interlace = struct.unpack(">IIBBBBB", png[16:29])
-    if depth != 8 or colour not in (2, 6) or interlace:
+    width, height, depth, color, _, _, interlace = struct.unpack(">IIBBBBB", png[16:29])
+    if depth != 8 or color not in (2, 6) or interlace:
         raise ValueError("a PNG picture of another kind than 8-bit RGB or RGBA")
-    step = 4 if colour == 6 else 3
+    step = 4 if color == 6 else 3
     data = zlib.decompress(b"".join(body for kind, body in png_chunks(png) if kind == b"IDAT"))
     rows, above, stride = [], bytes(step * width), step * width + 1
     for y in range(height):

@@ -2,19 +2,19 @@
 """Writes the sample libraries in resources/samples, byte for byte the same every time.
 
 materials.tnt comes from the classic table of OpenGL materials: ambient, diffuse and specular
-colour, exponent of the highlight (0..128) and, for gems, opacity.  The nine values are made so
-that colour times percentage gives the table's constants back:
+color, exponent of the highlight (0..128) and, for gems, opacity.  The nine values are made so
+that color times percentage gives the table's constants back:
 
-  colour        what a surface in full light shows, ambient plus diffuse; where a channel of the
+  color        what a surface in full light shows, ambient plus diffuse; where a channel of the
                 sum is above 1, the whole sum divided by it
-  ambient       mean of the ambient colour as a share of that colour's mean
-  diffuse       the same with the diffuse colour
-  specular      the brightest channel of the specular colour
+  ambient       mean of the ambient color as a share of that color's mean
+  diffuse       the same with the diffuse color
+  specular      the brightest channel of the specular color
   shininess     the exponent, 128 being 100
   transparency  what is missing to full opacity
   emission      0: none of these materials shines by itself
 
-web-colors.tnt holds the 148 named colours of CSS, by hue, all with one satin surface.
+web-colors.tnt holds the 148 named colors of CSS, by hue, all with one satin surface.
 
   tools/make-samples.py            writes the libraries
   tools/make-samples.py --check    writes nothing; names what would change and fails
@@ -84,7 +84,7 @@ MATERIALS = {
     },
 }
 
-# name and colour in hexadecimal digits, alternating
+# name and color in hexadecimal digits, alternating
 WEB_COLORS = {
     "Pinks": "pink ffc0cb lightpink ffb6c1 hotpink ff69b4 deeppink ff1493 palevioletred db7093"
              " mediumvioletred c71585",

@@ -48,7 +48,7 @@ public:
     virtual std::optional<std::string> AskOpenFile(const FileDialogRequest& request) = 0;
     virtual std::optional<std::string> AskSaveFile(const FileDialogRequest& request) = 0;
 
-    // The colour chosen by the user in the fully opened colour dialog; nothing when the user
+    // The color chosen by the user in the fully opened color dialog; nothing when the user
     // cancels.
     virtual std::optional<ColorNumber> AskColor(const std::string& title, ColorNumber initial) = 0;
 };

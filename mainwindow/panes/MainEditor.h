@@ -13,7 +13,7 @@
 
 class Form;
 
-// The active-colour editor on frmMain: the frame with name, large swatch and nine rows of label,
+// The active-color editor on frmMain: the frame with name, large swatch and nine rows of label,
 // text box and slider, and the small swatch that is shown instead of it.
 class MainEditor : public EditorPane {
 public:

@@ -18,7 +18,7 @@ int Brightness(COLORREF color) {
     return (GetRValue(color) * 3 + GetGValue(color) * 6 + GetBValue(color)) / 10;
 }
 
-// The system's link colour; some themes leave it as light as the form.
+// The system's link color; some themes leave it as light as the form.
 COLORREF LinkColor() {
     constexpr int kSmallestContrast = 80;
     const COLORREF link = GetSysColor(COLOR_HOTLIGHT);

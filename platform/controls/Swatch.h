@@ -5,7 +5,7 @@
 
 #include <functional>
 
-// A label that shows a colour, and its text in another one.
+// A label that shows a color, and its text in another one.
 class Swatch : public Painted<> {
 public:
     Swatch(Form& form, const ControlPlace& place);
@@ -25,7 +25,7 @@ private:
     ColorNumber text_ = 0;
 };
 
-// A plain bar of the shadow's colour.
+// A plain bar of the shadow's color.
 class SolidBar : public Control {
 public:
     SolidBar(Form& form, const ControlPlace& place);

@@ -3,7 +3,7 @@
 #include "standin/com/PaintedPane.h"
 #include "standin/model/Document.h"
 
-// The named standard colours of the document.
+// The named standard colors of the document.
 class ColorTablePane : public PaintedPane {
 public:
     ColorTablePane(Form& form, const ControlPlace& place) : PaintedPane(form, place) {}

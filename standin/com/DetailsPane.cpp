@@ -22,7 +22,7 @@ constexpr ColorNumber kTextColor = 0x302820;
 constexpr ColorNumber kNoteColor = 0x807468;
 constexpr UINT kOneLine = DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS;
 
-// 0.502 (128): as the interface has it, and in the units of a colour library.
+// 0.502 (128): as the interface has it, and in the units of a color library.
 std::string ValueText(double value, std::size_t index) {
     std::array<char, 48> text{};
     std::snprintf(text.data(), text.size(), "%.3f  (%.0f)", value,

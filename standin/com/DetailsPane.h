@@ -22,7 +22,7 @@ protected:
 private:
     struct Shown {
         std::string title;
-        std::string source; // where the colour comes from
+        std::string source; // where the color comes from
         DisplayColor color;
         bool hasColor = false;
     };

@@ -101,7 +101,7 @@ void ObjectList::SetSelected(int row, bool selected) const {
 }
 
 void ObjectList::ShowSelection(const Selection& selection) {
-    InvalidateRect(Handle(), nullptr, FALSE); // colours may have changed
+    InvalidateRect(Handle(), nullptr, FALSE); // colors may have changed
     if (selection.Items() == shown_ || reportRequested_)
         return;
     shown_ = selection.Items();

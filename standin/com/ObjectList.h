@@ -6,7 +6,7 @@
 
 #include <functional>
 
-// Everything of the active document that can be selected, with the colour it shows.  What is
+// Everything of the active document that can be selected, with the color it shows.  What is
 // selected in the list is selected in the document, and the other way round.
 class ObjectList : public Control {
 public:

@@ -112,7 +112,7 @@ void PicturePane::PaintCard(const Canvas& canvas, const PictureCard& card) const
         PaintMark(canvas, ToRect(card.headerBounds), card.header);
 }
 
-// A thin plate seen from above: its top in the exact colour, its front and side darker.
+// A thin plate seen from above: its top in the exact color, its front and side darker.
 void PicturePane::PaintPlate(const Canvas& canvas, const PictureTile& tile) const {
     const RECT area = ToRect(tile.bounds);
     const ColorNumber color = ColorOf(tile.item);
@@ -141,7 +141,7 @@ void PicturePane::PaintPlate(const Canvas& canvas, const PictureTile& tile) cons
     PaintMark(canvas, area, tile.item);
 }
 
-// A frame and the place in the selection: not the colour alone tells what is selected.
+// A frame and the place in the selection: not the color alone tells what is selected.
 void PicturePane::PaintMark(const Canvas& canvas, const RECT& area,
                             const SelectedItem& item) const {
     const std::size_t place = PlaceInSelection(item);

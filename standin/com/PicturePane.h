@@ -7,7 +7,7 @@
 #include <functional>
 
 // The picture of the active document: a card for each feature or component, and on it its faces as
-// plates in the colours that they show.
+// plates in the colors that they show.
 class PicturePane : public PaintedPane {
 public:
     PicturePane(Form& form, const ControlPlace& place);

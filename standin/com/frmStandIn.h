@@ -11,7 +11,7 @@
 #include "standin/com/ServedObjects.h"
 
 // The window of the stand-in: choice of the document, everything that can be selected, the picture,
-// the values of the selection, the colour table and the last calls.
+// the values of the selection, the color table and the last calls.
 class frmStandIn final : public Form, private ModelObserver {
 public:
     frmStandIn(StandInModel& model, const ServedObjects& objects, ErrorSink& errors);

@@ -7,7 +7,7 @@
 
 class PartDocument;
 
-// The solid of a part.  It carries a colour between those of the features and that of the part.
+// The solid of a part.  It carries a color between those of the features and that of the part.
 class Body final : public WithMembers<Body, StandInObject> {
 public:
     Body(SessionPtr session, std::weak_ptr<PartDocument> owner)

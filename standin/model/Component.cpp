@@ -8,7 +8,7 @@
 
 namespace {
 
-// The first main revision whose components can lose their colour.
+// The first main revision whose components can lose their color.
 constexpr double kRevisionWithRemove = 9.0;
 
 AutomationValue ChildrenOf(const Component& component) {

@@ -18,7 +18,7 @@ public:
         return children_;
     }
 
-    // The colour that decides for all that is seen through it: the outermost one set among the
+    // The color that decides for all that is seen through it: the outermost one set among the
     // components around it and its own.
     [[nodiscard]] MaterialOverride EffectiveColor() const;
 

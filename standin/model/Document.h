@@ -29,17 +29,17 @@ public:
     [[nodiscard]] const std::string& Path() const noexcept { return path_; }
     void SetPath(std::string path) { path_ = std::move(path); }
 
-    // The colour of the document itself.
+    // The color of the document itself.
     [[nodiscard]] const MaterialOverride& Color() const noexcept { return color_; }
     void SetColor(const MaterialOverride& color);
 
-    // A feature that carries a colour.  typeName: as GetTypeName answers.
+    // A feature that carries a color.  typeName: as GetTypeName answers.
     void AddFeature(const std::string& name, const MaterialOverride& color = {},
                     const std::string& typeName = "Extrusion");
     // Something else among the features: a plane, a sketch, a folder.
     void AddReference(EntityKind kind, const std::string& name, const std::string& typeName);
 
-    // Those that carry a colour.
+    // Those that carry a color.
     [[nodiscard]] const std::vector<std::shared_ptr<Feature>>& Features() const noexcept {
         return features_;
     }

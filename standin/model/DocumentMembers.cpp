@@ -24,8 +24,8 @@ struct DocumentMembers {
 
 namespace {
 
-// colour, ambient, diffuse, specular, shininess, transparency, emission, use-part-properties: the
-// first eight arguments of both calls.  With use-part-properties the colour is taken off.
+// color, ambient, diffuse, specular, shininess, transparency, emission, use-part-properties: the
+// first eight arguments of both calls.  With use-part-properties the color is taken off.
 MaterialOverride ReadProperties(const AutomationArray& arguments) {
     const RedGreenBlue color = SplitColorNumber(static_cast<ColorNumber>(arguments[0].AsInt32()));
     MaterialValues values{color.red / 255.0, color.green / 255.0, color.blue / 255.0};
@@ -34,7 +34,7 @@ MaterialOverride ReadProperties(const AutomationArray& arguments) {
     return arguments[7].AsBoolean() ? std::nullopt : MaterialOverride(values);
 }
 
-// Colours every selected entity of the kind; an empty name leaves the names alone.
+// Colors every selected entity of the kind; an empty name leaves the names alone.
 std::vector<EntityPtr> ApplyToSelection(const Document& document, EntityKind kind,
                                         const MaterialOverride& color, const std::string& name) {
     std::vector<EntityPtr> changed;

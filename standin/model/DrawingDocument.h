@@ -2,7 +2,7 @@
 
 #include "standin/model/Document.h"
 
-// A drawing: nothing in it can be selected or coloured.
+// A drawing: nothing in it can be selected or colored.
 class DrawingDocument final : public Document {
 public:
     [[nodiscard]] static std::shared_ptr<DrawingDocument> Create(const SessionPtr& session,

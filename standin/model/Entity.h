@@ -21,7 +21,7 @@ enum class EntityKind : std::int32_t {
 // "edge", "face", "vertex", "plane", "sketch", "component", "feature", "folder".
 [[nodiscard]] const char* EntityKindName(EntityKind kind) noexcept;
 
-// Faces, components and features do; nothing else shows a colour.
+// Faces, components and features do; nothing else shows a color.
 [[nodiscard]] bool CarriesColor(EntityKind kind) noexcept;
 
 // Something of a document that can be selected.
@@ -41,7 +41,7 @@ public:
     // Throws RuntimeError Automation when the document is closed.
     [[nodiscard]] std::shared_ptr<Document> RequireOwner() const;
 
-    // The colour that it carries itself.
+    // The color that it carries itself.
     [[nodiscard]] const MaterialOverride& Color() const noexcept { return color_; }
     void SetColor(const MaterialOverride& color);
 

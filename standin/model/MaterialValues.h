@@ -12,7 +12,7 @@ using MaterialValues = std::array<double, kColorValueCount>;
 // What an object carries itself: nothing, or nine values of its own.
 using MaterialOverride = std::optional<MaterialValues>;
 
-// An array of nine doubles; an unset colour reads as an empty value.
+// An array of nine doubles; an unset color reads as an empty value.
 [[nodiscard]] AutomationValue ToAutomationValue(const MaterialOverride& values);
 
 // Exactly nine numbers, as an array of doubles or, as script hosts send it, of variants.  Throws

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-// Is told when something that can be seen has changed: a colour, the selection, the active
-// document, the colour table.
+// Is told when something that can be seen has changed: a color, the selection, the active
+// document, the color table.
 class ModelObserver {
 public:
     virtual ~ModelObserver() = default;

@@ -15,5 +15,5 @@
 // through a component.
 [[nodiscard]] std::string RowName(const SelectedItem& item);
 
-// The colour that the object shows.  An edge shows none (ColorLevel::None).
+// The color that the object shows.  An edge shows none (ColorLevel::None).
 [[nodiscard]] DisplayColor DisplayColorOf(const SelectedItem& item);

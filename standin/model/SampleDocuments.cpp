@@ -7,7 +7,7 @@ namespace {
 using Part = std::shared_ptr<PartDocument>;
 using Assembly = std::shared_ptr<AssemblyDocument>;
 
-// A colour from 0..255 with the material values of a slightly glossy plastic.
+// A color from 0..255 with the material values of a slightly glossy plastic.
 MaterialValues Plastic(int red, int green, int blue, double transparency = 0) {
     return {red / 255.0, green / 255.0, blue / 255.0, 0.6, 1, 0.5, 0.4, transparency, 0};
 }

@@ -13,7 +13,7 @@ struct Scenario {
     bool componentsInAssembly = true; // false: the root component has no children
     bool rootInAssembly = true;       // false: the configuration has no root component
     bool bodyInPart = true;
-    bool colorsSet = true; // false: nothing carries a colour of its own
+    bool colorsSet = true; // false: nothing carries a color of its own
     // Generated documents of this size instead of the samples.
     std::optional<std::size_t> faces;
     std::optional<std::size_t> features;

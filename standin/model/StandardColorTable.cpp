@@ -61,7 +61,7 @@ std::vector<NamedColor> StandardColors() {
 }
 
 std::vector<NamedColor> GeneratedColors(std::size_t count) {
-    constexpr ColorNumber step = 0x010307; // any odd one: no two of 2^24 colours are the same
+    constexpr ColorNumber step = 0x010307; // any odd one: no two of 2^24 colors are the same
     std::vector<NamedColor> colors;
     for (std::size_t i = 1; i <= count; ++i)
         colors.push_back({"Color " + std::to_string(i),

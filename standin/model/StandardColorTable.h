@@ -12,7 +12,7 @@ struct NamedColor {
     ColorNumber color;
 };
 
-// The named standard colours of a document.  Indexes start at 0; one outside the table is an error.
+// The named standard colors of a document.  Indexes start at 0; one outside the table is an error.
 class StandardColorTable final : public WithMembers<StandardColorTable, StandInObject> {
 public:
     StandardColorTable(SessionPtr session, std::vector<NamedColor> colors)
@@ -32,8 +32,8 @@ private:
     std::vector<NamedColor> colors_;
 };
 
-// The twelve colours with which every document starts.
+// The twelve colors with which every document starts.
 [[nodiscard]] std::vector<NamedColor> StandardColors();
 
-// "Color 1", "Color 2", ... in different colours.
+// "Color 1", "Color 2", ... in different colors.
 [[nodiscard]] std::vector<NamedColor> GeneratedColors(std::size_t count);

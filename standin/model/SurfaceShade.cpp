@@ -34,7 +34,7 @@ Color Mix(const Color& first, const Color& second, double share) noexcept {
     return result;
 }
 
-// Ambient and diffuse light in the surface's colour, a white highlight, and its own glow.
+// Ambient and diffuse light in the surface's color, a white highlight, and its own glow.
 // x, y, z: the normal of the surface; the light comes from the upper left, the eye is in front.
 Color Lit(const MaterialValues& values, double x, double y, double z) noexcept {
     constexpr std::array<double, 3> light{-0.48, -0.60, 0.64};

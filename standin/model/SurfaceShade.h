@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-// The plain colour of the values, without any light.
+// The plain color of the values, without any light.
 [[nodiscard]] RedGreenBlue PlainColor(const MaterialValues& values) noexcept;
 
 // A lit ball of this material on a chequered ground that shows through when it is transparent.

@@ -13,7 +13,7 @@
 #include <vector>
 
 // Measures how long a library of many groups takes from being opened to its painted tree, beside
-// the same colours in one group, in the same run and in turn:
+// the same colors in one group, in the same run and in turn:
 //
 //     groups_bench.exe [GROUPS] [REPETITIONS]
 namespace {

@@ -10,7 +10,7 @@
 #include <random>
 #include <windows.h>
 
-// Measures the list with one group of many colours: what a click on a column header takes, beside
+// Measures the list with one group of many colors: what a click on a column header takes, beside
 // plain sorts of the same texts in the same run and in turn, and the list's other work:
 //
 //     sort_bench.exe [COLORS] [REPETITIONS]

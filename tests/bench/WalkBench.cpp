@@ -31,7 +31,7 @@
 #include <wrl/client.h>
 
 // Measures the walks over a whole part and a whole assembly of so many faces or components, and the
-// import of a table of so many standard colours with the whole main window, in a stand-in of its
+// import of a table of so many standard colors with the whole main window, in a stand-in of its
 // own process, beside a bare loop that makes the same calls and nothing else; the two take turns:
 //
 //     walk_bench.exe ITEMS

@@ -85,7 +85,7 @@ private:
 };
 
 // What the user has when the command was refused: the library and the editor as they were, and for
-// a new colour what was made of the name before SolidWorks was asked.
+// a new color what was made of the name before SolidWorks was asked.
 [[nodiscard]] inline std::vector<std::string> StateOfRefusal(const FaultyCommand& command) {
     FaultyProgram faulty(command);
     faulty.program.service.SetRunning(false);

@@ -120,7 +120,7 @@ TEST_F(FileFaults, SaveOntoAFileThatAnotherProgramKeepsFailsWithAMessageAndWorks
             const auto holder = Holder(path);
             program.Save();
             EXPECT_EQ(program.prompts.messages, std::vector<Message>{SaveFailed(path)});
-            EXPECT_EQ(program.library.Colors().UpperBound(), 2) << "the library keeps its colours";
+            EXPECT_EQ(program.library.Colors().UpperBound(), 2) << "the library keeps its colors";
         }
         ASSERT_TRUE(PollUntil([&] { return Content(path) == kOld; }));
         EXPECT_FALSE(files.Exists(path + ".bak"));

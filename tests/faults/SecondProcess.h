@@ -4,7 +4,7 @@
 #include <string>
 
 // What the test program does when it is started once more, as a process of its own:
-//     --save-and-die STEP FILE   opens the library, adds a colour and saves; killed at that step
+//     --save-and-die STEP FILE   opens the library, adds a color and saves; killed at that step
 //     --save FILE                the same without an end before its time
 //     --save-on-signal FILE      opens it, makes FILE.open, and saves when FILE.go is there
 //     --hold FILE                keeps the file open, shared with nobody, until it is ended

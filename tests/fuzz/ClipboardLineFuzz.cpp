@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string>
 
-// Any text on the clipboard: a colour, nothing, or a conversion error; a colour that is copied
+// Any text on the clipboard: a color, nothing, or a conversion error; a color that is copied
 // again is pasted as the same one.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text(data, data + size);

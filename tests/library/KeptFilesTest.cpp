@@ -238,7 +238,7 @@ TEST_F(KeptFilesTest, RecordsAndEndsOfNamesThatTheProgramDoesNotTakeAreNotHeld) 
     }
 }
 
-// What the values of a colour, the quotes around a line and the header have in them besides.
+// What the values of a color, the quotes around a line and the header have in them besides.
 TEST_F(KeptFilesTest, WhatIsReadButWouldNotBeWrittenAgainIsNotHeld) {
     const std::string group = "\"G#g=0DG1\"\r\n";
     const auto color = [](const std::string& last) {

@@ -38,8 +38,8 @@ const DragPoint kNowhere{};
 constexpr HeldKeys kNoKey{};
 constexpr HeldKeys kCtrl{false, true, false};
 
-// The libraries "Lib" with the groups "g" (colours a, b, c) and "h" (colour x), and "Other" with
-// the group "o".  The group "g" is shown, its colour b is selected.
+// The libraries "Lib" with the groups "g" (colors a, b, c) and "h" (color x), and "Other" with
+// the group "o".  The group "g" is shown, its color b is selected.
 class ColorDragTest : public testing::Test {
 protected:
     ColorDragTest() {
@@ -86,7 +86,7 @@ TEST_F(ColorDragTest, MoveTakesTheColorOutOfItsGroupAndPutsItIntoTheOther) {
     EXPECT_TRUE(program.prompts.messages.empty()) << "a move never asks";
     EXPECT_EQ(program.view.selectedNode, "0DG2");
     EXPECT_EQ(ShownNames(), (Names{"x", "b"}));
-    EXPECT_EQ(program.view.selectedRow, 1) << "the new colour is selected";
+    EXPECT_EQ(program.view.selectedRow, 1) << "the new color is selected";
     EXPECT_EQ(program.view.colorName, "b");
     EXPECT_EQ(NamesIn("0DG1"), (Names{"a", "c"}));
 }

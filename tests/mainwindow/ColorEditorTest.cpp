@@ -154,7 +154,7 @@ TEST_F(ColorEditorTest, SliderWritesItsBoxAndTheCaptionLosesTheName) {
     editor.ShowColor(kBlue);
     editor.SliderMoved(7, 40);
     EXPECT_EQ(view.valueTexts[7], "40");
-    EXPECT_EQ(view.largeSwatch, 0xFF0000U) << "only red, green and blue colour the swatches";
+    EXPECT_EQ(view.largeSwatch, 0xFF0000U) << "only red, green and blue color the swatches";
     EXPECT_EQ(view.smallCaption, " (R:0 G:0 B:255)");
 }
 

@@ -9,8 +9,8 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-// The libraries 0D with the groups "g" (colours a, b, c) and "h" (x), and 1D with "o" (y).  The
-// group "g" is shown, its colour a is selected.
+// The libraries 0D with the groups "g" (colors a, b, c) and "h" (x), and 1D with "o" (y).  The
+// group "g" is shown, its color a is selected.
 class DeleteByKey : public testing::Test, protected LibraryOnFakes {
 protected:
     DeleteByKey() {

@@ -8,7 +8,7 @@ namespace {
 
 using Message = FakePrompts::Message;
 
-// A library with the groups "g" (colours a, b) and "h" (none).
+// A library with the groups "g" (colors a, b) and "h" (none).
 class EditingCommandsTest : public testing::Test {
 protected:
     EditingCommandsTest() {
@@ -130,7 +130,7 @@ TEST_F(EditingCommandsTest, UpdateAfterADeleteKeepsTheRowThatIsSelected) {
     EXPECT_EQ(program.view.valueTexts[0], "77");
     Type("78");
     Run(IDM_mnuColorUpdateColor);
-    EXPECT_EQ(program.Main().rows.CellText(0, 2), "1") << "the first colour is as it was";
+    EXPECT_EQ(program.Main().rows.CellText(0, 2), "1") << "the first color is as it was";
     EXPECT_EQ(program.Main().rows.CellText(1, 2), "78");
 }
 
@@ -196,7 +196,7 @@ TEST_F(EditingCommandsTest, PasteSortsTheListOnceAndWithThePastedValues) {
     program.collation.keysMade = 0;
     Run(IDM_mnuColorPaste);
     EXPECT_EQ(program.collation.keysMade, 3);
-    EXPECT_EQ(program.view.selectedRow, 2) << "behind the other colour with red 1";
+    EXPECT_EQ(program.view.selectedRow, 2) << "behind the other color with red 1";
 }
 
 TEST_F(EditingCommandsTest, PasteIgnoresForeignTextSilently) {
@@ -427,7 +427,7 @@ TEST_F(EditingCommandsTest, OneConfirmationCoversManyGroupsAndColors) {
     EXPECT_TRUE(program.view.nodes.empty());
     program.prompts.typed = {"Lib", "g", "new"};
     Run(IDM_mnuColorNewMainNode);
-    EXPECT_EQ(program.view.rowCount, 1) << "no colour of the same keys is left";
+    EXPECT_EQ(program.view.rowCount, 1) << "no color of the same keys is left";
     Run(IDM_mnuColorDelColor);
     EXPECT_EQ(program.prompts.messages.size(), 2U) << "and the next deletion asks again";
 }

@@ -9,7 +9,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-// A library with the groups "one" (colours b, A, c) and "two" (none).
+// A library with the groups "one" (colors b, A, c) and "two" (none).
 class LibraryPanesTest : public testing::Test, protected LibraryOnFakes {
 protected:
     LibraryPanesTest() {

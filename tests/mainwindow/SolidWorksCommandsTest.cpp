@@ -69,7 +69,7 @@ TEST_F(SolidWorksCommandsTest, EveryCommandShowsTextZeroWithoutSolidWorksAndChan
     program->Main().tree.NodeClicked("0DG1");
     program->prompts.typed = {"first"};
     Run(IDM_mnuColorNewColor);
-    TypeValue(0, "7"); // not written into the colour yet
+    TypeValue(0, "7"); // not written into the color yet
     program->service.SetRunning(false);
     const auto nodes = program->view.nodes;
     const std::vector<std::string> row = Row(0);
@@ -462,7 +462,7 @@ TEST_F(SolidWorksCommandsTest, CancelledQuestionOfTheStandardColorsIsNotFollowed
     Run(IDM_mnuSWXSetStandardColor);
     EXPECT_EQ(program->prompts.messages.size(), 1U);
     program->prompts.messages.clear();
-    program->Main().tree.NodeClicked("0DG1"); // a group without colours
+    program->Main().tree.NodeClicked("0DG1"); // a group without colors
     program->prompts.answers = {Answer::Cancel};
     Run(IDM_mnuSWXSetStandardColor);
     EXPECT_EQ(program->prompts.messages, (std::vector<Message>{{"<72>\r\n<74>", 65, "TNT4SWX"}}));

@@ -40,8 +40,8 @@ constexpr std::array kWays{kFails, kDies,       kBusy,      kBusyForEver, kNothi
 using Names = std::set<std::string, std::less<>>;
 
 // In which of the ways a call ends its command with an error; in the others the command goes on or
-// finds that something is not there.  withSelection: the sources of a colour are probed one after
-// the other; with nothing selected there is the document alone, whose colour must be readable.
+// finds that something is not there.  withSelection: the sources of a color are probed one after
+// the other; with nothing selected there is the document alone, whose color must be readable.
 Names ErrorsOf(const CallRecord& call, bool withSelection) {
     static const Names objects{"ActiveDoc",    "GetSelectedObject3", "GetSelectedObjectsComponent",
                                "Body",         "FirstFeature",       "GetNextFeature",

@@ -13,7 +13,7 @@ DIBSECTION Describe(const BitmapHandle& strip) {
     return description;
 }
 
-// Colour and alpha of a pixel, counted from the bottom left corner.
+// Color and alpha of a pixel, counted from the bottom left corner.
 DWORD PixelOf(const BitmapHandle& strip, int x, int y) {
     const BITMAP bitmap = Describe(strip).dsBm;
     return static_cast<const DWORD*>(bitmap.bmBits)[y * bitmap.bmWidth + x];

@@ -157,7 +157,7 @@ TEST_F(StandInFormTest, PanesLookAfterChangesAndResizesAsInAFreshWindow) {
         EXPECT_EQ(changed[i] == PixelsOf(GetDlgItem(fresh.Handle(), panes[i])), true) << panes[i];
 }
 
-TEST_F(StandInFormTest, ClearedColourIsSeenWithTheNextRefresh) {
+TEST_F(StandInFormTest, ClearedColorIsSeenWithTheNextRefresh) {
     const auto face = model.Part().FaceAt(0);
     face->SetColor(MaterialValues{1, 0, 0, 0, 0, 0, 0, 0, 0});
     face->Select(false);

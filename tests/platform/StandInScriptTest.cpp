@@ -17,7 +17,7 @@ protected:
     ScratchFolder folder;
 };
 
-TEST_F(StandInScriptTest, VbScriptReachesTheRunningObjectAndSetsAColour) {
+TEST_F(StandInScriptTest, VbScriptReachesTheRunningObjectAndSetsAColor) {
     const StandInProcess standIn;
     ASSERT_TRUE(standIn.IsReady());
     const std::string output = RunScript("client.vbs", R"vbs(
@@ -33,13 +33,13 @@ WScript.Echo TypeName(face.MaterialPropertyValues)
               "put face \"Face 1\" MaterialPropertyValues = Array(1, 0.5, 0, 0.25, 0, 0, 0, 0, 0)");
 }
 
-TEST_F(StandInScriptTest, VbScriptCopiesAColourFromOneFaceToAnother) {
+TEST_F(StandInScriptTest, VbScriptCopiesAColorFromOneFaceToAnother) {
     const StandInProcess standIn;
     ASSERT_TRUE(standIn.IsReady());
     const std::string output = RunScript("client.vbs", R"vbs(
 Set face = CreateObject("SldWorks.Application").ActiveDoc.Body.GetFirstFace
-Set coloured = face.GetNextFace.GetNextFace
-face.MaterialPropertyValues = coloured.MaterialPropertyValues
+Set colored = face.GetNextFace.GetNextFace
+face.MaterialPropertyValues = colored.MaterialPropertyValues
 WScript.Echo "copied"
 )vbs");
     EXPECT_EQ(output, "copied\n");
@@ -62,7 +62,7 @@ WScript.Echo CreateObject("SldWorks.Application").RevisionNumber
     EXPECT_EQ(RunScript("second.vbs", script), "12.5.0\n");
 }
 
-TEST_F(StandInScriptTest, JScriptReadsAndSetsTheColourTable) {
+TEST_F(StandInScriptTest, JScriptReadsAndSetsTheColorTable) {
     const StandInProcess standIn;
     ASSERT_TRUE(standIn.IsReady());
     const std::string output = RunScript("client.js", R"js(
@@ -75,7 +75,7 @@ WScript.Echo(table.GetColorRefAtIndex(5));
 }
 
 // This script host hands on an array of numbers as it is and does not look into it.
-TEST_F(StandInScriptTest, JScriptReadsAndSetsTheColourOfAFace) {
+TEST_F(StandInScriptTest, JScriptReadsAndSetsTheColorOfAFace) {
     const StandInProcess standIn;
     ASSERT_TRUE(standIn.IsReady());
     const std::string output = RunScript("client.js", R"js(

@@ -41,7 +41,7 @@ protected:
     RunningObjects objects{retry};
 };
 
-TEST_F(StandInServerTest, ALateBoundClientAttachesAndReadsAndSetsAColour) {
+TEST_F(StandInServerTest, ALateBoundClientAttachesAndReadsAndSetsAColor) {
     const StandInProcess standIn;
     ASSERT_TRUE(standIn.IsReady());
     const AutomationObjectPtr application = Attach();
@@ -126,7 +126,7 @@ TEST_F(StandInServerTest, ItsRegistrationEndsWithTheSystemsSession) {
     EXPECT_TRUE(found);
 }
 
-TEST_F(StandInServerTest, AWrongColourArrayIsRefusedWithAnExplanation) {
+TEST_F(StandInServerTest, AWrongColorArrayIsRefusedWithAnExplanation) {
     const StandInProcess standIn;
     ASSERT_TRUE(standIn.IsReady());
     try {

@@ -112,7 +112,7 @@ protected:
     RemoteList list{standIn.Control(StandInContract::ObjectList)};
 };
 
-TEST_F(StandInWindowTest, EveryObjectIsARowWithItsNameKindAndColour) {
+TEST_F(StandInWindowTest, EveryObjectIsARowWithItsNameKindAndColor) {
     const LRESULT row = list.RowOf("Face 3");
     ASSERT_GE(row, 0);
     EXPECT_EQ(list.Text(row, 1), "face");
@@ -164,7 +164,7 @@ TEST_F(StandInWindowTest, WhatAClientSelectsIsSelectedInTheList) {
     EXPECT_TRUE(PollUntil([&] { return !list.IsSelected(list.RowOf("Base")); }));
 }
 
-TEST_F(StandInWindowTest, AColourThatAClientSetsIsShown) {
+TEST_F(StandInWindowTest, AColorThatAClientSetsIsShown) {
     const AutomationObjectPtr feature =
         StandInClient(objects.GetRunningObject("SldWorks.Application")).Feature(0);
     feature->Invoke("Select", {false});
@@ -178,18 +178,18 @@ TEST_F(StandInWindowTest, AColourThatAClientSetsIsShown) {
     })) << TextOf(StandInContract::Details);
 }
 
-TEST_F(StandInWindowTest, TheColourTableIsReadable) {
+TEST_F(StandInWindowTest, TheColorTableIsReadable) {
     EXPECT_EQ(TextOf(StandInContract::ColorTable).substr(0, 23), "Signal red: 200, 30, 36");
 }
 
-TEST_F(StandInWindowTest, AnEntryOfTheColourTableThatAClientSetsIsShown) {
+TEST_F(StandInWindowTest, AnEntryOfTheColorTableThatAClientSetsIsShown) {
     Document()->Get("GetColorTable").AsObject()->Invoke("SetColorRefAtIndex", {0, 0xFF8040, 0});
     EXPECT_TRUE(PollUntil([&] {
         return TextOf(StandInContract::ColorTable).starts_with("Signal red: 64, 128, 255\r\n");
     })) << TextOf(StandInContract::ColorTable);
 }
 
-TEST_F(StandInWindowTest, AComponentThatLosesItsColourShowsThatOfItsModel) {
+TEST_F(StandInWindowTest, AComponentThatLosesItsColorShowsThatOfItsModel) {
     ASSERT_TRUE(standIn.Order("document assembly"));
     ASSERT_EQ(list.Text(list.RowOf("Cover-1"), 2), "170, 210, 224");
     const AutomationObjectPtr root =

@@ -149,7 +149,7 @@ TEST_F(ClearColorAssembly, TheDirectChildrenOfTheRootAreClearedAndNoOthers) {
     ExpectTranscript(Calls());
     EXPECT_EQ(ComponentNamed("Cover-1")->Color(), std::nullopt);
     EXPECT_NE(ComponentNamed("Latch-1")->Children().front()->Color(), std::nullopt)
-        << "the components of a sub-assembly keep their colours";
+        << "the components of a sub-assembly keep their colors";
     EXPECT_EQ(progress.calls,
               (Lines{"show <63> 0..6", "value 0", "refresh", "value 1", "refresh", "value 2",
                      "refresh", "value 3", "refresh", "value 4", "refresh", "value 5", "refresh",

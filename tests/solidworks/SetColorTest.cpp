@@ -3,7 +3,7 @@
 
 namespace {
 
-constexpr MaterialValues kSent{1, 0, 1, 1, 0.5, 0.25, 0, 0, 1}; // the editor's colour
+constexpr MaterialValues kSent{1, 0, 1, 1, 0.5, 0.25, 0, 0, 1}; // the editor's color
 
 class SetColor : public OperationTest {
 protected:

@@ -25,7 +25,7 @@ protected:
     std::string SetCalls() {
         return CallsOf([&] { return tools->SWXSetStandardColors(colors); });
     }
-    // The table's colours in other values.
+    // The table's colors in other values.
     void ReadAndChange() {
         tools->SWXGetStandardColors(colors);
         for (ColorRecord& entry : colors)

@@ -54,7 +54,7 @@ TEST(DisplayColor, EveryLevelHasTheNameThatTheWindowShows) {
         EXPECT_EQ(ColorLevelName(level), name);
 }
 
-TEST(DisplayColor, WithoutAnyColourAPlainGreyIsSeen) {
+TEST(DisplayColor, WithoutAnyColorAPlainGreyIsSeen) {
     EXPECT_EQ(ResolveDisplayColor({}), (DisplayColor{kUnsetMaterial, ColorLevel::None}));
 }
 

@@ -8,11 +8,11 @@
 
 namespace {
 
-TEST(MaterialValues, AnUnsetColourReadsAsAnEmptyValue) {
+TEST(MaterialValues, AnUnsetColorReadsAsAnEmptyValue) {
     EXPECT_TRUE(ToAutomationValue(std::nullopt).IsEmpty());
 }
 
-TEST(MaterialValues, AColourReadsAsAnArrayOfNineDoubles) {
+TEST(MaterialValues, AColorReadsAsAnArrayOfNineDoubles) {
     const MaterialValues values{0, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6, 0.7, 0.8};
     const AutomationValue read = ToAutomationValue(values);
     EXPECT_EQ(std::get<std::vector<double>>(read.data),
@@ -20,7 +20,7 @@ TEST(MaterialValues, AColourReadsAsAnArrayOfNineDoubles) {
     EXPECT_EQ(ReadMaterialValues(read), values);
 }
 
-TEST(MaterialValues, AnArrayOfNineVariantsIsAColourToo) {
+TEST(MaterialValues, AnArrayOfNineVariantsIsAColorToo) {
     const AutomationArray variants{1, 0, 0.5, 0, 0, 0, 0, 0, "0.25"};
     EXPECT_EQ(ReadMaterialValues(variants), (MaterialValues{1, 0, 0.5, 0, 0, 0, 0, 0, 0.25}));
 }

@@ -19,7 +19,7 @@ SelectedItem RowNamed(const StandInModel& model, const std::string& name) {
     return {};
 }
 
-TEST(ObjectRows, OfAPartAreFeaturesThenFacesThenEdgesThenWhatHasNoColour) {
+TEST(ObjectRows, OfAPartAreFeaturesThenFacesThenEdgesThenWhatHasNoColor) {
     const std::vector<std::string> names = NamesOf(StandInModel());
     ASSERT_EQ(names.size(), 33U);
     EXPECT_EQ(names[0], "Base");
@@ -45,7 +45,7 @@ TEST(ObjectRows, AreEmptyWithoutADocumentAndInADrawing) {
     EXPECT_TRUE(NamesOf(StandInModel("drawing")).empty());
 }
 
-TEST(DisplayColorOf, AFaceShowsItsOwnThenItsFeaturesThenTheBodysThenThePartsColour) {
+TEST(DisplayColorOf, AFaceShowsItsOwnThenItsFeaturesThenTheBodysThenThePartsColor) {
     StandInModel model;
     EXPECT_EQ(DisplayColorOf(RowNamed(model, "Face 3")).level, ColorLevel::Face);
     EXPECT_EQ(DisplayColorOf(RowNamed(model, "Face 9")).level, ColorLevel::Feature);
@@ -54,7 +54,7 @@ TEST(DisplayColorOf, AFaceShowsItsOwnThenItsFeaturesThenTheBodysThenThePartsColo
     EXPECT_EQ(DisplayColorOf(RowNamed(model, "Face 1")).level, ColorLevel::Body);
 }
 
-TEST(DisplayColorOf, AFeatureShowsItsOwnThenTheBodysThenThePartsColour) {
+TEST(DisplayColorOf, AFeatureShowsItsOwnThenTheBodysThenThePartsColor) {
     StandInModel model;
     Entity& feature = *RowNamed(model, "Base").entity;
     feature.SetColor(kUnsetMaterial);
@@ -65,7 +65,7 @@ TEST(DisplayColorOf, AFeatureShowsItsOwnThenTheBodysThenThePartsColour) {
     EXPECT_EQ(DisplayColorOf(RowNamed(model, "Base")).level, ColorLevel::Body);
 }
 
-TEST(DisplayColorOf, AColouredComponentHidesTheColoursOfItsFaces) {
+TEST(DisplayColorOf, AColoredComponentHidesTheColorsOfItsFaces) {
     StandInModel model("assembly");
     EXPECT_EQ(DisplayColorOf(RowNamed(model, "Face 3 of Housing-1")).level, ColorLevel::Face);
     model.Assembly().Root()->Children()[0]->SetColor(kUnsetMaterial);
@@ -73,14 +73,14 @@ TEST(DisplayColorOf, AColouredComponentHidesTheColoursOfItsFaces) {
               (DisplayColor{kUnsetMaterial, ColorLevel::Component}));
 }
 
-TEST(DisplayColorOf, AColouredSubAssemblyHidesTheColoursOfItsComponents) {
+TEST(DisplayColorOf, AColoredSubAssemblyHidesTheColorsOfItsComponents) {
     StandInModel model("assembly");
     model.Assembly().Root()->Children()[5]->SetColor(kUnsetMaterial);
     EXPECT_EQ(DisplayColorOf(RowNamed(model, "Lever-1")).values, kUnsetMaterial);
     EXPECT_EQ(DisplayColorOf(RowNamed(model, "Face 1 of Lever-1")).values, kUnsetMaterial);
 }
 
-TEST(DisplayColorOf, EdgesVerticesPlanesAndSketchesShowNoColour) {
+TEST(DisplayColorOf, EdgesVerticesPlanesAndSketchesShowNoColor) {
     const StandInModel model;
     for (const char* name : {"Edge 1", "Vertex 1", "Front Plane", "Sketch 1"})
         EXPECT_EQ(DisplayColorOf(RowNamed(model, name)).level, ColorLevel::None) << name;

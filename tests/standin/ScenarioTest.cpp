@@ -10,7 +10,7 @@ TEST(Scenario, NoDocumentLeavesNoneActive) {
     EXPECT_EQ(StandInClient(model).Document(), nullptr);
 }
 
-TEST(Scenario, ADrawingIsOfTypeThreeAndHasAColourTableButNoColour) {
+TEST(Scenario, ADrawingIsOfTypeThreeAndHasAColorTableButNoColor) {
     StandInModel model("drawing");
     const StandInClient client(model);
     EXPECT_EQ(client.Document()->Get("GetType").AsInt32(), 3);
@@ -55,7 +55,7 @@ TEST(Scenario, SizesGenerateDocuments) {
     EXPECT_EQ(model.ActiveDocument()->Type(), DocumentType::Assembly);
 }
 
-TEST(Scenario, ColourTablesOfAnySizeCanBeGenerated) {
+TEST(Scenario, ColorTablesOfAnySizeCanBeGenerated) {
     StandInModel model("standard-colors=100");
     const auto& colors = model.Part().Colors().Colors();
     ASSERT_EQ(colors.size(), 100U);

@@ -70,13 +70,13 @@ TEST_F(StandInModelTest, TheSameFaceIsTheSameObject) {
     EXPECT_NE(client_->Face(5), face);
 }
 
-TEST_F(StandInModelTest, AFaceCanBeColouredAndReadBackExactly) {
+TEST_F(StandInModelTest, AFaceCanBeColoredAndReadBackExactly) {
     client_->Face(0)->Put("MaterialPropertyValues", kNine);
     const AutomationValue read = client_->Face(0)->Get("MaterialPropertyValues");
     EXPECT_EQ(std::get<std::vector<double>>(read.data), kNine);
 }
 
-TEST_F(StandInModelTest, AnUncolouredFaceReadsAsEmptyAndItsFeatureCarriesTheColour) {
+TEST_F(StandInModelTest, AnUncoloredFaceReadsAsEmptyAndItsFeatureCarriesTheColor) {
     const AutomationObjectPtr face = client_->Face(8);
     EXPECT_TRUE(face->Get("MaterialPropertyValues").IsEmpty());
     const AutomationObjectPtr feature = face->Get("GetFeature").AsObject();
@@ -84,7 +84,7 @@ TEST_F(StandInModelTest, AnUncolouredFaceReadsAsEmptyAndItsFeatureCarriesTheColo
     EXPECT_FALSE(feature->Get("GetMaterialPropertyValues").IsEmpty());
 }
 
-TEST_F(StandInModelTest, AFeatureTakesItsColourThroughAMethod) {
+TEST_F(StandInModelTest, AFeatureTakesItsColorThroughAMethod) {
     client_->Feature(0)->Invoke("SetMaterialPropertyValues", {kNine});
     const AutomationValue read = client_->Feature(0)->Get("GetMaterialPropertyValues");
     EXPECT_EQ(std::get<std::vector<double>>(read.data), kNine);
@@ -102,7 +102,7 @@ TEST_F(StandInModelTest, AnUnknownMemberIsAnErrorThatNamesIt) {
     }
 }
 
-TEST_F(StandInModelTest, AWrongColourArrayIsAnErrorThatNamesTheMember) {
+TEST_F(StandInModelTest, AWrongColorArrayIsAnErrorThatNamesTheMember) {
     try {
         client_->Face(0)->Put("MaterialPropertyValues", std::vector<double>(8));
         FAIL();
@@ -153,7 +153,7 @@ TEST_F(StandInModelTest, ClearSelectionLeavesNothingSelected) {
     EXPECT_EQ(client_->Selection()->Get("GetSelectedObjectCount").AsInt32(), 0);
 }
 
-TEST_F(StandInModelTest, AnEdgeIsOfTypeOneAndCarriesNoColour) {
+TEST_F(StandInModelTest, AnEdgeIsOfTypeOneAndCarriesNoColor) {
     ASSERT_TRUE(model_->Part().Edges().front()->Select(false));
     const AutomationObjectPtr edge =
         client_->Selection()->Invoke("GetSelectedObject3", {1}).AsObject();
@@ -166,7 +166,7 @@ AutomationArray FaceProperties(bool usePartProperties, const char* name) {
     return {0x0000FF, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6, usePartProperties, name};
 }
 
-TEST_F(StandInModelTest, SelectedFacePropertiesColourTheSelectedFaces) {
+TEST_F(StandInModelTest, SelectedFacePropertiesColorTheSelectedFaces) {
     client_->Face(0)->Invoke("Select", {false});
     EXPECT_TRUE(client_->Document()
                     ->Invoke("SelectedFaceProperties", FaceProperties(false, ""))
@@ -175,7 +175,7 @@ TEST_F(StandInModelTest, SelectedFacePropertiesColourTheSelectedFaces) {
               (MaterialValues{1, 0, 0, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6}));
 }
 
-TEST_F(StandInModelTest, SelectedFacePropertiesTakeTheColourOffAndKeepTheNameWhenItIsEmpty) {
+TEST_F(StandInModelTest, SelectedFacePropertiesTakeTheColorOffAndKeepTheNameWhenItIsEmpty) {
     client_->Face(2)->Invoke("Select", {false});
     client_->Document()->Invoke("SelectedFaceProperties", FaceProperties(true, ""));
     EXPECT_EQ(model_->Part().FaceAt(2)->Color(), std::nullopt);
@@ -209,7 +209,7 @@ TEST_F(StandInModelTest, TheAssemblyHasSevenComponentsOneOfThemWithoutModel) {
     EXPECT_EQ(StandInClient::ChildOf(latch, 0)->Get("Name2").AsString(), "Lever-1");
 }
 
-TEST_F(StandInModelTest, AComponentLosesItsColour) {
+TEST_F(StandInModelTest, AComponentLosesItsColor) {
     Start("assembly");
     const AutomationObjectPtr cover = client_->Child(1);
     EXPECT_FALSE(cover->Get("MaterialPropertyValues").IsEmpty());
@@ -251,14 +251,14 @@ TEST_F(StandInModelTest, AFaceThatTheActiveDocumentDoesNotShowCannotBeSelected) 
     EXPECT_FALSE(face->Invoke("Select", {false}).AsBoolean());
 }
 
-TEST_F(StandInModelTest, OldRevisionsCannotTakeTheColourOffAComponent) {
+TEST_F(StandInModelTest, OldRevisionsCannotTakeTheColorOffAComponent) {
     Start("old-revision,assembly");
     EXPECT_EQ(client_->Application()->Get("RevisionNumber").AsString(), "8.1.0");
     EXPECT_EQ(ErrorNumberOf([&] { client_->Child(0)->Get("RemoveMaterialProperty"); }),
               ErrorNumber::NoSuchMember);
 }
 
-TEST_F(StandInModelTest, TheColourTableHasTwelveNamedColoursFromIndexZero) {
+TEST_F(StandInModelTest, TheColorTableHasTwelveNamedColorsFromIndexZero) {
     const AutomationObjectPtr table = client_->Document()->Get("GetColorTable").AsObject();
     EXPECT_EQ(table->Get("GetStandardCount").AsInt32(), 12);
     EXPECT_EQ(table->Invoke("GetNameAtIndex", {5}).AsString(), "Sky blue");
@@ -267,7 +267,7 @@ TEST_F(StandInModelTest, TheColourTableHasTwelveNamedColoursFromIndexZero) {
               ErrorNumber::SubscriptOutOfRange);
 }
 
-TEST_F(StandInModelTest, AnEntryOfTheColourTableCanBeSet) {
+TEST_F(StandInModelTest, AnEntryOfTheColorTableCanBeSet) {
     const AutomationObjectPtr table = client_->Document()->Get("GetColorTable").AsObject();
     table->Invoke("SetColorRefAtIndex", {11, 0x123456, 0});
     EXPECT_EQ(table->Invoke("GetColorRefAtIndex", {11}).AsInt32(), 0x123456);
@@ -291,7 +291,7 @@ public:
     int count = 0;
 };
 
-TEST_F(StandInModelTest, ObserversHearOfColoursSelectionAndActivation) {
+TEST_F(StandInModelTest, ObserversHearOfColorsSelectionAndActivation) {
     CountingObserver observer;
     model_->Events().Add(observer);
     client_->Face(0)->Put("MaterialPropertyValues", kNine);

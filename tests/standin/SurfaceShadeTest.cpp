@@ -13,7 +13,7 @@ std::uint32_t PixelOf(const MaterialValues& values, int column, int row) {
         .at(static_cast<std::size_t>(row) * kSize + static_cast<std::size_t>(column));
 }
 
-TEST(SurfaceShade, ThePlainColourIsTheValueTimesTwoHundredFiftyFive) {
+TEST(SurfaceShade, ThePlainColorIsTheValueTimesTwoHundredFiftyFive) {
     EXPECT_EQ(PlainColor({128 / 255.0, 0, 1}), (RedGreenBlue{128, 0, 255}));
     EXPECT_EQ(PlainColor({-1, 2, 0.5}), (RedGreenBlue{0, 255, 128}));
 }

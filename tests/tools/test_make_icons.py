@@ -16,8 +16,8 @@ class IconFile(unittest.TestCase):
         self.folder = pathlib.Path(tempfile.mkdtemp())
         self.addCleanup(shutil.rmtree, self.folder)
 
-    def draw(self, name, colour="#ff0000"):
-        (self.folder / f"{name}.svg").write_text(DRAWING.format(colour), encoding="utf-8")
+    def draw(self, name, color="#ff0000"):
+        (self.folder / f"{name}.svg").write_text(DRAWING.format(color), encoding="utf-8")
         return icons.stale_icons(self.folder, write=True)
 
     def test_holds_every_size_and_reads_back_as_drawn(self):

@@ -20,7 +20,7 @@ void SetKeys(std::initializer_list<int> keys, BYTE state) {
     SetKeyboardState(all.data());
 }
 
-// The library 1D with the groups 1DG1 and 1DG2, and ten colours; the window is on the screen.
+// The library 1D with the groups 1DG1 and 1DG2, and ten colors; the window is on the screen.
 class MainDragging : public MainFormTest {
 protected:
     MainDragging() {

@@ -12,7 +12,7 @@ constexpr int kLookUps = 10000;
 
 struct Growth {
     Times load;
-    Times keys;      // of kLookUps colours
+    Times keys;      // of kLookUps colors
     Times groups;    // each group once
     Times newColor;  // in the first group
     Times oneColor;  // deleted

@@ -17,7 +17,7 @@ struct PlainColor {
 
 struct PlainLibrary {
     std::vector<std::string> groups; // names
-    std::vector<PlainColor> colors;  // the groups' colours mixed
+    std::vector<PlainColor> colors;  // the groups' colors mixed
 };
 
 [[nodiscard]] PlainLibrary MakePlainLibrary(int colors, int groups);

@@ -3,13 +3,13 @@
 #include "tests/bench/library/BenchPlatform.h"
 
 struct BenchSizes {
-    int largest = 1000000; // colours
+    int largest = 1000000; // colors
     int repetitions = 5;
 };
 
 // Each measures one side of the library and prints its table.
 void ReportFiles(BenchPlatform& platform, const BenchSizes& sizes);    // beside the floors; memory
-void ReportGrowth(BenchPlatform& platform, const BenchSizes& sizes);   // from a thousand colours
+void ReportGrowth(BenchPlatform& platform, const BenchSizes& sizes);   // from a thousand colors
 void ReportList(BenchPlatform& platform, const BenchSizes& sizes);     // showing a group
 void ReportHistory(BenchPlatform& platform, const BenchSizes& sizes);  // steps, undo; memory
 void ReportProgress(BenchPlatform& platform, const BenchSizes& sizes); // cost of the window
