@@ -4,29 +4,10 @@
 #include "library/LibraryKeys.h"
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <utility>
 
 namespace {
-
-struct KeyParts {
-    std::string_view group;
-    std::uint32_t number = 0;
-};
-
-// The parts of a key that is just "group key, E, number"; nothing for any other text.
-std::optional<KeyParts> PartsOf(std::string_view key) {
-    const std::size_t letter = key.rfind(LibraryKeys::kColorLetter);
-    if (letter == std::string_view::npos)
-        return {};
-    const std::string_view digits = key.substr(letter + 1);
-    const char* const end = digits.data() + digits.size();
-    KeyParts parts{key.substr(0, letter)};
-    const auto [stop, error] = std::from_chars(digits.data(), end, parts.number);
-    const bool isAsWritten = digits == "0" || !digits.starts_with('0');
-    return error == std::errc() && stop == end && isAsWritten ? std::optional(parts) : std::nullopt;
-}
 
 // The place of a value in an ascending list, or where it would stand.
 template <typename Value>
@@ -34,7 +15,7 @@ auto PlaceOf(std::vector<Value>& ascending, const Value& value) {
     return std::ranges::lower_bound(ascending, value);
 }
 
-// Nearly always at the end.
+// Nearly always that is at the end.
 template <typename Value>
 void AddInOrder(std::vector<Value>& ascending, const Value& value) {
     if (ascending.empty() || ascending.back() < value)
@@ -47,7 +28,7 @@ void AddInOrder(std::vector<Value>& ascending, const Value& value) {
     throw RuntimeError(ErrorNumber::SubscriptOutOfRange, ErrorTexts::NoSuchNumber);
 }
 
-// Both ascending; what goes is there.
+// Both are ascending, and every id of going is in ids.
 void EraseSorted(std::vector<ColorId>& ids, const std::vector<ColorId>& going) {
     if (going.size() == 1) {
         ids.erase(PlaceOf(ids, going.front()));
@@ -151,7 +132,7 @@ ColorTable::GroupNumber ColorTable::NumberOfGroup(const std::string& groupKey) {
 void ColorTable::Append(ColorRecord record) {
     StoredColor color;
     color.group = NumberOfGroup(record.groupKey);
-    const std::optional<KeyParts> parts = PartsOf(record.key);
+    const std::optional<LibraryKeys::ColorKey> parts = LibraryKeys::PartsOfColor(record.key);
     if (parts && parts->group == record.groupKey)
         color.number = parts->number;
     else
@@ -197,7 +178,7 @@ void ColorTable::TellChange(ColorId id) const {
     before.name = CompactText(color.name.View());
     before.SetAltName(color.AltName());
     before.values = color.values;
-    journal_->ColorChanges(id, std::move(before));
+    journal_->ColorChanging(id, std::move(before));
 }
 
 void ColorTable::Exchange(ColorId id, StoredColor& other) {
@@ -324,7 +305,7 @@ int ColorTable::IndexOfKey(const std::string& key) const {
 }
 
 ColorId ColorTable::FirstOfNumber(const std::string& key) const {
-    const std::optional<KeyParts> parts = PartsOf(key);
+    const std::optional<LibraryKeys::ColorKey> parts = LibraryKeys::PartsOfColor(key);
     const Group* const group = parts ? FindGroup(std::string(parts->group)) : nullptr;
     if (group == nullptr)
         return 0;

@@ -1,5 +1,7 @@
 #include "library/LibraryChanges.h"
 
+#include "library/LibraryKeys.h"
+
 namespace LibraryChanges {
 
 bool Colors::TakesOneMore(ColorId id, const NodeRef& group) {
@@ -54,13 +56,9 @@ void File::TurnRound(LibraryTree& tree, ColorTable&) {
     std::swap(other_, now_);
 }
 
-std::string LastColor::InGroup(std::string_view groupKey, std::string_view colorKey) {
-    return std::string(colorKey.starts_with(groupKey) ? colorKey.substr(groupKey.size()) : "");
-}
-
 void LastColor::TurnRound(LibraryTree& tree, ColorTable&) {
     const std::string key = tree.KeyOf(group_);
-    std::string now = InGroup(key, tree.At(key).lastColor);
+    std::string now = LibraryKeys::Within(key, tree.At(key).lastColor);
     tree.RememberColor(key, other_.empty() ? std::string() : key + other_);
     other_ = std::move(now);
 }

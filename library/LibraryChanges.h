@@ -6,7 +6,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -90,8 +89,6 @@ class LastColor : public LibraryChange {
 public:
     LastColor(NodeRef group, std::string other)
         : group_(std::move(group)), other_(std::move(other)) {}
-
-    [[nodiscard]] static std::string InGroup(std::string_view groupKey, std::string_view colorKey);
 
     [[nodiscard]] const NodeRef& Group() const noexcept { return group_; }
     void TurnRound(LibraryTree& tree, ColorTable& colors) override;

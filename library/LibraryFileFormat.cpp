@@ -19,6 +19,10 @@ constexpr const char* kDivisionSign = "\xC3\xB7";                              /
 constexpr const char* kDivisionByte = "\xF7";
 constexpr std::string_view kUnknownCharacter = "\xEF\xBF\xBD"; // U+FFFD
 
+constexpr std::string_view kLibraryTag = "D#";
+constexpr std::string_view kGroupTag = "G#";
+constexpr std::string_view kColorTag = "E#";
+
 bool HasTag(std::string_view record, std::string_view tag) {
     return record.substr(0, kTagLength) == tag;
 }
@@ -173,16 +177,24 @@ std::string FieldSeparator(const AnsiCodePage& codePage) {
                                                            : codePage.Decode(kDivisionByte);
 }
 
+RecordKind KindOf(std::string_view record) {
+    if (HasTag(record, kColorTag))
+        return RecordKind::Color;
+    if (HasTag(record, kGroupTag))
+        return RecordKind::Group;
+    return HasTag(record, kLibraryTag) ? RecordKind::Library : RecordKind::Other;
+}
+
 std::optional<Header> ParseHeader(std::string_view record) {
     const std::size_t equals = record.find('=');
-    if (!HasTag(record, "D#") || equals == std::string_view::npos)
+    if (!HasTag(record, kLibraryTag) || equals == std::string_view::npos)
         return {};
     return Header{std::string(record.substr(kTagLength, equals - kTagLength)), CountOf(record)};
 }
 
 std::optional<Group> ParseGroup(std::string_view record) {
     const std::size_t equals = record.find('=');
-    if (!HasTag(record, "G#") || equals == std::string_view::npos)
+    if (!HasTag(record, kGroupTag) || equals == std::string_view::npos)
         return {};
     return Group{std::string(record.substr(kTagLength, equals - kTagLength)),
                  std::string(record.substr(equals + 1))};
@@ -191,7 +203,7 @@ std::optional<Group> ParseGroup(std::string_view record) {
 std::optional<Color> ParseColor(std::string_view record, std::string_view separator) {
     std::optional<Color> color; // made where the caller has it: it is large, and there are many
     const std::size_t equals = record.find('=');
-    if (!HasTag(record, "E#") || equals == std::string_view::npos)
+    if (!HasTag(record, kColorTag) || equals == std::string_view::npos)
         return color;
     const std::size_t colon = record.find(':', equals + 1);
     if (colon == std::string_view::npos)
@@ -249,18 +261,18 @@ ColorValueArray ValuesOf(const Color& color, std::string_view separator) {
 }
 
 void AppendHeader(std::string& text, std::string_view name, std::string_view mainKey, int count) {
-    text.append("\"D#").append(name).append("=").append(mainKey).append(":");
+    text.append("\"").append(kLibraryTag).append(name).append("=").append(mainKey).append(":");
     AppendNumber(text, count);
     AppendLineEnd(text);
 }
 
 void AppendGroup(std::string& text, std::string_view name, std::string_view key) {
-    text.append("\"G#").append(name).append("=").append(key);
+    text.append("\"").append(kGroupTag).append(name).append("=").append(key);
     AppendLineEnd(text);
 }
 
 void AppendColor(std::string& text, const ColorTable::View& color, std::string_view separator) {
-    text.append("\"E#").append(color.color.name).append("=").append(color.groupKey);
+    text.append("\"").append(kColorTag).append(color.color.name).append("=").append(color.groupKey);
     text.append(":").append(color.color.AltName());
     for (const std::int16_t value : color.color.values) {
         text.append(separator);

@@ -51,6 +51,10 @@ struct Color {
 [[nodiscard]] std::string FieldSeparator(const AnsiCodePage& codePage);
 
 // Nothing when the record is invalid.  record: UTF-8, with its tag, without quotes.
+// What a record is by its first characters, before anything else of it is looked at.
+enum class RecordKind { Library, Group, Color, Other };
+[[nodiscard]] RecordKind KindOf(std::string_view record);
+
 [[nodiscard]] std::optional<Header> ParseHeader(std::string_view record);
 [[nodiscard]] std::optional<Group> ParseGroup(std::string_view record);
 [[nodiscard]] std::optional<Color> ParseColor(std::string_view record, std::string_view separator);

@@ -1,5 +1,7 @@
 #include "library/LibraryHistory.h"
 
+#include "library/LibraryKeys.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -22,13 +24,13 @@ void LibraryHistory::BeginStep(const LibraryView& view) {
     colors_.SetJournal(this);
 }
 
-void LibraryHistory::EndStep(const StepName& name, const LibraryView& view) {
+void LibraryHistory::EndStep(StepLabel label, const LibraryView& view) {
     if (--depth_ > 0)
         return;
     colors_.SetJournal(nullptr);
     if (open_.changes.empty())
         return;
-    open_.name = name;
+    open_.label = label;
     open_.after = view;
     steps_.resize(done_);
     steps_.push_back(std::move(open_));
@@ -36,12 +38,12 @@ void LibraryHistory::EndStep(const StepName& name, const LibraryView& view) {
     TellChange();
 }
 
-const StepName* LibraryHistory::NextUndo() const noexcept {
-    return done_ > 0 ? &steps_[done_ - 1].name : nullptr;
+std::optional<StepLabel> LibraryHistory::NextUndo() const noexcept {
+    return done_ > 0 ? std::optional(steps_[done_ - 1].label) : std::nullopt;
 }
 
-const StepName* LibraryHistory::NextRedo() const noexcept {
-    return done_ < steps_.size() ? &steps_[done_].name : nullptr;
+std::optional<StepLabel> LibraryHistory::NextRedo() const noexcept {
+    return done_ < steps_.size() ? std::optional(steps_[done_].label) : std::nullopt;
 }
 
 LibraryView LibraryHistory::Undo() {
@@ -101,7 +103,7 @@ void LibraryHistory::ColorsRemoved(const std::string& groupKey, std::vector<Remo
 }
 
 // The first look at a color in a step holds for the next ones.
-void LibraryHistory::ColorChanges(ColorId id, StoredColor before) {
+void LibraryHistory::ColorChanging(ColorId id, StoredColor before) {
     const auto* last = open_.changes.empty()
                            ? nullptr
                            : dynamic_cast<LibraryChanges::Values*>(open_.changes.back().get());
@@ -119,7 +121,7 @@ void LibraryHistory::NodeRemoved(RemovedNode removed) {
     const NodeRef ref =
         node.kind == NodeKind::Library
             ? NodeRef{node.id}
-            : NodeRef{tree_.At(node.parent).id, node.key.substr(node.parent.size())};
+            : NodeRef{tree_.At(node.parent).id, LibraryKeys::Within(node.parent, node.key)};
     Note<LibraryChanges::Node>(ref, std::move(removed));
 }
 
@@ -138,7 +140,7 @@ void LibraryHistory::ColorRemembered(const std::string& groupKey, const std::str
     using LibraryChanges::LastColor;
     const NodeRef group = tree_.RefOf(groupKey);
     if (depth_ > 0) {
-        Note<LastColor>(group, LastColor::InGroup(groupKey, before));
+        Note<LastColor>(group, LibraryKeys::Within(groupKey, before));
         return;
     }
     if (done_ == 0)
@@ -147,5 +149,5 @@ void LibraryHistory::ColorRemembered(const std::string& groupKey, const std::str
     if (std::ranges::none_of(afterwards,
                              [&](const auto& change) { return change->Group() == group; }))
         afterwards.push_back(
-            std::make_unique<LastColor>(group, LastColor::InGroup(groupKey, before)));
+            std::make_unique<LastColor>(group, LibraryKeys::Within(groupKey, before)));
 }

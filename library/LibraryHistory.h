@@ -9,13 +9,12 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
-// What a step is called: by the command that made it, or by a text of its own.
-struct StepName {
-    int command = 0; // IDM_ number; 0: none
-    std::int32_t textNumber = 0;
-};
+// What a step is called by the one who begins it.
+using StepLabel = std::int32_t;
 
 // Everything that was done to the open libraries, step by step, so that it can be taken back and
 // done again.  A step holds what it changed and nothing else.  Who changes the libraries does not
@@ -37,11 +36,11 @@ public:
     // A step from here on; one in another is part of it.  view: what the user sees now.
     void BeginStep(const LibraryView& view);
     // Nothing is added when nothing was changed.
-    void EndStep(const StepName& name, const LibraryView& view);
+    void EndStep(StepLabel label, const LibraryView& view);
 
-    // Null when there is none.
-    [[nodiscard]] const StepName* NextUndo() const noexcept;
-    [[nodiscard]] const StepName* NextRedo() const noexcept;
+    // Nothing when there is none.
+    [[nodiscard]] std::optional<StepLabel> NextUndo() const noexcept;
+    [[nodiscard]] std::optional<StepLabel> NextRedo() const noexcept;
 
     // Takes the last step back, or does it again; there must be one.  Gives what the user saw
     // before or after it.
@@ -52,7 +51,7 @@ public:
 
     void ColorAdded(ColorId id, const std::string& groupKey) override;
     void ColorsRemoved(const std::string& groupKey, std::vector<RemovedColor> colors) override;
-    void ColorChanges(ColorId id, StoredColor before) override;
+    void ColorChanging(ColorId id, StoredColor before) override;
     void NodeAdded(const LibraryNode& node) override;
     void NodeRemoved(RemovedNode removed) override;
     void NodeRenamed(const std::string& key, const std::string& before) override;
@@ -61,7 +60,7 @@ public:
 
 private:
     struct Step {
-        StepName name;
+        StepLabel label = 0;
         LibraryView before;
         LibraryView after;
         std::vector<std::unique_ptr<LibraryChange>> changes;

@@ -29,7 +29,7 @@ public:
     virtual void ColorAdded(ColorId id, const std::string& groupKey) = 0;
     // colors: in the order of the table.
     virtual void ColorsRemoved(const std::string& groupKey, std::vector<RemovedColor> colors) = 0;
-    virtual void ColorChanges(ColorId id, StoredColor before) = 0; // its names or values
+    virtual void ColorChanging(ColorId id, StoredColor before) = 0; // its names or values
 };
 
 // Hears of every change of the tree but those of what the user looks at.

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,17 +10,18 @@
 // "2DG1" its first group and "2DG1E7" a color of that group.
 namespace LibraryKeys {
 
-inline constexpr char kGroupLetter = 'G';
-inline constexpr char kColorLetter = 'E';
+[[nodiscard]] std::string OfLibrary(std::size_t number);
+[[nodiscard]] std::string OfGroup(const std::string& mainKey, std::size_t number);
+[[nodiscard]] std::string OfColor(const std::string& groupKey, std::uint32_t number);
 
-[[nodiscard]] inline std::string OfLibrary(std::size_t number) {
-    return std::to_string(number) + "D";
-}
-[[nodiscard]] inline std::string OfGroup(const std::string& mainKey, std::size_t number) {
-    return mainKey + kGroupLetter + std::to_string(number);
-}
-[[nodiscard]] inline std::string OfColor(const std::string& groupKey, std::uint32_t number) {
-    return groupKey + kColorLetter + std::to_string(number);
-}
+struct ColorKey {
+    std::string_view group; // key
+    std::uint32_t number = 0;
+};
+// The parts of a key that OfColor could have made; nothing for any other text.
+[[nodiscard]] std::optional<ColorKey> PartsOfColor(std::string_view key);
+
+// What a key has behind the key of what it is in; empty: it is not in there.
+[[nodiscard]] std::string Within(std::string_view outerKey, std::string_view key);
 
 } // namespace LibraryKeys

@@ -26,7 +26,7 @@ bool LibraryReader::ReadHeader(WorkProgress& progress) {
     const auto header = ParseHeader(WithoutFirstCharacter(line));
     if (!header)
         return false;
-    Hold(IsHeaderTakenWhole(line));
+    NoteWhetherHeld(IsHeaderTakenWhole(line));
     progress.Starts(header->count);
     mainKey_ = library_.NewMainNode(header->name);
     library_.Tree().SetFile(mainKey_, fileName_);
@@ -35,20 +35,23 @@ bool LibraryReader::ReadHeader(WorkProgress& progress) {
 }
 
 bool LibraryReader::ReadRecord(std::string_view line, std::string_view separator) {
-    const std::string_view record = LibraryFileFormat::WithoutQuotes(line);
-    if (record.starts_with("G#"))
-        return ReadGroup(line);
-    if (record.starts_with("E#"))
+    using LibraryFileFormat::RecordKind;
+    switch (LibraryFileFormat::KindOf(LibraryFileFormat::WithoutQuotes(line))) {
+    case RecordKind::Color:
         return ReadColor(line, separator);
-    Hold(line.empty());
-    return true;
+    case RecordKind::Group:
+        return ReadGroup(line);
+    default:
+        NoteWhetherHeld(line.empty());
+        return true;
+    }
 }
 
 bool LibraryReader::ReadGroup(std::string_view line) {
     const auto group = LibraryFileFormat::ParseGroup(LibraryFileFormat::WithoutQuotes(line));
     if (!group)
         return false;
-    Hold(LibraryFileFormat::IsGroupTakenWhole(line));
+    NoteWhetherHeld(LibraryFileFormat::IsGroupTakenWhole(line));
     const std::string key = library_.NewGroupNode(mainKey_, group->name);
     // The first group with a key keeps it, as the first match in a list would.
     groups_.try_emplace(group->key, library_.Colors().NumberOfGroup(key));
@@ -66,6 +69,6 @@ bool LibraryReader::ReadColor(std::string_view line, std::string_view separator)
         return false;
     library_.Colors().Append(group->second, colorNumber_, color->name, color->altName,
                              ValuesOf(*color, separator));
-    Hold(IsColorTakenWhole(line, *color, separator));
+    NoteWhetherHeld(IsColorTakenWhole(line, *color, separator));
     return true;
 }

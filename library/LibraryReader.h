@@ -51,7 +51,7 @@ private:
     bool ReadRecord(std::string_view line, std::string_view separator);
     bool ReadGroup(std::string_view line);
     bool ReadColor(std::string_view line, std::string_view separator);
-    void Hold(bool isWhole) noexcept { isHeldWhole_ = isHeldWhole_ && isWhole; }
+    void NoteWhetherHeld(bool isWhole) noexcept { isHeldWhole_ = isHeldWhole_ && isWhole; }
 
     ColorLibrary& library_;
     const AnsiCodePage& codePage_;

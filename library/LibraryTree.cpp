@@ -76,13 +76,13 @@ RemovedNode LibraryTree::TakeOut(const std::string& key) {
 void LibraryTree::PutBack(RemovedNode removed, const std::string& parentKey) {
     const std::string before = removed.node.key;
     LibraryNode& node = removed.node;
-    node.parent = parentKey;
+    const std::string parentBefore = std::exchange(node.parent, parentKey);
     if (node.kind == NodeKind::Group)
-        node.key = parentKey + before.substr(before.find(LibraryKeys::kGroupLetter));
+        node.key = parentKey + LibraryKeys::Within(parentBefore, before);
     else if (Find(node.key))
         node.key = LowestFreeMainKey();
-    if (node.lastColor.starts_with(before))
-        node.lastColor = node.key + node.lastColor.substr(before.size());
+    if (const std::string last = LibraryKeys::Within(before, node.lastColor); !last.empty())
+        node.lastColor = node.key + last;
     node.children.clear();
     std::vector<std::string>& siblings =
         parentKey.empty() ? mainNodes_ : Existing(parentKey).children;
@@ -96,7 +96,7 @@ NodeRef LibraryTree::RefOf(const std::string& key) const {
     const LibraryNode& node = At(key);
     if (node.kind == NodeKind::Library)
         return {node.id};
-    return {At(node.parent).id, key.substr(node.parent.size())};
+    return {At(node.parent).id, LibraryKeys::Within(node.parent, key)};
 }
 
 std::string LibraryTree::KeyOf(const NodeRef& ref) const {

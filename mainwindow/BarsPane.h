@@ -12,7 +12,7 @@ public:
     virtual void SetMenuText(int command, const std::string& text) = 0;
     virtual void SetMenuEnabled(int command, bool enabled) = 0;
     virtual void SetButtonPressed(const std::string& buttonKey, bool pressed) = 0;
-    // What was shown or hidden takes its place with ArrangeBars, once for all.
+    // ArrangeBars is called once after the next three; until then nothing moves.
     virtual void SetButtonVisible(const std::string& buttonKey, bool visible) = 0;
     virtual void SetToolbarVisible(bool visible) = 0;
     virtual void SetStatusBarVisible(bool visible) = 0;

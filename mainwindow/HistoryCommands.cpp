@@ -14,19 +14,19 @@ HistoryCommands::~HistoryCommands() {
 }
 
 void HistoryCommands::mnuEditUndo_Click() {
-    if (parts_.history.NextUndo() == nullptr)
+    const std::optional<StepLabel> step = parts_.history.NextUndo();
+    if (!step)
         return;
-    const StepName step = *parts_.history.NextUndo();
     parts_.panes.Show(parts_.history.Undo());
-    Report(InfoTextNumber::StepUndone, "Rückgängig gemacht: %1", step);
+    Report(InfoTextNumber::StepUndone, "Rückgängig gemacht: %1", *step);
 }
 
 void HistoryCommands::mnuEditRedo_Click() {
-    if (parts_.history.NextRedo() == nullptr)
+    const std::optional<StepLabel> step = parts_.history.NextRedo();
+    if (!step)
         return;
-    const StepName step = *parts_.history.NextRedo();
     parts_.panes.Show(parts_.history.Redo());
-    Report(InfoTextNumber::StepRedone, "Wiederholt: %1", step);
+    Report(InfoTextNumber::StepRedone, "Wiederholt: %1", *step);
 }
 
 void HistoryCommands::ShowEntries() {
@@ -36,22 +36,23 @@ void HistoryCommands::ShowEntries() {
               parts_.history.NextRedo());
 }
 
-void HistoryCommands::ShowEntry(const EntryTexts& entry, const StepName* step) {
+void HistoryCommands::ShowEntry(const EntryTexts& entry, const std::optional<StepLabel>& step) {
     std::string text;
-    if (step != nullptr)
+    if (step)
         text = WithArguments(parts_.texts.GetInfoTextOr(entry.caption, entry.builtInCaption),
                              {NameOf(*step)});
     parts_.bars.SetMenuText(entry.command, text);
-    parts_.bars.SetMenuEnabled(entry.command, step != nullptr);
+    parts_.bars.SetMenuEnabled(entry.command, step.has_value());
 }
 
-void HistoryCommands::Report(std::int32_t textNumber, const char* builtIn, const StepName& step) {
+void HistoryCommands::Report(std::int32_t textNumber, const char* builtIn, StepLabel step) {
     parts_.bars.SetInfoPanelText(
         WithArguments(parts_.texts.GetInfoTextOr(textNumber, builtIn), {NameOf(step)}));
 }
 
-std::string HistoryCommands::NameOf(const StepName& step) const {
-    if (step.command != 0)
-        return PlainCaption(parts_.bars.MenuCaption(step.command));
-    return parts_.texts.GetInfoText(step.textNumber);
+std::string HistoryCommands::NameOf(StepLabel step) const {
+    const StepName name = StepName::Of(step);
+    if (name.command != 0)
+        return PlainCaption(parts_.bars.MenuCaption(name.command));
+    return parts_.texts.GetInfoText(name.textNumber);
 }

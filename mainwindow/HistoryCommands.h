@@ -4,8 +4,10 @@
 #include "library/LibraryHistory.h"
 #include "mainwindow/BarsPane.h"
 #include "mainwindow/LibraryPanes.h"
+#include "mainwindow/StepName.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 // Undo and redo: the entries of the edit menu name the step and are grey when there is none.
@@ -37,9 +39,9 @@ private:
         const char* builtInCaption;
     };
 
-    void ShowEntry(const EntryTexts& entry, const StepName* step);
-    void Report(std::int32_t textNumber, const char* builtIn, const StepName& step);
-    [[nodiscard]] std::string NameOf(const StepName& step) const;
+    void ShowEntry(const EntryTexts& entry, const std::optional<StepLabel>& step);
+    void Report(std::int32_t textNumber, const char* builtIn, StepLabel step);
+    [[nodiscard]] std::string NameOf(StepLabel step) const;
 
     Parts parts_;
 };

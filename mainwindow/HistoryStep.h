@@ -1,18 +1,19 @@
 #pragma once
 
 #include "library/LibraryHistory.h"
-#include "mainwindow/LibraryPanes.h"
+#include "mainwindow/StepName.h"
+#include "mainwindow/ViewedLibraries.h"
 
 // What happens to the libraries while this lives is one step, which can be taken back.
 class HistoryStep {
 public:
-    HistoryStep(LibraryHistory& history, const LibraryPanes& panes, const StepName& name)
-        : history_(history), panes_(panes), name_(name) {
-        history_.BeginStep(panes_.View());
+    HistoryStep(LibraryHistory& history, const ViewedLibraries& viewed, const StepName& name)
+        : history_(history), viewed_(viewed), name_(name) {
+        history_.BeginStep(viewed_.View());
     }
     ~HistoryStep() {
         try {
-            history_.EndStep(name_, panes_.View());
+            history_.EndStep(name_.Label(), viewed_.View());
         } catch (...) { // no memory: better no step than half a one
             history_.Clear();
         }
@@ -22,6 +23,6 @@ public:
 
 private:
     LibraryHistory& history_;
-    const LibraryPanes& panes_;
+    const ViewedLibraries& viewed_;
     StepName name_;
 };

@@ -15,8 +15,7 @@ public:
     // keeps the geometry of its last normal size.
     void Resized() override;
 
-    // The controls take their places anew: the pixels of a twip are others now.  In every window
-    // state.
+    // The screen's resolution changed: all controls are placed again, in every window state.
     void ScaleChanged() override { pane_.ApplyLayout(layout_); }
 
     // The large frame instead of the small swatch, at once and in every window state.

@@ -6,13 +6,14 @@
 #include "mainwindow/ColorList.h"
 #include "mainwindow/ListPane.h"
 #include "mainwindow/TreePane.h"
+#include "mainwindow/ViewedLibraries.h"
 
 #include <optional>
 #include <string>
 
 // Tree, list and editor together: how a selection in one is carried into the others, and how the
 // editor's color gets into the library.
-class LibraryPanes : public TreeEvents, public ListEvents {
+class LibraryPanes : public ViewedLibraries, public TreeEvents, public ListEvents {
 public:
     struct Parts {
         ColorLibrary& library;
@@ -33,7 +34,7 @@ public:
                         const std::optional<std::string>& selectKey = {});
 
     // What the user sees now, and the same shown again as far as it is still there.
-    [[nodiscard]] LibraryView View() const;
+    [[nodiscard]] LibraryView View() const override;
     void Show(const LibraryView& view);
 
     // Loads the list's selected color into the editor; nothing without one.

@@ -7,7 +7,7 @@ std::string PlainCaption(const std::string& caption) {
     std::string words;
     for (std::size_t index = 0; index < caption.size(); ++index) {
         const bool isMark = caption[index] == '&';
-        if (isMark && ++index == caption.size()) // of a doubled one the second stands for itself
+        if (isMark && ++index == caption.size()) // "&&" is one "&" that is shown
             break;
         words += caption[index];
     }

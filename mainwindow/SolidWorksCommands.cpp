@@ -148,7 +148,7 @@ void SolidWorksCommands::ImportStandardColors(std::vector<ColorRecord>& colors,
         return;
     const std::string groupKey = parts_.library.NewGroupNode(
         mainKey, parts_.texts.GetInfoText(InfoTextNumber::StandardColors));
-    tree.SetUnsaved(mainKey); // not when there is no group: then all is as it was
+    tree.SetUnsaved(mainKey); // only now: where the group is refused nothing may change
     tree.Expand(mainKey);
     tree.Select(groupKey);
     if (!colors.empty())

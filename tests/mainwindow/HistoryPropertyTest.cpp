@@ -118,8 +118,8 @@ TEST(HistoryProperty, StepsAfterSomeThatWereTakenBackGoOnFromThere) {
                 user.UndoAndCompare();
             for (unsigned again = choose(4); again > 0 && !user.undone.empty(); --again)
                 user.RedoAndCompare();
-            EXPECT_EQ(user.library.History().NextUndo() == nullptr, user.done.empty());
-            EXPECT_EQ(user.library.History().NextRedo() == nullptr, user.undone.empty());
+            EXPECT_EQ(!user.library.History().NextUndo(), user.done.empty());
+            EXPECT_EQ(!user.library.History().NextRedo(), user.undone.empty());
         }
     }
 }
