@@ -2,6 +2,7 @@
 
 #include "common/MessageText.h"
 #include "platform/BoxOwner.h"
+#include "platform/CentredBox.h"
 #include "platform/DpiScale.h"
 #include "platform/FileDialog.h"
 #include "platform/Fonts.h"
@@ -50,6 +51,7 @@ std::string FittedToScreen(HWND owner, const std::string& prompt) {
 
 Answer Win32Prompts::ShowMessage(const std::string& prompt, int style, const std::string& title) {
     const BoxOwner owner(mainWindow_());
+    const CentredBox centred(owner.Handle());
     return ToAnswer(MessageBoxW(owner.Handle(),
                                 ToUtf16(FittedToScreen(owner.Handle(), prompt)).c_str(),
                                 ToUtf16(title).c_str(), static_cast<UINT>(style)));

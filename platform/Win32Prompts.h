@@ -10,8 +10,8 @@ class Win32Prompts : public Prompts {
 public:
     explicit Win32Prompts(OwnerWindow mainWindow) : mainWindow_(std::move(mainWindow)) {}
 
-    // MessageBoxW with exactly the style; a box that could not be shown counts as cancelled.  A
-    // prompt that the screen has no room for is shown shortened.
+    // MessageBoxW with exactly the style, over its owner; a box that could not be shown counts as
+    // cancelled.  A prompt that the screen has no room for is shown shortened.
     Answer ShowMessage(const std::string& prompt, int style, const std::string& title) override;
 
     std::string AskText(const std::string& prompt, const std::string& title,

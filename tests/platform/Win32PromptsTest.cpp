@@ -1,7 +1,9 @@
 // Rules: Auxiliary windows
 #include "platform/Win32Prompts.h"
 
+#include "platform/DpiScale.h"
 #include "platform/Utf16.h"
+#include "platform/WindowGeometry.h"
 #include "tests/platform/DialogDriver.h"
 #include "tests/platform/MessageWindow.h"
 #include "tests/platform/PollUntil.h"
@@ -17,6 +19,51 @@ int FocusedControl(HWND dialog) {
     info.cbSize = sizeof info;
     GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &info);
     return GetDlgCtrlID(info.hwndFocus);
+}
+
+RECT BoundsOf(HWND window) {
+    RECT bounds{};
+    GetWindowRect(window, &bounds);
+    return bounds;
+}
+
+// A quarter of the screen, counted from its left and top edge: 0 or 1.
+RECT QuarterOfScreen(int column, int row) {
+    const RECT screen = WorkAreaOf(nullptr);
+    const int width = WidthOf(screen) / 2;
+    const int height = HeightOf(screen) / 2;
+    const POINT at{screen.left + column * width, screen.top + row * height};
+    return {at.x, at.y, at.x + width, at.y + height};
+}
+
+// A window that a message box can stand over.
+class SeenWindow {
+public:
+    explicit SeenWindow(const RECT& place)
+        : handle_(CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, place.left, place.top,
+                                  WidthOf(place), HeightOf(place), nullptr, nullptr, nullptr,
+                                  nullptr)) {}
+    SeenWindow(const SeenWindow&) = delete;
+    SeenWindow& operator=(const SeenWindow&) = delete;
+    ~SeenWindow() { DestroyWindow(handle_); }
+
+    [[nodiscard]] HWND Handle() const noexcept { return handle_; }
+
+private:
+    HWND handle_;
+};
+
+// Where a message box appears that the window owns.
+RECT PlaceOfMessage(const SeenWindow& owner) {
+    RECT box{};
+    const DialogDriver driver(L"place", [&](HWND dialog) {
+        EXPECT_TRUE(PollUntil([&] { return FocusedControl(dialog) != 0; }));
+        box = BoundsOf(dialog);
+        Press(dialog, IDOK);
+    });
+    Win32Prompts prompts([&] { return owner.Handle(); });
+    EXPECT_EQ(prompts.ShowMessage("Text", MessageStyle::Information, "place"), Answer::Ok);
+    return box;
 }
 
 class Win32PromptsTest : public testing::Test {
@@ -137,4 +184,54 @@ TEST_F(Win32PromptsTest, MainWindowThatWasDisabledBeforeABoxStaysDisabled) {
     ShowMessage(MessageStyle::Information, IDOK);
     EXPECT_EQ(IsWindowEnabled(window.Handle()), FALSE);
     DestroyWindow(popup);
+}
+
+TEST(PlaceOfAMessage, IsTheMiddleOfItsOwner) {
+    for (const int column : {0, 1})
+        for (const int row : {0, 1}) {
+            const RECT owner = QuarterOfScreen(column, row);
+            const RECT box = PlaceOfMessage(SeenWindow(owner));
+            EXPECT_NEAR(box.left + box.right, owner.left + owner.right, 1);
+            EXPECT_NEAR(box.top + box.bottom, owner.top + owner.bottom, 1);
+        }
+}
+
+TEST(PlaceOfAMessage, IsInsideTheWorkAreaOverAnOwnerAtItsEdge) {
+    const RECT screen = WorkAreaOf(nullptr);
+    const RECT atStart =
+        PlaceOfMessage(SeenWindow({screen.left, screen.top, screen.left + 20, screen.top + 20}));
+    EXPECT_EQ(atStart.left, screen.left);
+    EXPECT_EQ(atStart.top, screen.top);
+    const RECT atEnd = PlaceOfMessage(
+        SeenWindow({screen.right - 20, screen.bottom - 20, screen.right, screen.bottom}));
+    EXPECT_EQ(atEnd.right, screen.right);
+    EXPECT_EQ(atEnd.bottom, screen.bottom);
+}
+
+TEST(PlaceOfAMessage, IsLeftToTheUserOnceItIsShown) {
+    static HWND other;
+    static RECT moved;
+    static RECT found;
+    const SeenWindow owner(QuarterOfScreen(1, 1));
+    const SeenWindow second(QuarterOfScreen(0, 1));
+    other = second.Handle();
+    moved = QuarterOfScreen(0, 0);
+    found = {};
+    // In the box's own thread, which alone can make a window of it active.
+    const UINT_PTR timer = SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR id, DWORD) {
+        const HWND box = FindWindowW(nullptr, L"moved");
+        if (box == nullptr)
+            return;
+        KillTimer(nullptr, id);
+        SetWindowPos(box, nullptr, moved.left, moved.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        SetActiveWindow(other);
+        SetActiveWindow(box);
+        found = BoundsOf(box);
+        Press(box, IDOK);
+    });
+    Win32Prompts prompts([&] { return owner.Handle(); });
+    static_cast<void>(prompts.ShowMessage("Text", MessageStyle::Information, "moved"));
+    KillTimer(nullptr, timer);
+    EXPECT_EQ(found.left, moved.left);
+    EXPECT_EQ(found.top, moved.top);
 }
