@@ -1,7 +1,6 @@
 #include "app/Application.h"
 #include "common/BusyRetry.h"
 #include "mainwindow/frmMain.h"
-#include "platform/BannerPictures.h"
 #include "platform/BusyMessageFilter.h"
 #include "platform/ComApartment.h"
 #include "platform/LastResort.h"
@@ -21,74 +20,111 @@
 #include "platform/Win32TextCollation.h"
 #include "platform/Win32WaitingClock.h"
 #include "support/language/ErrorReporter.h"
+#include "support/windows/BannerPictures.h"
 #include "support/windows/frmAbout.h"
 #include "support/windows/frmProgress.h"
 #include "support/windows/frmTxtView.h"
 
-#include <algorithm>
 #include <chrono>
 #include <windows.h>
 
 namespace {
 
 constexpr const char* kVersion = TNT_VERSION;
-// To make and paint the window takes longer than most of what it could tell of.
+// Shorter work is over before its window could be painted.
 constexpr std::chrono::milliseconds kProgressPatience(1000);
 
-std::vector<bool> AreLinks(const std::vector<std::string>& addresses) {
-    std::vector<bool> links(addresses.size());
-    std::transform(addresses.begin(), addresses.end(), links.begin(),
-                   [](const std::string& address) { return !address.empty(); });
-    return links;
+// What the program asks Windows for, each part made of those before it.
+struct Ports {
+    ComApartment apartment;
+    BusyMessageFilter messageFilter;
+    Win32WaitingClock clock;
+    Win32CalendarClock calendar;
+    BusyRetry retry{clock};
+    RunningObjects automation{retry};
+    Win32AnsiCodePage codePage;
+    Win32TextCollation collation;
+    Win32Files files;
+    Win32PrivateProfile profile;
+    Win32Registry registry{codePage};
+    Win32Shell shell{codePage};
+    Win32EventPump events;
+
+    HWND mainWindow = nullptr; // owns every box, as soon as it is made
+    OwnerWindow owner = [this] { return mainWindow; };
+    Win32Prompts prompts{owner};
+    Win32Clipboard clipboard{owner};
+    clsMultiLanguage language{profile, files, codePage};
+    ErrorReporter errors{prompts, language};
+};
+
+// The windows beside the main one.
+struct AuxiliaryForms {
+    AuxiliaryForms(HWND mainWindow, Ports& ports, const BannerPictures& banners)
+        : about(mainWindow, ports.errors, banners), textViewer(mainWindow, ports.errors, banners),
+          progress(mainWindow, ports.errors, ports.clock, kProgressPatience) {}
+
+    AboutOnDemand about;
+    TextViewerOnDemand textViewer;
+    frmProgress progress;
+};
+
+Application::Platform PlatformOf(Ports& ports) {
+    return {.files = ports.files,
+            .codePage = ports.codePage,
+            .registry = ports.registry,
+            .prompts = ports.prompts,
+            .clipboard = ports.clipboard,
+            .collation = ports.collation,
+            .shell = ports.shell,
+            .events = ports.events,
+            .automation = ports.automation,
+            .retry = ports.retry,
+            .language = ports.language,
+            .errors = ports.errors,
+            .calendar = ports.calendar};
+}
+
+Application::Windows WindowsOf(frmMain& main, AuxiliaryForms& auxiliary) {
+    return {.mainView = main.View(),
+            .mainWindow = main,
+            .mainForm = main,
+            .about = auxiliary.about,
+            .textViewer = auxiliary.textViewer,
+            .progressView = auxiliary.progress,
+            .progressWindow = auxiliary.progress,
+            .progressForm = auxiliary.progress};
+}
+
+void Attach(Application& application, frmMain& main, AuxiliaryForms& auxiliary) {
+    main.Attach(application.MainWindowEvents());
+    auxiliary.about.Attach(application.AboutWindowEvents());
+    auxiliary.textViewer.Attach(application.TextViewerWindowEvents());
+    auxiliary.progress.Attach(application.ProgressWindowEvents());
 }
 
 // Joins the ports, the forms and the program, and runs it.
 int RunProgram() {
-    const ComApartment apartment;
-    const BusyMessageFilter messageFilter;
-    Win32WaitingClock clock;
-    const Win32CalendarClock calendar;
-    BusyRetry retry(clock);
-    RunningObjects automation(retry);
-    const Win32AnsiCodePage codePage;
-    const Win32TextCollation collation;
-    Win32Files files;
-    Win32PrivateProfile profile;
-    Win32Registry registry(codePage);
-    Win32Shell shell(codePage);
-    Win32EventPump events;
-
-    HWND mainWindow = nullptr;
-    const OwnerWindow owner = [&mainWindow] { return mainWindow; };
-    Win32Prompts prompts(owner);
-    Win32Clipboard clipboard(owner);
-    clsMultiLanguage language(profile, files, codePage);
-    ErrorReporter errors(prompts, language);
-
+    Ports ports;
     const std::string programFolder = ProgramFolder();
     const std::string bannerFolder = programFolder + "\\banners";
     BannerPictures banners(bannerFolder);
     const std::vector<std::string> addresses = AddressesOfBanners(
-        files.ReadWhole(bannerFolder + "\\banners.txt").value_or(""), banners.Numbers());
+        ports.files.ReadWhole(bannerFolder + "\\banners.txt").value_or(""), banners.Numbers());
     banners.SetLinks(AreLinks(addresses));
-    frmMain main(errors, banners);
-    mainWindow = main.Handle();
-    AboutOnDemand about(mainWindow, errors, banners);
-    TextViewerOnDemand textViewer(mainWindow, errors, banners);
-    frmProgress progress(mainWindow, errors, clock, kProgressPatience);
+    frmMain main(ports.errors, banners);
+    ports.mainWindow = main.Handle();
+    AuxiliaryForms auxiliary(main.Handle(), ports, banners);
 
-    Application application(
-        {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
-         language, errors, calendar},
-        {main.View(), main, main, about, textViewer, progress, progress, progress},
-        {programFolder, kVersion, addresses, FolderForCodePage(programFolder, codePage)});
+    Application application(PlatformOf(ports), WindowsOf(main, auxiliary),
+                            {.programFolder = programFolder,
+                             .version = kVersion,
+                             .bannerAddresses = addresses,
+                             .languageFolder = FolderForCodePage(programFolder, ports.codePage)});
     // The application goes first, and the forms after it: the main window still gets messages then,
     // such as the focus from a text viewer that is destroyed.
     const SilenceAtScopeEnd silence(main);
-    main.Attach(application.MainWindowEvents());
-    about.Attach(application.AboutWindowEvents());
-    textViewer.Attach(application.TextViewerWindowEvents());
-    progress.Attach(application.ProgressWindowEvents());
+    Attach(application, main, auxiliary);
     application.Start();
     return RunMessageLoop();
 }

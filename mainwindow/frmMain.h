@@ -7,7 +7,6 @@
 #include "mainwindow/panes/MainEditor.h"
 #include "mainwindow/panes/MainList.h"
 #include "mainwindow/panes/MainTree.h"
-#include "platform/BannerPictures.h"
 #include "platform/controls/DesignComponent.h"
 #include "platform/controls/HiddenCaption.h"
 #include "platform/controls/ListView.h"
@@ -20,6 +19,7 @@
 #include "platform/Form.h"
 #include "platform/Shortcuts.h"
 #include "platform/WaitCursor.h"
+#include "support/windows/BannerPictures.h"
 
 #include <array>
 #include <optional>

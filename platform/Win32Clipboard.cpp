@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr std::size_t kLargestText = 1U << 24U; // bytes; a color's line has about a hundred
+constexpr std::size_t kLargestText = 1U << 24U; // bytes; a longer text counts as none
 constexpr int kOpenAttempts = 10;
 constexpr DWORD kPauseMilliseconds = 20;
 

@@ -51,7 +51,9 @@ CLOSED_HEADERS = {
 SHARED_HEADERS = ("resources/controls.h",)
 
 WINDOWS_HALF = re.compile(
-    r"platform/|mainwindow/(frm|panes/)|support/windows/frm(About|TxtView|Progress)|app/main\.cpp$|standin/com/|"
+    r"platform/|mainwindow/(frm|panes/)|"
+    r"support/windows/(frm(About|TxtView|Progress)|BannerPictures\.|FormOnDemand\.)|"
+    r"app/main\.cpp$|standin/com/|"
     r"tests/(platform|ui|e2e|faults)/|tests/bench/(Groups|Start|Walk|Sort)Bench\.cpp$|"
     r"tests/bench/library/(BenchPlatformWindows|HeapUse)\.cpp$|resources/")
 

@@ -4,6 +4,8 @@
 #include "common/RuntimeError.h"
 #include "common/Text.h"
 
+#include <algorithm>
+
 namespace {
 
 int NumberOrFirst(const std::string& text) {
@@ -35,6 +37,13 @@ std::vector<std::string> AddressesOfBanners(const std::string& lines,
         ofPictures.push_back(line < addresses.size() ? WithoutBlanksAround(addresses[line]) : "");
     }
     return ofPictures;
+}
+
+std::vector<bool> AreLinks(const std::vector<std::string>& addresses) {
+    std::vector<bool> links(addresses.size());
+    std::transform(addresses.begin(), addresses.end(), links.begin(),
+                   [](const std::string& address) { return !address.empty(); });
+    return links;
 }
 
 void Banner::Start(const std::string& storedIndex) {

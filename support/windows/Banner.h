@@ -14,6 +14,9 @@
 [[nodiscard]] std::vector<std::string> AddressesOfBanners(const std::string& lines,
                                                           const std::vector<int>& numbers);
 
+// Which pictures a click opens something for: those with an address, in their order.
+[[nodiscard]] std::vector<bool> AreLinks(const std::vector<std::string>& addresses);
+
 // One picture at a time out of a list, each with the web address that a click on it opens, if it
 // has one.
 class Banner : public BannerEvents {

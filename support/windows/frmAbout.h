@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/BannerPictures.h"
 #include "platform/controls/CommandButton.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/PictureBox.h"
 #include "platform/Form.h"
 #include "support/windows/AboutView.h"
-#include "platform/FormOnDemand.h"
+#include "support/windows/BannerPictures.h"
+#include "support/windows/FormOnDemand.h"
 
 // The About window: title, version, two links, the way to the system information, the banner.
 class frmAbout : public FormOf<AboutView> {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/BannerPictures.h"
 #include "platform/controls/ComboBox.h"
 #include "platform/controls/CommandButton.h"
 #include "platform/controls/PictureBox.h"
 #include "platform/controls/RichEdit.h"
 #include "platform/Form.h"
-#include "platform/FormOnDemand.h"
+#include "support/windows/BannerPictures.h"
+#include "support/windows/FormOnDemand.h"
 #include "support/windows/TextViewerView.h"
 
 // The text viewer: which text, the text, and the button that closes the window.

@@ -23,7 +23,7 @@ class WindowsHeaders(unittest.TestCase):
 
     def test_are_welcome_in_the_windows_half(self):
         for path in ("platform/Window.cpp", "mainwindow/frmMain.cpp", "support/windows/frmAbout.h",
-                     "app/main.cpp", "standin/com/Server.cpp", "tests/ui/FormTest.cpp",
+                     "support/windows/BannerPictures.cpp", "support/windows/FormOnDemand.h", "app/main.cpp", "standin/com/Server.cpp", "tests/ui/FormTest.cpp",
                      "resources/tnt4swx.rc"):
             with self.subTest(path):
                 self.assertEqual(faults(path, "#include <windows.h>"), [])

@@ -101,7 +101,7 @@ class Banners(unittest.TestCase):
         for source, constant, said in (
                 ("app/main.cpp", r'"\\\\banners"', "folder `banners`"),
                 ("app/main.cpp", r'"\\\\banners\.txt"', "`banners.txt`"),
-                ("platform/BannerPictures.cpp", r'HasExtension\(.*"\.bmp"\)', "(`.bmp`)"),
+                ("support/windows/BannerPictures.cpp", r'HasExtension\(.*"\.bmp"\)', "(`.bmp`)"),
                 ("mainwindow/frmMain.cpp", r"kBannerInterval = 5000; // milliseconds",
                  "every five seconds")):
             with self.subTest(said):

@@ -329,6 +329,11 @@ TEST(Banner, PictureHasTheLineOfItsNumberAsItsAddress) {
     EXPECT_EQ(AddressesOfBanners("\xEF\xBB\xBF" + lines, {1}), Addresses{"a"}) << "of an editor";
 }
 
+TEST(Banner, PicturesWithAnAddressAreLinks) {
+    EXPECT_EQ(AreLinks({"a", "", "c"}), (std::vector<bool>{true, false, true}));
+    EXPECT_TRUE(AreLinks({}).empty());
+}
+
 TEST(Banner, PictureWithoutAnAddressIsShownAndIsNoLink) {
     FakeShell shell;
     const modinternet links(shell);

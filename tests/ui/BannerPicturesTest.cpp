@@ -1,5 +1,5 @@
 // Rules: Auxiliary windows
-#include "platform/BannerPictures.h"
+#include "support/windows/BannerPictures.h"
 
 #include "platform/PlatformPath.h"
 #include "tests/platform/ScratchFolder.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/BannerPictures.h"
 #include "platform/Form.h"
+#include "support/windows/BannerPictures.h"
 
 #include <memory>
 

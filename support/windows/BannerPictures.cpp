@@ -1,4 +1,4 @@
-#include "platform/BannerPictures.h"
+#include "support/windows/BannerPictures.h"
 
 #include "common/FileNames.h"
 #include "platform/PlatformPath.h"
