@@ -114,14 +114,28 @@ MessageResult Form::OnMessage(const WindowMessage& message) {
     case WM_NOTIFY:
         return OfferNotification(message);
     case WM_HSCROLL:
-        if (Control* control = FindControl(reinterpret_cast<HWND>(message.lParam)))
-            return control->OnScroll(LOWORD(message.wParam));
-        return {};
+        return OfferScroll(message);
     case WM_CTLCOLORSTATIC:
         return OfferColor(message);
     case WM_CLOSE:
         OnCloseBox();
         return 0;
+    case WM_SETFOCUS:
+        RestoreFocus();
+        return 0;
+    case WM_SYSCOMMAND:
+        return IsRefused(message.wParam) ? MessageResult(0) : MessageResult();
+    case DM_GETDEFID: {
+        const int button = ButtonForEnter(defaultButton_);
+        return button != 0 ? MAKELRESULT(button, DC_HASDEFID) : 0;
+    }
+    default:
+        return OnAppearanceMessage(message);
+    }
+}
+
+MessageResult Form::OnAppearanceMessage(const WindowMessage& message) {
+    switch (message.id) {
     case WM_DPICHANGED:
         ChangeScale(LOWORD(message.wParam), reinterpret_cast<const RECT*>(message.lParam));
         return 0;
@@ -137,19 +151,10 @@ MessageResult Form::OnMessage(const WindowMessage& message) {
     case WM_GETMINMAXINFO:
         LimitSize(*reinterpret_cast<MINMAXINFO*>(message.lParam));
         return 0;
-    case WM_SETFOCUS:
-        RestoreFocus();
-        return 0;
     case WM_SIZE:
         if (HasOneSize()) // another one was given to it from outside, by a window manager
             RequestLayout();
         return {};
-    case WM_SYSCOMMAND:
-        return IsRefused(message.wParam) ? MessageResult(0) : MessageResult();
-    case DM_GETDEFID: {
-        const int button = ButtonForEnter(defaultButton_);
-        return button != 0 ? MAKELRESULT(button, DC_HASDEFID) : 0;
-    }
     case kLayoutMessage:
         if (layoutRequested_)
             LayOut();
@@ -192,6 +197,12 @@ void Form::GiveTip(NMTTDISPINFOW& request) {
     const Control* control = FindControl(reinterpret_cast<HWND>(request.hdr.idFrom));
     tipText_ = control != nullptr ? ToUtf16(control->TipText()) : std::wstring();
     request.lpszText = tipText_.data();
+}
+
+MessageResult Form::OfferScroll(const WindowMessage& message) {
+    if (Control* control = FindControl(reinterpret_cast<HWND>(message.lParam)))
+        return control->OnScroll(LOWORD(message.wParam));
+    return {};
 }
 
 MessageResult Form::OfferColor(const WindowMessage& message) {

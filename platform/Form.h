@@ -111,8 +111,10 @@ private:
                                             LPARAM lParam) noexcept;
     [[nodiscard]] LRESULT Answer(const WindowMessage& message) noexcept;
     [[nodiscard]] Control* FindControl(HWND window) const noexcept;
+    MessageResult OnAppearanceMessage(const WindowMessage& message); // scale, colors, size
     MessageResult OfferCommand(const WindowMessage& message);
     MessageResult OfferNotification(const WindowMessage& message);
+    MessageResult OfferScroll(const WindowMessage& message);
     MessageResult OfferColor(const WindowMessage& message);
     void GiveTip(NMTTDISPINFOW& request);
     void ChangeScale(unsigned dpi, const RECT* suggested);
