@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
-"""Checks the language files: that both say everything the program asks for, in the same places.
+"""Checks the language files: that all say everything the program asks for, in the same places.
 
   - Windows-1252, CR LF line ends, values of at most 255 bytes, no key twice or without a value
-  - the same sections and keys in both languages
+  - the same sections and keys in every language
   - a caption for every menu entry and every named key, a tool tip for every toolbar button, a text
     for every entry of a button's menu, and every numbered message text, as the program's own tables
     name them
   - access keys that differ within each menu
-  - the arguments %1, %2 ... of a message text in both languages, and the program's built-in words of
+  - the arguments %1, %2 ... of a message text in every language, and the program's built-in words of
     an error as those of the English file; no error that brings words of its own
 
   tools/check-language.py        names each fault, and fails
@@ -17,8 +17,9 @@ import pathlib
 import re
 import sys
 
+from language_codes import language_codes
+
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-FILES = tuple(ROOT / "resources" / "language" / f"tntlng_{code}.ini" for code in ("de", "us"))
 LONGEST_VALUE = 255
 
 MENU_ROW = re.compile(r'\b(Title|Submenu|Entry|SubmenuEntry|Reporting|Operation|Separator)\('
@@ -34,6 +35,10 @@ ROOMS = ("app", "common", "library", "mainwindow", "platform", "solidworks", "su
 LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
 ARGUMENT = re.compile(r"%[1-9]")
 ACCESS_KEY = re.compile(r"&([^&])")
+
+
+def language_file(code):
+    return ROOT / "resources" / "language" / f"tntlng_{code}.ini"
 
 
 def parse(content):
@@ -122,10 +127,16 @@ def own_words_faults(name, source):
         yield f"{name}:{line}: words of an error that no language file has"
 
 
-def argument_faults(german, english):
-    for key in sorted(german.keys() & english.keys()):
-        if sorted(ARGUMENT.findall(german[key])) != sorted(ARGUMENT.findall(english[key])):
-            yield f"{key[0]} {key[1]}: other arguments in the other language"
+def key_faults(code, entries, english):
+    for section, key in sorted(entries.keys() ^ english.keys()):
+        where = code if (section, key) in entries else "English"
+        yield f"{section} {key}: only in one language ({where})"
+
+
+def argument_faults(code, entries, english):
+    for key in sorted(entries.keys() & english.keys()):
+        if sorted(ARGUMENT.findall(entries[key])) != sorted(ARGUMENT.findall(english[key])):
+            yield f"{key[0]} {key[1]}: other arguments than in English ({code})"
 
 
 def faults_of(content, table, info_numbers):
@@ -139,15 +150,17 @@ def main():
     table = "".join((ROOT / "mainwindow" / f"CommandTable.{ending}").read_text(encoding="utf-8")
                     for ending in ("h", "cpp"))
     info_numbers = (ROOT / "common" / "InfoTextNumber.h").read_text(encoding="utf-8")
-    faults = [f"{file.name}: {fault}" for file in FILES
-              for fault in faults_of(file.read_bytes(), table, info_numbers)]
+    codes = language_codes()
+    contents = {code: language_file(code).read_bytes() for code in codes.values()}
+    faults = [f"{language_file(code).name}: {fault}" for code, content in contents.items()
+              for fault in faults_of(content, table, info_numbers)]
     error_texts = (ROOT / "common" / "ErrorText.h").read_text(encoding="utf-8")
-    german, english = (parse(file.read_bytes())[0] for file in FILES)
-    faults += [f"{section} {key}: only in one language"
-               for section, key in german.keys() ^ english.keys()]
+    english = parse(contents.pop(codes["English"]))[0]
+    for code, content in contents.items():
+        entries = parse(content)[0]
+        faults += [*key_faults(code, entries, english), *argument_faults(code, entries, english)]
     faults += list(unread_tables(table))
     faults += list(built_in_faults(english, error_texts, info_numbers))
-    faults += list(argument_faults(german, english))
     for source in sorted(file for room in ROOMS for file in (ROOT / room).rglob("*.*")
                          if file.suffix in (".cpp", ".h")):
         faults += own_words_faults(source.relative_to(ROOT), source.read_text(encoding="utf-8"))

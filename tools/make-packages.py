@@ -23,6 +23,7 @@ import time
 import zipfile
 
 from contents_list import contents_list, linked_libraries
+from language_codes import language_codes
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 NAME = "tnt4swx"
@@ -118,7 +119,7 @@ def make_installer(program, stage, installer):
     shutil.copytree(program, stage)
     (stage / "lists.nsh").write_text(installer_lists(names), encoding="utf-8")
     shutil.copyfile(ROOT / "resources" / "icons" / "tnt4swx.ico", stage / "tnt4swx.ico")
-    for language in ("de", "us"):
+    for language in language_codes().values():
         terms = ROOT / "resources" / "documents" / f"lizenz_{language}.txt"
         (stage / f"terms_{language}.txt").write_bytes(windows_text(terms, "cp1252"))
     subprocess.run(["makensis", "-WX", "-V2", "-INPUTCHARSET", "UTF8", f"-DVERSION={version()}",

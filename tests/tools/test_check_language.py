@@ -5,6 +5,7 @@ import unittest
 import tool
 
 check = tool.load("check-language")
+language_codes = tool.load("language_codes")
 
 TABLE = """
     Title(IDM_mnuFile, "mnuFile", "Datei"),
@@ -75,10 +76,18 @@ class LanguageFile(unittest.TestCase):
         self.assertEqual(list(check.built_in_faults(entries, words, number)),
                          ["Info Text.110: not the built-in words of Long"])
 
-    def test_with_other_arguments_in_the_other_language_is_faulty(self):
+    def test_with_other_arguments_than_the_english_one_is_faulty(self):
         key = ("Info", "Text.110")
-        self.assertEqual(list(check.argument_faults({key: "%2 %1"}, {key: "%1 %2"})), [])
-        self.assertEqual(len(list(check.argument_faults({key: "%1"}, {key: "%1 %2"}))), 1)
+        self.assertEqual(list(check.argument_faults("de", {key: "%2 %1"}, {key: "%1 %2"})), [])
+        self.assertEqual(list(check.argument_faults("de", {key: "%1"}, {key: "%1 %2"})),
+                         ["Info Text.110: other arguments than in English (de)"])
+
+    def test_with_other_keys_than_the_english_one_is_faulty(self):
+        one, other = {("Info", "Text.1"): "a"}, {("Info", "Text.2"): "b"}
+        self.assertEqual(list(check.key_faults("de", one, one)), [])
+        self.assertEqual(list(check.key_faults("de", one, other)),
+                         ["Info Text.1: only in one language (de)",
+                          "Info Text.2: only in one language (English)"])
 
     def test_has_all_words_of_errors(self):
         good = """throw RuntimeError(ErrorNumber::Automation, SystemMessage(result));
@@ -89,6 +98,23 @@ class LanguageFile(unittest.TestCase):
             with self.subTest(bad):
                 self.assertEqual(list(check.own_words_faults("x.cpp", bad)),
                                  ["x.cpp:1: words of an error that no language file has"])
+
+
+class Languages(unittest.TestCase):
+    def test_are_those_of_the_programs_table(self):
+        table = """inline constexpr std::array kLanguages = {
+            Language{LanguageNumber::German, "de", IDM_mnuOptionsLngGerman},
+            Language{
+                LanguageNumber::French, "fr", IDM_mnuOptionsLngFrench},
+        };"""
+        self.assertEqual(language_codes.codes_in(table), {"German": "de", "French": "fr"})
+        with self.assertRaises(ValueError):
+            language_codes.codes_in("std::array kLanguages = {};")
+
+    def test_have_the_language_files_and_no_others(self):
+        files = {file.name for file in (tool.ROOT / "resources" / "language").glob("*.ini")}
+        codes = language_codes.language_codes().values()
+        self.assertEqual(files, {check.language_file(code).name for code in codes})
 
 
 if __name__ == "__main__":
