@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <functional>
 #include <map>
 #include <utility>
 
@@ -60,29 +61,55 @@ bool MenuIsOpen() {
     return (info.flags & GUI_INMENUMODE) != 0;
 }
 
-TEST_F(MainMenu, EndOfTheProgramLeavesAnOpenMenu) {
-    static frmMain* ending;
+// What became of a menu.
+struct MenuStay {
+    bool wasOpen = false;
+    bool wasLate = false; // it had to be closed, because the step did not
+};
+
+// Opens the menu of a control and takes a step, once, while it is open.
+MenuStay TakeStepInMenu(HWND control, std::function<void()> stepToTake) {
+    static std::function<void()> step;
     static std::chrono::steady_clock::time_point deadline;
-    static bool isEnded;
-    static bool isLate;
-    ending = &form;
+    static MenuStay stay;
+    step = std::move(stepToTake);
     deadline = std::chrono::steady_clock::now() + kPatience;
-    isEnded = isLate = false;
-    form.ShowWindow();
+    stay = {};
     const UINT_PTR timer = SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) {
-        if (MenuIsOpen() && !std::exchange(isEnded, true))
-            ending->EndProgram();
-        isLate = std::chrono::steady_clock::now() > deadline;
-        if (isLate)
-            EndMenu(); // which the program should have done
+        if (MenuIsOpen() && !std::exchange(stay.wasOpen, true))
+            step();
+        stay.wasLate = std::chrono::steady_clock::now() > deadline;
+        if (stay.wasLate)
+            EndMenu();
     });
-    SendMessageW(Child(IDC_tvColor), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Child(IDC_tvColor)),
-                 -1);
+    SendMessageW(control, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(control), -1);
     KillTimer(nullptr, timer);
-    EXPECT_TRUE(isEnded);
-    EXPECT_FALSE(isLate);
+    return stay;
+}
+
+TEST_F(MainMenu, EndOfTheProgramLeavesAnOpenMenu) {
+    form.ShowWindow();
+    const MenuStay stay = TakeStepInMenu(Child(IDC_tvColor), [this] { form.EndProgram(); });
+    EXPECT_TRUE(stay.wasOpen);
+    EXPECT_FALSE(stay.wasLate);
     MSG quit{};
     EXPECT_NE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE), FALSE);
+}
+
+TEST_F(MainMenu, EndOfTheSessionAndTheCloseBoxAreReportedWhileAMenuIsOpen) {
+    form.ShowWindow();
+    std::vector<std::string> reported;
+    const MenuStay stay = TakeStepInMenu(Child(IDC_tvColor), [&] {
+        events.lines.clear();
+        SendMessageW(form.Handle(), WM_ENDSESSION, FALSE, 0); // another program has refused
+        SendMessageW(form.Handle(), WM_CLOSE, 0, 0);
+        SendMessageW(form.Handle(), WM_ENDSESSION, TRUE, 0);
+        reported = events.lines;
+        EndMenu();
+    });
+    EXPECT_TRUE(stay.wasOpen);
+    EXPECT_FALSE(stay.wasLate);
+    EXPECT_EQ(reported, (std::vector<std::string>{"closing", "session ending"}));
 }
 
 TEST_F(MainMenu, UnknownNumberRunsNothing) {
@@ -102,21 +129,33 @@ TEST_F(MainMenu, CaptionIsShownAtOnceAndKeepsTheShortcut) {
     EXPECT_EQ(MenuText(bar, IDM_mnuHlpAbout), "&About ...");
 }
 
+std::string GermanKeyName(int key) {
+    if (key == VK_DELETE)
+        return "Entf";
+    if (key >= VK_F1 && key <= VK_F12)
+        return "F" + std::to_string(key - VK_F1 + 1);
+    return key >= 'A' && key <= 'Z' ? std::string(1, static_cast<char>(key))
+                                    : "a key that has no German name here";
+}
+
+std::string GermanName(const Shortcut& shortcut) {
+    return (shortcut.ctrl ? "Strg+" : "") + std::string(shortcut.shift ? "Umschalt+" : "") +
+           GermanKeyName(shortcut.key);
+}
+
 TEST_F(MainMenu, EveryShortcutIsShownBuiltInInGerman) {
     const HMENU bar = GetMenu(form.Handle());
-    std::map<int, std::string> found;
+    std::map<std::string, std::string> found;
+    std::map<std::string, std::string> expected;
     for (const MenuRow& row : MenuRows()) {
         const std::string text = MenuText(bar, row.command);
         if (text.find('\t') != std::string::npos)
-            found[row.command] = text.substr(text.find('\t') + 1);
+            found[row.name] = text.substr(text.find('\t') + 1);
+        if (row.shortcut.key != 0)
+            expected[row.name] = GermanName(row.shortcut);
     }
-    const std::map<int, std::string> expected = {
-        {IDM_mnuFileNew, "Strg+N"},     {IDM_mnuFileOpen, "Strg+O"},
-        {IDM_mnuFileSave, "Strg+S"},    {IDM_mnuFileSaveAs, "Strg+Umschalt+S"},
-        {IDM_mnuColorDelColor, "Entf"}, {IDM_mnuColorCopy, "Strg+C"},
-        {IDM_mnuColorCut, "Strg+X"},    {IDM_mnuColorPaste, "Strg+V"},
-        {IDM_mnuHlpShowReadme, "F1"}};
     EXPECT_EQ(found, expected);
+    EXPECT_EQ(found["mnuFileSaveAs"], "Strg+Umschalt+S");
 }
 
 TEST_F(MainMenu, NameOfAKeyIsShownAtOnceInEveryShortcutWithIt) {
