@@ -6,7 +6,7 @@
 // The user's options with their defaults.  They are written to the registry only by the
 // save-settings command.
 struct Settings {
-    std::int16_t language = 1; // 0 German, 1 English; index into the language code list
+    std::int16_t language = 1; // number of a row in Languages.h
     bool alwaysOnTop = true;
     bool confirmDel = true;    // ask before a library, group or color is deleted
     bool createBackups = true; // keep a ".bak" copy when a library file is overwritten

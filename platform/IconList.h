@@ -15,8 +15,8 @@ class IconList : public DesignComponent {
 public:
     IconList(std::string name, std::vector<std::string> keys);
 
-    // Pixels.  A new handle when the size is new; the one before stays good until the next change,
-    // for the controls that share the list take the new one one after the other.
+    // Pixels.  A new handle when the size is new.  The old handle lives until the next change,
+    // because several controls share the list and switch one after another.
     void Fit(int size);
     [[nodiscard]] HIMAGELIST Handle() const noexcept { return images_.Get(); }
     [[nodiscard]] int IndexOf(const std::string& key) const noexcept; // -1: there is none

@@ -19,7 +19,7 @@ struct OwnWords {
     ErrorText text;
 };
 
-// Not every platform has words for these.
+// Wine has no words for these.
 constexpr std::array kOwnWords = {
     OwnWords{RPC_E_CALL_REJECTED, ErrorTexts::ServerRejectsCall},
     OwnWords{RPC_E_SERVERCALL_RETRYLATER, ErrorTexts::ServerRejectsCall},

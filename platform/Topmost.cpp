@@ -24,7 +24,7 @@ void Order(HWND window, HWND after) {
     SetWindowPos(window, after, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 }
 
-// Where a window cannot pass the ones that it owns, they are let go for the moment.
+// Under Wine a window cannot pass the ones that it owns: they are let go for the moment.
 void OrderWithoutOwned(HWND window) {
     Owned owned{window, {}};
     EnumThreadWindows(GetCurrentThreadId(), CollectOwned, reinterpret_cast<LPARAM>(&owned));

@@ -17,7 +17,7 @@ struct FindHandleTraits {
 };
 using FindHandle = UniqueHandle<FindHandleTraits>;
 
-constexpr LONGLONG kLargestFile = 1LL << 30;    // a library of 100,000 colors has about 10 MB
+constexpr LONGLONG kLargestFile = 1LL << 30;    // a longer file is not read
 constexpr std::size_t kLargestRead = 1U << 24U; // one call counts in 32 bits
 
 bool IsNormalFile(const WIN32_FIND_DATAW& found) {
@@ -32,7 +32,7 @@ bool IsReadOnly(const std::string& path) {
 }
 
 bool Move(const std::string& from, const std::string& to, DWORD flags) {
-    // Not every platform minds.
+    // Wine would move them.
     if (IsReadOnly(from) || IsReadOnly(to))
         return false;
     return MoveFileExW(ToPlatformPath(from).c_str(), ToPlatformPath(to).c_str(), flags) != FALSE;

@@ -8,8 +8,8 @@ class ProgressView {
 public:
     virtual ~ProgressView() = default;
 
-    // Shows the window with its label, bar range minimum..maximum and bar value at the minimum; it
-    // may stay away from the screen until the operation has taken a noticeable time.
+    // Starts with a label and a bar from minimum to maximum that stands at the minimum.  The window
+    // may appear only when the operation has run for a while; one that is over sooner shows none.
     virtual void ShowProgress(const std::string& label, std::int32_t minimum,
                               std::int32_t maximum) = 0;
 

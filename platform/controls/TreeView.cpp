@@ -307,7 +307,7 @@ MessageResult TreeView::OnMessage(const WindowMessage& message) {
         if (message.lParam == -1) // the keyboard's menu key
             OpenContextMenu(message);
         return 0;
-    case WM_SYSKEYDOWN: // not every platform's tree makes the message above of it
+    case WM_SYSKEYDOWN: // Wine's tree does not make the message above of it
         if (message.wParam != VK_F10 || GetKeyState(VK_SHIFT) >= 0)
             return {};
         SendMessageW(message.window, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(message.window), -1);

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The user's own classes need no rights; not every system looks there.
+// The user's own classes need no rights; Wine's look-up by name (CLSIDFromProgID) ignores them.
 const std::array<ClassRegistration::Root, 2> kRoots{{
     {HKEY_CURRENT_USER, L"Software\\Classes\\"},
     {HKEY_CLASSES_ROOT, L""},

@@ -17,8 +17,8 @@ public:
                  std::vector<LocalizableForm*> forms)
         : language_(language), programFolder_(std::move(programFolder)), forms_(std::move(forms)) {}
 
-    // number: 0 or 1; throws RuntimeError SubscriptOutOfRange for any other.  Without the file
-    // every text stays as it is.
+    // number: of a row in Languages.h; throws RuntimeError SubscriptOutOfRange for any other.
+    // Without the file every text stays as it is.
     void Choose(std::int32_t number);
 
 private:

@@ -144,7 +144,7 @@ std::string clsMultiLanguage::ReadOr(const std::string& section, const std::stri
                                      const std::string& current) {
     const std::string read = INIGetSettingString(section, key, iniFile_, current);
     const std::string fallback = AsGivenBack(codePage_.Encode(current).bytes);
-    // Some platforms take quotes off a fallback, as off a value of the file.
+    // Wine takes quotes off a fallback, as off a value of the file.
     const bool isMissing =
         read == codePage_.Decode(fallback) || read == codePage_.Decode(WithoutQuotes(fallback));
     return isMissing ? current : read;
