@@ -192,37 +192,58 @@ void ColorTable::Exchange(ColorId id, StoredColor& other) {
 }
 
 void ColorTable::SetNames(int index, const std::string& name) {
-    TellChange(IdAt(index));
     StoredColor& color = ColorAt(index);
+    if (color.name.View() == name && color.AltName() == name)
+        return;
+    TellChange(IdAt(index));
     color.name = CompactText(name);
     color.SetAltName(name);
 }
 
 void ColorTable::SetName(int index, const std::string& name) {
-    TellChange(IdAt(index));
     StoredColor& color = ColorAt(index);
+    if (color.name.View() == name)
+        return;
+    TellChange(IdAt(index));
     const std::string altName(color.AltName());
     color.name = CompactText(name);
     color.SetAltName(altName);
 }
 
 void ColorTable::SetValues(int index, const ColorValueArray& values) {
+    StoredColor& color = ColorAt(index);
+    if (color.values == values)
+        return;
     TellChange(IdAt(index));
-    ColorAt(index).values = values;
+    color.values = values;
 }
 
 void ColorTable::Erase(int index) {
     const ColorId id = IdAt(index);
-    const std::string groupKey = groups_[store_.At(id).group].key;
-    std::vector<RemovedColor> removed = TakeOut({id});
+    std::vector<RemovedColors> removed = TakeOut({{id}});
     if (journal_)
-        journal_->ColorsRemoved(groupKey, std::move(removed));
+        journal_->ColorsRemoved(std::move(removed));
 }
 
-std::vector<RemovedColor> ColorTable::TakeOut(const std::vector<ColorId>& ids) {
+std::vector<RemovedColors>
+ColorTable::TakeOut(const std::vector<std::vector<ColorId>>& idsOfGroups) {
+    std::vector<ColorId> leaving;
+    for (const std::vector<ColorId>& ids : idsOfGroups)
+        leaving.insert(leaving.end(), ids.begin(), ids.end());
+    LeaveOrder(std::move(leaving));
+    std::vector<RemovedColors> removed;
+    removed.reserve(idsOfGroups.size());
+    for (const std::vector<ColorId>& ids : idsOfGroups) {
+        Group& group = groups_[store_.At(ids.front()).group];
+        removed.push_back({group.key, LeaveGroup(group, ids)});
+    }
+    return removed;
+}
+
+// One pass over the table for all groups.
+void ColorTable::LeaveOrder(std::vector<ColorId> ids) {
+    std::ranges::sort(ids);
     EraseSorted(order_, ids);
-    return ids.empty() ? std::vector<RemovedColor>()
-                       : LeaveGroup(groups_[store_.At(ids.front()).group], ids);
 }
 
 std::vector<RemovedColor> ColorTable::LeaveGroup(Group& group, const std::vector<ColorId>& ids) {
@@ -237,7 +258,18 @@ std::vector<RemovedColor> ColorTable::LeaveGroup(Group& group, const std::vector
     return removed;
 }
 
-void ColorTable::PutBack(const std::string& groupKey, std::vector<RemovedColor> colors) {
+void ColorTable::PutBack(std::vector<RemovedColors> coming) {
+    std::vector<ColorId> ids;
+    for (const RemovedColors& group : coming)
+        for (const RemovedColor& removed : group.colors)
+            ids.push_back(removed.id);
+    std::ranges::sort(ids);
+    for (auto& [groupKey, colors] : coming)
+        PutIntoGroup(groupKey, std::move(colors));
+    MergeSorted(order_, ids);
+}
+
+void ColorTable::PutIntoGroup(const std::string& groupKey, std::vector<RemovedColor> colors) {
     const GroupNumber number = NumberOfGroup(groupKey);
     Group& group = groups_[number];
     std::vector<ColorId> ids;
@@ -252,7 +284,6 @@ void ColorTable::PutBack(const std::string& groupKey, std::vector<RemovedColor> 
         store_.PutBack(id, std::move(color));
     }
     std::ranges::sort(numbered);
-    MergeSorted(order_, ids);
     MergeSorted(group.ids, ids);
     MergeSorted(group.numbered, numbered);
 }
@@ -277,23 +308,14 @@ void ColorTable::ForgetOtherKey(ColorId id, const std::string& key) {
         otherKeys_.erase(sameKey);
 }
 
-// One pass over the table for all groups.
 void ColorTable::EraseGroups(const std::vector<std::string>& groupKeys) {
-    std::vector<ColorId> leaving;
-    for (const std::string& key : groupKeys) {
-        const std::vector<ColorId>& ids = IdsOfGroup(key);
-        leaving.insert(leaving.end(), ids.begin(), ids.end());
-    }
-    std::ranges::sort(leaving);
-    EraseSorted(order_, leaving);
-    for (const std::string& key : groupKeys) {
-        Group& group = groups_[NumberOfGroup(key)];
-        const std::vector<ColorId> ids = group.ids;
-        std::vector<RemovedColor> removed = LeaveGroup(group, ids);
-        group.numbered = {};
-        if (journal_ && !removed.empty())
-            journal_->ColorsRemoved(key, std::move(removed));
-    }
+    std::vector<std::vector<ColorId>> leaving;
+    for (const std::string& key : groupKeys)
+        if (const std::vector<ColorId>& ids = IdsOfGroup(key); !ids.empty())
+            leaving.push_back(ids);
+    std::vector<RemovedColors> removed = TakeOut(leaving);
+    if (journal_ && !removed.empty())
+        journal_->ColorsRemoved(std::move(removed));
 }
 
 int ColorTable::IndexOfKey(const std::string& key) const {

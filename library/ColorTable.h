@@ -24,10 +24,11 @@ public:
     // At most one journal, which hears of every change but Reset; null: none.
     void SetJournal(ColorJournal* journal) noexcept { journal_ = journal; }
 
-    // Takes colors out, by their ids in the order of the table, and puts them back in their places,
-    // as colors of a group.  Neither is told to the journal.
-    [[nodiscard]] std::vector<RemovedColor> TakeOut(const std::vector<ColorId>& ids);
-    void PutBack(const std::string& groupKey, std::vector<RemovedColor> colors);
+    // Takes colors out, by their ids, ascending and one group after the other, and puts them back
+    // in their places, as colors of the groups that are named.  Neither is told to the journal.
+    [[nodiscard]] std::vector<RemovedColors>
+    TakeOut(const std::vector<std::vector<ColorId>>& idsOfGroups);
+    void PutBack(std::vector<RemovedColors> coming);
 
     // Names and values of a color that is there and those given change places; not told to the
     // journal.
@@ -97,9 +98,11 @@ private:
     [[nodiscard]] StoredColor& ColorAt(int index);
     void Insert(StoredColor&& color);
     void TellChange(ColorId id) const;
+    void LeaveOrder(std::vector<ColorId> ids);
     // All of one group, ascending; they are out of the order already.
     [[nodiscard]] std::vector<RemovedColor> LeaveGroup(Group& group,
                                                        const std::vector<ColorId>& ids);
+    void PutIntoGroup(const std::string& groupKey, std::vector<RemovedColor> colors);
     void ForgetKeys(Group& group, const std::vector<ColorId>& ids);
     void ForgetOtherKey(ColorId id, const std::string& key);
     [[nodiscard]] const Group* FindGroup(const std::string& groupKey) const;

@@ -2,26 +2,37 @@
 
 #include "library/LibraryKeys.h"
 
+#include <utility>
+
 namespace LibraryChanges {
 
 bool Colors::TakesOneMore(ColorId id, const NodeRef& group) {
-    if (!out_.empty() || !(group == group_))
+    Part& part = parts_.back();
+    if (!part.out.empty() || !(part.group == group))
         return false;
-    ids_.push_back(id);
+    part.ids.push_back(id);
     return true;
 }
 
 void Colors::TurnRound(LibraryTree& tree, ColorTable& colors) {
-    if (out_.empty()) {
-        out_ = colors.TakeOut(ids_);
-        ids_ = {};
+    if (!parts_.front().out.empty()) {
+        std::vector<RemovedColors> coming;
+        coming.reserve(parts_.size());
+        for (auto& [group, ids, out] : parts_) {
+            for (const RemovedColor& removed : out)
+                ids.push_back(removed.id);
+            coming.push_back({tree.KeyOf(group), std::exchange(out, std::vector<RemovedColor>())});
+        }
+        colors.PutBack(std::move(coming));
         return;
     }
-    ids_.reserve(out_.size());
-    for (const RemovedColor& removed : out_)
-        ids_.push_back(removed.id);
-    colors.PutBack(tree.KeyOf(group_), std::move(out_));
-    out_.clear();
+    std::vector<std::vector<ColorId>> going;
+    going.reserve(parts_.size());
+    for (Part& part : parts_)
+        going.push_back(std::exchange(part.ids, std::vector<ColorId>()));
+    std::vector<RemovedColors> gone = colors.TakeOut(going);
+    for (std::size_t index = 0; index < parts_.size(); ++index)
+        parts_[index].out = std::move(gone[index].colors);
 }
 
 void Values::TurnRound(LibraryTree&, ColorTable& colors) {
@@ -47,12 +58,12 @@ void Name::TurnRound(LibraryTree& tree, ColorTable&) {
 
 void File::TurnRound(LibraryTree& tree, ColorTable&) {
     const std::string key = tree.KeyOf(library_);
-    if (tree.At(key).file == now_) {
-        if (other_)
-            tree.SetFile(key, *other_);
-        else
-            tree.SetUnsaved(key);
-    }
+    if (tree.At(key).file != now_)
+        return; // a save has given it another one
+    if (other_)
+        tree.SetFile(key, *other_);
+    else
+        tree.SetUnsaved(key);
     std::swap(other_, now_);
 }
 

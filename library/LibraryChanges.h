@@ -12,23 +12,24 @@
 // What can change in the open libraries.  Each change keeps the other side of what is there now.
 namespace LibraryChanges {
 
-// Colors that came into a group or left it.
+// Colors that came into groups or left them.
 class Colors : public LibraryChange {
 public:
-    Colors(NodeRef group, std::vector<ColorId> added)
-        : group_(std::move(group)), ids_(std::move(added)) {}
-    Colors(NodeRef group, std::vector<RemovedColor> removed)
-        : group_(std::move(group)), out_(std::move(removed)) {}
+    struct Part {
+        NodeRef group;
+        std::vector<ColorId> ids;      // that are in the table, ascending
+        std::vector<RemovedColor> out; // that are not
+    };
 
-    // One more has been added: false when these are other ones.
+    explicit Colors(std::vector<Part> parts) : parts_(std::move(parts)) {}
+
+    // One more has been added to the group: false when these are other ones.
     [[nodiscard]] bool TakesOneMore(ColorId id, const NodeRef& group);
 
     void TurnRound(LibraryTree& tree, ColorTable& colors) override;
 
 private:
-    NodeRef group_;
-    std::vector<ColorId> ids_;      // that are in the table
-    std::vector<RemovedColor> out_; // that are not
+    std::vector<Part> parts_; // all of them in the table, or none
 };
 
 // Other names or values of a color.

@@ -28,8 +28,13 @@ void LibraryHistory::EndStep(StepLabel label, const LibraryView& view) {
     if (--depth_ > 0)
         return;
     colors_.SetJournal(nullptr);
-    if (open_.changes.empty())
+    const bool isStep = std::ranges::any_of(open_.changes, [](const auto& change) {
+        return dynamic_cast<const LibraryChanges::LastColor*>(change.get()) == nullptr;
+    });
+    if (!isStep) {
+        KeepLooks();
         return;
+    }
     open_.label = label;
     open_.after = view;
     steps_.resize(done_);
@@ -70,11 +75,31 @@ LibraryView LibraryHistory::Redo() {
     return step.after;
 }
 
-void LibraryHistory::Clear() {
+// Clicks while SolidWorks was asked are no step: they belong to the one before.
+void LibraryHistory::KeepLooks() {
+    for (auto& change : open_.changes)
+        if (auto* look = dynamic_cast<LibraryChanges::LastColor*>(change.get())) {
+            change.release();
+            KeepAfterwards(std::unique_ptr<LibraryChanges::LastColor>(look));
+        }
+    open_.changes.clear();
+}
+
+void LibraryHistory::KeepAfterwards(std::unique_ptr<LibraryChanges::LastColor> look) {
+    if (done_ == 0)
+        return;
+    auto& afterwards = steps_[done_ - 1].afterwards;
+    if (std::ranges::none_of(
+            afterwards, [&](const auto& earlier) { return earlier->Group() == look->Group(); }))
+        afterwards.push_back(std::move(look));
+}
+
+void LibraryHistory::Clear() noexcept {
     steps_.clear();
     open_.changes.clear();
     done_ = 0;
-    TellChange();
+    depth_ = 0;
+    colors_.SetJournal(nullptr);
 }
 
 void LibraryHistory::TellChange() const {
@@ -94,12 +119,19 @@ void LibraryHistory::ColorAdded(ColorId id, const std::string& groupKey) {
     auto* last = open_.changes.empty()
                      ? nullptr
                      : dynamic_cast<LibraryChanges::Colors*>(open_.changes.back().get());
-    if (last == nullptr || !last->TakesOneMore(id, group))
-        Note<LibraryChanges::Colors>(group, std::vector{id});
+    if (last == nullptr || !last->TakesOneMore(id, group)) {
+        std::vector<LibraryChanges::Colors::Part> parts;
+        parts.push_back({group, {id}, {}});
+        Note<LibraryChanges::Colors>(std::move(parts));
+    }
 }
 
-void LibraryHistory::ColorsRemoved(const std::string& groupKey, std::vector<RemovedColor> colors) {
-    Note<LibraryChanges::Colors>(tree_.RefOf(groupKey), std::move(colors));
+void LibraryHistory::ColorsRemoved(std::vector<RemovedColors> removed) {
+    std::vector<LibraryChanges::Colors::Part> parts;
+    parts.reserve(removed.size());
+    for (auto& [groupKey, colors] : removed)
+        parts.push_back({tree_.RefOf(groupKey), {}, std::move(colors)});
+    Note<LibraryChanges::Colors>(std::move(parts));
 }
 
 // The first look at a color in a step holds for the next ones.
@@ -137,17 +169,10 @@ void LibraryHistory::FileChanged(const std::string& mainKey,
 // What a group remembers changes with every click too.  That is no step, but it is taken back with
 // the step before it.
 void LibraryHistory::ColorRemembered(const std::string& groupKey, const std::string& before) {
-    using LibraryChanges::LastColor;
-    const NodeRef group = tree_.RefOf(groupKey);
-    if (depth_ > 0) {
-        Note<LastColor>(group, LibraryKeys::Within(groupKey, before));
-        return;
-    }
-    if (done_ == 0)
-        return;
-    auto& afterwards = steps_[done_ - 1].afterwards;
-    if (std::ranges::none_of(afterwards,
-                             [&](const auto& change) { return change->Group() == group; }))
-        afterwards.push_back(
-            std::make_unique<LastColor>(group, LibraryKeys::Within(groupKey, before)));
+    auto look = std::make_unique<LibraryChanges::LastColor>(tree_.RefOf(groupKey),
+                                                            LibraryKeys::Within(groupKey, before));
+    if (depth_ > 0)
+        open_.changes.push_back(std::move(look));
+    else
+        KeepAfterwards(std::move(look));
 }

@@ -47,10 +47,10 @@ public:
     [[nodiscard]] LibraryView Undo();
     [[nodiscard]] LibraryView Redo();
 
-    void Clear();
+    void Clear() noexcept; // not told; also an open step is none any more
 
     void ColorAdded(ColorId id, const std::string& groupKey) override;
-    void ColorsRemoved(const std::string& groupKey, std::vector<RemovedColor> colors) override;
+    void ColorsRemoved(std::vector<RemovedColors> removed) override;
     void ColorChanging(ColorId id, StoredColor before) override;
     void NodeAdded(const LibraryNode& node) override;
     void NodeRemoved(RemovedNode removed) override;
@@ -70,6 +70,8 @@ private:
 
     template <typename Kind, typename... Arguments>
     void Note(Arguments&&... arguments);
+    void KeepLooks();
+    void KeepAfterwards(std::unique_ptr<LibraryChanges::LastColor> look);
     void TellChange() const;
 
     LibraryTree& tree_;

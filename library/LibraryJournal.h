@@ -14,6 +14,12 @@ struct RemovedColor {
     StoredColor color;
 };
 
+// The colors of a group that have left, in the order of the table.
+struct RemovedColors {
+    std::string groupKey;
+    std::vector<RemovedColor> colors;
+};
+
 // A node that has left the tree, with its groups.
 struct RemovedNode {
     LibraryNode node;
@@ -27,8 +33,7 @@ public:
     virtual ~ColorJournal() = default;
 
     virtual void ColorAdded(ColorId id, const std::string& groupKey) = 0;
-    // colors: in the order of the table.
-    virtual void ColorsRemoved(const std::string& groupKey, std::vector<RemovedColor> colors) = 0;
+    virtual void ColorsRemoved(std::vector<RemovedColors> removed) = 0;
     virtual void ColorChanging(ColorId id, StoredColor before) = 0; // its names or values
 };
 

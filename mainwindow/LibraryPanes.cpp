@@ -45,6 +45,7 @@ void LibraryPanes::Show(const LibraryView& view) {
         library_.Tree().Select(key);
     ShowColorNodes();
     if (list_.SelectColor(view.color)) {
+        list_.ShowSelected();
         list_.ShowFromRow(view.firstRow);
         ShowColorPreview();
     }

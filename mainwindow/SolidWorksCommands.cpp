@@ -130,8 +130,10 @@ void SolidWorksCommands::mnuSWXGetStandardColor_Click() {
     if (ReportRefusal(result) || parts_.activity.endRequested)
         return;
     const bool isStopped = KindOfResult(result) == ResultKind::Stopped;
-    if (tree.Selected() != selected && tree.Find(selected))
+    if (tree.Selected() != selected && tree.Find(selected)) {
         tree.Select(selected);
+        parts_.panes.ShowColorNodes();
+    }
     if (!isStopped || !colors.empty())
         ImportStandardColors(colors, shown);
     if (isStopped)

@@ -131,6 +131,8 @@ int ListView::FirstRowInSight() const {
 
 // A row that comes into sight from below stands at the end, from above at the start.
 void ListView::ShowFromRow(int row) {
+    if (View() == LVS_ICON || View() == LVS_SMALLICON)
+        return;
     const int last = static_cast<int>(Send(LVM_GETITEMCOUNT)) - 1;
     EnsureVisible(last);
     EnsureVisible(std::min(row, last));

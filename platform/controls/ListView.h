@@ -27,7 +27,7 @@ public:
     void SelectRow(int row);
     void EnsureVisible(int row);
     [[nodiscard]] int FirstRowInSight() const; // 0 but in details and list
-    void ShowFromRow(int row);                 // as far as there are rows below it
+    void ShowFromRow(int row);                 // as far as there are rows below it; not of icons
     void EditLabel(int row);
     void FinishEdit();      // an open one ends, with its text
     void SetMode(int mode); // 0 large icons, 1 small icons, 2 list, 3 details

@@ -145,6 +145,44 @@ TEST_F(HistoryCommandsTest, ImportedStandardColorsAreOneStep) {
     EXPECT_TRUE(program.files.contents.contains("C:\\a.tnt")) << "it has its file again";
 }
 
+TEST_F(HistoryCommandsTest, CommandThatChangesNothingIsNoStepAndDropsNone) {
+    Run(IDM_mnuColorDelColor);
+    Run(IDM_mnuEditUndo);
+    Run(IDM_mnuColorUpdateColor);
+    program.Main().list.RowLabelEdited(0, "a");
+    program.Main().tree.NodeLabelEdited("0DG1", "g");
+    EXPECT_FALSE(IsEnabled(IDM_mnuEditUndo));
+    EXPECT_TRUE(IsEnabled(IDM_mnuEditRedo));
+}
+
+// The main window lets the user look around while SolidWorks is asked.
+TEST_F(HistoryCommandsTest, LooksDuringACommandThatIsStoppedAreNoStep) {
+    Run(IDM_mnuColorDelColor);
+    Run(IDM_mnuEditUndo);
+    bool isLooked = false;
+    program.events.onEvents = [&] {
+        program.Main().list.RowClicked(1);
+        program.Main().frame.EscapePressed();
+        isLooked = true;
+    };
+    Run(IDM_mnuSWXGetStandardColor);
+    ASSERT_TRUE(isLooked);
+    ASSERT_EQ(program.view.nodes.size(), 3U) << "stopped before the first color";
+    EXPECT_TRUE(IsEnabled(IDM_mnuEditRedo));
+    EXPECT_FALSE(IsEnabled(IDM_mnuEditUndo));
+}
+
+TEST_F(HistoryCommandsTest, FileOfALaterSaveStaysThroughUndoAndRedo) {
+    Run(IDM_mnuSWXGetStandardColor);
+    program.prompts.chosenFiles = {"C:\a.tnt"};
+    Run(IDM_mnuFileSaveAs);
+    Run(IDM_mnuEditUndo);
+    Run(IDM_mnuEditRedo);
+    program.files.contents.erase("C:\a.tnt");
+    Run(IDM_mnuFileSave);
+    EXPECT_TRUE(program.files.contents.contains("C:\a.tnt"));
+}
+
 TEST_F(HistoryCommandsTest, UpdatedColorShowsItsOldValuesAgain) {
     program.Main().editor.ValueTextChanged(0, "200");
     Run(IDM_mnuColorUpdateColor);
