@@ -64,7 +64,7 @@ LibraryView LibraryHistory::Undo() {
 }
 
 LibraryView LibraryHistory::Redo() {
-    Step& step = steps_[done_++];
+    const Step& step = steps_[done_++];
     tree_.SetJournal(nullptr);
     for (const auto& change : step.changes)
         change->TurnRound(tree_, colors_);

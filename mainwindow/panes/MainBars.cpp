@@ -103,7 +103,7 @@ void MainBars::SetMenuText(int command, const std::string& text) {
 }
 
 void MainBars::SetMenuEnabled(int command, bool enabled) {
-    controls_.menu.SetEnabled(command, enabled);
+    controls_.menu.SetGrey(command, !enabled);
 }
 
 void MainBars::SetButtonPressed(const std::string& buttonKey, bool pressed) {

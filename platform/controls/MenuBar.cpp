@@ -82,8 +82,8 @@ void MenuEntry::SetChecked(bool checked) {
     CheckMenuItem(menu_, position_, MF_BYPOSITION | (checked ? MF_CHECKED : MF_UNCHECKED));
 }
 
-void MenuEntry::SetEnabled(bool enabled) {
-    EnableMenuItem(menu_, position_, MF_BYPOSITION | (enabled ? MF_ENABLED : MF_GRAYED));
+void MenuEntry::SetGrey(bool grey) {
+    EnableMenuItem(menu_, position_, MF_BYPOSITION | (grey ? MF_GRAYED : MF_ENABLED));
 }
 
 HMENU MenuEntry::Submenu() const {
@@ -159,8 +159,8 @@ void MenuBar::SetChecked(int command, bool checked) {
     Find(command).SetChecked(checked);
 }
 
-void MenuBar::SetEnabled(int command, bool enabled) {
-    Find(command).SetEnabled(enabled);
+void MenuBar::SetGrey(int command, bool grey) {
+    Find(command).SetGrey(grey);
 }
 
 std::string MenuBar::Caption(int command) const {

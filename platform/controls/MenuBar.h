@@ -31,7 +31,7 @@ public:
     void SetShortcut(const std::string& text); // shown behind the caption
     void ShowInstead(const std::string& text); // of the caption, which stays; empty: the caption
     void SetChecked(bool checked);
-    void SetEnabled(bool enabled);
+    void SetGrey(bool grey);
     [[nodiscard]] HMENU Submenu() const;
 
 private:
@@ -71,7 +71,7 @@ public:
     // The menu goes with the form's window from then on; false: the window refused it.
     bool AttachTo(HWND form);
     void SetChecked(int command, bool checked);
-    void SetEnabled(int command, bool enabled);
+    void SetGrey(int command, bool grey);
     [[nodiscard]] std::string Caption(int command) const;
     void ShowInstead(int command, const std::string& text);  // of its caption; empty: the caption
     [[nodiscard]] std::vector<FormControl*> Entries() const; // and the names of keys

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 namespace LanguageNumber {
@@ -26,8 +27,8 @@ inline constexpr std::array kLanguages = {
 
 // Null for a number without a language.
 [[nodiscard]] constexpr const Language* FindLanguage(std::int32_t number) noexcept {
-    const auto* const language = std::ranges::find(kLanguages, number, &Language::number);
-    return language != kLanguages.end() ? &*language : nullptr;
+    const auto language = std::ranges::find(kLanguages, number, &Language::number);
+    return language != kLanguages.end() ? std::to_address(language) : nullptr;
 }
 
 // Empty for a number without a language.
