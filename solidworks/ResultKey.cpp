@@ -24,7 +24,7 @@ constexpr std::array kMeanings = {
 } // namespace
 
 ResultKind KindOfResult(std::string_view resultKey) {
-    const auto meaning = std::ranges::find_if(
-        kMeanings, [&](const Meaning& row) { return row.key == resultKey; });
+    const auto meaning =
+        std::ranges::find_if(kMeanings, [&](const Meaning& row) { return row.key == resultKey; });
     return meaning != kMeanings.end() ? meaning->kind : ResultKind::Other;
 }
