@@ -25,6 +25,8 @@ constexpr int kWarmUp = 20;
 
 // A leak of one block in every hundredth round would already be more.
 constexpr std::size_t kHeapSlack = 16U * 1024U;
+// What undo keeps of the library that a round has closed: about 4 KiB for its 40 colors.
+constexpr std::size_t kClosedLibrary = 5U * 1024U;
 constexpr std::size_t kMemorySlack = 2048U * 1024U; // the allocator's pages come and go
 
 // How many rounds: TNT_ENDURANCE, else few enough for every run of the tests.
@@ -39,10 +41,12 @@ void PrintRow(const char* what, int round, const HeldResources& held) {
     std::fflush(stdout);
 }
 
-// What is held after the warm-up is held at every later moment, and no more.
+// What is held after the warm-up is held at every later moment, and no more than what each round
+// is meant to keep.
 class FlatLine {
 public:
-    explicit FlatLine(const char* what) : what_(what) {}
+    explicit FlatLine(const char* what, std::size_t keptByARound = 0)
+        : what_(what), keptByARound_(keptByARound) {}
 
     void Add(int round, const HeldResources& held) {
         PrintRow(what_, round, held);
@@ -53,12 +57,15 @@ public:
         EXPECT_LE(held.handles, first_.handles) << what_ << " after " << round;
         EXPECT_LE(held.gdi, first_.gdi) << what_ << " after " << round;
         EXPECT_LE(held.user, first_.user) << what_ << " after " << round;
-        EXPECT_LE(held.heapBytes, first_.heapBytes + kHeapSlack) << what_ << " after " << round;
-        EXPECT_LE(held.memory, first_.memory + kMemorySlack) << what_ << " after " << round;
+        const std::size_t kept = static_cast<std::size_t>(round) * keptByARound_;
+        EXPECT_LE(held.heapBytes, first_.heapBytes + kHeapSlack + kept)
+            << what_ << " after " << round;
+        EXPECT_LE(held.memory, first_.memory + kMemorySlack + kept) << what_ << " after " << round;
     }
 
 private:
     const char* what_;
+    std::size_t keptByARound_;
     HeldResources first_;
 };
 
@@ -118,7 +125,7 @@ TEST_F(Endurance, LoadingSavingAndClosingHoldsNoMoreAfterManyRounds) {
     Start();
     for (int round = 0; round < kWarmUp; ++round)
         ASSERT_NO_FATAL_FAILURE(OpenSaveAndClose());
-    FlatLine client("load, save, close");
+    FlatLine client("load, save, close", kClosedLibrary);
     client.Add(0, HeldByThisProcess());
     const int rounds = Rounds();
     for (int round = 1; round <= rounds; ++round) {
