@@ -110,7 +110,9 @@ Application::Application(const Platform& platform, const Windows& windows, const
                    .texts = language_,
                    .retry = platform.retry,
                    .events = platform.events,
-                   .stopFlag = stopFlag_}) {}
+                   .stopFlag = stopFlag_}) {
+    library_.History().SetMostBytes(data.historyBytes);
+}
 
 MainEvents Application::MainWindowEvents() noexcept {
     return {.frame = mainWindow_,

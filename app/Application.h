@@ -73,6 +73,7 @@ public:
         std::string version;       // major, minor and revision joined by "."
         std::vector<std::string> bannerAddresses;
         std::string languageFolder; // the program's, as functions of the code page know it
+        std::size_t historyBytes = LibraryHistory::kMostBytes; // that undo may keep
     };
 
     Application(const Platform& platform, const Windows& windows, const Data& data);

@@ -35,6 +35,13 @@ void Colors::TurnRound(LibraryTree& tree, ColorTable& colors) {
         parts_[index].out = std::move(gone[index].colors);
 }
 
+std::size_t Colors::KeptBytes() const {
+    std::size_t bytes = 0;
+    for (const Part& part : parts_)
+        bytes += part.out.size() * sizeof(RemovedColor);
+    return bytes;
+}
+
 void Values::TurnRound(LibraryTree&, ColorTable& colors) {
     colors.Exchange(color_, other_);
 }

@@ -27,6 +27,7 @@ public:
     [[nodiscard]] bool TakesOneMore(ColorId id, const NodeRef& group);
 
     void TurnRound(LibraryTree& tree, ColorTable& colors) override;
+    [[nodiscard]] std::size_t KeptBytes() const override;
 
 private:
     std::vector<Part> parts_; // all of them in the table, or none

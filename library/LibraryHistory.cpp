@@ -37,10 +37,22 @@ void LibraryHistory::EndStep(StepLabel label, const LibraryView& view) {
     }
     open_.label = label;
     open_.after = view;
-    steps_.resize(done_);
+    for (const auto& change : open_.changes)
+        open_.keptBytes += change->KeptBytes();
+    for (; steps_.size() > done_; steps_.pop_back())
+        keptBytes_ -= steps_.back().keptBytes;
+    keptBytes_ += open_.keptBytes;
     steps_.push_back(std::move(open_));
-    ++done_;
+    DropOldSteps();
+    done_ = steps_.size();
     TellChange();
+}
+
+void LibraryHistory::DropOldSteps() {
+    auto first = steps_.begin();
+    for (; keptBytes_ > mostBytes_ && first != std::prev(steps_.end()); ++first)
+        keptBytes_ -= first->keptBytes;
+    steps_.erase(steps_.begin(), first);
 }
 
 std::optional<StepLabel> LibraryHistory::NextUndo() const noexcept {
@@ -97,6 +109,7 @@ void LibraryHistory::KeepAfterwards(std::unique_ptr<LibraryChanges::LastColor> l
 void LibraryHistory::Clear() noexcept {
     steps_.clear();
     open_.changes.clear();
+    keptBytes_ = 0;
     done_ = 0;
     depth_ = 0;
     colors_.SetJournal(nullptr);

@@ -25,7 +25,13 @@ using StepLabel = std::int32_t;
 // given meanwhile.
 class LibraryHistory : public ColorJournal, public TreeJournal {
 public:
+    // So much may the steps keep of colors that have left; for more the oldest ones go.
+    static constexpr std::size_t kMostBytes = std::size_t{512} * 1024 * 1024;
+
     LibraryHistory(LibraryTree& tree, ColorTable& colors);
+
+    // Another bound than kMostBytes, for the steps to come.  The last step is always kept.
+    void SetMostBytes(std::size_t bytes) noexcept { mostBytes_ = bytes; }
     ~LibraryHistory() override;
     LibraryHistory(const LibraryHistory&) = delete;
     LibraryHistory& operator=(const LibraryHistory&) = delete;
@@ -61,6 +67,7 @@ public:
 private:
     struct Step {
         StepLabel label = 0;
+        std::size_t keptBytes = 0; // as it was done
         LibraryView before;
         LibraryView after;
         std::vector<std::unique_ptr<LibraryChange>> changes;
@@ -70,6 +77,7 @@ private:
 
     template <typename Kind, typename... Arguments>
     void Note(Arguments&&... arguments);
+    void DropOldSteps();
     void KeepLooks();
     void KeepAfterwards(std::unique_ptr<LibraryChanges::LastColor> look);
     void TellChange() const;
@@ -77,7 +85,9 @@ private:
     LibraryTree& tree_;
     ColorTable& colors_;
     std::vector<Step> steps_;
-    std::size_t done_ = 0; // the first steps are done, the others taken back
+    std::size_t mostBytes_ = kMostBytes;
+    std::size_t keptBytes_ = 0; // by all steps
+    std::size_t done_ = 0;      // the first steps are done, the others taken back
     Step open_;
     int depth_ = 0; // of steps in steps
 };

@@ -30,12 +30,15 @@ public:
     // programFolder: holds the language files.  codePage: that of the language files.
     // solidWorksService: what stands for SolidWorks instead of the model in this object.
     // bannerFolder: holds the banner pictures; empty: there are none.
+    // historyBytesOfUndo: that undo may keep.
     RealProgram(RegistryAccess& registryAccess, std::string programFolder,
                 const AnsiCodePage& codePage, AutomationService* solidWorksService = nullptr,
-                const std::string& bannerFolder = {})
+                const std::string& bannerFolder = {},
+                std::size_t historyBytesOfUndo = LibraryHistory::kMostBytes)
         : registry(registryAccess), folder(std::move(programFolder)), page(codePage),
           banners(bannerFolder.empty() ? BannerPictures() : BannerPictures(bannerFolder)),
-          automation(solidWorksService != nullptr ? *solidWorksService : service) {
+          automation(solidWorksService != nullptr ? *solidWorksService : service),
+          historyBytes(historyBytesOfUndo) {
         main.Attach(application.MainWindowEvents());
         about.Attach(application.AboutWindowEvents());
         textViewer.Attach(application.TextViewerWindowEvents());
@@ -73,6 +76,7 @@ public:
     StandInModel solidWorks{"default"};
     StandInService service{solidWorks};
     AutomationService& automation;
+    std::size_t historyBytes;
     FakeWaitingClock clock;
     FakeCalendarClock calendar;
     BusyRetry retry{clock};
@@ -86,7 +90,7 @@ public:
         {files, page, registry, prompts, clipboard, collation, shell, events, automation, retry,
          language, errors, calendar},
         {main.View(), main, main, about, textViewer, progress, progress, progress},
-        {folder, "1.0.0", BannerAddresses(banners.Count()), folder}};
+        {folder, "1.0.0", BannerAddresses(banners.Count()), folder, historyBytes}};
     SilenceAtScopeEnd silence{main};
 
 private:
