@@ -6,7 +6,7 @@ CompactText::CompactText(std::string_view text) {
         length_ = static_cast<std::uint8_t>(text.size());
     } else {
         const auto* const longText = new std::string(text);
-        std::memcpy(bytes_.data(), &longText, sizeof longText);
+        std::memcpy(bytes_.data(), &longText, kPointerSize);
         length_ = kIsLong;
     }
 }

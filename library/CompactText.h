@@ -38,11 +38,12 @@ public:
 
 private:
     static constexpr std::size_t kRoom = 19;
+    static constexpr std::size_t kPointerSize = sizeof(void*);
     static constexpr std::uint8_t kIsLong = 0xFF;
 
     [[nodiscard]] const std::string* Long() const noexcept {
         const std::string* text = nullptr;
-        std::memcpy(&text, bytes_.data(), sizeof text);
+        std::memcpy(&text, bytes_.data(), kPointerSize);
         return text;
     }
 

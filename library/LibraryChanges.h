@@ -50,7 +50,7 @@ private:
 class Node : public LibraryChange {
 public:
     explicit Node(NodeRef added) : ref_(std::move(added)) {}
-    Node(NodeRef ref, RemovedNode removed) : ref_(std::move(ref)), out_(std::move(removed)) {}
+    explicit Node(RemovedNode removed) : ref_(removed.ref), out_(std::move(removed)) {}
 
     void TurnRound(LibraryTree& tree, ColorTable& colors) override;
 

@@ -162,12 +162,7 @@ void LibraryHistory::NodeAdded(const LibraryNode& node) {
 }
 
 void LibraryHistory::NodeRemoved(RemovedNode removed) {
-    const LibraryNode& node = removed.node;
-    const NodeRef ref =
-        node.kind == NodeKind::Library
-            ? NodeRef{node.id}
-            : NodeRef{tree_.At(node.parent).id, LibraryKeys::Within(node.parent, node.key)};
-    Note<LibraryChanges::Node>(ref, std::move(removed));
+    Note<LibraryChanges::Node>(std::move(removed));
 }
 
 void LibraryHistory::NodeRenamed(const std::string& key, const std::string& before) {

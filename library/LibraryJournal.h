@@ -2,6 +2,7 @@
 
 #include "library/ColorStore.h"
 #include "library/LibraryNode.h"
+#include "library/LibraryView.h"
 
 #include <cstddef>
 #include <optional>
@@ -23,6 +24,7 @@ struct RemovedColors {
 // A node that has left the tree, with its groups.
 struct RemovedNode {
     LibraryNode node;
+    NodeRef ref{};
     std::vector<LibraryNode> groups{}; // in order
     std::size_t place = 0;             // among its siblings, from 0
 };

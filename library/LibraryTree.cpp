@@ -54,7 +54,7 @@ RemovedNode LibraryTree::TakeOut(const std::string& key) {
     const LibraryNode& node = At(key);
     const bool selectionGoes = HoldsSelection(node);
     const std::string nextSelection = SelectionWithout(node);
-    RemovedNode removed{.node = node};
+    RemovedNode removed{.node = node, .ref = RefOf(key)};
     for (const std::string& child : node.children)
         removed.groups.push_back(std::move(nodes_.extract(child).mapped()));
     nodes_.erase(removed.node.key);

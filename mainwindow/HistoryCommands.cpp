@@ -14,40 +14,38 @@ HistoryCommands::~HistoryCommands() {
 }
 
 void HistoryCommands::mnuEditUndo_Click() {
-    const std::optional<StepLabel> step = parts_.history.NextUndo();
-    if (!step)
-        return;
-    parts_.panes.Show(parts_.history.Undo());
-    Report(InfoTextNumber::StepUndone, "Rückgängig gemacht: %1", *step);
+    Take(parts_.history.NextUndo(), &LibraryHistory::Undo,
+         {InfoTextNumber::StepUndone, "Rückgängig gemacht: %1"});
 }
 
 void HistoryCommands::mnuEditRedo_Click() {
-    const std::optional<StepLabel> step = parts_.history.NextRedo();
+    Take(parts_.history.NextRedo(), &LibraryHistory::Redo,
+         {InfoTextNumber::StepRedone, "Wiederholt: %1"});
+}
+
+void HistoryCommands::Take(const std::optional<StepLabel>& step,
+                           LibraryView (LibraryHistory::*way)(), const StepText& report) {
     if (!step)
         return;
-    parts_.panes.Show(parts_.history.Redo());
-    Report(InfoTextNumber::StepRedone, "Wiederholt: %1", *step);
+    parts_.panes.Show((parts_.history.*way)());
+    parts_.bars.SetInfoPanelText(TextOf(report, *step));
 }
 
 void HistoryCommands::ShowEntries() {
-    ShowEntry({IDM_mnuEditUndo, InfoTextNumber::UndoStep, "&Rückgängig: %1"},
-              parts_.history.NextUndo());
-    ShowEntry({IDM_mnuEditRedo, InfoTextNumber::RedoStep, "&Wiederholen: %1"},
-              parts_.history.NextRedo());
+    ShowEntry(IDM_mnuEditUndo, parts_.history.NextUndo(),
+              {InfoTextNumber::UndoStep, "&Rückgängig: %1"});
+    ShowEntry(IDM_mnuEditRedo, parts_.history.NextRedo(),
+              {InfoTextNumber::RedoStep, "&Wiederholen: %1"});
 }
 
-void HistoryCommands::ShowEntry(const EntryTexts& entry, const std::optional<StepLabel>& step) {
-    std::string text;
-    if (step)
-        text = WithArguments(parts_.texts.GetInfoTextOr(entry.caption, entry.builtInCaption),
-                             {NameOf(*step)});
-    parts_.bars.SetMenuText(entry.command, text);
-    parts_.bars.SetMenuEnabled(entry.command, step.has_value());
+void HistoryCommands::ShowEntry(int command, const std::optional<StepLabel>& step,
+                                const StepText& caption) {
+    parts_.bars.SetMenuText(command, step ? TextOf(caption, *step) : std::string());
+    parts_.bars.SetMenuEnabled(command, step.has_value());
 }
 
-void HistoryCommands::Report(std::int32_t textNumber, const char* builtIn, StepLabel step) {
-    parts_.bars.SetInfoPanelText(
-        WithArguments(parts_.texts.GetInfoTextOr(textNumber, builtIn), {NameOf(step)}));
+std::string HistoryCommands::TextOf(const StepText& text, StepLabel step) const {
+    return WithArguments(parts_.texts.GetInfoTextOr(text.number, text.builtIn), {NameOf(step)});
 }
 
 std::string HistoryCommands::NameOf(StepLabel step) const {

@@ -33,14 +33,15 @@ public:
     void ShowEntries();
 
 private:
-    struct EntryTexts {
-        int command;
-        std::int32_t caption;
-        const char* builtInCaption;
+    struct StepText {
+        std::int32_t number;
+        const char* builtIn; // %1: the step
     };
 
-    void ShowEntry(const EntryTexts& entry, const std::optional<StepLabel>& step);
-    void Report(std::int32_t textNumber, const char* builtIn, StepLabel step);
+    void Take(const std::optional<StepLabel>& step, LibraryView (LibraryHistory::*way)(),
+              const StepText& report);
+    void ShowEntry(int command, const std::optional<StepLabel>& step, const StepText& caption);
+    [[nodiscard]] std::string TextOf(const StepText& text, StepLabel step) const;
     [[nodiscard]] std::string NameOf(StepLabel step) const;
 
     Parts parts_;

@@ -22,7 +22,7 @@ public:
         std::string text;
         std::string image;
     };
-    void AddNode(const Node& node);
+    void AddNode(const Node& added);
     void RemoveNode(const std::string& key);
     void SetNodeText(const std::string& key, const std::string& text);
     void ExpandNode(const std::string& key);
