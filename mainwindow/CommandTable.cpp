@@ -1,6 +1,7 @@
 #include "mainwindow/CommandTable.h"
 
 #include "mainwindow/MainCommands.h"
+#include "resources/controls.h"
 
 #include <algorithm>
 

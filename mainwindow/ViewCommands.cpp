@@ -1,6 +1,6 @@
 #include "mainwindow/ViewCommands.h"
 
-#include "mainwindow/CommandTable.h"
+#include "mainwindow/ToolbarTable.h"
 
 #include <array>
 #include <vector>

@@ -147,8 +147,8 @@ def faults_of(content, table, info_numbers):
 
 
 def main():
-    table = "".join((ROOT / "mainwindow" / f"CommandTable.{ending}").read_text(encoding="utf-8")
-                    for ending in ("h", "cpp"))
+    table = "".join((ROOT / "mainwindow" / file).read_text(encoding="utf-8")
+                    for file in ("CommandTable.h", "CommandTable.cpp", "ToolbarTable.h"))
     info_numbers = (ROOT / "common" / "InfoTextNumber.h").read_text(encoding="utf-8")
     codes = language_codes()
     contents = {code: language_file(code).read_bytes() for code in codes.values()}

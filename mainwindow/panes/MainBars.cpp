@@ -1,6 +1,7 @@
 #include "mainwindow/panes/MainBars.h"
 
 #include "mainwindow/CommandTable.h"
+#include "mainwindow/ToolbarTable.h"
 
 #include <algorithm>
 

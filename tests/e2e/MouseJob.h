@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mainwindow/CommandTable.h"
+#include "mainwindow/ToolbarTable.h"
 #include "tests/e2e/Job.h"
 
 #include <functional>

@@ -2,8 +2,8 @@
 
 #include "tests/e2e/MouseJob.h"
 
-#include "mainwindow/CommandTable.h"
 #include "mainwindow/Layout.h"
+#include "mainwindow/ToolbarTable.h"
 #include "platform/WindowGeometry.h"
 #include "tests/e2e/RealInput.h"
 #include "tests/e2e/RemoteDialogs.h"

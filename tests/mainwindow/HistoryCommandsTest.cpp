@@ -3,6 +3,7 @@
 
 #include "mainwindow/CommandTable.h"
 #include "mainwindow/MenuCaption.h"
+#include "resources/controls.h"
 #include "tests/fakes/FakeProgram.h"
 
 #include <gtest/gtest.h>

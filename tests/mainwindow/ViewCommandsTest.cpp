@@ -1,7 +1,7 @@
 // Rules: Layout, bars and views
 #include "mainwindow/ViewCommands.h"
 
-#include "mainwindow/CommandTable.h"
+#include "mainwindow/ToolbarTable.h"
 #include "tests/fakes/FakeMainView.h"
 
 #include <gtest/gtest.h>

@@ -47,9 +47,9 @@ class IconFile(unittest.TestCase):
         self.assertEqual(icons.stale_icons(self.folder, write=False), ["Open.ico"])
 
 
-class CommandTable(unittest.TestCase):
+class ToolbarTable(unittest.TestCase):
     def test_has_a_drawing_for_every_icon_that_it_names(self):
-        table = (tool.ROOT / "mainwindow" / "CommandTable.h").read_text(encoding="utf-8")
+        table = (tool.ROOT / "mainwindow" / "ToolbarTable.h").read_text(encoding="utf-8")
         rows = table.split("ToolbarRow{")[1:]
         named = {row.split("}")[0].split('"')[-2] for row in rows if row.startswith('"')} - {""}
         drawn = {svg.stem for svg in icons.FOLDER.glob("*.svg")}

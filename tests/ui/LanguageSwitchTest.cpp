@@ -1,6 +1,8 @@
 // Rules: Language files and control texts
 #include "mainwindow/CommandTable.h"
+#include "mainwindow/ToolbarTable.h"
 #include "platform/Utf16.h"
+#include "resources/controls.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/ScratchRegistry.h"
 #include "tests/platform/SourceFile.h"

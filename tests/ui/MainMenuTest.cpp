@@ -2,6 +2,7 @@
 #include "common/RuntimeError.h"
 #include "mainwindow/CommandTable.h"
 #include "platform/Utf16.h"
+#include "resources/controls.h"
 #include "tests/ui/MainFormTest.h"
 
 #include <algorithm>

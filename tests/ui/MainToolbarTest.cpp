@@ -1,5 +1,6 @@
 // Rules: Layout, bars and views
 #include "mainwindow/CommandTable.h"
+#include "mainwindow/ToolbarTable.h"
 #include "platform/Utf16.h"
 #include "tests/ui/MainFormTest.h"
 

@@ -2,6 +2,7 @@
 #include "common/ProgramNames.h"
 #include "mainwindow/CommandTable.h"
 #include "platform/Utf16.h"
+#include "resources/controls.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/ScratchRegistry.h"
 #include "tests/platform/SourceFile.h"
