@@ -4,6 +4,7 @@
 #include "common/ports/FormWindow.h"
 #include "common/ports/LocalizableForm.h"
 #include "platform/controls/Control.h"
+#include "platform/controls/ControlHost.h"
 #include "platform/DpiScale.h"
 #include "platform/FormClass.h"
 #include "platform/Handles.h"
@@ -33,7 +34,7 @@ inline constexpr DWORD kDialogStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CL
 // A top-level window.  It is made hidden and destroyed with this object.  Its window procedure
 // offers each notification to the control that sent it, scales the window to the screen that it is
 // on, and hands every exception to the error sink.
-class Form {
+class Form : public ControlHost {
 public:
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
@@ -42,12 +43,14 @@ public:
     // The form that the window belongs to, as a whole or as a part; null: none of this program.
     [[nodiscard]] static Form* FromWindow(HWND window) noexcept;
 
-    [[nodiscard]] HWND Handle() const noexcept { return window_; }
-    [[nodiscard]] const DpiScale& Scale() const noexcept { return scale_; }
-    [[nodiscard]] HFONT Font() const noexcept { return font_.Get(); }
-    [[nodiscard]] ErrorSink& Errors() const noexcept { return errors_; }
-    [[nodiscard]] ToolTips& Tips() noexcept { return tips_; }
-    [[nodiscard]] bool IsClosing() const noexcept { return closing_; }
+    [[nodiscard]] HWND Handle() const noexcept final { return window_; }
+    [[nodiscard]] const DpiScale& Scale() const noexcept final { return scale_; }
+    [[nodiscard]] HFONT Font() const noexcept final { return font_.Get(); }
+    [[nodiscard]] ErrorSink& Errors() const noexcept final { return errors_; }
+    [[nodiscard]] ToolTips& Tips() noexcept final { return tips_; }
+    [[nodiscard]] bool IsClosing() const noexcept final { return closing_; }
+    void RememberFocus(HWND control) noexcept final { lastFocus_ = control; }
+    void RequestLayout() noexcept final;
 
     // A control of the form; the form owns it, and its place in Controls() is that of the call.
     template <typename ControlType, typename... Arguments>
@@ -68,13 +71,6 @@ public:
 
     // From now on nothing is reported, whatever happens to the window.
     void StopReporting() noexcept { closing_ = true; }
-
-    // The control has the focus: it gets it again when the form does.  A text box that a control
-    // opens in itself is no control of the form.
-    void RememberFocus(HWND control) noexcept { lastFocus_ = control; }
-
-    // Lays the form out once after the messages that are waiting.
-    void RequestLayout() noexcept;
 
 protected:
     Form(const FormDesign& design, ErrorSink& errors);

@@ -11,8 +11,8 @@ constexpr ControlKind kComboBox{"ComboBox", WC_COMBOBOXW, ""};
 
 } // namespace
 
-ComboBox::ComboBox(Form& form, const ControlPlace& place)
-    : Control(form, kComboBox, place, WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST) {}
+ComboBox::ComboBox(ControlHost& host, const ControlPlace& place)
+    : Control(host, kComboBox, place, WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST) {}
 
 std::int32_t ComboBox::Count() const {
     return static_cast<std::int32_t>(Send(CB_GETCOUNT));

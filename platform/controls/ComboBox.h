@@ -7,7 +7,7 @@
 // A list of entries that drops down; only an entry can be chosen.
 class ComboBox : public Control, public ListEntries {
 public:
-    ComboBox(Form& form, const ControlPlace& place);
+    ComboBox(ControlHost& host, const ControlPlace& place);
 
     [[nodiscard]] ListEntries* List() override { return this; }
     [[nodiscard]] std::int32_t Count() const override;

@@ -8,7 +8,8 @@ enum class ButtonRole { Ordinary, Default };
 
 class CommandButton : public Control {
 public:
-    CommandButton(Form& form, const ControlPlace& place, ButtonRole role = ButtonRole::Ordinary);
+    CommandButton(ControlHost& host, const ControlPlace& place,
+                  ButtonRole role = ButtonRole::Ordinary);
 
     // Wide enough for its text, and never below the usual width; pixels.  A text that is longer
     // than the maximum allows (0: any) takes more lines.

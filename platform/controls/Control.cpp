@@ -2,7 +2,7 @@
 
 #include "common/RuntimeError.h"
 #include "platform/controls/NoSuchMember.h"
-#include "platform/Form.h"
+#include "platform/DpiScale.h"
 #include "platform/Guarded.h"
 #include "platform/Utf16.h"
 
@@ -14,9 +14,9 @@ constexpr UINT_PTR kSubclass = 1;
 
 } // namespace
 
-Control::Control(Form& form, const ControlKind& kind, const ControlPlace& place, DWORD style,
+Control::Control(ControlHost& host, const ControlKind& kind, const ControlPlace& place, DWORD style,
                  DWORD extendedStyle)
-    : form_(form), kind_(kind), name_(place.name),
+    : host_(host), kind_(kind), name_(place.name),
       window_(CreateWindowExW(extendedStyle, kind.windowClass, L"",
                               style | WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0, place.parent,
                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(place.id)),
@@ -24,7 +24,7 @@ Control::Control(Form& form, const ControlKind& kind, const ControlPlace& place,
     if (window_ == nullptr)
         throw RuntimeError(ErrorNumber::Internal, ErrorTexts::NoWindow, {name_});
     SetWindowSubclass(window_, SubclassProcedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
-    SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form.Font()), FALSE);
+    SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(host.Font()), FALSE);
 }
 
 // Only a control that could not be built to its end still has its window: the form's goes first.
@@ -42,7 +42,7 @@ LRESULT CALLBACK Control::SubclassProcedure(HWND window, UINT id, WPARAM wParam,
         RemoveWindowSubclass(window, SubclassProcedure, subclass);
         control->window_ = nullptr; // the system gives the handle to other windows
     }
-    if (id == WM_NCDESTROY || control->form_.IsClosing())
+    if (id == WM_NCDESTROY || control->host_.IsClosing())
         return DefSubclassProc(window, id, wParam, lParam);
     const LRESULT result = control->Answer({window, id, wParam, lParam});
     // Not every class paints the whole of a window that has another size: what it keeps is old.
@@ -54,9 +54,9 @@ LRESULT CALLBACK Control::SubclassProcedure(HWND window, UINT id, WPARAM wParam,
 
 LRESULT Control::Answer(const WindowMessage& message) noexcept {
     if (message.id == WM_SETFOCUS)
-        form_.RememberFocus(window_);
+        host_.RememberFocus(window_);
     MessageResult result;
-    const bool succeeded = RunGuarded(form_.Errors(), [&] { result = OnMessage(message); });
+    const bool succeeded = RunGuarded(host_.Errors(), [&] { result = OnMessage(message); });
     if (result || !succeeded)
         return result.value_or(0);
     return Default(message);
@@ -77,7 +77,7 @@ std::string Control::Property(const std::string& property) const {
 void Control::SetProperty(const std::string& property, const std::string& text) {
     if (HasTextProperty(property)) {
         SetText(text);
-        form_.RequestLayout(); // the text may need another width
+        host_.RequestLayout(); // the text may need another width
     } else if (property == "ToolTipText") {
         toolTip_ = text;
         UpdateTip();
@@ -104,7 +104,7 @@ POINT Control::Pointer() const noexcept {
 }
 
 void Control::UpdateTip() {
-    form_.Tips().Set(form_.Handle(), window_, tipShowsCutText_ || !toolTip_.empty());
+    host_.Tips().Set(host_.Handle(), window_, tipShowsCutText_ || !toolTip_.empty());
 }
 
 std::string Control::Text() const {
@@ -142,11 +142,11 @@ RECT Control::Bounds() const noexcept {
 }
 
 void Control::ApplyScale() {
-    Send(WM_SETFONT, reinterpret_cast<WPARAM>(form_.Font()), TRUE);
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(host_.Font()), TRUE);
 }
 
 const DpiScale& Control::Scale() const noexcept {
-    return form_.Scale();
+    return host_.Scale();
 }
 
 LRESULT Control::Send(UINT message, WPARAM wParam, LPARAM lParam) const {

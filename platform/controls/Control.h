@@ -1,12 +1,10 @@
 #pragma once
 
 #include "common/ports/LocalizableForm.h"
+#include "platform/controls/ControlHost.h"
 #include "platform/WindowMessage.h"
 
 #include <string>
-
-class DpiScale;
-class Form;
 
 // What a kind of control is called, which window class it is made of, and which property its window
 // text is; empty: it has no text of its own.
@@ -61,13 +59,13 @@ public:
     virtual void ApplyScale();
 
 protected:
-    Control(Form& form, const ControlKind& kind, const ControlPlace& place, DWORD style,
+    Control(ControlHost& host, const ControlKind& kind, const ControlPlace& place, DWORD style,
             DWORD extendedStyle = 0);
 
     // Messages that the window itself gets, before its class handles them.
     virtual MessageResult OnMessage(const WindowMessage&) { return {}; }
 
-    [[nodiscard]] Form& Owner() const noexcept { return form_; }
+    [[nodiscard]] ControlHost& Host() const noexcept { return host_; }
     [[nodiscard]] const DpiScale& Scale() const noexcept;
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     LRESULT Send(UINT message, WPARAM wParam, const void* structure) const;
@@ -88,7 +86,7 @@ private:
     LRESULT Answer(const WindowMessage& message) noexcept;
     [[nodiscard]] bool HasTextProperty(const std::string& property) const;
 
-    Form& form_;
+    ControlHost& host_;
     ControlKind kind_;
     std::string name_;
     void UpdateTip();

@@ -1,15 +1,13 @@
 #include "platform/controls/Frame.h"
 
-#include "platform/Form.h"
-
 namespace {
 
 constexpr ControlKind kFrame{"Frame", WC_BUTTONW, "Caption"};
 
 } // namespace
 
-Frame::Frame(Form& form, const ControlPlace& place)
-    : Control(form, kFrame, place, BS_GROUPBOX | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT) {}
+Frame::Frame(ControlHost& host, const ControlPlace& place)
+    : Control(host, kFrame, place, BS_GROUPBOX | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT) {}
 
 MessageResult Frame::OnMessage(const WindowMessage& message) {
     switch (message.id) {

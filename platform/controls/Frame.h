@@ -5,7 +5,7 @@
 // A frame with a caption that other controls stand in; their notifications go on to the form.
 class Frame : public Control {
 public:
-    Frame(Form& form, const ControlPlace& place);
+    Frame(ControlHost& host, const ControlPlace& place);
 
 protected:
     MessageResult OnMessage(const WindowMessage& message) override;

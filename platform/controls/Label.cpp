@@ -1,7 +1,7 @@
 #include "platform/controls/Label.h"
 
+#include "platform/DpiScale.h"
 #include "platform/Fonts.h"
-#include "platform/Form.h"
 #include "platform/Utf16.h"
 
 #include <cstdlib>
@@ -39,8 +39,8 @@ bool IsEnter(LPARAM dialogMessage) {
 
 } // namespace
 
-Label::Label(Form& form, const ControlPlace& place, LabelText kind)
-    : Control(form, kLabel, place, kLabelStyle | (kind == LabelText::Plain ? SS_NOPREFIX : 0U)) {}
+Label::Label(ControlHost& host, const ControlPlace& place, LabelText kind)
+    : Control(host, kLabel, place, kLabelStyle | (kind == LabelText::Plain ? SS_NOPREFIX : 0U)) {}
 
 void Label::SetProperty(const std::string& property, const std::string& text) {
     Control::SetProperty(property, text);
@@ -60,7 +60,8 @@ SIZE Label::TextSize(int maximumWidth) const {
     return MeasureText(CurrentFont(), ToUtf16(Text()), maximumWidth);
 }
 
-NameLabel::NameLabel(Form& form, const ControlPlace& place) : Label(form, place, LabelText::Plain) {
+NameLabel::NameLabel(ControlHost& host, const ControlPlace& place)
+    : Label(host, place, LabelText::Plain) {
     SetWindowLongPtrW(Handle(), GWL_STYLE,
                       GetWindowLongPtrW(Handle(), GWL_STYLE) |
                           static_cast<LONG_PTR>(SS_ENDELLIPSIS));
@@ -71,8 +72,8 @@ bool NameLabel::IsTextCut() const {
     return TextSize().cx > WidthOf(Bounds());
 }
 
-LinkLabel::LinkLabel(Form& form, const ControlPlace& place)
-    : Painted(form, place, LabelText::Plain) {
+LinkLabel::LinkLabel(ControlHost& host, const ControlPlace& place)
+    : Painted(host, place, LabelText::Plain) {
     SetWindowLongPtrW(Handle(), GWL_STYLE,
                       GetWindowLongPtrW(Handle(), GWL_STYLE) | static_cast<LONG_PTR>(WS_TABSTOP));
 }
@@ -108,7 +109,7 @@ MessageResult LinkLabel::OnMessage(const WindowMessage& message) {
 }
 
 void LinkLabel::Paint(HDC device, const RECT& area) const {
-    const FontHandle font = UnderlinedFont(Owner().Font());
+    const FontHandle font = UnderlinedFont(Host().Font());
     RECT lines = area;
     FillRect(device, &area, GetSysColorBrush(COLOR_3DFACE));
     const HGDIOBJ before = SelectObject(device, font.Get());

@@ -10,7 +10,7 @@ enum class LabelText { AccessKeys, Plain }; // an "&" marks an access key, or is
 // A text that is only shown.
 class Label : public Control {
 public:
-    Label(Form& form, const ControlPlace& place, LabelText kind = LabelText::AccessKeys);
+    Label(ControlHost& host, const ControlPlace& place, LabelText kind = LabelText::AccessKeys);
 
     // The tool tip is the name by which the control is announced, too.
     void Announces(Control& control) noexcept { announced_ = &control; }
@@ -28,7 +28,7 @@ private:
 // A name, on one line: what is cut ends with an ellipsis, and the tool tip shows all of it.
 class NameLabel : public Label {
 public:
-    NameLabel(Form& form, const ControlPlace& place);
+    NameLabel(ControlHost& host, const ControlPlace& place);
 
 protected:
     [[nodiscard]] bool IsTextCut() const override;
@@ -37,7 +37,7 @@ protected:
 // A text that is clicked like a link: by mouse, Space or Enter.
 class LinkLabel : public Painted<Label> {
 public:
-    LinkLabel(Form& form, const ControlPlace& place);
+    LinkLabel(ControlHost& host, const ControlPlace& place);
 
     std::function<void()> onClick;
 

@@ -1,8 +1,8 @@
 #include "platform/controls/ListView.h"
 
+#include "platform/DpiScale.h"
 #include "platform/ExplorerTheme.h"
 #include "platform/Fonts.h"
-#include "platform/Form.h"
 #include "platform/Utf16.h"
 
 #include <algorithm>
@@ -27,9 +27,9 @@ constexpr UINT kSelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
 
 } // namespace
 
-ListView::ListView(Form& form, const ControlPlace& place, const Images& images)
-    : Control(form, kListView, place, kListStyle, WS_EX_CLIENTEDGE), images_(images),
-      dpi_(form.Scale().Dpi()) {
+ListView::ListView(ControlHost& host, const ControlPlace& place, const Images& images)
+    : Control(host, kListView, place, kListStyle, WS_EX_CLIENTEDGE), images_(images),
+      dpi_(host.Scale().Dpi()) {
     UseExplorerTheme(Handle());
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kExtendedStyle, LPARAM{kExtendedStyle});
     ListView::ApplyScale();
@@ -364,7 +364,7 @@ bool ListView::IsNameCut(int row, const std::string& name) const {
     RECT place{LVIR_LABEL, 0, 0, 0};
     GetClientRect(Handle(), &area);
     Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), &place);
-    const SIZE text = MeasureText(Owner().Font(), ToUtf16(name));
+    const SIZE text = MeasureText(Host().Font(), ToUtf16(name));
     if ((GetWindowLongPtrW(Handle(), GWL_STYLE) & LVS_TYPEMASK) == LVS_REPORT)
         return place.left < area.left ||
                place.left + kCellMargin + text.cx > std::min(place.right, area.right);

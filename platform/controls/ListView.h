@@ -18,7 +18,7 @@ public:
         const char* key; // the picture of every row
     };
 
-    ListView(Form& form, const ControlPlace& place, const Images& images);
+    ListView(ControlHost& host, const ControlPlace& place, const Images& images);
 
     void AddColumn(const std::string& caption, int width); // pixels
     // The header shows that the rows are sorted by this column, from 1, and by no other one.

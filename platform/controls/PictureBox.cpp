@@ -11,8 +11,8 @@ constexpr ControlKind kPictureBox{"PictureBox", WC_STATICW, ""};
 
 } // namespace
 
-PictureBox::PictureBox(Form& form, const ControlPlace& place)
-    : Painted(form, kPictureBox, place, SS_NOTIFY) {}
+PictureBox::PictureBox(ControlHost& host, const ControlPlace& place)
+    : Painted(host, kPictureBox, place, SS_NOTIFY) {}
 
 void PictureBox::SetPicture(HBITMAP picture, bool isLink) {
     picture_ = picture;
@@ -59,8 +59,8 @@ void PictureBox::Paint(HDC device, const RECT& area) const {
     SelectObject(source.Get(), before);
 }
 
-IconBox::IconBox(Form& form, const ControlPlace& place, int designSize)
-    : Control(form, kPictureBox, place, WS_VISIBLE | SS_ICON | SS_REALSIZECONTROL),
+IconBox::IconBox(ControlHost& host, const ControlPlace& place, int designSize)
+    : Control(host, kPictureBox, place, WS_VISIBLE | SS_ICON | SS_REALSIZECONTROL),
       designSize_(designSize) {
     IconBox::ApplyScale();
 }

@@ -8,7 +8,7 @@
 // A picture that may be clicked.  It keeps its proportions and is centred in the box.
 class PictureBox : public Painted<> {
 public:
-    PictureBox(Form& form, const ControlPlace& place);
+    PictureBox(ControlHost& host, const ControlPlace& place);
 
     // picture: kept by the caller; null: nothing is drawn.  isLink: whether the pointer over it is
     // the hand.
@@ -34,7 +34,7 @@ private:
 // The program's icon.
 class IconBox : public Control {
 public:
-    IconBox(Form& form, const ControlPlace& place, int designSize);
+    IconBox(ControlHost& host, const ControlPlace& place, int designSize);
 
     void ApplyScale() override;
 

@@ -12,8 +12,8 @@ constexpr int kSteps = 200; // finer ones are hardly seen, and each is painted
 
 } // namespace
 
-ProgressBar::ProgressBar(Form& form, const ControlPlace& place)
-    : Control(form, kProgressBar, place, WS_VISIBLE | PBS_SMOOTH) {}
+ProgressBar::ProgressBar(ControlHost& host, const ControlPlace& place)
+    : Control(host, kProgressBar, place, WS_VISIBLE | PBS_SMOOTH) {}
 
 void ProgressBar::SetRange(int minimum, int maximum) {
     Send(PBM_SETRANGE32, static_cast<WPARAM>(minimum), maximum);

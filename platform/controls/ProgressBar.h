@@ -4,7 +4,7 @@
 
 class ProgressBar : public Control {
 public:
-    ProgressBar(Form& form, const ControlPlace& place);
+    ProgressBar(ControlHost& host, const ControlPlace& place);
 
     void SetRange(int minimum, int maximum); // the value becomes the minimum
     // Beyond the maximum: the maximum.  Values that look alike cost nothing.

@@ -18,8 +18,8 @@ constexpr LPARAM kLargestText = 0x7FFFFFFE;
 RichEditLibrary::RichEditLibrary()
     : module_(LoadLibraryExW(L"Msftedit.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)) {}
 
-RichEdit::RichEdit(Form& form, const ControlPlace& place)
-    : Control(form, kRichEdit, place, kRichEditStyle, WS_EX_CLIENTEDGE) {
+RichEdit::RichEdit(ControlHost& host, const ControlPlace& place)
+    : Control(host, kRichEdit, place, kRichEditStyle, WS_EX_CLIENTEDGE) {
     Send(EM_SETTEXTMODE, TM_PLAINTEXT); // a text that looks like marked-up text stays as it is
     Send(EM_EXLIMITTEXT, 0, kLargestText);
     Send(EM_SETBKGNDCOLOR, TRUE); // the system's, also when it changes

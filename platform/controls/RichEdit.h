@@ -15,7 +15,7 @@ private:
 // A long text that is only read; always taken as plain text.
 class RichEdit : private RichEditLibrary, public Control {
 public:
-    RichEdit(Form& form, const ControlPlace& place);
+    RichEdit(ControlHost& host, const ControlPlace& place);
 
     void SetText(const std::string& text) override;
 

@@ -13,8 +13,8 @@ constexpr int kWheelStep = 3;
 
 } // namespace
 
-Slider::Slider(Form& form, const ControlPlace& place, int maximum)
-    : Control(form, kSlider, place,
+Slider::Slider(ControlHost& host, const ControlPlace& place, int maximum)
+    : Control(host, kSlider, place,
               WS_VISIBLE | WS_TABSTOP | TBS_HORZ | TBS_NOTICKS | TBS_FIXEDLENGTH) {
     Send(TBM_SETRANGE, FALSE, MAKELPARAM(0, maximum));
     Send(TBM_SETLINESIZE, 0, 1);

@@ -8,7 +8,7 @@
 // upwards to greater values.
 class Slider : public Control {
 public:
-    Slider(Form& form, const ControlPlace& place, int maximum);
+    Slider(ControlHost& host, const ControlPlace& place, int maximum);
 
     void SetPosition(int position); // not reported as a move
     [[nodiscard]] int Position() const;

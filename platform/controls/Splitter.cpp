@@ -9,8 +9,8 @@ constexpr ControlKind kSplitter{"Image", WC_STATICW, ""};
 
 } // namespace
 
-Splitter::Splitter(Form& form, const ControlPlace& place)
-    : Control(form, kSplitter, place, WS_VISIBLE | SS_NOTIFY) {}
+Splitter::Splitter(ControlHost& host, const ControlPlace& place)
+    : Control(host, kSplitter, place, WS_VISIBLE | SS_NOTIFY) {}
 
 MessageResult Splitter::OnMessage(const WindowMessage& message) {
     switch (message.id) {

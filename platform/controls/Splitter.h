@@ -7,7 +7,7 @@
 // The strip between two panes that takes the mouse.
 class Splitter : public Control {
 public:
-    Splitter(Form& form, const ControlPlace& place);
+    Splitter(ControlHost& host, const ControlPlace& place);
 
     std::function<void()> onPress;
     std::function<void(int x)> onDrag; // pixels from the own left edge

@@ -10,8 +10,8 @@ constexpr ControlKind kStatusBar{"StatusBar", STATUSCLASSNAMEW, ""};
 
 } // namespace
 
-StatusBar::StatusBar(Form& form, const ControlPlace& place)
-    : Control(form, kStatusBar, place, WS_VISIBLE | SBARS_SIZEGRIP | SBARS_TOOLTIPS | CCS_BOTTOM) {
+StatusBar::StatusBar(ControlHost& host, const ControlPlace& place)
+    : Control(host, kStatusBar, place, WS_VISIBLE | SBARS_SIZEGRIP | SBARS_TOOLTIPS | CCS_BOTTOM) {
     const int toTheEnd = -1;
     Send(SB_SETPARTS, 1, &toTheEnd);
 }

@@ -5,7 +5,7 @@
 // The status bar of a form, with one panel; it places itself.
 class StatusBar : public Control {
 public:
-    StatusBar(Form& form, const ControlPlace& place);
+    StatusBar(ControlHost& host, const ControlPlace& place);
 
     void SetPanelText(const std::string& text);
     void FollowForm(); // after the form's size or the own visibility changed

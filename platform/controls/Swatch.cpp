@@ -1,7 +1,7 @@
 #include "platform/controls/Swatch.h"
 
+#include "platform/DpiScale.h"
 #include "platform/Fonts.h"
-#include "platform/Form.h"
 #include "platform/Utf16.h"
 
 #include <utility>
@@ -15,14 +15,14 @@ constexpr int kMargin = 8; // left and right of the text, design pixels
 
 } // namespace
 
-Swatch::Swatch(Form& form, const ControlPlace& place)
-    : Painted(form, kSwatch, place, WS_VISIBLE | SS_NOTIFY | SS_NOPREFIX) {
+Swatch::Swatch(ControlHost& host, const ControlPlace& place)
+    : Painted(host, kSwatch, place, WS_VISIBLE | SS_NOTIFY | SS_NOPREFIX) {
     TipShowsCutText();
 }
 
 bool Swatch::IsTextCut() const {
     const int margins = 2 * Scale().FromDesign(kMargin);
-    return MeasureText(Owner().Font(), ToUtf16(Text())).cx > WidthOf(Bounds()) - margins;
+    return MeasureText(Host().Font(), ToUtf16(Text())).cx > WidthOf(Bounds()) - margins;
 }
 
 void Swatch::SetColors(ColorNumber background, ColorNumber text) {
@@ -42,7 +42,7 @@ void Swatch::Paint(HDC device, const RECT& area) const {
     const BrushHandle brush(CreateSolidBrush(background_));
     FillRect(device, &area, brush.Get());
     FrameRect(device, &area, GetSysColorBrush(COLOR_3DSHADOW));
-    const HGDIOBJ before = SelectObject(device, Owner().Font());
+    const HGDIOBJ before = SelectObject(device, Host().Font());
     SetBkMode(device, TRANSPARENT);
     SetTextColor(device, text_);
     RECT inside = area;
@@ -52,7 +52,8 @@ void Swatch::Paint(HDC device, const RECT& area) const {
     SelectObject(device, before);
 }
 
-SolidBar::SolidBar(Form& form, const ControlPlace& place) : Control(form, kSolidBar, place, 0) {}
+SolidBar::SolidBar(ControlHost& host, const ControlPlace& place)
+    : Control(host, kSolidBar, place, 0) {}
 
 MessageResult SolidBar::OnColor(HDC) {
     return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_3DDKSHADOW));

@@ -8,7 +8,7 @@
 // A label that shows a color, and its text in another one.
 class Swatch : public Painted<> {
 public:
-    Swatch(Form& form, const ControlPlace& place);
+    Swatch(ControlHost& host, const ControlPlace& place);
 
     void SetColors(ColorNumber background, ColorNumber text);
 
@@ -28,7 +28,7 @@ private:
 // A plain bar of the shadow's color.
 class SolidBar : public Control {
 public:
-    SolidBar(Form& form, const ControlPlace& place);
+    SolidBar(ControlHost& host, const ControlPlace& place);
 
     MessageResult OnColor(HDC device) override;
 };

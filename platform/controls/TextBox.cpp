@@ -1,7 +1,5 @@
 #include "platform/controls/TextBox.h"
 
-#include "platform/Form.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -19,8 +17,8 @@ bool IsEditingKey(WPARAM character) {
 
 } // namespace
 
-TextBox::TextBox(Form& form, const ControlPlace& place, DWORD style)
-    : Control(form, kTextBox, place, kTextBoxStyle | style, WS_EX_CLIENTEDGE) {}
+TextBox::TextBox(ControlHost& host, const ControlPlace& place, DWORD style)
+    : Control(host, kTextBox, place, kTextBoxStyle | style, WS_EX_CLIENTEDGE) {}
 
 void TextBox::SetText(const std::string& text) {
     if (text == Text())

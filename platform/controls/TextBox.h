@@ -7,7 +7,7 @@
 // One line of text that the user types.
 class TextBox : public Control {
 public:
-    TextBox(Form& form, const ControlPlace& place, DWORD style = 0);
+    TextBox(ControlHost& host, const ControlPlace& place, DWORD style = 0);
 
     // Not reported as a change.  The caret keeps its distance from the end of the text.
     void SetText(const std::string& text) override;

@@ -2,7 +2,7 @@
 
 #include "common/RuntimeError.h"
 #include "platform/controls/NoSuchMember.h"
-#include "platform/Form.h"
+#include "platform/DpiScale.h"
 #include "platform/Utf16.h"
 
 #include <algorithm>
@@ -34,9 +34,9 @@ BYTE StyleOf(ToolbarButtonStyle style) {
 
 } // namespace
 
-Toolbar::Toolbar(Form& form, const ControlPlace& place, IconList& images,
+Toolbar::Toolbar(ControlHost& host, const ControlPlace& place, IconList& images,
                  const std::vector<ToolbarButtonDesign>& buttons)
-    : Control(form, kToolbar, place, kToolbarStyle), images_(images) {
+    : Control(host, kToolbar, place, kToolbarStyle), images_(images) {
     for (const ToolbarButtonDesign& design : buttons)
         buttons_.push_back({design, {}, {}});
     Send(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
@@ -144,7 +144,7 @@ void Toolbar::SetButtonProperty(std::int32_t button, const std::string& property
     ShowTexts(At(button));
     if (property == "Caption") {
         FollowForm();
-        Owner().RequestLayout();
+        Host().RequestLayout();
     }
 }
 
@@ -195,10 +195,10 @@ void Toolbar::OpenMenu(const Button& button) {
     MapWindowPoints(Handle(), nullptr, reinterpret_cast<POINT*>(&around.rcExclude), 2);
     const int command =
         TrackPopupMenuEx(menu.Get(), TPM_LEFTALIGN | TPM_VERTICAL | TPM_LEFTBUTTON | TPM_RETURNCMD,
-                         around.rcExclude.left, around.rcExclude.bottom, Owner().Handle(), &around);
+                         around.rcExclude.left, around.rcExclude.bottom, Host().Handle(), &around);
     // Later: the toolbar still handles the press of its button.
     if (command != 0)
-        PostMessageW(Owner().Handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+        PostMessageW(Host().Handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
 }
 
 void Toolbar::ApplyScale() {

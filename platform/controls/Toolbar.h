@@ -26,7 +26,7 @@ struct ToolbarButtonDesign {
 class Toolbar : public Control, public ToolbarButtons {
 public:
     // The image list is kept by the caller and fitted by this toolbar.
-    Toolbar(Form& form, const ControlPlace& place, IconList& images,
+    Toolbar(ControlHost& host, const ControlPlace& place, IconList& images,
             const std::vector<ToolbarButtonDesign>& buttons);
 
     void SetPressed(const std::string& key, bool pressed);

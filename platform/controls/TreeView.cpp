@@ -1,7 +1,7 @@
 #include "platform/controls/TreeView.h"
 
 #include "common/ValueRestorer.h"
-#include "platform/Form.h"
+#include "platform/DpiScale.h"
 #include "platform/Utf16.h"
 
 #include <cstring>
@@ -32,8 +32,8 @@ bool MayComeBeforeDrawing(UINT message) noexcept {
 
 } // namespace
 
-TreeView::TreeView(Form& form, const ControlPlace& place, IconList& images)
-    : Control(form, kTreeView, place, kTreeStyle, WS_EX_CLIENTEDGE), images_(images) {
+TreeView::TreeView(ControlHost& host, const ControlPlace& place, IconList& images)
+    : Control(host, kTreeView, place, kTreeStyle, WS_EX_CLIENTEDGE), images_(images) {
     Send(TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
     ApplyColors();
     TreeView::ApplyScale();

@@ -13,7 +13,7 @@
 class TreeView : public Control {
 public:
     // The image list is kept by the caller and fitted by this tree.
-    TreeView(Form& form, const ControlPlace& place, IconList& images);
+    TreeView(ControlHost& host, const ControlPlace& place, IconList& images);
 
     struct Node {
         std::string key;

@@ -1,7 +1,7 @@
 #include "standin/com/CallList.h"
 
+#include "platform/DpiScale.h"
 #include "platform/ExplorerTheme.h"
-#include "platform/Form.h"
 #include "platform/Utf16.h"
 
 namespace {
@@ -14,8 +14,8 @@ constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
 
 } // namespace
 
-CallList::CallList(Form& form, const ControlPlace& place, const CallLog& log)
-    : Control(form, kCallList, place, kListStyle), log_(log) {
+CallList::CallList(ControlHost& host, const ControlPlace& place, const CallLog& log)
+    : Control(host, kCallList, place, kListStyle), log_(log) {
     UseExplorerTheme(Handle());
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kExtendedStyle, LPARAM{kExtendedStyle});
     LVCOLUMNW column{};

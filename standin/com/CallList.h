@@ -6,7 +6,7 @@
 // The last calls received, the newest at the end.
 class CallList : public Control {
 public:
-    CallList(Form& form, const ControlPlace& place, const CallLog& log);
+    CallList(ControlHost& host, const ControlPlace& place, const CallLog& log);
 
     // Shows what the log holds now.
     void Refresh();

@@ -1,6 +1,6 @@
 #include "standin/com/ColorTablePane.h"
 
-#include "platform/Form.h"
+#include "platform/DpiScale.h"
 #include "standin/com/Canvas.h"
 
 namespace {

@@ -6,7 +6,7 @@
 // The named standard colors of the document.
 class ColorTablePane : public PaintedPane {
 public:
-    ColorTablePane(Form& form, const ControlPlace& place) : PaintedPane(form, place) {}
+    ColorTablePane(ControlHost& host, const ControlPlace& place) : PaintedPane(host, place) {}
 
     void SetDocument(const DocumentPtr& document);
     void Refresh();

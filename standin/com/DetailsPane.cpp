@@ -1,7 +1,7 @@
 #include "standin/com/DetailsPane.h"
 
+#include "platform/DpiScale.h"
 #include "platform/Fonts.h"
-#include "platform/Form.h"
 #include "standin/com/Canvas.h"
 #include "standin/model/CallText.h"
 #include "standin/model/SurfaceShade.h"
@@ -32,12 +32,12 @@ std::string ValueText(double value, std::size_t index) {
 
 } // namespace
 
-DetailsPane::DetailsPane(Form& form, const ControlPlace& place)
-    : PaintedPane(form, place), boldFont_(EnlargedFont(form.Font(), 115, true)) {}
+DetailsPane::DetailsPane(ControlHost& host, const ControlPlace& place)
+    : PaintedPane(host, place), boldFont_(EnlargedFont(host.Font(), 115, true)) {}
 
 void DetailsPane::ApplyScale() {
     PaintedPane::ApplyScale();
-    boldFont_ = EnlargedFont(Owner().Font(), 115, true);
+    boldFont_ = EnlargedFont(Host().Font(), 115, true);
 }
 
 int DetailsPane::Px(int designPixels) const {
@@ -93,7 +93,7 @@ void DetailsPane::PaintInside(const Canvas& canvas, const RECT& area) const {
     RECT line{inside.left, inside.top, inside.right, inside.top + Px(24)};
     canvas.SetFont(boldFont_.Get());
     canvas.Text(shown.title, line, kTextColor, kOneLine);
-    canvas.SetFont(Owner().Font());
+    canvas.SetFont(Host().Font());
     OffsetRect(&line, 0, Px(24));
     canvas.Text(shown.source, line, kNoteColor, kOneLine);
     inside.top = line.bottom + Px(6);

@@ -8,7 +8,7 @@
 // they come from; of the document when nothing is selected.
 class DetailsPane : public PaintedPane {
 public:
-    DetailsPane(Form& form, const ControlPlace& place);
+    DetailsPane(ControlHost& host, const ControlPlace& place);
 
     void SetDocument(const DocumentPtr& document);
     // The document has changed; its window text too.

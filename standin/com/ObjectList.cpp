@@ -1,7 +1,7 @@
 #include "standin/com/ObjectList.h"
 
+#include "platform/DpiScale.h"
 #include "platform/ExplorerTheme.h"
-#include "platform/Form.h"
 #include "platform/Utf16.h"
 #include "standin/com/Canvas.h"
 #include "standin/model/SurfaceShade.h"
@@ -40,8 +40,8 @@ std::string ColorText(const SelectedItem& item) {
 
 } // namespace
 
-ObjectList::ObjectList(Form& form, const ControlPlace& place)
-    : Control(form, kObjectList, place, kListStyle) {
+ObjectList::ObjectList(ControlHost& host, const ControlPlace& place)
+    : Control(host, kObjectList, place, kListStyle) {
     UseExplorerTheme(Handle());
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kExtendedStyle, LPARAM{kExtendedStyle});
     AddColumn(NameColumn, L"Object");
@@ -176,7 +176,7 @@ void ObjectList::DrawChip(const NMLVCUSTOMDRAW& draw) const {
     const int top = (cell.top + cell.bottom - size) / 2;
     const int right = cell.right - Scale().FromDesign(6);
     const RECT chip{right - 2 * size, top, right, top + size};
-    const Canvas canvas(draw.nmcd.hdc, Owner().Font());
+    const Canvas canvas(draw.nmcd.hdc, Host().Font());
     canvas.Fill(chip, ColorOf(item));
     canvas.Frame(chip, GetSysColor(COLOR_3DSHADOW), 1);
 }

@@ -10,7 +10,7 @@
 // selected in the list is selected in the document, and the other way round.
 class ObjectList : public Control {
 public:
-    ObjectList(Form& form, const ControlPlace& place);
+    ObjectList(ControlHost& host, const ControlPlace& place);
 
     // All rows are new.
     void SetRows(std::vector<SelectedItem> rows);

@@ -1,6 +1,5 @@
 #include "standin/com/PaintedPane.h"
 
-#include "platform/Form.h"
 #include "standin/com/Canvas.h"
 
 namespace {
@@ -9,11 +8,11 @@ constexpr ControlKind kPane{"PictureBox", WC_STATICW, "Caption"};
 
 } // namespace
 
-PaintedPane::PaintedPane(Form& form, const ControlPlace& place)
-    : Painted(form, kPane, place, WS_VISIBLE | SS_NOTIFY) {}
+PaintedPane::PaintedPane(ControlHost& host, const ControlPlace& place)
+    : Painted(host, kPane, place, WS_VISIBLE | SS_NOTIFY) {}
 
 void PaintedPane::Paint(HDC device, const RECT& area) const {
-    const Canvas canvas(device, Owner().Font());
+    const Canvas canvas(device, Host().Font());
     canvas.Fill(area, GetSysColor(COLOR_WINDOW));
     PaintInside(canvas, area);
     canvas.Frame(area, GetSysColor(COLOR_3DSHADOW), 1);

@@ -7,7 +7,7 @@ class Canvas;
 // A part of the window that draws itself.  Its window text is for programs that read the screen.
 class PaintedPane : public Painted<> {
 protected:
-    PaintedPane(Form& form, const ControlPlace& place);
+    PaintedPane(ControlHost& host, const ControlPlace& place);
 
     virtual void PaintInside(const Canvas& canvas, const RECT& area) const = 0;
     virtual void OnMousePress(POINT /*point*/, bool /*append*/) {}

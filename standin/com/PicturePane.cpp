@@ -1,7 +1,7 @@
 #include "standin/com/PicturePane.h"
 
+#include "platform/DpiScale.h"
 #include "platform/Fonts.h"
-#include "platform/Form.h"
 #include "standin/com/Canvas.h"
 #include "standin/model/ObjectRows.h"
 #include "standin/model/SurfaceShade.h"
@@ -33,12 +33,12 @@ ColorNumber ColorOf(const SelectedItem& item) {
 
 } // namespace
 
-PicturePane::PicturePane(Form& form, const ControlPlace& place)
-    : PaintedPane(form, place), boldFont_(EnlargedFont(form.Font(), 100, true)) {}
+PicturePane::PicturePane(ControlHost& host, const ControlPlace& place)
+    : PaintedPane(host, place), boldFont_(EnlargedFont(host.Font(), 100, true)) {}
 
 void PicturePane::ApplyScale() {
     PaintedPane::ApplyScale();
-    boldFont_ = EnlargedFont(Owner().Font(), 100, true);
+    boldFont_ = EnlargedFont(Host().Font(), 100, true);
 }
 
 void PicturePane::SetDocument(const DocumentPtr& document) {
@@ -105,7 +105,7 @@ void PicturePane::PaintCard(const Canvas& canvas, const PictureCard& card) const
     }
     canvas.SetFont(boldFont_.Get());
     canvas.Text(card.title, text, kTextColor, kOneLine);
-    canvas.SetFont(Owner().Font());
+    canvas.SetFont(Host().Font());
     for (const PictureTile& tile : card.tiles)
         PaintPlate(canvas, tile);
     if (card.header.entity)

@@ -10,7 +10,7 @@
 // plates in the colors that they show.
 class PicturePane : public PaintedPane {
 public:
-    PicturePane(Form& form, const ControlPlace& place);
+    PicturePane(ControlHost& host, const ControlPlace& place);
 
     // Null: there is nothing to show.
     void SetDocument(const DocumentPtr& document);

@@ -21,8 +21,8 @@ public:
 // Cannot be built to its end.
 class FaultyControl : public Control {
 public:
-    FaultyControl(Form& form, const ControlPlace& place)
-        : Control(form, {"TextBox", L"EDIT", "Text"}, place, 0) {
+    FaultyControl(ControlHost& host, const ControlPlace& place)
+        : Control(host, {"TextBox", L"EDIT", "Text"}, place, 0) {
         throw std::runtime_error("no picture");
     }
 };
