@@ -46,7 +46,7 @@ HRESULT STDMETHODCALLTYPE ServedObject::GetIDsOfNames(REFIID /*reserved*/, LPOLE
                                                       UINT count, LCID /*locale*/, DISPID* ids) {
     if (names == nullptr || ids == nullptr || count == 0)
         return E_INVALIDARG;
-    objects_->CountNameLookup();
+    host_->CountNameLookup();
     // Only the member itself has a name; arguments have none.
     for (UINT i = 0; i < count; ++i)
         ids[i] = DISPID_UNKNOWN;
@@ -60,13 +60,13 @@ HRESULT STDMETHODCALLTYPE ServedObject::GetIDsOfNames(REFIID /*reserved*/, LPOLE
 
 DISPID ServedObject::Resolve(const OLECHAR* name) {
     const auto member = object_->FindMember(ToUtf8(name));
-    return member ? objects_->Members().IdOf(*member) : DISPID_UNKNOWN;
+    return member ? host_->Members().IdOf(*member) : DISPID_UNKNOWN;
 }
 
 HRESULT STDMETHODCALLTYPE ServedObject::Invoke(DISPID id, REFIID /*reserved*/, LCID /*locale*/,
                                                WORD flags, DISPPARAMS* parameters, VARIANT* result,
                                                EXCEPINFO* exception, UINT* /*badArgument*/) {
-    const std::string* member = objects_->Members().NameOf(id);
+    const std::string* member = host_->Members().NameOf(id);
     if (member == nullptr)
         return DISP_E_MEMBERNOTFOUND;
     if (parameters == nullptr)
@@ -95,7 +95,7 @@ void ServedObject::Call(const std::string& member, const DISPPARAMS& parameters,
     ToVariant(
         answer,
         [this](const AutomationObjectPtr& object) {
-            return objects_->DispatchOf(std::static_pointer_cast<StandInObject>(object));
+            return host_->DispatchOf(std::static_pointer_cast<StandInObject>(object));
         },
         variant);
     *result = variant.Detach();

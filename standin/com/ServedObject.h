@@ -1,9 +1,11 @@
 #pragma once
 
 #include "standin/com/ComObject.h"
-#include "standin/com/ServedObjects.h"
+#include "standin/com/ServedObjectHost.h"
 
+#include <memory>
 #include <oaidl.h>
+#include <utility>
 
 // IDispatch for one object of the stand-in.  Names are found whatever their letter case; a call
 // with METHOD or PROPERTYGET reads, one with PROPERTYPUT assigns.  No exception leaves it: the
@@ -11,11 +13,11 @@
 // RPC_E_SERVERCALL_RETRYLATER.
 class ServedObject final : public ComObject<IDispatch> {
 public:
-    ServedObject(std::shared_ptr<ServedObjects> objects, StandInObjectPtr object)
-        : objects_(std::move(objects)), object_(std::move(object)) {}
+    ServedObject(std::shared_ptr<ServedObjectHost> host, StandInObjectPtr object)
+        : host_(std::move(host)), object_(std::move(object)) {}
     ServedObject(const ServedObject&) = delete;
     ServedObject& operator=(const ServedObject&) = delete;
-    ~ServedObject() override { objects_->Forget(*object_); }
+    ~ServedObject() override { host_->Forget(*object_); }
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
@@ -30,6 +32,6 @@ private:
     void Call(const std::string& member, const DISPPARAMS& parameters, VARIANT* result);
     void Assign(const std::string& member, const DISPPARAMS& parameters);
 
-    std::shared_ptr<ServedObjects> objects_;
+    std::shared_ptr<ServedObjectHost> host_;
     StandInObjectPtr object_;
 };

@@ -1,25 +1,20 @@
 #pragma once
 
-#include "platform/VariantConversion.h"
-#include "standin/com/MemberIds.h"
-#include "standin/model/StandInObject.h"
+#include "standin/com/ServedObjectHost.h"
 
 #include <memory>
 #include <unordered_map>
 
-// The COM side of the objects that clients hold.  The same object has the same IDispatch as long as
-// that one lives.
-class ServedObjects : public std::enable_shared_from_this<ServedObjects> {
+// The COM side of the objects that clients hold.
+class ServedObjects final : public ServedObjectHost,
+                            public std::enable_shared_from_this<ServedObjects> {
 public:
-    [[nodiscard]] DispatchPtr DispatchOf(const StandInObjectPtr& object);
+    [[nodiscard]] DispatchPtr DispatchOf(const StandInObjectPtr& object) override;
+    [[nodiscard]] MemberIds& Members() noexcept override { return members_; }
+    void CountNameLookup() noexcept override { ++nameLookups_; }
+    void Forget(const StandInObject& object) noexcept override { served_.erase(&object); }
 
-    [[nodiscard]] MemberIds& Members() noexcept { return members_; }
-
-    void CountNameLookup() noexcept { ++nameLookups_; }
     [[nodiscard]] std::size_t NameLookups() const noexcept { return nameLookups_; }
-
-    // Called by an object that goes.
-    void Forget(const StandInObject& object) noexcept { served_.erase(&object); }
 
 private:
     MemberIds members_;
