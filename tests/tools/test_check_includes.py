@@ -99,12 +99,63 @@ class OwnHeaders(unittest.TestCase):
         self.assertEqual(faults("mainwindow/CommandTable.h", '#include "resources/controls.h"'), [])
 
 
+class Circles(unittest.TestCase):
+    def circles(self, **files):
+        includes = {path.replace("__", ".").replace("_", "/"): "".join(
+            f'#include "{header}"\n' for header in headers) for path, headers in files.items()}
+        return list(check.circle_faults(includes))
+
+    def test_of_headers_are_found(self):
+        self.assertEqual(
+            self.circles(common_B__h=["common/A.h"], common_A__h=["common/B.h"]),
+            ["files include each other: common/A > common/B > common/A"])
+
+    def test_through_the_source_of_a_header_are_found(self):
+        self.assertEqual(
+            self.circles(common_A__h=["common/B.h"], common_B__h=["common/C.h"], common_C__h=[],
+                         common_C__cpp=["common/C.h", "common/A.h"]),
+            ["files include each other: common/A > common/B > common/C > common/A"])
+
+    def test_are_each_told_once_and_alone(self):
+        found = self.circles(common_A__h=["common/B.h"], common_B__h=["common/A.h"],
+                             common_C__h=["common/D.h", "common/A.h"],
+                             common_D__h=["common/C.h"], common_E__h=["common/C.h"])
+        self.assertEqual(found, ["files include each other: common/A > common/B > common/A",
+                                 "files include each other: common/C > common/D > common/C"])
+
+    def test_are_not_where_two_files_include_a_third_or_a_source_its_header(self):
+        self.assertEqual(self.circles(common_A__h=["common/C.h"], common_A__cpp=["common/A.h"],
+                                      common_B__h=["common/A.h", "common/C.h"], common_C__h=[]), [])
+
+    def test_are_left_to_the_sources_of_the_model_which_is_one_and_not_to_its_headers(self):
+        there, back = "standin_model_Part", "standin_model_Face"
+        header = ["standin/model/Face.h"], ["standin/model/Part.h"]
+        self.assertEqual(self.circles(**{there + "__h": header[0], back + "__h": [],
+                                         back + "__cpp": header[1]}), [])
+        self.assertEqual(len(self.circles(**{there + "__h": header[0],
+                                             back + "__h": header[1]})), 1)
+
+
+class Rooms(unittest.TestCase):
+    def test_may_include_only_what_they_need(self):
+        used = {(check.room_of(path), check.room_of(header))
+                for file in check.source_files(tool.ROOT)
+                for path in [file.relative_to(tool.ROOT).as_posix()]
+                for header in check.own_headers(path, file.read_text(encoding="utf-8"))}
+        for room, below in check.ROOMS_BELOW.items():
+            for other in below:
+                if room != "tests":
+                    self.assertIn((room, other), used)
+
+
 class Program(unittest.TestCase):
-    def run_on(self, content):
+    def run_on(self, content, **headers):
         with tempfile.TemporaryDirectory() as folder:
             file = pathlib.Path(folder) / "library" / "Library.cpp"
             file.parent.mkdir()
             file.write_text(content, encoding="utf-8")
+            for name, text in headers.items():
+                (file.parent / name.replace("__", ".")).write_text(text, encoding="utf-8")
             return subprocess.run([sys.executable, tool.ROOT / "tools/check-includes.py", folder],
                                   stdout=subprocess.PIPE, text=True, check=False)
 
@@ -112,6 +163,12 @@ class Program(unittest.TestCase):
         result = self.run_on('#include "mainwindow/MainView.h"\n')
         self.assertEqual(result.returncode, 1)
         self.assertIn("library/Library.cpp:1: mainwindow/MainView.h", result.stdout)
+
+    def test_fails_on_a_planted_circle(self):
+        result = self.run_on('#include "library/Library.h"\n', Library__h='#include "library/Other.h"\n',
+                             Other__h='#include "library/Library.h"\n')
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("library/Library > library/Other > library/Library", result.stdout)
 
     def test_is_silent_on_a_clean_tree(self):
         result = self.run_on('#include "common/Text.h"\n#include <vector>\n')
