@@ -25,8 +25,7 @@ Application::Application(const Platform& platform, const Windows& windows, const
       banner_(links_, data.bannerAddresses, [this](int index) { ShowBanner(index); }),
       systemInformation_(
           {platform.registry, platform.codePage, platform.files, platform.shell, platform.prompts}),
-      localisation_(language_, data.languageFolder,
-                    {&windows.mainForm, &windows.about, &windows.progressForm}),
+      localisation_(language_, data.languageFolder, [this] { return LocalizableForms(); }),
       options_({settings_, localisation_, windows.mainView.bars, windows.mainWindow,
                 [this] { settingsStore_.Save(settings_); }}),
       about_({windows.about, language_, settings_, registry_, links_, systemInformation_, banner_,
@@ -153,6 +152,17 @@ void Application::Quit() {
 
 void Application::ShowBanner(int index) {
     windows_.mainView.frame.SetBanner(index);
-    windows_.about.SetBanner(index);
-    windows_.textViewer.SetBanner(index);
+    // A window that is made later takes it when it is shown.
+    if (AboutView* about = windows_.about.IfMade())
+        about->SetBanner(index);
+    if (TextViewerView* textViewer = windows_.textViewer.IfMade())
+        textViewer->SetBanner(index);
+}
+
+std::vector<LocalizableForm*> Application::LocalizableForms() const {
+    std::vector<LocalizableForm*> forms{&windows_.mainForm};
+    if (AboutView* about = windows_.about.IfMade())
+        forms.push_back(about);
+    forms.push_back(&windows_.progressForm);
+    return forms;
 }

@@ -61,8 +61,8 @@ public:
         MainView mainView;
         FormWindow& mainWindow;
         LocalizableForm& mainForm;
-        AboutView& about;
-        TextViewerView& textViewer;
+        OnDemand<AboutView>& about;
+        OnDemand<TextViewerView>& textViewer;
         ProgressView& progressView;
         FormWindow& progressWindow;
         LocalizableForm& progressForm;
@@ -95,6 +95,7 @@ public:
 private:
     void SetFormDefaults();
     void ShowBanner(int index);
+    [[nodiscard]] std::vector<LocalizableForm*> LocalizableForms() const;
 
     Windows windows_;
     bool stopFlag_ = false;

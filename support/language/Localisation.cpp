@@ -8,6 +8,6 @@ void Localisation::Choose(std::int32_t number) {
     if (code.empty())
         throw RuntimeError(ErrorNumber::SubscriptOutOfRange, ErrorTexts::NoSuchNumber);
     language_.SetIniFile(programFolder_ + "\\tntlng_" + code + ".ini");
-    for (LocalizableForm* form : forms_)
+    for (LocalizableForm* form : forms_())
         language_.SetAllControlText(*form);
 }

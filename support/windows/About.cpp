@@ -5,21 +5,22 @@
 #include "support/settings/modWindowsHandling.h"
 
 About::About(Parts parts) : parts_(std::move(parts)), position_(parts_.registry) {
-    position_.SetForm(parts_.view);
     position_.SetRootKey(RegistryRoot::CurrentUser);
     position_.SetRegistryPath(ProgramNames::RegistryPath);
     position_.SetSubKey(ProgramNames::FormPositionsKey);
 }
 
 void About::ShowModal() {
-    parts_.view.SetWindowCaption(std::string(ProgramNames::Title) + " - Info ");
-    parts_.view.SetVersion("Version " + parts_.version);
-    parts_.view.SetTitle(ProgramNames::Title);
-    parts_.language.SetAllControlText(parts_.view);
-    parts_.view.SetBanner(parts_.banner.Index()); // the window has its size from here on
+    AboutView& view = parts_.window.Get();
+    position_.SetForm(view);
+    view.SetWindowCaption(std::string(ProgramNames::Title) + " - Info ");
+    view.SetVersion("Version " + parts_.version);
+    view.SetTitle(ProgramNames::Title);
+    parts_.language.SetAllControlText(view);
+    view.SetBanner(parts_.banner.Index()); // the window has its size from here on
     position_.CenterForm();
-    SetFormOnTop(parts_.view, parts_.settings.alwaysOnTop);
-    parts_.view.ShowModal();
+    SetFormOnTop(view, parts_.settings.alwaysOnTop);
+    view.ShowModal();
 }
 
 // Stored although it is never restored: the window always opens centred.

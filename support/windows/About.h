@@ -3,6 +3,7 @@
 #include "common/Settings.h"
 #include "support/windows/AboutView.h"
 #include "support/windows/Banner.h"
+#include "support/windows/OnDemand.h"
 #include "support/settings/CFormPos.h"
 #include "support/windows/SystemInformation.h"
 #include "support/language/clsMultiLanguage.h"
@@ -14,7 +15,7 @@
 class About : public AboutEvents {
 public:
     struct Parts {
-        AboutView& view;
+        OnDemand<AboutView>& window;
         clsMultiLanguage& language;
         const Settings& settings;
         const modRegistry& registry;

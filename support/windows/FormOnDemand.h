@@ -1,28 +1,24 @@
 #pragma once
 
-#include "platform/Form.h"
+#include "common/ports/ErrorSink.h"
 #include "support/windows/BannerPictures.h"
+#include "support/windows/OnDemand.h"
 
 #include <memory>
+#include <windows.h>
 
-// A form with a banner as the program holds it: the window is made when it is first wanted, because
-// windows that are not shown would take a good part of the program's start.
-template <typename FormType, typename Events>
-class FormOnDemand {
+// A form with a banner as the program holds it.
+template <typename FormType, typename View, typename Events>
+class FormOnDemand final : public OnDemand<View> {
 public:
     // The pictures must outlive it.
     FormOnDemand(HWND owner, ErrorSink& errors, const BannerPictures& banners)
         : owner_(owner), errors_(errors), banners_(banners) {}
 
+    // To be called before the window is wanted.
     void Attach(Events& events) { events_ = &events; }
 
-protected:
-    ~FormOnDemand() = default;
-
-    // Null while nobody has wanted it.
-    [[nodiscard]] FormType* WindowIfMade() const noexcept { return window_.get(); }
-
-    [[nodiscard]] FormType& Window() const {
+    [[nodiscard]] View& Get() override {
         if (window_ == nullptr) {
             window_ = std::make_unique<FormType>(owner_, errors_, banners_);
             if (events_ != nullptr)
@@ -31,10 +27,12 @@ protected:
         return *window_;
     }
 
+    [[nodiscard]] View* IfMade() noexcept override { return window_.get(); }
+
 private:
     HWND owner_;
     ErrorSink& errors_;
     const BannerPictures& banners_;
     Events* events_ = nullptr;
-    mutable std::unique_ptr<FormType> window_;
+    std::unique_ptr<FormType> window_;
 };

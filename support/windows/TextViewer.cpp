@@ -17,13 +17,14 @@ const std::vector<std::string>& Entries() {
 } // namespace
 
 void TextViewer::Show(const std::string& entry) {
-    parts_.view.SetEntries(Entries());
-    parts_.view.SetBanner(parts_.banner.Index());
-    parts_.view.SetTopmost(parts_.settings.alwaysOnTop);
+    TextViewerView& view = parts_.window.Get();
+    view.SetEntries(Entries());
+    view.SetBanner(parts_.banner.Index());
+    view.SetTopmost(parts_.settings.alwaysOnTop);
     const auto found = std::ranges::find(Entries(), entry);
     if (found != Entries().end())
-        parts_.view.SelectEntry(static_cast<int>(found - Entries().begin()));
-    parts_.view.ShowModeless();
+        view.SelectEntry(static_cast<int>(found - Entries().begin()));
+    view.ShowModeless();
 }
 
 void TextViewer::EntryChosen(int index) {
@@ -32,7 +33,7 @@ void TextViewer::EntryChosen(int index) {
                              LanguageCodeOrNone(parts_.settings.language) + ".txt";
     const auto text =
         parts_.language.FileExists(file) ? parts_.files.ReadWhole(file) : std::nullopt;
-    parts_.view.SetText(text ? parts_.codePage.Decode(*text) : file + ": missing file");
+    parts_.window.Get().SetText(text ? parts_.codePage.Decode(*text) : file + ": missing file");
 }
 
 void TextViewer::BannerClicked() {

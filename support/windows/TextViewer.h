@@ -4,6 +4,7 @@
 #include "common/ports/AnsiCodePage.h"
 #include "common/ports/Files.h"
 #include "support/windows/Banner.h"
+#include "support/windows/OnDemand.h"
 #include "support/windows/TextViewerView.h"
 #include "support/language/clsMultiLanguage.h"
 
@@ -13,7 +14,7 @@
 class TextViewer : public TextViewerEvents {
 public:
     struct Parts {
-        TextViewerView& view;
+        OnDemand<TextViewerView>& window;
         clsMultiLanguage& language; // for its FileExists
         Files& files;
         const AnsiCodePage& codePage;

@@ -132,13 +132,3 @@ void frmAbout::PlaceButtons(Line& line) {
     cmdSysInfo_.Place({infoRight - info.cx, line.top, infoRight, bottom});
     line.top = bottom;
 }
-
-std::vector<FormControl*> AboutOnDemand::Controls() {
-    frmAbout* window = WindowIfMade();
-    return window != nullptr ? window->Controls() : std::vector<FormControl*>();
-}
-
-void AboutOnDemand::SetBanner(int index) {
-    if (frmAbout* window = WindowIfMade())
-        window->SetBanner(index);
-}

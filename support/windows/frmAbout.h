@@ -57,25 +57,4 @@ private:
     CommandButton& cmdOK_;
 };
 
-// The About window as the program holds it.  While it is not there it has no controls to give texts
-// to; it takes those of the language when it is shown, as it always does.
-class AboutOnDemand : public AboutView, public FormOnDemand<frmAbout, AboutEvents> {
-public:
-    using FormOnDemand::FormOnDemand;
-
-    [[nodiscard]] TwipsRect Bounds() const override { return Window().Bounds(); }
-    void Move(const TwipsRect& bounds) override { Window().Move(bounds); }
-    [[nodiscard]] WindowState State() const override { return Window().State(); }
-    void SetState(WindowState state) override { Window().SetState(state); }
-    [[nodiscard]] TwipsSize ScreenSize() const override { return Window().ScreenSize(); }
-    void SetTopmost(bool onTop) override { Window().SetTopmost(onTop); }
-    [[nodiscard]] std::vector<FormControl*> Controls() override;
-
-    void SetWindowCaption(const std::string& caption) override {
-        Window().SetWindowCaption(caption);
-    }
-    void SetTitle(const std::string& title) override { Window().SetTitle(title); }
-    void SetVersion(const std::string& version) override { Window().SetVersion(version); }
-    void SetBanner(int index) override; // a window that is not there gets it when it is shown
-    void ShowModal() override { Window().ShowModal(); }
-};
+using AboutOnDemand = FormOnDemand<frmAbout, AboutView, AboutEvents>;

@@ -102,8 +102,3 @@ void frmTxtView::PlaceText() {
         events_->TextSize({Scale().ToTwips(WidthOf(area)), Scale().ToTwips(HeightOf(area))});
     rtbShowtext_.Place(Scale().ToPixels(TwipsRect{kTextLeft, kTextTop, size.width, size.height}));
 }
-
-void TextViewerOnDemand::SetBanner(int index) {
-    if (frmTxtView* window = WindowIfMade())
-        window->SetBanner(index);
-}

@@ -43,18 +43,4 @@ private:
     PictureBox& picSponsor_;
 };
 
-// The text viewer as the program holds it.
-class TextViewerOnDemand : public TextViewerView,
-                           public FormOnDemand<frmTxtView, TextViewerEvents> {
-public:
-    using FormOnDemand::FormOnDemand;
-
-    void SetEntries(const std::vector<std::string>& entries) override {
-        Window().SetEntries(entries);
-    }
-    void SelectEntry(int index) override { Window().SelectEntry(index); }
-    void SetText(const std::string& text) override { Window().SetText(text); }
-    void SetBanner(int index) override; // a window that is not there gets it when it is shown
-    void SetTopmost(bool onTop) override { Window().SetTopmost(onTop); }
-    void ShowModeless() override { Window().ShowModeless(); }
-};
+using TextViewerOnDemand = FormOnDemand<frmTxtView, TextViewerView, TextViewerEvents>;

@@ -139,7 +139,7 @@ public:
     Application application{{files, rest.codePage, registry, rest.prompts, rest.clipboard,
                              rest.collation, rest.shell, rest.events, rest.service, rest.retry,
                              language, errors, rest.calendar},
-                            {view.View(), window, form, rest.about, rest.textViewer, rest.progress,
-                             rest.progressWindow, rest.progressForm},
+                            {view.View(), window, form, rest.aboutWindow, rest.textViewerWindow,
+                             rest.progress, rest.progressWindow, rest.progressForm},
                             {"C:\\prog", "1.2.7", {"https://www.example.org/1"}, "C:\\prog"}};
 };

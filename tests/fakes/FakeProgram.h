@@ -11,6 +11,7 @@
 #include "tests/fakes/FakeForm.h"
 #include "tests/fakes/FakeFormWindow.h"
 #include "tests/fakes/FakeMainView.h"
+#include "tests/fakes/FakeOnDemand.h"
 #include "tests/fakes/FakeProfile.h"
 #include "tests/fakes/FakeProgress.h"
 #include "tests/fakes/FakePrompts.h"
@@ -123,6 +124,8 @@ public:
     FakeForm mainForm{"frmMain"};
     FakeAbout about;
     FakeTextViewer textViewer;
+    FakeOnDemand<AboutView> aboutWindow{about};
+    FakeOnDemand<TextViewerView> textViewerWindow{textViewer};
     FakeFormWindow progressWindow{"frmProgress"};
     FakeForm progressForm{"frmProgress"};
     clsMultiLanguage language{profile, files, codePage};
@@ -130,7 +133,7 @@ public:
     Application application{
         {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
          language, errors, calendar},
-        {view.View(), mainWindow, mainForm, about, textViewer, progress, progressWindow,
+        {view.View(), mainWindow, mainForm, aboutWindow, textViewerWindow, progress, progressWindow,
          progressForm},
         {"C:\\prog",
          "1.2.7",

@@ -283,13 +283,12 @@ TEST_F(AuxiliaryForms, LinkIsFollowedOnceByADoubleClickAndByAKeyThatIsHeldDown) 
 TEST_F(AuxiliaryForms, AboutWindowIsMadeWhenItIsFirstWanted) {
     AboutOnDemand about(form.Handle(), errors, banners);
     about.Attach(recorded);
-    about.SetBanner(1);
-    EXPECT_TRUE(about.Controls().empty());
+    EXPECT_EQ(about.IfMade(), nullptr);
     EXPECT_EQ(FindWindowW(L"frmAbout", nullptr), nullptr);
-    about.SetTitle("TNT4SWX");
+    about.Get().SetTitle("TNT4SWX");
     const HWND made = FindWindowW(L"frmAbout", nullptr);
     EXPECT_EQ(TextOf(FindChild(made, IDC_lblTitle)), L"TNT4SWX");
-    EXPECT_FALSE(about.Controls().empty());
+    EXPECT_EQ(about.IfMade(), &about.Get());
     SendMessageW(FindChild(made, IDC_lblMail), WM_KEYDOWN, VK_RETURN, 0);
     EXPECT_EQ(recorded.lines, std::vector<std::string>{"mail"});
 }

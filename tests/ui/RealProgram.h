@@ -15,6 +15,7 @@
 #include "tests/fakes/FakeCalendarClock.h"
 #include "tests/fakes/FakeClipboard.h"
 #include "tests/fakes/FakeCollation.h"
+#include "tests/fakes/FakeOnDemand.h"
 #include "tests/fakes/FakeProgress.h"
 #include "tests/fakes/FakePrompts.h"
 #include "tests/fakes/FakeShell.h"
@@ -85,11 +86,12 @@ public:
     frmMain main{errors, banners};
     AboutOnDemand about{main.Handle(), errors, banners};
     frmTxtView textViewer{main.Handle(), errors, banners};
+    FakeOnDemand<TextViewerView> textViewerWindow{textViewer};
     frmProgress progress{main.Handle(), errors, clock};
     Application application{
         {files, page, registry, prompts, clipboard, collation, shell, events, automation, retry,
          language, errors, calendar},
-        {main.View(), main, main, about, textViewer, progress, progress, progress},
+        {main.View(), main, main, about, textViewerWindow, progress, progress, progress},
         {folder, "1.0.0", BannerAddresses(banners.Count()), folder, historyBytes}};
     SilenceAtScopeEnd silence{main};
 

@@ -33,6 +33,7 @@ protected:
         for (FakeForm* form : {&main, &about, &progress})
             form->Add("lbl", "Label");
     }
+    [[nodiscard]] std::vector<LocalizableForm*> Forms() { return {&main, &about, &progress}; }
     [[nodiscard]] std::string Caption() { return main.Controls()[0]->Property("Caption"); }
 
     FakeProfile profile;
@@ -42,7 +43,7 @@ protected:
     FakeForm main{"frmMain"};
     FakeForm about{"frmAbout"};
     FakeForm progress{"frmProgress"};
-    Localisation localisation{language, "C:\\prog", {&main, &about, &progress}};
+    Localisation localisation{language, "C:\\prog", [this] { return Forms(); }};
     Settings settings;
     FakeMarks menu;
     FakeFormWindow window;

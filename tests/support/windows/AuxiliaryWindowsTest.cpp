@@ -92,13 +92,19 @@ TEST_F(AuxiliaryWindowsTest, AboutAndViewerTakeTheCurrentOnTopStateEachTimeTheyA
     EXPECT_EQ(program.textViewer.topmost, (std::vector<bool>{false, true}));
 }
 
-TEST_F(AuxiliaryWindowsTest, AboutAndViewerGetTheBannerWhenTheyAreShown) {
-    program.about.banner = -1; // made only now: what was shown before has passed it by
-    program.textViewer.banner = -1;
-    program.Main().frame.RunCommand(IDM_mnuHlpAbout);
-    program.Main().frame.RunCommand(IDM_mnuHlpShowReadme);
-    EXPECT_EQ(program.about.banner, 1);
-    EXPECT_EQ(program.textViewer.banner, 1);
+TEST_F(AuxiliaryWindowsTest, AboutAndViewerAreMadeWhenTheyAreFirstShownAndGetTheBannerThen) {
+    FakeProgram other;
+    other.aboutWindow.isMade = other.textViewerWindow.isMade = false;
+    other.application.Start();
+    other.Main().frame.RunCommand(IDM_mnuOptionsLngGerman);
+    EXPECT_FALSE(other.aboutWindow.isMade || other.textViewerWindow.isMade);
+    EXPECT_EQ(other.about.banner, -1);
+    EXPECT_EQ(other.textViewer.banner, -1);
+    other.Main().frame.RunCommand(IDM_mnuHlpAbout);
+    EXPECT_FALSE(other.textViewerWindow.isMade);
+    other.Main().frame.RunCommand(IDM_mnuHlpShowReadme);
+    EXPECT_EQ(other.about.banner, 1);
+    EXPECT_EQ(other.textViewer.banner, 1);
 }
 
 TEST_F(AuxiliaryWindowsTest, LanguageCommandGivesMainWindowAboutAndProgressTheirTextsInThisOrder) {
@@ -116,9 +122,11 @@ TEST_F(AuxiliaryWindowsTest, LanguageCommandGivesMainWindowAboutAndProgressTheir
 }
 
 TEST_F(AuxiliaryWindowsTest, AboutIsNeverRestoredAlthoughItIsStored) {
+    program.Main().frame.RunCommand(IDM_mnuHlpAbout);
+    program.about.bounds = {100, 200, 6000, 4000};
     program.application.AboutWindowEvents().AboutUnloading();
     EXPECT_EQ(program.registry.Text("SOFTWARE\\Chromixs\\TNT4SWX\\Form Positions|frmAbout"),
-              "L=0;T=0;W=6000;H=4000;S=0;");
+              "L=100;T=200;W=6000;H=4000;S=0;");
     program.Main().frame.RunCommand(IDM_mnuHlpAbout);
     EXPECT_EQ(program.about.bounds.left, 4680);
 }
