@@ -12,6 +12,7 @@
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32CalendarClock.h"
 #include "platform/Win32Clipboard.h"
+#include "platform/Win32EventPump.h"
 #include "platform/Win32Files.h"
 #include "platform/Win32PrivateProfile.h"
 #include "platform/Win32Prompts.h"

@@ -1,4 +1,4 @@
-#include "common/ports/AutomationObject.h"
+#include "common/AutomationValue.h"
 
 #include "common/Numbers.h"
 #include "common/RuntimeError.h"
@@ -49,24 +49,4 @@ AutomationObjectPtr AutomationValue::AsObject() const {
     if (const auto* object = std::get_if<AutomationObjectPtr>(&data))
         return *object;
     ThrowTypeMismatch();
-}
-
-double AutomationAnswer::AsDouble() const {
-    return NamingMember(member_, [this] { return AutomationValue::AsDouble(); });
-}
-
-std::int32_t AutomationAnswer::AsInt32() const {
-    return NamingMember(member_, [this] { return AutomationValue::AsInt32(); });
-}
-
-std::string AutomationAnswer::AsString() const {
-    return NamingMember(member_, [this] { return AutomationValue::AsString(); });
-}
-
-bool AutomationAnswer::AsBoolean() const {
-    return NamingMember(member_, [this] { return AutomationValue::AsBoolean(); });
-}
-
-AutomationObjectPtr AutomationAnswer::AsObject() const {
-    return NamingMember(member_, [this] { return AutomationValue::AsObject(); });
 }

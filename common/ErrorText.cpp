@@ -1,6 +1,6 @@
 #include "common/ErrorText.h"
 
-#include "common/MessageText.h"
+#include "common/Text.h"
 
 #include <algorithm>
 

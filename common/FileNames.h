@@ -36,3 +36,7 @@
 [[nodiscard]] inline std::string FilePathPart(const std::string& path) {
     return path.substr(0, path.rfind('\\') + 1);
 }
+
+// The path with a suffix behind its name.  A name without room for it loses as much of its end; it
+// is never cut inside a character.
+[[nodiscard]] std::string PathWithSuffix(const std::string& path, std::string_view suffix);

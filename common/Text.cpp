@@ -29,3 +29,13 @@ std::vector<std::string> CharactersOf(std::string_view text) {
     }
     return characters;
 }
+
+std::string CutText(std::string_view text, std::size_t length) {
+    std::string cut;
+    const std::vector<std::string> characters = CharactersOf(text.substr(0, 4 * (length + 1)));
+    if (characters.size() <= length)
+        return std::string(text);
+    for (std::size_t index = 0; index < length; ++index)
+        cut += characters[index];
+    return cut + "...";
+}

@@ -17,6 +17,9 @@
 // The characters of a UTF-8 text.
 [[nodiscard]] std::vector<std::string> CharactersOf(std::string_view text);
 
+// The text, or its first characters and "..." when it is longer.  UTF-8.
+[[nodiscard]] std::string CutText(std::string_view text, std::size_t length);
+
 // Lower case for A..Z only; every other character stays.
 [[nodiscard]] std::string ToLowerAscii(std::string_view text);
 

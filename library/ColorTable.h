@@ -2,7 +2,7 @@
 
 #include "common/ColorRecord.h"
 #include "library/ColorStore.h"
-#include "library/LibraryJournal.h"
+#include "library/ColorJournal.h"
 
 #include <cstdint>
 #include <map>

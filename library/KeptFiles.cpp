@@ -2,7 +2,7 @@
 
 #include "common/FileNames.h"
 #include "common/Text.h"
-#include "library/NewFile.h"
+#include "library/WriteNewFile.h"
 
 #include <array>
 #include <cstdio>

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "library/ColorJournal.h"
 #include "library/LibraryChange.h"
-#include "library/LibraryJournal.h"
 #include "library/LibraryView.h"
+#include "library/TreeJournal.h"
 
 #include <optional>
 #include <string>

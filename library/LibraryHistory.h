@@ -1,10 +1,11 @@
 #pragma once
 
+#include "library/ColorJournal.h"
 #include "library/ColorTable.h"
 #include "library/LibraryChanges.h"
-#include "library/LibraryJournal.h"
 #include "library/LibraryTree.h"
 #include "library/LibraryView.h"
+#include "library/TreeJournal.h"
 
 #include <cstdint>
 #include <functional>

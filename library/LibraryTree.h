@@ -1,6 +1,6 @@
 #pragma once
 
-#include "library/LibraryJournal.h"
+#include "library/TreeJournal.h"
 #include "library/LibraryNode.h"
 #include "library/LibraryTreeObserver.h"
 #include "library/LibraryView.h"

@@ -1,6 +1,7 @@
 #include "library/SafeFileWriter.h"
 
-#include "library/NewFile.h"
+#include "common/FileNames.h"
+#include "library/WriteNewFile.h"
 
 namespace {
 

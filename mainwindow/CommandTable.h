@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <span>
 
-// The one table of everything that can be commanded: the menus and their shortcuts are made from it,
-// and each row runs its command.  The toolbar names commands of it (ToolbarTable.h).
+// The one table of everything that can be commanded: the menus and their shortcuts are made from
+// it, and each row runs its command.  The toolbar names commands of it (ToolbarTable.h).
 
 // The platform's virtual keys that have no character.
 namespace Key {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/Twips.h"
 #include "common/ports/FormWindow.h"
+#include "common/TwipsRect.h"
 
 // What the layout pass needs to know, and what it decides.
 struct LayoutMetrics {

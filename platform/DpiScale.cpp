@@ -4,12 +4,18 @@
 
 #include <cmath>
 
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+
+} // namespace
+
 int DpiScale::FromDesign(int designPixels) const noexcept {
     return MulDiv(designPixels, dpi_, kDesignDpi);
 }
 
 float DpiScale::ToTwips(int pixels) const noexcept {
-    return static_cast<float>(pixels * static_cast<double>(kTwipsPerInch) / dpi_);
+    return static_cast<float>(pixels * kTwipsPerInch / dpi_);
 }
 
 int DpiScale::ToPixels(float twips) const noexcept {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Twips.h"
+#include "common/TwipsRect.h"
 
 #include <windows.h>
 

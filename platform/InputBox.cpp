@@ -1,6 +1,6 @@
 #include "platform/InputBox.h"
 
-#include "common/MessageText.h"
+#include "common/FittedMessage.h"
 #include "platform/controls/CommandButton.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/TextBox.h"

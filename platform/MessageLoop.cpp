@@ -3,9 +3,7 @@
 #include "platform/Form.h"
 #include "platform/Guarded.h"
 
-namespace {
-
-void Dispatch(MSG& message) {
+void DispatchToForm(MSG& message) {
     Form* form = Form::FromWindow(message.hwnd);
     bool done = false;
     if (form != nullptr)
@@ -16,31 +14,10 @@ void Dispatch(MSG& message) {
     DispatchMessageW(&message);
 }
 
-// Clicks, moves of the pointer and keys, also those beside the client area.
-bool IsInput(UINT message) noexcept {
-    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) ||
-           (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) ||
-           (message >= WM_NCMOUSEMOVE && message <= WM_NCXBUTTONDBLCLK);
-}
-
-// The end of the program is passed on to the loop outside.
-void ForEachPendingMessage(const std::function<void(MSG&)>& handle) {
-    MSG message{};
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
-        if (message.message == WM_QUIT) {
-            PostQuitMessage(static_cast<int>(message.wParam));
-            return;
-        }
-        handle(message);
-    }
-}
-
-} // namespace
-
 int RunMessageLoop() {
     MSG message{};
     while (GetMessageW(&message, nullptr, 0, 0) > 0)
-        Dispatch(message);
+        DispatchToForm(message);
     return static_cast<int>(message.wParam);
 }
 
@@ -51,21 +28,6 @@ void RunModalLoop(const std::function<bool()>& isDone) {
             PostQuitMessage(static_cast<int>(message.wParam));
             return;
         }
-        Dispatch(message);
+        DispatchToForm(message);
     }
-}
-
-void Win32EventPump::ProcessPendingEvents() {
-    ForEachPendingMessage(Dispatch);
-}
-
-bool Win32EventPump::ProcessEventsWithoutInput() {
-    bool escaped = false;
-    ForEachPendingMessage([&escaped](MSG& message) {
-        if (!IsInput(message.message))
-            Dispatch(message);
-        else if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE)
-            escaped = true;
-    });
-    return escaped;
 }

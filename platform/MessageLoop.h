@@ -1,8 +1,7 @@
 #pragma once
 
-#include "common/ports/EventPump.h"
-
 #include <functional>
+#include <windows.h>
 
 // The program's message loop: ends with the program (PostQuitMessage) and returns its exit code.
 int RunMessageLoop();
@@ -11,9 +10,5 @@ int RunMessageLoop();
 // and is passed on to the loop outside.
 void RunModalLoop(const std::function<bool()>& isDone);
 
-// Processes the messages that are waiting.  The end of the program is passed on to the loop.
-class Win32EventPump : public EventPump {
-public:
-    void ProcessPendingEvents() override;
-    [[nodiscard]] bool ProcessEventsWithoutInput() override;
-};
+// A message that a loop has got: for its form's keys, or for its window.
+void DispatchToForm(MSG& message);

@@ -1,6 +1,6 @@
 #include "platform/Win32Prompts.h"
 
-#include "common/MessageText.h"
+#include "common/FittedMessage.h"
 #include "platform/BoxOwner.h"
 #include "platform/CentredBox.h"
 #include "platform/DpiScale.h"

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "common/Twips.h"
+#include "common/TwipsRect.h"
+#include "common/TwipsSize.h"
 
 #include <windows.h>
 

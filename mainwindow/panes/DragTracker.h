@@ -4,7 +4,7 @@
 #include "platform/controls/Label.h"
 #include "platform/controls/ListView.h"
 #include "platform/controls/TreeView.h"
-#include "platform/DragCursor.h"
+#include "platform/NamedCursor.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/Twips.h"
 #include "common/ports/FormWindow.h"
+#include "common/TwipsRect.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Twips.h"
+#include "common/TwipsSize.h"
 
 #include <string>
 #include <vector>

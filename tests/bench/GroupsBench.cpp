@@ -1,5 +1,5 @@
-#include "platform/MessageLoop.h"
 #include "platform/Win32AnsiCodePage.h"
+#include "platform/Win32EventPump.h"
 #include "resources/controls.h"
 #include "tests/fakes/FakeRegistry.h"
 #include "tests/platform/ScratchFolder.h"

@@ -1,5 +1,5 @@
 // Rules: Clearing colors
-#include "common/ports/AutomationObject.h"
+#include "common/AutomationValue.h"
 
 #include "common/RuntimeError.h"
 

@@ -1,5 +1,5 @@
 // Rules: Editing commands
-#include "platform/DragCursor.h"
+#include "platform/NamedCursor.h"
 #include "tests/fakes/LibraryNodes.h"
 #include "tests/ui/MainFormTest.h"
 

@@ -1,7 +1,7 @@
 #include "tests/ui/MainFormTest.h"
 
-#include "platform/MessageLoop.h"
 #include "platform/Utf16.h"
+#include "platform/Win32EventPump.h"
 
 #include <array>
 

@@ -1,11 +1,7 @@
-#include "library/NewFile.h"
-
-#include "common/FileNames.h"
-#include "common/Text.h"
+#include "library/WriteNewFile.h"
 
 namespace {
 
-constexpr std::size_t kLongestName = 255; // counted in bytes, which no file system exceeds
 constexpr int kMostChoices = 1000;
 
 bool WriteAll(OutputFile& file, std::string_view content) {
@@ -29,15 +25,4 @@ std::optional<std::string> WriteNewFile(Files& files, const PathChoices& choices
             return {};
     }
     return {};
-}
-
-std::string PathWithSuffix(const std::string& path, std::string_view suffix) {
-    std::string name = FileNamePart(path);
-    if (name.size() + suffix.size() > kLongestName) {
-        std::size_t kept = kLongestName - suffix.size();
-        while (IsInsideCharacter(name[kept]))
-            --kept;
-        name.resize(kept);
-    }
-    return FilePathPart(path) + name.append(suffix);
 }

@@ -1,5 +1,5 @@
 // Rules: SolidWorks session
-#include "platform/MessageLoop.h"
+#include "platform/Win32EventPump.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>

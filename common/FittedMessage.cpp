@@ -1,4 +1,4 @@
-#include "common/MessageText.h"
+#include "common/FittedMessage.h"
 
 #include "common/Text.h"
 
@@ -81,14 +81,4 @@ std::string FittedMessage(std::string_view text, const MessageSize& room,
     if (measured.size() == text.size() && measure(fitted).height <= room.height)
         return fitted;
     return FirstLines(fitted, room.height, measure);
-}
-
-std::string CutText(std::string_view text, std::size_t length) {
-    std::string cut;
-    const std::vector<std::string> characters = CharactersOf(text.substr(0, 4 * (length + 1)));
-    if (characters.size() <= length)
-        return std::string(text);
-    for (std::size_t index = 0; index < length; ++index)
-        cut += characters[index];
-    return cut + kMore;
 }

@@ -1,4 +1,4 @@
-#include "platform/DragCursor.h"
+#include "platform/NamedCursor.h"
 
 #include "platform/IconList.h"
 

@@ -1,5 +1,5 @@
 // Rules: SolidWorks session
-#include "common/MessageText.h"
+#include "common/FittedMessage.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

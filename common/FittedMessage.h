@@ -18,6 +18,3 @@ using MessageMeasure = std::function<MessageSize(const std::string& text)>;
 // as the last.  UTF-8.
 [[nodiscard]] std::string FittedMessage(std::string_view text, const MessageSize& room,
                                         const MessageMeasure& measure);
-
-// The text, or its first characters and "..." when it is longer.  UTF-8.
-[[nodiscard]] std::string CutText(std::string_view text, std::size_t length);

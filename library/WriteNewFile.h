@@ -15,7 +15,3 @@ using PathChoices = std::function<std::string(int)>;
 // then.
 [[nodiscard]] std::optional<std::string> WriteNewFile(Files& files, const PathChoices& choices,
                                                       std::string_view content);
-
-// The path with a suffix behind its name.  A name without room for it loses as much of its end; it
-// is never cut inside a character.
-[[nodiscard]] std::string PathWithSuffix(const std::string& path, std::string_view suffix);
