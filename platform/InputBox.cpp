@@ -6,9 +6,9 @@
 #include "platform/controls/TextBox.h"
 #include "platform/Fonts.h"
 #include "platform/Form.h"
+#include "platform/InputBoxControls.h"
 #include "platform/ModalDisplay.h"
 #include "platform/Utf16.h"
-#include "resources/controls.h"
 
 namespace {
 
@@ -67,8 +67,8 @@ private:
     }
 
     Label& prompt_ =
-        Add<Label>(ControlPlace{"lblPrompt", IDC_lblPrompt, Handle()}, LabelText::Plain);
-    TextBox& input_ = Add<TextBox>(ControlPlace{"txtInput", IDC_txtInput, Handle()});
+        Add<Label>(ControlPlace{"lblPrompt", InputBoxControls::Prompt, Handle()}, LabelText::Plain);
+    TextBox& input_ = Add<TextBox>(ControlPlace{"txtInput", InputBoxControls::Input, Handle()});
     CommandButton& ok_ =
         Add<CommandButton>(ControlPlace{"cmdOK", IDOK, Handle()}, ButtonRole::Default);
     CommandButton& cancel_ = Add<CommandButton>(ControlPlace{"cmdCancel", IDCANCEL, Handle()});

@@ -52,10 +52,6 @@
 #define IDC_lblInfo 1402
 #define IDC_cmdCancel 1403
 
-// Input box
-#define IDC_txtInput 1451
-#define IDC_lblPrompt 1452
-
 // Menu entries; the number of a command everywhere
 #define IDM_mnuFile 2001
 #define IDM_mnuFileNew 2002

@@ -25,21 +25,23 @@ ROOMS = ("app", "mainwindow/panes", "mainwindow", "support/language", "support/s
          "support/windows", "platform", "library", "solidworks", "common", "standin/model",
          "standin/com", "resources", "tests")
 
-# The rooms that a room may include, itself and resources/controls.h aside.
-SUPPORT = ("support/language", "support/settings", "support/windows")
+# The rooms that a room may include, itself aside: those that it needs, no others.
 ROOMS_BELOW = {
     "common": (),
     "platform": ("common",),
     "library": ("common",),
     "solidworks": ("common",),
-    "support/language": ("common",),
-    "support/settings": ("common", "support/language"),
-    "support/windows": ("common", "platform", "support/language", "support/settings"),
-    "mainwindow": ("common", "library", "solidworks", *SUPPORT),
-    "mainwindow/panes": ("common", "platform", "library", "mainwindow"),
-    "app": ("common", "platform", "library", "solidworks", *SUPPORT, "mainwindow"),
+    "support/language": ("common", "resources"),
+    "support/settings": ("common", "support/language", "resources"),
+    "support/windows": ("common", "platform", "support/language", "support/settings",
+                        "resources"),
+    "mainwindow": ("common", "library", "solidworks", "support/settings", "support/windows",
+                   "resources"),
+    "mainwindow/panes": ("common", "platform", "library", "mainwindow", "resources"),
+    "app": ("common", "platform", "library", "solidworks", "support/language", "support/settings",
+            "support/windows", "mainwindow"),
     "standin/model": ("common",),
-    "standin/com": ("common", "platform", "standin/model"),
+    "standin/com": ("common", "platform", "standin/model", "resources"),
     "resources": (),
     "tests": tuple(room for room in ROOMS if room != "tests"),
 }
@@ -51,7 +53,6 @@ CLOSED_HEADERS = {
     "library": re.compile(r"common/(ports/(Prompts|InfoTexts|ProgressView|EventPump|Clipboard)|"
                           r"InfoTextNumber|ShownProgress|Settings)\.h$"),
 }
-SHARED_HEADERS = ("resources/controls.h",)
 # The objects of SolidWorks know each other both ways, a document its features and a feature its
 # document, and so do those that play them.  Their headers do not.
 SOURCES_IN_CIRCLES = re.compile(r"standin/model/.*\.cpp$")
@@ -61,7 +62,8 @@ WINDOWS_HALF = re.compile(
     r"support/windows/(frm(About|TxtView|Progress)|BannerPictures\.|FormOnDemand\.)|"
     r"app/main\.cpp$|standin/com/|"
     r"tests/(platform|ui|e2e|faults)/|tests/bench/(Groups|Start|Walk|Sort)Bench\.cpp$|"
-    r"tests/bench/library/(BenchPlatformWindows|HeapUse)\.cpp$|resources/")
+    r"tests/bench/library/(BenchPlatformWindows|HeapUse)\.cpp$|"
+    r"resources/(?!controls\.h$)")
 
 STANDARD_HEADERS = frozenset("""
 algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono
@@ -98,8 +100,6 @@ def fault_of_system_header(path, header):
 
 
 def fault_of_own_header(path, header):
-    if header in SHARED_HEADERS:
-        return None
     own_room, other_room = room_of(path), room_of(header)
     if other_room is None:
         return "not written as a path from the project's root"

@@ -14,8 +14,7 @@ struct ControlKind {
     const char* textProperty;
 };
 
-// A control that stands on a form: its name, its number in resources/controls.h, and the window
-// that it stands in.
+// A control that stands on a form: its name, its number, and the window that it stands in.
 struct ControlPlace {
     const char* name;
     int id;

@@ -1,7 +1,7 @@
 #include "tests/e2e/RemoteDialogs.h"
 
+#include "platform/InputBoxControls.h"
 #include "platform/Utf16.h"
-#include "resources/controls.h"
 #include "tests/e2e/RealInput.h"
 #include "tests/e2e/RemoteMemory.h"
 #include "tests/platform/PollUntil.h"
@@ -173,26 +173,28 @@ std::string RemoteDialogs::AnswerColorDialog(const RemoteWindow& owner,
 }
 
 std::string RemoteDialogs::CancelInputBox(const RemoteWindow& owner) {
-    const RemoteWindow dialog = WaitForPopup(owner, L"InputBox", IDC_txtInput);
-    std::string prompt = dialog.Child(IDC_lblPrompt).Text();
-    if (!PollUntil([&] { return dialog.FocusedChild() == dialog.Child(IDC_txtInput).Handle(); }))
+    const RemoteWindow dialog = WaitForPopup(owner, L"InputBox", InputBoxControls::Input);
+    std::string prompt = dialog.Child(InputBoxControls::Prompt).Text();
+    if (!PollUntil([&] {
+            return dialog.FocusedChild() == dialog.Child(InputBoxControls::Input).Handle();
+        }))
         throw std::runtime_error("The input box has no focus");
     RealInput::PressKey(VK_ESCAPE);
-    WaitUntilGone(dialog, IDC_txtInput);
+    WaitUntilGone(dialog, InputBoxControls::Input);
     return prompt;
 }
 
 RemoteDialogs::Question RemoteDialogs::AnswerInputBox(const RemoteWindow& owner,
                                                       const std::string& answer) {
-    const RemoteWindow dialog = WaitForPopup(owner, L"InputBox", IDC_txtInput);
-    const RemoteWindow input = dialog.Child(IDC_txtInput);
-    Question question{dialog.Child(IDC_lblPrompt).Text(), input.Text()};
+    const RemoteWindow dialog = WaitForPopup(owner, L"InputBox", InputBoxControls::Input);
+    const RemoteWindow input = dialog.Child(InputBoxControls::Input);
+    Question question{dialog.Child(InputBoxControls::Prompt).Text(), input.Text()};
     if (!PollUntil([&] { return dialog.FocusedChild() == input.Handle(); }))
         throw std::runtime_error("The input box has no focus");
     RealInput::TypeText(ToUtf16(answer));
     if (!PollUntil([&] { return input.Text() == answer; }))
         throw std::runtime_error("The input box holds " + input.Text());
     RealInput::PressKey(VK_RETURN);
-    WaitUntilGone(dialog, IDC_txtInput);
+    WaitUntilGone(dialog, InputBoxControls::Input);
     return question;
 }

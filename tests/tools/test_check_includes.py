@@ -95,8 +95,12 @@ class OwnHeaders(unittest.TestCase):
     def test_are_named_from_the_root(self):
         self.assertEqual(len(faults("common/Text.cpp", '#include "Numbers.h"')), 1)
 
-    def test_the_control_numbers_are_shared_by_all(self):
-        self.assertEqual(faults("mainwindow/CommandTable.h", '#include "resources/controls.h"'), [])
+    def test_with_the_products_numbers_are_for_those_who_know_the_product(self):
+        header = '#include "resources/controls.h"'
+        self.assertEqual(faults("mainwindow/CommandTable.h", header), [])
+        for room in ("common", "library", "solidworks", "platform", "standin/model"):
+            with self.subTest(room):
+                self.assertEqual(len(faults(f"{room}/Any.h", header)), 1)
 
 
 class Circles(unittest.TestCase):

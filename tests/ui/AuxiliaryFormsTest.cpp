@@ -1,6 +1,7 @@
 // Rules: Auxiliary windows
 #include "common/RuntimeError.h"
 #include "platform/InputBox.h"
+#include "platform/InputBoxControls.h"
 #include "platform/MessageLoop.h"
 #include "support/windows/frmAbout.h"
 #include "support/windows/frmProgress.h"
@@ -573,28 +574,29 @@ TEST_F(InputBoxes, PresetIsSelectedAndThePromptIsShown) {
     Ask([](HWND box) {
         DWORD start = 9;
         DWORD end = 0;
-        SendMessageW(FindChild(box, IDC_txtInput), EM_GETSEL, reinterpret_cast<WPARAM>(&start),
-                     reinterpret_cast<LPARAM>(&end));
+        SendMessageW(FindChild(box, InputBoxControls::Input), EM_GETSEL,
+                     reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
         EXPECT_EQ(start, 0U);
         EXPECT_EQ(end, 10U);
-        EXPECT_EQ(GetFocus(), FindChild(box, IDC_txtInput));
-        EXPECT_EQ(TextOf(FindChild(box, IDC_lblPrompt)), L"Name der neuen Farbe:");
+        EXPECT_EQ(GetFocus(), FindChild(box, InputBoxControls::Input));
+        EXPECT_EQ(TextOf(FindChild(box, InputBoxControls::Prompt)), L"Name der neuen Farbe:");
         PostMessageW(box, WM_CLOSE, 0, 0);
     });
 }
 
 TEST_F(InputBoxes, EnterGivesTheText) {
     EXPECT_EQ(Ask([](HWND box) {
-                  SetWindowTextW(FindChild(box, IDC_txtInput), L"Grün");
-                  PostMessageW(FindChild(box, IDC_txtInput), WM_KEYDOWN, VK_RETURN, 0);
+                  SetWindowTextW(FindChild(box, InputBoxControls::Input), L"Grün");
+                  PostMessageW(FindChild(box, InputBoxControls::Input), WM_KEYDOWN, VK_RETURN, 0);
               }),
               L"Grün");
 }
 
 TEST_F(InputBoxes, EscapeCancelAndCloseBoxGiveNothing) {
-    EXPECT_EQ(
-        Ask([](HWND box) { PostMessageW(FindChild(box, IDC_txtInput), WM_KEYDOWN, VK_ESCAPE, 0); }),
-        L"");
+    EXPECT_EQ(Ask([](HWND box) {
+                  PostMessageW(FindChild(box, InputBoxControls::Input), WM_KEYDOWN, VK_ESCAPE, 0);
+              }),
+              L"");
     EXPECT_EQ(Ask([](HWND box) { SendMessageW(FindChild(box, IDCANCEL), BM_CLICK, 0, 0); }), L"");
     EXPECT_EQ(Ask([](HWND box) { PostMessageW(box, WM_CLOSE, 0, 0); }), L"");
 }
