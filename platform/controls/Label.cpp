@@ -108,16 +108,10 @@ MessageResult LinkLabel::OnMessage(const WindowMessage& message) {
     }
 }
 
-void LinkLabel::Paint(HDC device, const RECT& area) const {
+void LinkLabel::Paint(const Canvas& canvas, const RECT& area) const {
     const FontHandle font = UnderlinedFont(Host().Font());
-    RECT lines = area;
-    FillRect(device, &area, GetSysColorBrush(COLOR_3DFACE));
-    const HGDIOBJ before = SelectObject(device, font.Get());
-    SetBkMode(device, TRANSPARENT);
-    SetTextColor(device, LinkColor());
-    DrawTextW(device, ToUtf16(Text()).c_str(), -1, &lines,
-              DT_NOPREFIX | DT_WORDBREAK | DT_EDITCONTROL);
-    SelectObject(device, before);
+    canvas.Fill(area, GetSysColor(COLOR_3DFACE));
+    canvas.WithFont(font.Get()).Text(Text(), area, LinkColor(), DT_WORDBREAK | DT_EDITCONTROL);
     if (GetFocus() == Handle())
-        DrawFocusRect(device, &area);
+        canvas.FocusFrame(area);
 }

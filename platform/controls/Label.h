@@ -45,5 +45,5 @@ public:
 
 protected:
     MessageResult OnMessage(const WindowMessage& message) override;
-    void Paint(HDC device, const RECT& area) const override;
+    void Paint(const Canvas& canvas, const RECT& area) const override;
 };

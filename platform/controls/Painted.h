@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/BufferedPaint.h"
+#include "platform/Canvas.h"
 #include "platform/controls/Control.h"
 
 // What a control that draws itself does with the messages by which its window's class would draw at
@@ -16,14 +17,14 @@ public:
 protected:
     using Base::Base;
 
-    // The whole of the client area, in memory first.
-    virtual void Paint(HDC device, const RECT& area) const = 0;
+    // The whole of the client area, in memory first; the canvas has the form's font.
+    virtual void Paint(const Canvas& canvas, const RECT& area) const = 0;
 
     MessageResult OnMessage(const WindowMessage& message) override {
         if (message.id != WM_PAINT)
             return AnswerUnpainted(message);
         const BufferedPaint paint(message.window);
-        Paint(paint.Device(), paint.Area());
+        Paint(Canvas(paint.Device(), Base::Host().Font()), paint.Area());
         return 0;
     }
 };

@@ -43,20 +43,16 @@ MessageResult PictureBox::OnMessage(const WindowMessage& message) {
     return 1;
 }
 
-void PictureBox::Paint(HDC device, const RECT& area) const {
-    FillRect(device, &area, GetSysColorBrush(COLOR_3DFACE));
+void PictureBox::Paint(const Canvas& canvas, const RECT& area) const {
+    canvas.Fill(area, GetSysColor(COLOR_3DFACE));
     if (picture_ == nullptr)
         return;
     const SIZE size = PictureSize();
     const int height = std::min(HeightOf(area), MulDiv(size.cy, WidthOf(area), size.cx));
     const int width = WidthForHeight(height);
-    const MemoryDevice source(CreateCompatibleDC(device));
-    const HGDIOBJ before = SelectObject(source.Get(), picture_);
-    SetStretchBltMode(device, HALFTONE);
-    SetBrushOrgEx(device, 0, 0, nullptr);
-    StretchBlt(device, (WidthOf(area) - width) / 2, (HeightOf(area) - height) / 2, width, height,
-               source.Get(), 0, 0, size.cx, size.cy, SRCCOPY);
-    SelectObject(source.Get(), before);
+    const int left = (WidthOf(area) - width) / 2;
+    const int top = (HeightOf(area) - height) / 2;
+    canvas.Picture(picture_, {left, top, left + width, top + height});
 }
 
 IconBox::IconBox(ControlHost& host, const ControlPlace& place, int designSize)

@@ -22,7 +22,7 @@ public:
 
 protected:
     MessageResult OnMessage(const WindowMessage& message) override;
-    void Paint(HDC device, const RECT& area) const override;
+    void Paint(const Canvas& canvas, const RECT& area) const override;
 
 private:
     [[nodiscard]] SIZE PictureSize() const noexcept;

@@ -38,18 +38,12 @@ void Swatch::OnCommand(WPARAM wParam) {
         Raise(onDoubleClick);
 }
 
-void Swatch::Paint(HDC device, const RECT& area) const {
-    const BrushHandle brush(CreateSolidBrush(background_));
-    FillRect(device, &area, brush.Get());
-    FrameRect(device, &area, GetSysColorBrush(COLOR_3DSHADOW));
-    const HGDIOBJ before = SelectObject(device, Host().Font());
-    SetBkMode(device, TRANSPARENT);
-    SetTextColor(device, text_);
+void Swatch::Paint(const Canvas& canvas, const RECT& area) const {
+    canvas.Fill(area, background_);
+    canvas.Frame(area, GetSysColor(COLOR_3DSHADOW), 1);
     RECT inside = area;
     InflateRect(&inside, -Scale().FromDesign(kMargin), 0);
-    DrawTextW(device, ToUtf16(Text()).c_str(), -1, &inside,
-              DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
-    SelectObject(device, before);
+    canvas.Text(Text(), inside, text_, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
 }
 
 SolidBar::SolidBar(ControlHost& host, const ControlPlace& place)

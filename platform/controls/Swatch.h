@@ -18,7 +18,7 @@ public:
 
 protected:
     [[nodiscard]] bool IsTextCut() const override;
-    void Paint(HDC device, const RECT& area) const override;
+    void Paint(const Canvas& canvas, const RECT& area) const override;
 
 private:
     ColorNumber background_ = 0xFFFFFF;

@@ -1,7 +1,7 @@
 #include "standin/com/ColorTablePane.h"
 
+#include "platform/Canvas.h"
 #include "platform/DpiScale.h"
-#include "standin/com/Canvas.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "standin/com/DetailsPane.h"
 
+#include "platform/Canvas.h"
 #include "platform/DpiScale.h"
 #include "platform/Fonts.h"
-#include "standin/com/Canvas.h"
 #include "standin/model/CallText.h"
 #include "standin/model/SurfaceShade.h"
 

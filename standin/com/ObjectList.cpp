@@ -1,9 +1,9 @@
 #include "standin/com/ObjectList.h"
 
+#include "platform/Canvas.h"
 #include "platform/DpiScale.h"
 #include "platform/ExplorerTheme.h"
 #include "platform/Utf16.h"
-#include "standin/com/Canvas.h"
 #include "standin/model/SurfaceShade.h"
 
 #include <algorithm>

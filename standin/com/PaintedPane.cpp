@@ -1,7 +1,5 @@
 #include "standin/com/PaintedPane.h"
 
-#include "standin/com/Canvas.h"
-
 namespace {
 
 constexpr ControlKind kPane{"PictureBox", WC_STATICW, "Caption"};
@@ -11,8 +9,7 @@ constexpr ControlKind kPane{"PictureBox", WC_STATICW, "Caption"};
 PaintedPane::PaintedPane(ControlHost& host, const ControlPlace& place)
     : Painted(host, kPane, place, WS_VISIBLE | SS_NOTIFY) {}
 
-void PaintedPane::Paint(HDC device, const RECT& area) const {
-    const Canvas canvas(device, Host().Font());
+void PaintedPane::Paint(const Canvas& canvas, const RECT& area) const {
     canvas.Fill(area, GetSysColor(COLOR_WINDOW));
     PaintInside(canvas, area);
     canvas.Frame(area, GetSysColor(COLOR_3DSHADOW), 1);

@@ -2,8 +2,6 @@
 
 #include "platform/controls/Painted.h"
 
-class Canvas;
-
 // A part of the window that draws itself.  Its window text is for programs that read the screen.
 class PaintedPane : public Painted<> {
 protected:
@@ -13,5 +11,5 @@ protected:
     virtual void OnMousePress(POINT /*point*/, bool /*append*/) {}
 
     MessageResult OnMessage(const WindowMessage& message) override;
-    void Paint(HDC device, const RECT& area) const override;
+    void Paint(const Canvas& canvas, const RECT& area) const override;
 };

@@ -1,8 +1,9 @@
 #include "standin/com/PicturePane.h"
 
+#include "platform/Canvas.h"
 #include "platform/DpiScale.h"
 #include "platform/Fonts.h"
-#include "standin/com/Canvas.h"
+#include "standin/com/PlateColors.h"
 #include "standin/model/ObjectRows.h"
 #include "standin/model/SurfaceShade.h"
 

@@ -4,11 +4,13 @@
 #include "platform/DpiScale.h"
 #include "platform/Handles.h"
 
+#include <cstdint>
 #include <string>
 
-// Drawing on a device: filled and framed areas, polygons, lines of text.
+// Drawing on a device: filled and framed areas, polygons, pictures, texts.
 class Canvas {
 public:
+    // The font must outlive the canvas; after it the device has its own again.
     Canvas(HDC device, HFONT font);
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
@@ -21,6 +23,12 @@ public:
     // format: DT_...; the text is never taken for one with access keys.
     void Text(const std::string& text, RECT area, ColorNumber color, UINT format) const;
     void SetFont(HFONT font) const { SelectObject(device_, font); }
+    // The same device with another font.
+    [[nodiscard]] Canvas WithFont(HFONT font) const { return {device_, font}; }
+    // The frame of what has the focus.
+    void FocusFrame(const RECT& area) const { DrawFocusRect(device_, &area); }
+    // The whole picture, as large as the area.
+    void Picture(HBITMAP picture, const RECT& area) const;
     // pixels: size * size values 0x00RRGGBB.
     void Pixels(int left, int top, int size, const std::uint32_t* pixels) const;
 
@@ -28,9 +36,3 @@ private:
     HDC device_;
     HGDIOBJ fontBefore_;
 };
-
-// Black or white, whichever is easier to read on the background.
-[[nodiscard]] ColorNumber ReadableOn(ColorNumber background) noexcept;
-
-// The color with every part multiplied by percent / 100.
-[[nodiscard]] ColorNumber Darker(ColorNumber color, int percent) noexcept;

@@ -1,4 +1,4 @@
-#include "standin/com/Canvas.h"
+#include "platform/Canvas.h"
 
 #include "platform/Utf16.h"
 
@@ -36,6 +36,18 @@ void Canvas::Text(const std::string& text, RECT area, ColorNumber color, UINT fo
     DrawTextW(device_, ToUtf16(text).c_str(), -1, &area, format | DT_NOPREFIX);
 }
 
+void Canvas::Picture(HBITMAP picture, const RECT& area) const {
+    BITMAP description{};
+    GetObjectW(picture, sizeof description, &description);
+    const MemoryDevice source(CreateCompatibleDC(device_));
+    const HGDIOBJ before = SelectObject(source.Get(), picture);
+    SetStretchBltMode(device_, HALFTONE);
+    SetBrushOrgEx(device_, 0, 0, nullptr);
+    StretchBlt(device_, area.left, area.top, WidthOf(area), HeightOf(area), source.Get(), 0, 0,
+               description.bmWidth, description.bmHeight, SRCCOPY);
+    SelectObject(source.Get(), before);
+}
+
 void Canvas::Pixels(int left, int top, int size, const std::uint32_t* pixels) const {
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
@@ -45,16 +57,4 @@ void Canvas::Pixels(int left, int top, int size, const std::uint32_t* pixels) co
     info.bmiHeader.biBitCount = 32;
     SetDIBitsToDevice(device_, left, top, static_cast<DWORD>(size), static_cast<DWORD>(size), 0, 0,
                       0, static_cast<UINT>(size), pixels, &info, DIB_RGB_COLORS);
-}
-
-ColorNumber ReadableOn(ColorNumber background) noexcept {
-    const RedGreenBlue color = SplitColorNumber(background);
-    const int brightness = color.red * 299 + color.green * 587 + color.blue * 114;
-    return brightness > 140'000 ? 0x202020 : 0xFFFFFF;
-}
-
-ColorNumber Darker(ColorNumber color, int percent) noexcept {
-    const RedGreenBlue parts = SplitColorNumber(color);
-    return MakeColorNumber(parts.red * percent / 100, parts.green * percent / 100,
-                           parts.blue * percent / 100);
 }
