@@ -1,6 +1,7 @@
 // Rules: SolidWorks session
 #include "mainwindow/CommandTable.h"
 #include "resources/controls.h"
+#include "support/language/Languages.h"
 #include "tests/fakes/FakeProgram.h"
 #include "tests/fakes/MemberFault.h"
 #include "tests/standin/StandInClient.h"
@@ -386,9 +387,9 @@ TEST_F(SolidWorksCommandsTest, StandardColorsWhoseGroupCannotBeMadeLeaveTheLibra
 }
 
 TEST_F(SolidWorksCommandsTest, ColorOfAFaceWithoutAnyColorIsNoNameAndZerosWithoutAMessage) {
-    for (const char* language : {"de", "us"}) {
+    for (const Language& language : kLanguages) {
         Start("no-colors");
-        Run(language == std::string("de") ? IDM_mnuOptionsLngGerman : IDM_mnuOptionsLngEnglish);
+        Run(language.command);
         Select(Client().Face(0));
         Run(IDM_mnuSWXGetColor);
         EXPECT_EQ(program->view.colorName, "");

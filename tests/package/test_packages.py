@@ -21,6 +21,7 @@ sys.path[:0] = [str(pathlib.Path(__file__).resolve().parent.parent / "tools")]
 
 import tool
 import windows_side as windows
+from language_codes import language_codes
 from windows_side import INSTALLED, ROOT, SETTINGS_KEY, UNINSTALL_KEY
 
 make = tool.load("make-packages")
@@ -83,7 +84,7 @@ class Version(PackageTest):
 
     def test_is_what_the_lists_of_changes_begin_with(self):
         for name in ("CHANGELOG.md", *(f"resources/documents/changes_{code}.txt"
-                                       for code in ("de", "us"))):
+                                       for code in language_codes().values())):
             text = (ROOT / name).read_text(encoding="cp1252")
             self.assertEqual(re.search(r"\d+\.\d+\.\d+", text).group(), VERSION, name)
 

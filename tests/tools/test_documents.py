@@ -1,14 +1,16 @@
-"""The texts that stand beside the program, each in both languages."""
+"""The texts that stand beside the program, each in every language."""
 # Rules: Tools and packages
 
-import pathlib
 import re
 import unittest
 
-ROOT = pathlib.Path(__file__).resolve().parents[2]
+import tool
+from language_codes import language_codes
+
+ROOT = tool.ROOT
 DOCUMENTS = ROOT / "resources" / "documents"
 ENTRIES = ("readme", "lizenz", "changes", "todo", "limitations")
-LANGUAGES = ("de", "us")
+LANGUAGES = language_codes().values()
 
 
 def words(text):
@@ -26,7 +28,7 @@ def section(page, heading):
 
 
 class Documents(unittest.TestCase):
-    def test_each_entry_has_its_text_in_both_languages_and_there_are_no_others(self):
+    def test_each_entry_has_its_text_in_every_language_and_there_are_no_others(self):
         expected = {f"{entry}_{language}.txt" for entry in ENTRIES for language in LANGUAGES}
         self.assertEqual({path.name for path in DOCUMENTS.iterdir()}, expected)
 

@@ -3,6 +3,7 @@
 #include "mainwindow/ToolbarTable.h"
 #include "platform/Utf16.h"
 #include "resources/controls.h"
+#include "support/language/Languages.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/ScratchRegistry.h"
 #include "tests/platform/SourceFile.h"
@@ -22,8 +23,8 @@ bool IsTopmost(HWND window) {
 class LanguageSwitch : public testing::Test {
 protected:
     LanguageSwitch() {
-        for (const char* code : {"de", "us"})
-            CopyLanguageFile(code);
+        for (const Language& language : kLanguages)
+            CopyLanguageFile(language.code);
     }
     void CopyLanguageFile(const std::string& code) {
         const std::string name = "tntlng_" + code + ".ini";

@@ -2,6 +2,7 @@
 // On the real window: what the menu shows, and that the tree and the list show the steps.
 
 #include "platform/Utf16.h"
+#include "support/language/Languages.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/ScratchRegistry.h"
 #include "tests/platform/SourceFile.h"
@@ -19,8 +20,8 @@ class UndoOnTheWindow : public testing::Test {
 protected:
     UndoOnTheWindow() {
         Win32Files files;
-        for (const std::string code : {"de", "us"}) {
-            const std::string name = "tntlng_" + code + ".ini";
+        for (const Language& language : kLanguages) {
+            const std::string name = std::string("tntlng_") + language.code + ".ini";
             folder.Write(name, *files.ReadWhole(SourceFile("resources/language/" + name)));
         }
         program = std::make_unique<RealProgram>(registry, folder.Path(), codePage);
