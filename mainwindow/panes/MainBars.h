@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-// Menus, toolbar and status bar of frmMain as the command table describes them.
+// Menus, toolbar and status bar of frmMain as the tables of commands and buttons say.
 class MainBars : public BarsPane {
 public:
     struct Controls {
