@@ -15,7 +15,8 @@ inline constexpr float kSplitterWidth = 40;
 // [750, formWidth - 750]; in a form too narrow for both, the upper bound wins.
 [[nodiscard]] float ClampSplitter(float x, float formWidth) noexcept;
 
-// Places both panes and the splitter for the left pane's width x, which is clamped in place.  Tops and heights of the panes stay.
+// Places both panes and the splitter for the left pane's width x, which is clamped in place.  Tops
+// and heights of the panes stay.
 void SizeControls(float& x, float formWidth, MainLayout& layout) noexcept;
 
 // The whole pass for a window in the normal state: for the splitter where it is and for the frame

@@ -1,11 +1,18 @@
 // Rules: Layout, bars and views
 #include "mainwindow/ViewCommands.h"
 
+#include "mainwindow/CommandTable.h"
 #include "mainwindow/ToolbarTable.h"
+#include "resources/controls.h"
 #include "tests/fakes/FakeMainView.h"
+#include "tests/fakes/Transcripts.h"
 
+#include <algorithm>
+#include <array>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <set>
+#include <vector>
 
 namespace {
 
@@ -40,31 +47,27 @@ protected:
     ViewCommands views{view, view, layout, settings};
 };
 
-const std::map<int, Keys> kButtonsOfSwitch = {
-    {IDM_mnuViewBarStandards,
-     {"sepST1", "New", "sepST2", "Open", "Close", "Save", "sepST3", "Delete"}},
-    {IDM_mnuViewBarColor,
-     {"sepCO1", "Cut", "Copy", "Paste", "sepCO2", "ToggleColorFrame", "UpdateColor"}},
-    {IDM_mnuViewBarListview,
-     {"sepLV1", "View Large Icons", "View Small Icons", "View List", "View Details"}},
-    {IDM_mnuViewBarSolidWorks,
-     {"sepSWX1", "GetSWX", "NewColorUpdate", "SetSWX", "SetSWXComponent", "sepSWX2",
-      "ClearColorSWX", "ClearColorComponentSWX"}}};
+constexpr std::array kBars = {IDM_mnuViewBarStandards, IDM_mnuViewBarColor, IDM_mnuViewBarListview,
+                              IDM_mnuViewBarSolidWorks};
 
+// A line for each switch: its entry, and the buttons of its bar.
 TEST_F(ViewCommandsTest, EachBarSwitchHidesAndShowsExactlyItsButtons) {
-    for (const auto& [command, buttons] : kButtonsOfSwitch)
-        for (const bool visible : {false, true}) {
-            EXPECT_EQ(ButtonsSwitchedBy(command, visible), buttons) << command;
-            EXPECT_EQ(view.checks.at(command), visible);
-            EXPECT_TRUE(view.toolbarVisible && view.statusBarVisible);
-        }
-}
-
-TEST_F(ViewCommandsTest, BarsTogetherHoldEveryButtonOfTheToolbar) {
+    std::string lines;
     Keys all;
-    for (const auto& [command, buttons] : kButtonsOfSwitch)
+    for (const int command : kBars) {
+        const Keys buttons = ButtonsSwitchedBy(command, false);
+        EXPECT_FALSE(view.checks.at(command));
+        EXPECT_EQ(ButtonsSwitchedBy(command, true), buttons) << command;
+        EXPECT_TRUE(view.checks.at(command));
+        EXPECT_TRUE(view.toolbarVisible && view.statusBarVisible);
+        lines += FindCommand(command)->name + std::string(":");
+        for (const std::string& key : buttons)
+            lines += " " + key + ",";
+        lines.back() = '\n';
         all.insert(buttons.begin(), buttons.end());
-    EXPECT_EQ(all.size(), kToolbarRows.size());
+    }
+    ExpectTranscript(lines);
+    EXPECT_EQ(all.size(), kToolbarRows.size()) << "the bars together hold every button";
 }
 
 TEST_F(ViewCommandsTest, ToolbarAndStatusBarAreSwitchedWhole) {
@@ -115,23 +118,21 @@ TEST_F(ViewCommandsTest, LargeEditorTakesItsHeightFromThePanes) {
     EXPECT_EQ(view.layout.tree.height, before);
 }
 
+// The buttons of the views stand in the order of the views.
 TEST_F(ViewCommandsTest, OneOfTheFourViewsIsMarkedAndPressed) {
-    struct View {
-        ListViewMode mode;
-        int command;
-        std::string button;
-    };
-    const std::vector<View> all = {
-        {ListViewMode::LargeIcons, IDM_mnuViewColorLargeIcons, "View Large Icons"},
-        {ListViewMode::SmallIcons, IDM_mnuViewColorSmallIcons, "View Small Icons"},
-        {ListViewMode::List, IDM_mnuViewColorList, "View List"},
-        {ListViewMode::Details, IDM_mnuViewColorDetails, "View Details"}};
-    for (const View& shown : all) {
-        views.SetListView(shown.mode);
-        EXPECT_EQ(view.listMode, shown.mode);
-        EXPECT_EQ(PressedButtons(), Keys{shown.button});
-        for (const View& other : all)
-            EXPECT_EQ(view.checks.at(other.command), other.command == shown.command);
+    std::vector<ToolbarRow> buttons;
+    std::ranges::copy_if(kToolbarRows, std::back_inserter(buttons), [](const ToolbarRow& row) {
+        return row.style == ToolbarButtonStyle::ButtonGroup;
+    });
+    constexpr std::array modes = {ListViewMode::LargeIcons, ListViewMode::SmallIcons,
+                                  ListViewMode::List, ListViewMode::Details};
+    ASSERT_EQ(buttons.size(), modes.size());
+    for (std::size_t shown = 0; shown < modes.size(); ++shown) {
+        views.SetListView(modes.at(shown));
+        EXPECT_EQ(view.listMode, modes.at(shown));
+        EXPECT_EQ(PressedButtons(), Keys{buttons[shown].key});
+        for (std::size_t other = 0; other < buttons.size(); ++other)
+            EXPECT_EQ(view.checks.at(buttons[other].command), other == shown);
     }
 }
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+namespace {
+
 TEST(SystemMessage, GivesTheSystemsWordsAndTheNumberInOneLine) {
     const std::string message = SystemMessage(E_ACCESSDENIED);
     EXPECT_TRUE(message.ends_with(" (80070005)")) << message;
@@ -14,17 +16,20 @@ TEST(SystemMessage, UnknownResultIsItsNumber) {
     EXPECT_EQ(SystemMessage(static_cast<HRESULT>(0xA1234567)), "(A1234567)");
 }
 
-// Each of these was a bare number where the platform has no words for it.
+void ExpectWordsAndNumber(HRESULT result) {
+    const std::string message = SystemMessage(result);
+    const std::string number = message.substr(message.size() - 10);
+    const std::string words = SystemError(result).Description();
+    EXPECT_NE(words.find(number), std::string::npos) << words;
+    EXPECT_GT(words.size(), 30U) << words;
+}
+
+// They would be bare numbers where the platform has no words for them.
 TEST(SystemError, ResultsOfAutomationCallsHaveWordsOnEveryPlatform) {
-    for (const HRESULT result :
-         {RPC_E_CALL_REJECTED, RPC_E_DISCONNECTED, DISP_E_TYPEMISMATCH, DISP_E_UNKNOWNNAME,
-          DISP_E_BADPARAMCOUNT, CO_E_OBJNOTCONNECTED, RPC_E_SERVERCALL_RETRYLATER,
-          RPC_E_SERVER_DIED, RPC_E_SERVERFAULT, DISP_E_EXCEPTION, DISP_E_PARAMNOTOPTIONAL}) {
-        const std::string number = SystemMessage(result).substr(SystemMessage(result).size() - 10);
-        const std::string words = SystemError(result).Description();
-        EXPECT_NE(words.find(number), std::string::npos) << words;
-        EXPECT_GT(words.size(), 30U) << words;
-    }
+    for (const int facility : {FACILITY_RPC, FACILITY_DISPATCH})
+        for (int code = 0; code < 0x200; ++code)
+            ExpectWordsAndNumber(MAKE_HRESULT(SEVERITY_ERROR, facility, code));
+    ExpectWordsAndNumber(CO_E_OBJNOTCONNECTED); // of the facility of all interfaces
 }
 
 TEST(SystemError, KeepsNumberAndMember) {
@@ -32,3 +37,5 @@ TEST(SystemError, KeepsNumberAndMember) {
     EXPECT_EQ(error.Number(), ErrorNumber::ConnectionLost);
     EXPECT_EQ(error.Member(), "Body");
 }
+
+} // namespace
