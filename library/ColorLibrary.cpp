@@ -19,6 +19,13 @@ bool ColorLibrary::IsNextGroupNumberFree(const std::string& mainKey) const {
     return tree_.Find(NextGroupKey(mainKey)) == nullptr;
 }
 
+void ColorLibrary::RemoveMainNode(const std::string& mainKey) {
+    if (onLibraryLeaving)
+        onLibraryLeaving(mainKey);
+    colors_.EraseGroups(GetGroupInMainnode(mainKey));
+    tree_.Remove(mainKey);
+}
+
 std::string ColorLibrary::NewGroupNode(const std::string& mainKey, const std::string& name) {
     std::string key = NextGroupKey(mainKey);
     tree_.AddGroup(mainKey, key, name);

@@ -4,6 +4,7 @@
 #include "library/LibraryHistory.h"
 #include "library/LibraryTree.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,12 @@ public:
 
     [[nodiscard]] LibraryHistory& History() noexcept { return history_; }
     [[nodiscard]] const LibraryHistory& History() const noexcept { return history_; }
+
+    // Called before a library goes, while all of it is there still.
+    std::function<void(const std::string& mainKey)> onLibraryLeaving;
+
+    // Removes a library with everything in it.
+    void RemoveMainNode(const std::string& mainKey);
 
     // Adds a library without a file, with the lowest number that is free, and selects it; gives its
     // key.

@@ -17,11 +17,18 @@ ColorId ColorStore::Add(StoredColor&& color) {
 }
 
 void ColorStore::Place(ColorId id, StoredColor&& color) {
-    std::unique_ptr<Block>& block = blocks_[BlockOf(id)];
+    Block& block = OwnBlockOf(id);
+    block.colors[id % kBlockSize] = std::move(color);
+    ++block.count;
+}
+
+ColorStore::Block& ColorStore::OwnBlockOf(ColorId id) {
+    std::shared_ptr<Block>& block = blocks_[BlockOf(id)];
     if (block == nullptr)
-        block = std::make_unique<Block>();
-    block->colors[id % kBlockSize] = std::move(color);
-    ++block->count;
+        block = std::make_shared<Block>();
+    else if (block.use_count() > 1)
+        block = std::make_shared<Block>(*block);
+    return *block;
 }
 
 void ColorStore::PutBack(ColorId id, StoredColor&& color) {
@@ -31,10 +38,10 @@ void ColorStore::PutBack(ColorId id, StoredColor&& color) {
 }
 
 void ColorStore::Remove(ColorId id) {
-    std::unique_ptr<Block>& block = blocks_[BlockOf(id)];
-    block->colors[id % kBlockSize] = {};
-    if (--block->count == 0)
-        block.reset();
+    Block& block = OwnBlockOf(id);
+    block.colors[id % kBlockSize] = {};
+    if (--block.count == 0)
+        blocks_[BlockOf(id)].reset();
     // All but the block that the next color may come into.
     for (; blocks_.size() > 1 && blocks_.front() == nullptr; ++gone_)
         blocks_.pop_front();

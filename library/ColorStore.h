@@ -26,6 +26,16 @@ struct StoredColor {
         std::optional<std::string> otherKey;
     };
 
+    StoredColor() = default;
+    StoredColor(StoredColor&&) noexcept = default;
+    StoredColor& operator=(StoredColor&&) noexcept = default;
+    StoredColor(const StoredColor& other)
+        : seldom(other.seldom ? std::make_unique<Seldom>(*other.seldom) : nullptr),
+          group(other.group), number(other.number), values(other.values), isNew(other.isNew),
+          name(other.name) {}
+    StoredColor& operator=(const StoredColor&) = delete;
+    ~StoredColor() = default;
+
     std::unique_ptr<Seldom> seldom;
     std::uint32_t group = 0; // number of its group
     std::uint32_t number = 0;
@@ -57,8 +67,10 @@ private:
     }
 };
 
-// Keeps colors in blocks, so that they never move and no room is kept in advance; a block goes
-// when its last color has gone.
+// Keeps colors in blocks, so that no room is kept in advance; a block goes when its last color has
+// gone.  A copy shares the blocks and costs next to nothing: a block that changes afterwards is
+// copied then.  Another thread may read a copy; to make and to destroy it is for the thread that
+// changes the colors.
 class ColorStore {
 public:
     void Clear();
@@ -67,13 +79,11 @@ public:
     void Remove(ColorId id);                       // of a color that is there
     void PutBack(ColorId id, StoredColor&& color); // that was removed, under its id
 
-    // The color must be there.
+    // The color must be there.  One that can be changed does not move until the next copy is made.
     [[nodiscard]] const StoredColor& At(ColorId id) const noexcept {
         return blocks_[BlockOf(id)]->colors[id % kBlockSize];
     }
-    [[nodiscard]] StoredColor& At(ColorId id) noexcept {
-        return blocks_[BlockOf(id)]->colors[id % kBlockSize];
-    }
+    [[nodiscard]] StoredColor& At(ColorId id) { return OwnBlockOf(id).colors[id % kBlockSize]; }
 
 private:
     static constexpr ColorId kBlockSize = 256;
@@ -85,8 +95,9 @@ private:
     [[nodiscard]] std::size_t BlockOf(ColorId id) const noexcept { return id / kBlockSize - gone_; }
 
     void Place(ColorId id, StoredColor&& color);
+    [[nodiscard]] Block& OwnBlockOf(ColorId id); // shared with no copy from here on
 
-    std::deque<std::unique_ptr<Block>> blocks_; // null: all of its colors have gone
+    std::deque<std::shared_ptr<Block>> blocks_; // null: all of its colors have gone
     ColorId next_ = 1;
     ColorId gone_ = 0; // blocks that are not even remembered
 };

@@ -89,36 +89,29 @@ StoredColor& ColorTable::ColorAt(int index) {
     return store_.At(IdAt(index));
 }
 
-ColorTable::View ColorTable::ViewAt(int index) const {
+ColorView ColorTable::ViewAt(int index) const {
     const StoredColor& color = store_.At(IdAt(index));
     return {color, groups_[color.group].key};
+}
+
+ColorSnapshot ColorTable::Snapshot() const {
+    std::vector<std::string> groupKeys;
+    groupKeys.reserve(groups_.size());
+    for (const Group& group : groups_)
+        groupKeys.push_back(group.key);
+    return {store_, order_, std::move(groupKeys)};
 }
 
 ColorRecord ColorTable::At(int index) const {
     if (index == 0)
         return {};
-    const ColorId id = IdAt(index);
-    const StoredColor& color = store_.At(id);
+    const auto [color, groupKey] = ViewAt(index);
     return {std::string(color.name.View()),
-            KeyOf(id),
-            groups_[color.group].key,
+            ColorView{color, groupKey}.Key(),
+            groupKey,
             color.isNew,
             color.values,
             std::string(color.AltName())};
-}
-
-std::string ColorTable::KeyOf(ColorId id) const {
-    const StoredColor& color = store_.At(id);
-    if (const std::string* const otherKey = color.OtherKey())
-        return *otherKey;
-    return LibraryKeys::OfColor(groups_[color.group].key, color.number);
-}
-
-bool ColorTable::KeyBeginsWith(int index, std::string_view start) const {
-    const auto [color, groupKey] = ViewAt(index);
-    if (color.OtherKey() == nullptr && start.size() <= groupKey.size())
-        return std::string_view(groupKey).starts_with(start);
-    return KeyOf(IdAt(index)).starts_with(start);
 }
 
 ColorTable::GroupNumber ColorTable::NumberOfGroup(const std::string& groupKey) {
@@ -160,6 +153,7 @@ void ColorTable::Insert(StoredColor&& color) {
     const std::uint32_t number = color.number;
     const std::string* const otherKey = color.OtherKey(); // does not move
     const ColorId id = store_.Add(std::move(color));
+    NoteChange(group);
     order_.push_back(id);
     group.ids.push_back(id);
     if (otherKey != nullptr)
@@ -170,10 +164,11 @@ void ColorTable::Insert(StoredColor&& color) {
         journal_->ColorAdded(id, group.key);
 }
 
-void ColorTable::TellChange(ColorId id) const {
+void ColorTable::BeginChange(ColorId id) {
+    const StoredColor& color = std::as_const(store_).At(id);
+    NoteChange(groups_[color.group]);
     if (!journal_)
         return;
-    const StoredColor& color = store_.At(id);
     StoredColor before;
     before.name = CompactText(color.name.View());
     before.SetAltName(color.AltName());
@@ -183,6 +178,7 @@ void ColorTable::TellChange(ColorId id) const {
 
 void ColorTable::Exchange(ColorId id, StoredColor& other) {
     StoredColor& color = store_.At(id);
+    NoteChange(groups_[color.group]);
     const std::string altName(color.AltName());
     const std::string otherAltName(other.AltName());
     std::swap(color.name, other.name);
@@ -195,7 +191,7 @@ void ColorTable::SetNames(int index, const std::string& name) {
     StoredColor& color = ColorAt(index);
     if (color.name.View() == name && color.AltName() == name)
         return;
-    TellChange(IdAt(index));
+    BeginChange(IdAt(index));
     color.name = CompactText(name);
     color.SetAltName(name);
 }
@@ -204,7 +200,7 @@ void ColorTable::SetName(int index, const std::string& name) {
     StoredColor& color = ColorAt(index);
     if (color.name.View() == name)
         return;
-    TellChange(IdAt(index));
+    BeginChange(IdAt(index));
     const std::string altName(color.AltName());
     color.name = CompactText(name);
     color.SetAltName(altName);
@@ -214,7 +210,7 @@ void ColorTable::SetValues(int index, const ColorValueArray& values) {
     StoredColor& color = ColorAt(index);
     if (color.values == values)
         return;
-    TellChange(IdAt(index));
+    BeginChange(IdAt(index));
     color.values = values;
 }
 
@@ -247,6 +243,7 @@ void ColorTable::LeaveOrder(std::vector<ColorId> ids) {
 }
 
 std::vector<RemovedColor> ColorTable::LeaveGroup(Group& group, const std::vector<ColorId>& ids) {
+    NoteChange(group);
     EraseSorted(group.ids, ids);
     ForgetKeys(group, ids);
     std::vector<RemovedColor> removed;
@@ -272,6 +269,7 @@ void ColorTable::PutBack(std::vector<RemovedColors> coming) {
 void ColorTable::PutIntoGroup(const std::string& groupKey, std::vector<RemovedColor> colors) {
     const GroupNumber number = NumberOfGroup(groupKey);
     Group& group = groups_[number];
+    NoteChange(group);
     std::vector<ColorId> ids;
     std::vector<Numbered> numbered;
     for (auto& [id, color] : colors) {
@@ -344,6 +342,11 @@ ColorId ColorTable::FirstOfOtherKey(const std::string& key) const {
 const ColorTable::Group* ColorTable::FindGroup(const std::string& groupKey) const {
     const auto found = numberOfGroup_.find(groupKey);
     return found == numberOfGroup_.end() ? nullptr : &groups_[found->second];
+}
+
+std::uint64_t ColorTable::RevisionOfGroup(const std::string& groupKey) const {
+    const Group* group = FindGroup(groupKey);
+    return group != nullptr ? group->revision : 0;
 }
 
 const std::vector<ColorId>& ColorTable::IdsOfGroup(const std::string& groupKey) const {

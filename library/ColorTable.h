@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/ColorRecord.h"
+#include "library/ColorSnapshot.h"
 #include "library/ColorStore.h"
 #include "library/ColorJournal.h"
 
@@ -42,14 +43,14 @@ public:
     // index: 0..UpperBound().  Throws RuntimeError SubscriptOutOfRange.
     [[nodiscard]] ColorRecord At(int index) const;
 
-    // The color with its key as "group key, E, number", as At gives it, but not copied together;
-    // valid until the table changes.  index: 1..UpperBound(), as above.
-    struct View {
-        const StoredColor& color;
-        const std::string& groupKey;
-    };
-    [[nodiscard]] View ViewAt(int index) const;
-    [[nodiscard]] bool KeyBeginsWith(int index, std::string_view start) const;
+    // Valid until the table changes.  index: 1..UpperBound(), as above.
+    [[nodiscard]] ColorView ViewAt(int index) const;
+
+    // All colors as they are now.
+    [[nodiscard]] ColorSnapshot Snapshot() const;
+
+    // Greater after every change of the group's colors; 0: it never had one.
+    [[nodiscard]] std::uint64_t RevisionOfGroup(const std::string& groupKey) const;
 
     void Append(ColorRecord record);
 
@@ -93,11 +94,13 @@ private:
         std::string key;
         std::vector<ColorId> ids;       // ascending
         std::vector<Numbered> numbered; // ascending; those with a key of group and number
+        std::uint64_t revision = 0;
     };
 
     [[nodiscard]] StoredColor& ColorAt(int index);
     void Insert(StoredColor&& color);
-    void TellChange(ColorId id) const;
+    void BeginChange(ColorId id);
+    void NoteChange(Group& group) noexcept { group.revision = ++revision_; }
     void LeaveOrder(std::vector<ColorId> ids);
     // All of one group, ascending; they are out of the order already.
     [[nodiscard]] std::vector<RemovedColor> LeaveGroup(Group& group,
@@ -106,7 +109,6 @@ private:
     void ForgetKeys(Group& group, const std::vector<ColorId>& ids);
     void ForgetOtherKey(ColorId id, const std::string& key);
     [[nodiscard]] const Group* FindGroup(const std::string& groupKey) const;
-    [[nodiscard]] std::string KeyOf(ColorId id) const;
     [[nodiscard]] ColorId FirstOfNumber(const std::string& key) const; // 0: none
     [[nodiscard]] ColorId FirstOfOtherKey(const std::string& key) const;
 
@@ -116,5 +118,6 @@ private:
     std::unordered_map<std::string, GroupNumber> numberOfGroup_;
     std::map<std::string, std::vector<ColorId>> otherKeys_; // ids ascending, never empty
 
+    std::uint64_t revision_ = 0; // of the last change
     ColorJournal* journal_ = nullptr;
 };

@@ -21,7 +21,7 @@ public:
         std::swap(length_, other.length_);
         return *this;
     }
-    CompactText(const CompactText&) = delete;
+    CompactText(const CompactText& other) : CompactText(other.View()) {}
     CompactText& operator=(const CompactText&) = delete;
     ~CompactText() {
         if (length_ == kIsLong)

@@ -35,9 +35,12 @@ void KeptFiles::Remember(LibraryId library, std::string_view content) {
 }
 
 bool KeptFiles::IsHeld(LibraryId library, std::string_view content) const {
+    return content.empty() || Held(library) == ContentFingerprint::Of(content);
+}
+
+std::optional<ContentFingerprint> KeptFiles::Held(LibraryId library) const {
     const auto held = held_.find(library);
-    return content.empty() ||
-           (held != held_.end() && held->second == ContentFingerprint::Of(content));
+    return held != held_.end() ? std::optional(held->second) : std::nullopt;
 }
 
 std::optional<std::string> KeptFiles::KeepUnknown(const std::string& path, LibraryId library) {

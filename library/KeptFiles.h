@@ -21,11 +21,17 @@ public:
     // The library holds all of this content.
     void Remember(LibraryId library, std::string_view content);
 
+    // The library holds none.
+    void Forget(LibraryId library) { held_.erase(library); }
+
     // Before a save of the library replaces the file: the path under which its content stays, empty
     // when there is nothing to keep.  Nothing when the content could not be read or kept: the file
     // must not be replaced then.
     [[nodiscard]] std::optional<std::string> KeepUnknown(const std::string& path,
                                                          LibraryId library);
+
+    // The content that the library holds all of; nothing: there is none.
+    [[nodiscard]] std::optional<ContentFingerprint> Held(LibraryId library) const;
 
 private:
     [[nodiscard]] bool IsHeld(LibraryId library, std::string_view content) const;

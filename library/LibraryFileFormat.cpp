@@ -271,7 +271,7 @@ void AppendGroup(std::string& text, std::string_view name, std::string_view key)
     AppendLineEnd(text);
 }
 
-void AppendColor(std::string& text, const ColorTable::View& color, std::string_view separator) {
+void AppendColor(std::string& text, const ColorView& color, std::string_view separator) {
     text.append("\"").append(kColorTag).append(color.color.name).append("=").append(color.groupKey);
     text.append(":").append(color.color.AltName());
     for (const std::int16_t value : color.color.values) {

@@ -2,7 +2,7 @@
 
 #include "common/ColorRecord.h"
 #include "common/ports/AnsiCodePage.h"
-#include "library/ColorTable.h"
+#include "library/ColorView.h"
 
 #include <array>
 #include <cstdint>
@@ -81,6 +81,6 @@ enum class RecordKind { Library, Group, Color, Other };
 // Each adds a line to a text for the file, with quotes and CR LF, in UTF-8.
 void AppendHeader(std::string& text, std::string_view name, std::string_view mainKey, int count);
 void AppendGroup(std::string& text, std::string_view name, std::string_view key);
-void AppendColor(std::string& text, const ColorTable::View& color, std::string_view separator);
+void AppendColor(std::string& text, const ColorView& color, std::string_view separator);
 
 } // namespace LibraryFileFormat

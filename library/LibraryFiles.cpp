@@ -1,5 +1,6 @@
 #include "library/LibraryFiles.h"
 
+#include "library/LibraryContent.h"
 #include "library/LibraryFileFormat.h"
 #include "library/LibraryReader.h"
 #include "library/SafeFileWriter.h"
@@ -24,43 +25,18 @@ ReadOutcome LibraryFiles::Read(const std::string& fileName, WorkProgress& progre
     outcome.mainKey = reader.MainKey();
     if (outcome.result == ReadResult::Complete && reader.IsHeldWhole())
         keptFiles_.Remember(library_.Tree().At(outcome.mainKey).id, *bytes);
+    if (!outcome.mainKey.empty())
+        savedStates_.Saved(outcome.mainKey);
     return outcome;
 }
 
 ComposedLibrary LibraryFiles::Compose(const std::string& mainKey, WorkProgress& progress) const {
-    const std::vector<std::string> groups = library_.GetGroupInMainnode(mainKey);
-    int count = static_cast<int>(groups.size());
-    for (const std::string& group : groups)
-        count += library_.GetColorCountInGroup(group);
-    progress.Starts(count);
-    EncodedText text(ports_.codePage);
-    LibraryFileFormat::AppendHeader(text.Line(), library_.Tree().At(mainKey).text, mainKey, count);
-    text.EndLine();
-    int done = 0;
-    for (const std::string& group : groups) {
-        LibraryFileFormat::AppendGroup(text.Line(), library_.Tree().At(group).text, group);
-        text.EndLine();
-        progress.Reaches(++done);
-    }
-    AppendColors(text, mainKey, done, progress);
-    AnsiCodePage::Encoded encoded = text.Take();
+    AnsiCodePage::Encoded encoded =
+        LibraryContent::Of(library_, mainKey).Compose(ports_.codePage, NameSpelling::AsItIs, progress);
     SaveLosses losses =
         NamesLostBySaving(library_, mainKey, LibraryFileFormat::FieldSeparator(ports_.codePage));
     losses.characters = std::move(encoded.unstored);
     return {std::move(encoded.bytes), std::move(losses)};
-}
-
-void LibraryFiles::AppendColors(EncodedText& text, const std::string& mainKey, int done,
-                                WorkProgress& progress) const {
-    const std::string separator = LibraryFileFormat::FieldSeparator(ports_.codePage);
-    const ColorTable& colors = library_.Colors();
-    for (int index = 1; index <= colors.UpperBound(); ++index) {
-        if (!colors.KeyBeginsWith(index, mainKey))
-            continue;
-        LibraryFileFormat::AppendColor(text.Line(), colors.ViewAt(index), separator);
-        text.EndLine();
-        progress.Reaches(++done);
-    }
 }
 
 WriteResult LibraryFiles::Write(const SaveTarget& target, std::string_view bytes) {
@@ -75,10 +51,16 @@ WriteResult LibraryFiles::Write(const SaveTarget& target, std::string_view bytes
     if (result.isWritten) {
         library_.Tree().SetSource(target.mainKey, target.fileName);
         keptFiles_.Remember(library_.Tree().At(target.mainKey).id, bytes);
+        savedStates_.Saved(target.mainKey);
     } else if (outcome == Exchanged::Unchanged) {
         RemoveCopy(result.keptPath, target.fileName);
     }
     return result;
+}
+
+void LibraryFiles::ForgetFile(const std::string& mainKey) {
+    keptFiles_.Forget(library_.Tree().At(mainKey).id);
+    savedStates_.Forget(mainKey);
 }
 
 std::optional<std::string> LibraryFiles::BackUp(const SaveTarget& target) {

@@ -5,9 +5,9 @@
 #include "common/ports/CalendarClock.h"
 #include "common/ports/Files.h"
 #include "library/ColorLibrary.h"
-#include "library/EncodedText.h"
 #include "library/KeptFiles.h"
 #include "library/SaveLosses.h"
+#include "library/SavedStates.h"
 #include "library/WorkProgress.h"
 
 #include <optional>
@@ -70,14 +70,23 @@ public:
     // Nothing when it failed.
     [[nodiscard]] std::optional<std::string> BackUp(const SaveTarget& target);
 
+    // What has happened to the open libraries since they were read or written.
+    [[nodiscard]] const SavedStates& States() const noexcept { return savedStates_; }
+
+    // The library is like no file from now on.
+    void ForgetFile(const std::string& mainKey);
+
+    // The content of the library's file when it was read whole or written last.
+    [[nodiscard]] std::optional<ContentFingerprint> FingerprintOfFile(LibraryId library) const {
+        return keptFiles_.Held(library);
+    }
+
 private:
     // The kept content's path, empty for none; nothing when the file has to stay where it is.
     [[nodiscard]] std::optional<std::string> Keep(const SaveTarget& target);
     void RemoveCopy(std::string& keptPath, const std::string& fileName);
-    void AppendColors(EncodedText& text, const std::string& mainKey, int done,
-                      WorkProgress& progress) const;
-
     ColorLibrary& library_;
     Ports ports_;
     KeptFiles keptFiles_;
+    SavedStates savedStates_{library_};
 };

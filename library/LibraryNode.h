@@ -23,4 +23,6 @@ struct LibraryNode {
     std::optional<std::string> file; // path of a library's file; nothing: it was never saved
     std::string source;              // path of what it was read from or written to last
     std::string lastColor;           // key of a group's color that was selected last
+
+    std::uint64_t revision = 0; // greater after every change of its name and its groups
 };

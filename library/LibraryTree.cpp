@@ -36,6 +36,7 @@ void LibraryTree::Insert(const LibraryNode& node, std::vector<std::string>& sibl
     const auto [entry, added] = nodes_.try_emplace(node.key, node);
     if (!added)
         throw RuntimeError(ErrorNumber::DuplicateKey, ErrorTexts::GroupNumberTaken);
+    NoteChange(node.parent.empty() ? entry->second : Existing(node.parent));
     siblings.insert(siblings.begin() + static_cast<std::ptrdiff_t>(place), node.key);
     if (observer_)
         observer_->NodeAdded(node, place == 0 ? std::string() : siblings[place - 1]);
@@ -63,6 +64,8 @@ RemovedNode LibraryTree::TakeOut(const std::string& key) {
     const auto place = std::ranges::find(siblings, removed.node.key);
     removed.place = static_cast<std::size_t>(place - siblings.begin());
     siblings.erase(place);
+    if (!parent.empty())
+        NoteChange(Existing(parent));
     if (selectionGoes)
         selected_ = nextSelection;
     if (observer_) {
@@ -141,6 +144,7 @@ void LibraryTree::SetText(const std::string& key, const std::string& text) {
     if (node.text == text)
         return;
     const std::string before = std::exchange(node.text, text);
+    NoteChange(node);
     if (journal_)
         journal_->NodeRenamed(key, before);
     if (observer_)

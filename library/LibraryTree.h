@@ -66,6 +66,7 @@ public:
 
 private:
     LibraryNode& Existing(const std::string& key);
+    void NoteChange(LibraryNode& node) noexcept { node.revision = ++revision_; }
     void Insert(const LibraryNode& node, std::vector<std::string>& siblings, std::size_t place);
     void ChangeFile(const std::string& mainKey, std::optional<std::string> path);
     void Add(const LibraryNode& node, std::vector<std::string>& siblings);
@@ -77,6 +78,7 @@ private:
     std::vector<std::string> mainNodes_;
     std::string selected_;
     LibraryId lastId_ = 0;
+    std::uint64_t revision_ = 0; // of the last change
     LibraryTreeObserver* observer_ = nullptr;
     TreeJournal* journal_ = nullptr;
 };

@@ -23,8 +23,8 @@ SaveLosses NamesLostBySaving(const ColorLibrary& library, const std::string& mai
             losses.names.push_back(name);
     const ColorTable& colors = library.Colors();
     for (int index = 1; index <= colors.UpperBound(); ++index)
-        if (const StoredColor& color = colors.ViewAt(index).color;
-            !ComesBack(color, separator) && colors.KeyBeginsWith(index, mainKey))
-            losses.names.push_back(color.name);
+        if (const ColorView view = colors.ViewAt(index);
+            !ComesBack(view.color, separator) && view.KeyBeginsWith(mainKey))
+            losses.names.push_back(view.color.name);
     return losses;
 }

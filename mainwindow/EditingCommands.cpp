@@ -55,8 +55,7 @@ void EditingCommands::DeleteMainNode(const std::optional<std::string>& mainKey,
         parts_.library.Tree().Select(key);
     if (!Asks(confirmation) || IsConfirmed(InfoTextNumber::LibraryLabel,
                                            parts_.library.Tree().At(key).text + kLineBreak)) {
-        parts_.library.Colors().EraseGroups(parts_.library.GetGroupInMainnode(key));
-        parts_.library.Tree().Remove(key);
+        parts_.library.RemoveMainNode(key);
     } else if (parts_.library.SelectedGroup() == shownGroup) {
         return; // list and editor stay as they are, with what was typed there
     }

@@ -2,6 +2,7 @@
 
 #include "common/FileNames.h"
 #include "common/ports/Files.h"
+#include "common/ports/Folders.h"
 
 #include <map>
 #include <string>
@@ -9,7 +10,7 @@
 
 // A file system in memory.  Each step can be made to fail, and every step is counted, so that a
 // test can let the n-th one fail or end the process there.
-class FakeFiles : public Files {
+class FakeFiles : public Files, public Folders {
 public:
     // Thrown by the step at which the process "is killed".
     struct Killed {};
@@ -67,6 +68,20 @@ public:
         return exchanges;
     }
     bool Remove(const std::string& path) override { return !Fails() && contents.erase(path) > 0; }
+
+    bool Make(const std::string& path) override {
+        if (Fails() || contents.contains(path))
+            return false;
+        folders[path] = true;
+        return true;
+    }
+    std::vector<std::string> FileNamesIn(const std::string& path) override {
+        std::vector<std::string> names;
+        for (const auto& [file, content] : contents)
+            if (FilePathPart(file) == path + "\\")
+                names.push_back(FileNamePart(file));
+        return names;
+    }
 
     std::map<std::string, std::string> contents; // by path
     std::map<std::string, bool> unreadable;      // paths that cannot be read

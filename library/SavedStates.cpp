@@ -1,0 +1,27 @@
+#include "library/SavedStates.h"
+
+#include <algorithm>
+
+void SavedStates::Saved(const std::string& mainKey) {
+    saved_.insert_or_assign(library_.Tree().At(mainKey).id, StateOf(mainKey));
+}
+
+void SavedStates::Forget(const std::string& mainKey) {
+    saved_.erase(library_.Tree().At(mainKey).id);
+}
+
+LibraryState SavedStates::StateOf(const std::string& mainKey) const {
+    const LibraryNode& library = library_.Tree().At(mainKey);
+    LibraryState state{.nodes = library.revision};
+    for (const std::string& group : library.children) {
+        state.nodes = std::max(state.nodes, library_.Tree().At(group).revision);
+        state.colors = std::max(state.colors, library_.Colors().RevisionOfGroup(group));
+    }
+    return state;
+}
+
+bool SavedStates::IsChanged(const std::string& mainKey) const {
+    const LibraryNode& library = library_.Tree().At(mainKey);
+    const auto saved = saved_.find(library.id);
+    return !library.children.empty() && (saved == saved_.end() || saved->second != StateOf(mainKey));
+}
