@@ -24,6 +24,7 @@ SUBJECTS = (
     "Library model", "Library files", "File commands", "Undo and redo", "Tree and list views",
     "Active-color editor", "Editing commands", "Layout, bars and views", "SolidWorks session",
     "Color from and to the selection", "Clearing colors", "Standard color table",
+    "Color mathematics", "Foreign palettes", "Finding colors",
     "Stand-in for SolidWorks", "Toolkit", "Tools and packages",
 )
 SUBJECT = re.compile(r"^(?://|#) Rules: (.+)$", re.MULTILINE)
