@@ -1,0 +1,25 @@
+#pragma once
+
+#include "palettes/Palette.h"
+#include "palettes/PaletteFaults.h"
+
+#include <string>
+#include <string_view>
+
+// What a reader has taken from a file so far.  Nothing gets past the limits, nothing is left out
+// without being counted.
+class PaletteContent {
+public:
+    // place: where it stands, as the faults tell it.  Gives kNoGroup when there are too many.
+    PaletteGroup AddGroup(std::string&& name, std::size_t place);
+    void AddEntry(PaletteEntry&& entry, std::size_t place);
+    void Add(PaletteFault fault, std::size_t place) noexcept { faults.Add(fault, place); }
+
+    Palette palette;
+    PaletteFaults faults;
+
+    void CheckName(std::string& name, std::size_t place);
+};
+
+// A name's part up to the limit, never cut inside a character.
+[[nodiscard]] std::string_view NameWithinLimit(std::string_view name) noexcept;

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// A cell of a table, as it stands in the text.
+struct TableCell {
+    std::string_view raw;          // without the quotes around it, or without blanks around it
+    bool hasDoubledQuotes = false; // each two of them are one
+
+    [[nodiscard]] std::string Text() const;
+};
+
+// The records of a text with cells between separators.  A cell in double quotes may hold
+// separators, line breaks and doubled quotes; source: RFC 4180.  A quote that is never closed is a
+// character like others.
+class TableRecords {
+public:
+    TableRecords(std::string_view text, char separator) noexcept
+        : text_(text), separator_(separator) {}
+
+    // False behind the last one.  Records without anything in them are passed over.
+    [[nodiscard]] bool Next();
+
+    // Valid until the next call.
+    [[nodiscard]] const std::vector<TableCell>& Cells() const noexcept { return cells_; }
+
+    // Whether the record has more cells than the limit, which are not given.
+    [[nodiscard]] bool IsTooLong() const noexcept { return isTooLong_; }
+
+    // Of the record's first line, from 1.
+    [[nodiscard]] std::size_t Line() const noexcept { return startLine_; }
+
+private:
+    void TakeRecord();
+    [[nodiscard]] TableCell TakeCell();
+    [[nodiscard]] bool TakeQuoted(TableCell& cell);
+    [[nodiscard]] std::size_t ClosingQuote(std::size_t start, bool& hasDoubled) const noexcept;
+    [[nodiscard]] bool IsAtLineEnd() const noexcept;
+    void PassLineEnd() noexcept;
+
+    std::string_view text_;
+    char separator_;
+    std::size_t place_ = 0;
+    std::size_t line_ = 1;
+    std::size_t startLine_ = 1;
+    bool noneCloses_ = false; // no quote from here on is closed
+    bool isTooLong_ = false;
+    std::vector<TableCell> cells_;
+};
+
+// A tab when the first line has one, else a semicolon when it has one, else a comma.
+[[nodiscard]] char SeparatorOf(std::string_view text) noexcept;
