@@ -3,13 +3,10 @@
 #include "common/Text.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
 
 namespace {
 
 constexpr char32_t kLastCharacter = 0x10FFFF;
-constexpr std::uint64_t kNotAscii = 0x8080808080808080U;
 
 constexpr bool IsCharacter(char32_t value) {
     return value <= kLastCharacter && (value < 0xD800 || value > 0xDFFF);
@@ -74,18 +71,6 @@ void AppendCharacter(std::string& text, char32_t character) {
         text += TailOf(character >> 6U);
         text += TailOf(character);
     }
-}
-
-bool IsAscii(std::string_view text) noexcept {
-    while (text.size() >= sizeof(std::uint64_t)) {
-        std::uint64_t eight = 0;
-        std::memcpy(&eight, text.data(), sizeof eight);
-        if ((eight & kNotAscii) != 0)
-            return false;
-        text.remove_prefix(sizeof eight);
-    }
-    return std::ranges::all_of(text,
-                               [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
 bool IsValidUtf8(std::string_view text) noexcept {

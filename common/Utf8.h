@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -22,5 +24,16 @@ struct Utf8Character {
 // character: no surrogate, at most U+10FFFF; any other number is added as U+FFFD.
 void AppendCharacter(std::string& text, char32_t character);
 
-[[nodiscard]] bool IsAscii(std::string_view text) noexcept;
+[[nodiscard]] inline bool IsAscii(std::string_view text) noexcept {
+    constexpr std::uint64_t kHighestBits = 0x8080808080808080U;
+    std::uint64_t found = 0;
+    std::uint64_t eight = 0;
+    for (; text.size() >= sizeof eight; text.remove_prefix(sizeof eight)) {
+        std::memcpy(&eight, text.data(), sizeof eight);
+        found |= eight;
+    }
+    for (const char byte : text)
+        found |= static_cast<unsigned char>(byte);
+    return (found & kHighestBits) == 0;
+}
 [[nodiscard]] bool IsValidUtf8(std::string_view text) noexcept;

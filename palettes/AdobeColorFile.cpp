@@ -13,7 +13,6 @@
 #include <optional>
 #include <span>
 #include <utility>
-#include <vector>
 
 namespace AdobeColorFile {
 
@@ -26,6 +25,7 @@ constexpr std::size_t kVersionSize = 2;
 enum Model : std::uint16_t { Rgb = 0, Hsb = 1, Cmyk = 2, Lab = 7, Grayscale = 8 };
 
 constexpr std::size_t kUnitSize = 2;
+constexpr std::size_t kSwatchSize = 10; // without its name
 constexpr double kHighest = 0xFFFF;
 constexpr std::uint16_t kUnitsOfAValue = 257; // 65535 is 255
 constexpr double kMostGray = 10000;
@@ -56,7 +56,7 @@ std::optional<RedGreenBlue> SrgbOfGrayWord(std::uint16_t word) {
 
 RedGreenBlue SrgbOfWords(const Components& words) {
     const auto value = [](std::uint16_t word) {
-        return static_cast<int>(std::lround(word / double{kUnitsOfAValue}));
+        return (word + kUnitsOfAValue / 2) / kUnitsOfAValue;
     };
     return {value(words[0]), value(words[1]), value(words[2])};
 }
@@ -86,42 +86,23 @@ std::optional<RedGreenBlue> SrgbOf(std::uint16_t model, const Components& words)
     }
 }
 
-// A color as it stands in a section; what becomes of it is decided when all of them are there.
+// A color as it stands in a section.
 struct Swatch {
     std::uint16_t model = 0;
     Components words{};
     std::string_view name; // UTF-16
 };
 
-struct Section {
-    std::vector<Swatch> swatches;
-    bool isWhole = true;
-};
-
-Swatch TakeSwatch(ByteReader& file, bool hasName) {
+Swatch TakeSwatch(ByteReader& section, bool hasName) {
     Swatch swatch;
-    swatch.model = file.U16();
+    swatch.model = section.U16();
     for (std::uint16_t& word : swatch.words)
-        word = file.U16();
+        word = section.U16();
     if (hasName) {
-        const std::size_t units = file.U32();
-        swatch.name = file.Bytes(units * kUnitSize);
+        const std::size_t units = section.U32();
+        swatch.name = section.Bytes(units * kUnitSize);
     }
     return swatch;
-}
-
-// Ends early where the bytes do.
-Section TakeSection(ByteReader& file) {
-    Section section;
-    const bool hasNames = file.U16() == kWithNames;
-    for (std::size_t left = file.U16(); left > 0; --left) {
-        const Swatch swatch = TakeSwatch(file, hasNames);
-        if (file.HasFailed())
-            break;
-        section.swatches.push_back(swatch);
-    }
-    section.isWhole = !file.HasFailed();
-    return section;
 }
 
 void AddSwatch(const Swatch& swatch, std::size_t number, PaletteContent& content) {
@@ -130,24 +111,75 @@ void AddSwatch(const Swatch& swatch, std::size_t number, PaletteContent& content
     const std::optional<RedGreenBlue> color = SrgbOf(swatch.model, swatch.words);
     if (!color)
         return content.Add(PaletteFault::OutOfRange, number);
-    PaletteEntry entry;
-    entry.name = NameOfUtf16(swatch.name);
-    entry.SetColor(*color);
-    content.AddEntry(std::move(entry), number);
-}
-
-// The colors of both sections, which are the same ones: those of the second one have names.  Where
-// it ends early, the rest is there without names.
-std::vector<Swatch> Joined(Section&& first, Section&& second) {
-    std::vector<Swatch> joined = std::move(second.swatches);
-    for (std::size_t place = joined.size(); place < first.swatches.size(); ++place)
-        joined.push_back(first.swatches[place]);
-    return joined;
+    PaletteEntry* entry = content.StartEntry(number);
+    if (entry == nullptr)
+        return;
+    entry->SetColor(*color);
+    SetNameOfUtf16(entry->name, swatch.name);
+    content.KeepEntry(number);
 }
 
 bool IsVersion(std::string_view bytes, std::uint16_t version) {
     return ByteReader(bytes).U16() == version && bytes.size() >= kVersionSize;
 }
+
+// Adds the colors of both sections, which are the same ones: those of the second one have names.
+// Where it ends early, the rest comes from the first one.
+class SectionReader {
+public:
+    explicit SectionReader(std::string_view bytes) noexcept : bytes_(bytes) {}
+
+    void Read() {
+        const std::string_view second = BehindFirst();
+        if (IsVersion(second, kWithNames))
+            ReadSection(second);
+        else
+            hasRest_ = !second.empty();
+        const std::size_t named = number_;
+        const bool isNamedWhole = named > 0 && !endsEarly_;
+        ReadSection(bytes_);
+        if (isNamedWhole && named != number_)
+            content_.Add(PaletteFault::Count, number_);
+        if (endsEarly_)
+            content_.Add(PaletteFault::Ends, number_ + 1);
+        if (hasRest_)
+            content_.Add(PaletteFault::Rest, number_);
+    }
+
+    [[nodiscard]] PaletteContent Take() { return std::move(content_); }
+
+private:
+    // What follows a whole section of version 1, whose colors have all the same size.
+    [[nodiscard]] std::string_view BehindFirst() const noexcept {
+        ByteReader section(bytes_);
+        if (section.U16() != kWithoutNames)
+            return {};
+        const std::size_t count = section.U16();
+        static_cast<void>(section.Bytes(count * kSwatchSize));
+        return bytes_.substr(bytes_.size() - section.Left());
+    }
+
+    // Adds the colors of a section behind those that are there already.
+    void ReadSection(std::string_view bytes) {
+        ByteReader section(bytes);
+        const bool hasNames = section.U16() == kWithNames;
+        const std::size_t count = section.U16();
+        content_.Expect(std::min(count, section.Left() / kSwatchSize));
+        for (std::size_t number = 1; number <= count && !section.HasFailed(); ++number) {
+            const Swatch swatch = TakeSwatch(section, hasNames);
+            if (!section.HasFailed() && number > number_)
+                AddSwatch(swatch, number_ = number, content_);
+        }
+        endsEarly_ = endsEarly_ || section.HasFailed();
+        hasRest_ = hasRest_ || (hasNames && section.Left() > 0);
+    }
+
+    std::string_view bytes_;
+    PaletteContent content_;
+    std::size_t number_ = 0; // of the last color
+    bool endsEarly_ = false;
+    bool hasRest_ = false;
+};
 
 std::string NameUnits(std::string_view name, std::size_t& changed) {
     const std::string_view kept = NameWithinLimit(name.substr(0, name.find('\0')));
@@ -175,31 +207,9 @@ bool IsOne(std::string_view bytes) noexcept {
 }
 
 PaletteContent Read(std::string_view bytes) {
-    PaletteContent content;
-    ByteReader file(bytes);
-    Section first = TakeSection(file);
-    Section second;
-    bool hasRest = false;
-    if (first.isWhole && file.Left() > 0) {
-        const std::string_view rest = bytes.substr(bytes.size() - file.Left());
-        hasRest = !IsVersion(bytes, kWithoutNames) || !IsVersion(rest, kWithNames);
-        if (!hasRest)
-            second = TakeSection(file);
-        hasRest = hasRest || file.Left() > 0;
-    }
-    const bool isOtherCount = !second.swatches.empty() && second.isWhole &&
-                              second.swatches.size() != first.swatches.size();
-    const bool endsEarly = !first.isWhole || !second.isWhole;
-    std::size_t number = 0;
-    for (const Swatch& swatch : Joined(std::move(first), std::move(second)))
-        AddSwatch(swatch, ++number, content);
-    if (endsEarly)
-        content.Add(PaletteFault::Ends, number + 1);
-    if (isOtherCount)
-        content.Add(PaletteFault::Count, number);
-    if (hasRest)
-        content.Add(PaletteFault::Rest, number);
-    return content;
+    SectionReader reader(bytes);
+    reader.Read();
+    return reader.Take();
 }
 
 PaletteWriting Write(const Palette& palette) {

@@ -41,18 +41,28 @@ bool EndsNumber(std::string_view rest) {
     return rest.empty() || rest.front() == ' ' || rest.front() == '\t';
 }
 
-void ReadColor(std::string_view line, std::size_t number, PaletteContent& content) {
-    PaletteEntry entry;
+std::optional<PaletteFault> ReadValues(std::string_view& line, PaletteEntry& entry) {
     for (std::size_t value = 0; value < 3; ++value) {
         const std::optional<int> read = TakeNumber(line);
         if (!read || !EndsNumber(line))
-            return content.Add(PaletteFault::Unreadable, number);
+            return PaletteFault::Unreadable;
         if (!IsInRange(*read))
-            return content.Add(PaletteFault::OutOfRange, number);
+            return PaletteFault::OutOfRange;
         entry.values[value] = static_cast<std::int16_t>(*read);
     }
-    entry.name = WithoutBlanksAround(line);
-    content.AddEntry(std::move(entry), number);
+    return {};
+}
+
+void ReadColor(std::string_view line, std::size_t number, PaletteContent& content) {
+    PaletteEntry* entry = content.StartEntry(number);
+    if (entry == nullptr)
+        return;
+    if (const std::optional<PaletteFault> fault = ReadValues(line, *entry)) {
+        content.DropEntry();
+        return content.Add(*fault, number);
+    }
+    entry->name = WithoutBlanksAround(line);
+    content.KeepEntry(number);
 }
 
 // Name and columns stand before the colors; how many columns a window shows means nothing here.
@@ -93,6 +103,7 @@ bool IsOne(std::string_view text) noexcept {
 
 PaletteContent Read(std::string_view text) {
     PaletteContent content;
+    content.Expect(EstimateLines(text));
     PaletteLines lines(text);
     static_cast<void>(lines.Next()); // the magic one
     while (const std::optional<std::string_view> line = lines.Next()) {

@@ -1,8 +1,10 @@
 #include "palettes/PaletteContent.h"
 
 #include "common/Text.h"
+#include "common/Utf8.h"
 #include "palettes/PaletteLimits.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -25,8 +27,12 @@ void PaletteContent::CheckName(std::string& name, std::size_t place) {
         name.resize(NameWithinLimit(name).size());
         Add(PaletteFault::NameCut, place);
     }
-    if (name.find(kReplacement) != std::string::npos)
+    if (!IsAscii(name) && name.find(kReplacement) != std::string::npos)
         Add(PaletteFault::NameBroken, place);
+}
+
+void PaletteContent::Expect(std::size_t count) {
+    palette.entries.reserve(std::min(count, PaletteLimits::kMostEntries));
 }
 
 PaletteGroup PaletteContent::AddGroup(std::string&& name, std::size_t place) {
@@ -39,11 +45,10 @@ PaletteGroup PaletteContent::AddGroup(std::string&& name, std::size_t place) {
     return static_cast<PaletteGroup>(palette.groups.size() - 1);
 }
 
-void PaletteContent::AddEntry(PaletteEntry&& entry, std::size_t place) {
+PaletteEntry* PaletteContent::StartEntry(std::size_t place) {
     if (palette.entries.size() == PaletteLimits::kMostEntries) {
         Add(PaletteFault::Limit, place);
-        return;
+        return nullptr;
     }
-    CheckName(entry.name, place);
-    palette.entries.push_back(std::move(entry));
+    return &palette.entries.emplace_back();
 }

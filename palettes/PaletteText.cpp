@@ -3,6 +3,7 @@
 #include "common/Utf8.h"
 #include "palettes/Utf16Text.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -63,6 +64,14 @@ std::optional<std::string_view> PaletteLines::Next() noexcept {
         line.remove_suffix(1);
     ++number_;
     return line;
+}
+
+std::size_t EstimateLines(std::string_view text) noexcept {
+    const std::string_view start = text.substr(0, kLookedThrough);
+    const auto isEnd = [](char letter) { return letter == '\n' || letter == '\r'; };
+    const auto ends = static_cast<std::size_t>(std::ranges::count_if(start, isEnd));
+    const std::size_t lines = start.find("\r\n") == std::string_view::npos ? ends : ends / 2;
+    return start.empty() ? 0 : (lines + 1) * (text.size() / start.size() + 1);
 }
 
 std::string_view WithoutBlanksAround(std::string_view text) noexcept {

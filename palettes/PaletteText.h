@@ -44,5 +44,8 @@ private:
     std::size_t number_ = 0;
 };
 
+// About how many lines a text has, by those of its beginning.
+[[nodiscard]] std::size_t EstimateLines(std::string_view text) noexcept;
+
 // Without blanks and tabs at its ends.
 [[nodiscard]] std::string_view WithoutBlanksAround(std::string_view text) noexcept;

@@ -6,8 +6,8 @@
 #include "palettes/ByteWriter.h"
 #include "palettes/Utf16Text.h"
 
+#include <algorithm>
 #include <array>
-#include <cmath>
 #include <optional>
 #include <span>
 #include <utility>
@@ -27,8 +27,18 @@ constexpr std::uint16_t kColor = 0x0001;
 constexpr std::uint16_t kNormal = 2; // neither global nor spot
 
 constexpr std::size_t kUnitSize = 2;
-constexpr std::string_view kRgb = "RGB ";
+constexpr std::size_t kLeastColorSize = 16; // a block of gray without a name or a kind
+
+// Four letters as the number that they are in the file.
+constexpr std::uint32_t FourLetters(std::string_view letters) {
+    std::uint32_t number = 0;
+    for (const char letter : letters)
+        number = number << 8U | static_cast<unsigned char>(letter);
+    return number;
+}
+constexpr std::uint32_t kRgb = FourLetters("RGB ");
 constexpr float kHighest = 255;
+constexpr float kHalf = 0.5F; // rounds what is not negative
 
 using Components = std::array<float, 4>;
 
@@ -39,14 +49,14 @@ struct Range {
 
 // A color model of the format: its components and what they mean.
 struct Model {
-    std::string_view name;
+    std::uint32_t name = 0;
     std::size_t count = 0;
     std::array<Range, 4> ranges{};
     RedGreenBlue (*toSrgb)(const Components&) = nullptr;
 };
 
 RedGreenBlue SrgbOfShares(const Components& shares) {
-    const auto value = [](float share) { return static_cast<int>(std::lround(share * kHighest)); };
+    const auto value = [](float share) { return static_cast<int>(share * kHighest + kHalf); };
     return {value(shares[0]), value(shares[1]), value(shares[2])};
 }
 
@@ -54,23 +64,23 @@ constexpr float kFullLightness = 100; // stands in the file as 1
 
 constexpr Model kModels[] = {
     {kRgb, 3, {}, SrgbOfShares},
-    {"CMYK",
+    {FourLetters("CMYK"),
      4,
      {},
      [](const Components& inks) {
          return SrgbOfCmyk({inks[0], inks[1], inks[2], inks[3]});
      }},
-    {"LAB ",
+    {FourLetters("LAB "),
      3,
      {{{0, 1}, {-128, 128}, {-128, 128}, {}}},
      [](const Components& lab) {
          return SrgbOfLab({lab[0] * kFullLightness, lab[1], lab[2]});
      }},
-    {"Gray", 1, {}, [](const Components& share) { return SrgbOfGray(share[0]); }},
-    {"GRAY", 1, {}, [](const Components& share) { return SrgbOfGray(share[0]); }},
+    {FourLetters("Gray"), 1, {}, [](const Components& share) { return SrgbOfGray(share[0]); }},
+    {FourLetters("GRAY"), 1, {}, [](const Components& share) { return SrgbOfGray(share[0]); }},
 };
 
-const Model* ModelOf(std::string_view name) {
+const Model* ModelOf(std::uint32_t name) {
     for (const Model& model : kModels)
         if (model.name == name)
             return &model;
@@ -86,9 +96,24 @@ bool BringIntoRange(float& value, const Range& range) {
     return true;
 }
 
-std::string TakeName(ByteReader& block) {
+std::string_view TakeName(ByteReader& block) {
     const std::size_t units = block.U16();
-    return NameOfUtf16(block.Bytes(units * kUnitSize));
+    return block.Bytes(units * kUnitSize);
+}
+
+// The components of a color whose model is known; the fault that they have.
+std::optional<PaletteFault> TakeComponents(ByteReader& block, const Model& model,
+                                           Components& components) {
+    bool isInRange = true;
+    for (std::size_t index = 0; index < model.count; ++index) {
+        components[index] = block.Float();
+        isInRange = BringIntoRange(components[index], model.ranges[index]) && isInRange;
+    }
+    if (block.HasFailed())
+        return PaletteFault::Unreadable;
+    if (!isInRange)
+        return PaletteFault::OutOfRange;
+    return {};
 }
 
 class BlockReader {
@@ -98,6 +123,7 @@ public:
         static_cast<void>(file.Bytes(kMagic.size()));
         static_cast<void>(file.U32()); // the version: all that are known are alike
         const std::size_t claimed = file.U32();
+        content_.Expect(std::min(claimed, file.Left() / kLeastColorSize));
         while (!file.HasFailed() && file.Left() > 0)
             ReadBlock(file);
         if (file.HasFailed())
@@ -127,38 +153,35 @@ private:
     }
 
     void StartGroup(ByteReader& block) {
-        std::string name = TakeName(block);
+        std::string name;
+        SetNameOfUtf16(name, TakeName(block));
         if (block.HasFailed())
             content_.Add(PaletteFault::Unreadable, number_);
         group_ = content_.AddGroup(std::move(name), number_);
     }
 
     void ReadColor(ByteReader& block) {
-        PaletteEntry entry;
-        entry.name = TakeName(block);
-        entry.group = group_;
-        const std::string_view name = block.Bytes(kRgb.size());
+        const std::string_view name = TakeName(block);
+        const std::uint32_t modelName = block.U32();
         if (block.HasFailed())
             return content_.Add(PaletteFault::Unreadable, number_);
-        const Model* model = ModelOf(name);
+        const Model* model = ModelOf(modelName);
         if (model == nullptr)
             return content_.Add(PaletteFault::UnknownModel, number_);
-        ReadComponents(block, *model, std::move(entry));
+        Components components{};
+        if (const std::optional<PaletteFault> fault = TakeComponents(block, *model, components))
+            return content_.Add(*fault, number_);
+        AddColor(name, model->toSrgb(components));
     }
 
-    void ReadComponents(ByteReader& block, const Model& model, PaletteEntry&& entry) {
-        Components components{};
-        bool isInRange = true;
-        for (std::size_t index = 0; index < model.count; ++index) {
-            components[index] = block.Float();
-            isInRange = BringIntoRange(components[index], model.ranges[index]) && isInRange;
-        }
-        if (block.HasFailed())
-            return content_.Add(PaletteFault::Unreadable, number_);
-        if (!isInRange)
-            return content_.Add(PaletteFault::OutOfRange, number_);
-        entry.SetColor(model.toSrgb(components));
-        content_.AddEntry(std::move(entry), number_);
+    void AddColor(std::string_view name, const RedGreenBlue& color) {
+        PaletteEntry* entry = content_.StartEntry(number_);
+        if (entry == nullptr)
+            return;
+        entry->group = group_;
+        entry->SetColor(color);
+        SetNameOfUtf16(entry->name, name);
+        content_.KeepEntry(number_);
     }
 
     PaletteContent content_;
@@ -214,7 +237,7 @@ private:
         for (const PaletteEntry* entry : entries) {
             ByteWriter block;
             block.Bytes(NameBlock(entry->name, losses_.names));
-            block.Bytes(kRgb);
+            block.U32(kRgb);
             for (std::size_t value = 0; value < 3; ++value)
                 block.Float(static_cast<float>(entry->values[value]) / kHighest);
             block.U16(kNormal);

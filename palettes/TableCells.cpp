@@ -23,15 +23,22 @@ bool AreAllEmpty(const std::vector<TableCell>& cells) {
 
 } // namespace
 
-std::string TableCell::Text() const {
-    if (!hasDoubledQuotes)
-        return std::string(raw);
-    std::string text;
+void TableCell::CopyTo(std::string& text) const {
+    if (!hasDoubledQuotes) {
+        text = raw;
+        return;
+    }
+    text.clear();
     for (std::size_t place = 0; place < raw.size(); ++place) {
         text += raw[place];
         if (raw[place] == '"')
             ++place;
     }
+}
+
+std::string TableCell::Text() const {
+    std::string text;
+    CopyTo(text);
     return text;
 }
 
@@ -72,34 +79,43 @@ void TableRecords::PassLineEnd() noexcept {
 }
 
 TableCell TableRecords::TakeCell() {
+    while (place_ < text_.size() && IsBlank(text_[place_]) && text_[place_] != separator_)
+        ++place_;
     TableCell cell;
-    if (TakeQuoted(cell))
+    if (place_ < text_.size() && text_[place_] == '"' && TakeQuoted(cell))
         return cell;
     const std::size_t start = place_;
-    while (place_ < text_.size() && text_[place_] != separator_ && !IsAtLineEnd())
-        ++place_;
-    cell.raw = WithoutBlanksAround(text_.substr(start, place_ - start));
+    PassCell();
+    std::size_t end = place_;
+    while (end > start && IsBlank(text_[end - 1]))
+        --end;
+    cell.raw = text_.substr(start, end - start);
     return cell;
 }
 
-// False, and nothing taken: the cell is not in quotes.
+void TableRecords::PassCell() noexcept {
+    // Locals: a member would be stored at each character.
+    const std::string_view text = text_;
+    const char separator = separator_;
+    std::size_t place = place_;
+    while (place < text.size() && text[place] != separator && !IsLineEnd(text[place]))
+        ++place;
+    place_ = place;
+}
+
+// False, and nothing taken: the quote here is never closed.
 bool TableRecords::TakeQuoted(TableCell& cell) {
-    std::size_t start = place_;
-    while (start < text_.size() && IsBlank(text_[start]) && text_[start] != separator_)
-        ++start;
-    if (noneCloses_ || start >= text_.size() || text_[start] != '"')
+    if (noneCloses_)
         return false;
-    const std::size_t end = ClosingQuote(start + 1, cell.hasDoubledQuotes);
-    if (end == std::string_view::npos) {
-        noneCloses_ = true;
-        cell.hasDoubledQuotes = false;
+    bool hasDoubled = false;
+    const std::size_t end = ClosingQuote(place_ + 1, hasDoubled);
+    noneCloses_ = end == std::string_view::npos;
+    if (noneCloses_)
         return false;
-    }
-    cell.raw = text_.substr(start + 1, end - start - 1);
+    cell = {text_.substr(place_ + 1, end - place_ - 1), hasDoubled};
     line_ += static_cast<std::size_t>(std::ranges::count(cell.raw, '\n'));
     place_ = end + 1;
-    while (place_ < text_.size() && text_[place_] != separator_ && !IsAtLineEnd())
-        ++place_;
+    PassCell();
     return true;
 }
 

@@ -11,6 +11,7 @@ struct TableCell {
     bool hasDoubledQuotes = false; // each two of them are one
 
     [[nodiscard]] std::string Text() const;
+    void CopyTo(std::string& text) const;
 };
 
 // The records of a text with cells between separators.  A cell in double quotes may hold
@@ -37,6 +38,7 @@ private:
     void TakeRecord();
     [[nodiscard]] TableCell TakeCell();
     [[nodiscard]] bool TakeQuoted(TableCell& cell);
+    void PassCell() noexcept;
     [[nodiscard]] std::size_t ClosingQuote(std::size_t start, bool& hasDoubled) const noexcept;
     [[nodiscard]] bool IsAtLineEnd() const noexcept;
     void PassLineEnd() noexcept;

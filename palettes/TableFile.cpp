@@ -2,6 +2,7 @@
 
 #include "common/ColorNumber.h"
 #include "common/Numbers.h"
+#include "palettes/PaletteText.h"
 #include "palettes/TableCells.h"
 #include "palettes/TableColumns.h"
 
@@ -39,7 +40,7 @@ int PlainNumberOf(std::string_view text) {
 class TableReader {
 public:
     explicit TableReader(std::string_view text)
-        : separator_(SeparatorOf(text)), records_(text, separator_) {}
+        : text_(text), separator_(SeparatorOf(text)), records_(text, separator_) {}
 
     void Read() {
         while (records_.Next())
@@ -54,16 +55,17 @@ private:
     [[nodiscard]] bool HasDecimalCommas() const noexcept { return separator_ != ','; }
 
     void ReadRecord() {
-        if (columns_.empty() && (TakeHeader() || !TakeColumns()))
+        if (columns_.empty() && !TakeColumns())
             return;
-        PaletteEntry entry;
-        const Cell read = ReadCells(entry);
+        PaletteEntry* entry = content_.StartEntry(records_.Line());
+        if (entry == nullptr)
+            return;
+        const Cell read = ReadCells(*entry);
         if (read == Cell::Taken)
-            content_.AddEntry(std::move(entry), records_.Line());
-        else
-            content_.Add(read == Cell::OutOfRange ? PaletteFault::OutOfRange
-                                                  : PaletteFault::Unreadable,
-                         records_.Line());
+            return content_.KeepEntry(records_.Line());
+        content_.DropEntry();
+        content_.Add(read == Cell::OutOfRange ? PaletteFault::OutOfRange : PaletteFault::Unreadable,
+                     records_.Line());
     }
 
     // A header stands before everything else.
@@ -80,11 +82,17 @@ private:
         return hasHeader_;
     }
 
+    // False: the record is not to be read as a color.
     bool TakeColumns() {
-        columns_ = ColumnsOfRecord(records_.Cells(), HasDecimalCommas()).value_or(TableColumns());
+        const bool isHeader = TakeHeader();
+        if (!isHeader)
+            columns_ =
+                ColumnsOfRecord(records_.Cells(), HasDecimalCommas()).value_or(TableColumns());
         if (columns_.empty())
             content_.Add(PaletteFault::Unreadable, records_.Line());
-        return !columns_.empty();
+        else
+            content_.Expect(EstimateLines(text_));
+        return !isHeader && !columns_.empty();
     }
 
     Cell ReadCells(PaletteEntry& entry) {
@@ -105,8 +113,9 @@ private:
     void CountStrayCells() {
         const std::vector<TableCell>& cells = records_.Cells();
         bool isStray = records_.IsTooLong();
-        for (std::size_t cell = 0; cell < cells.size(); ++cell)
-            if (cell >= columns_.size() || (!hasHeader_ && columns_[cell] == TableColumn::Nothing))
+        const std::size_t first = hasHeader_ ? columns_.size() : 0;
+        for (std::size_t cell = first; cell < cells.size(); ++cell)
+            if (cell >= columns_.size() || columns_[cell] == TableColumn::Nothing)
                 isStray = isStray || !cells[cell].raw.empty();
         if (isStray)
             content_.Add(PaletteFault::Column, records_.Line());
@@ -116,7 +125,7 @@ private:
         if (IsValue(column))
             return ReadValue(cell.raw, static_cast<std::size_t>(column), entry);
         if (column == TableColumn::Name)
-            entry.name = cell.Text();
+            cell.CopyTo(entry.name);
         else if (column == TableColumn::Group)
             entry.group = GroupOf(cell);
         else if (column == TableColumn::Hex)
@@ -158,9 +167,9 @@ private:
     PaletteGroup GroupOf(const TableCell& cell) {
         if (cell.raw.empty())
             return kNoGroup;
-        std::string name = cell.Text();
-        if (lastGroup_ != kNoGroup && name == lastGroupName_)
+        if (lastGroup_ != kNoGroup && !cell.hasDoubledQuotes && cell.raw == lastGroupName_)
             return lastGroup_;
+        std::string name = cell.Text();
         const auto known = groups_.find(name);
         lastGroupName_ = name;
         lastGroup_ = known != groups_.end() ? known->second : NewGroup(std::move(name));
@@ -174,6 +183,7 @@ private:
         return group;
     }
 
+    std::string_view text_;
     char separator_;
     TableRecords records_;
     bool isBehindFirst_ = false;

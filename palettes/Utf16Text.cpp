@@ -83,14 +83,15 @@ std::string Utf8OfUtf16(std::string_view bytes, Utf16Order order) {
     return text;
 }
 
-std::string NameOfUtf16(std::string_view bytes) {
+void SetNameOfUtf16(std::string& name, std::string_view bytes) {
     const NameExtent extent = ExtentOf(bytes);
-    if (!extent.isAscii)
-        return Utf8OfUtf16(bytes.substr(0, extent.bytes), Utf16Order::BigEndian);
-    std::string name(extent.bytes / kUnitSize, '\0');
+    if (!extent.isAscii) {
+        name = Utf8OfUtf16(bytes.substr(0, extent.bytes), Utf16Order::BigEndian);
+        return;
+    }
+    name.resize(extent.bytes / kUnitSize);
     for (std::size_t place = 0; place < name.size(); ++place)
         name[place] = bytes[place * kUnitSize + 1];
-    return name;
 }
 
 std::string Utf16OfUtf8(std::string_view text) {

@@ -11,7 +11,7 @@ enum class Utf16Order { BigEndian, LittleEndian };
 [[nodiscard]] std::string Utf8OfUtf16(std::string_view bytes, Utf16Order order);
 
 // A name as Adobe's files keep it: big-endian, up to its first zero or the end.
-[[nodiscard]] std::string NameOfUtf16(std::string_view bytes);
+void SetNameOfUtf16(std::string& name, std::string_view bytes);
 
 // Big-endian and without a zero at its end.
 [[nodiscard]] std::string Utf16OfUtf8(std::string_view text);

@@ -13,7 +13,8 @@ TEST(PaletteContent, MoreColorsThanTheLimitAreCountedAndLeftOut) {
     PaletteContent content;
     content.palette.entries.resize(PaletteLimits::kMostEntries - 1);
     for (std::size_t place = 7; place < 10; ++place)
-        content.AddEntry({}, place);
+        if (content.StartEntry(place) != nullptr)
+            content.KeepEntry(place);
     EXPECT_EQ(content.palette.entries.size(), PaletteLimits::kMostEntries);
     EXPECT_EQ(content.faults.Of(PaletteFault::Limit), (Met{2, 8}));
 }

@@ -63,6 +63,8 @@ class OwnHeaders(unittest.TestCase):
                              ("platform/Window.cpp", "library/Library.h"),
                              ("solidworks/Bridge.cpp", "library/Library.h"),
                              ("support/settings/Options.cpp", "support/windows/About.h"),
+                             ("palettes/Palette.cpp", "library/Library.h"),
+                             ("library/Library.cpp", "palettes/Palette.h"),
                              ("support/windows/About.cpp", "library/Library.h")):
             with self.subTest(path):
                 self.assertEqual(len(faults(path, f'#include "{header}"')), 1)

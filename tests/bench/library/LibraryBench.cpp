@@ -25,6 +25,8 @@ int main(int count, char** arguments) {
         ReportGrowth(platform, sizes);
         ReportList(platform, sizes);
         ReportHistory(platform, sizes);
+        ReportPalettes(sizes);
+        ReportSearch(sizes);
         ReportProgress(platform, sizes);
         return 0;
     } catch (const std::exception& error) {
