@@ -42,6 +42,12 @@ std::string TableCell::Text() const {
     return text;
 }
 
+TableRecords::TableRecords(std::string_view text, char separator) noexcept
+    : text_(text), separator_(separator) {
+    for (const char letter : {separator, '\r', '\n'})
+        ends_[static_cast<unsigned char>(letter)] = true;
+}
+
 bool TableRecords::Next() {
     do {
         if (place_ >= text_.size())
@@ -56,11 +62,11 @@ void TableRecords::TakeRecord() {
     isTooLong_ = false;
     startLine_ = line_;
     while (true) {
-        const TableCell cell = TakeCell();
-        if (cells_.size() < PaletteLimits::kMostColumns)
-            cells_.push_back(cell);
-        else
+        TakeCell(cells_.emplace_back());
+        if (cells_.size() > PaletteLimits::kMostColumns) {
+            cells_.pop_back();
             isTooLong_ = true;
+        }
         if (place_ >= text_.size())
             return;
         if (IsAtLineEnd())
@@ -78,27 +84,24 @@ void TableRecords::PassLineEnd() noexcept {
     ++line_;
 }
 
-TableCell TableRecords::TakeCell() {
+void TableRecords::TakeCell(TableCell& cell) {
     while (place_ < text_.size() && IsBlank(text_[place_]) && text_[place_] != separator_)
         ++place_;
-    TableCell cell;
     if (place_ < text_.size() && text_[place_] == '"' && TakeQuoted(cell))
-        return cell;
+        return;
     const std::size_t start = place_;
     PassCell();
     std::size_t end = place_;
     while (end > start && IsBlank(text_[end - 1]))
         --end;
     cell.raw = text_.substr(start, end - start);
-    return cell;
 }
 
 void TableRecords::PassCell() noexcept {
     // Locals: a member would be stored at each character.
     const std::string_view text = text_;
-    const char separator = separator_;
     std::size_t place = place_;
-    while (place < text.size() && text[place] != separator && !IsLineEnd(text[place]))
+    while (place < text.size() && !ends_[static_cast<unsigned char>(text[place])])
         ++place;
     place_ = place;
 }

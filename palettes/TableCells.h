@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -19,8 +20,7 @@ struct TableCell {
 // character like others.
 class TableRecords {
 public:
-    TableRecords(std::string_view text, char separator) noexcept
-        : text_(text), separator_(separator) {}
+    TableRecords(std::string_view text, char separator) noexcept;
 
     // False behind the last one.  Records without anything in them are passed over.
     [[nodiscard]] bool Next();
@@ -36,7 +36,7 @@ public:
 
 private:
     void TakeRecord();
-    [[nodiscard]] TableCell TakeCell();
+    void TakeCell(TableCell& cell);
     [[nodiscard]] bool TakeQuoted(TableCell& cell);
     void PassCell() noexcept;
     [[nodiscard]] std::size_t ClosingQuote(std::size_t start, bool& hasDoubled) const noexcept;
@@ -45,6 +45,7 @@ private:
 
     std::string_view text_;
     char separator_;
+    std::array<bool, 256> ends_{}; // the characters that end a cell without quotes
     std::size_t place_ = 0;
     std::size_t line_ = 1;
     std::size_t startLine_ = 1;

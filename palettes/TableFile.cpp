@@ -136,14 +136,19 @@ private:
     Cell ReadValue(std::string_view text, std::size_t value, PaletteEntry& entry) {
         if (text.empty()) // there is none
             return Cell::Taken;
-        double number = PlainNumberOf(text);
-        if (number < 0) {
-            const std::optional<double> read = NumberOfCell(text, HasDecimalCommas());
-            if (!read)
-                return Cell::Unreadable;
-            number = RoundHalfToEven(*read);
-        }
-        if (!(number >= 0 && number <= MaximumOfColorValue(value)))
+        const int plain = PlainNumberOf(text);
+        if (plain >= 0)
+            return TakeValue(plain, value, entry);
+        const std::optional<double> read = NumberOfCell(text, HasDecimalCommas());
+        if (!read)
+            return Cell::Unreadable;
+        // What is too large for the range is so after rounding, too.
+        return TakeValue(static_cast<int>(std::clamp(RoundHalfToEven(*read), -1.0, 1000.0)), value,
+                         entry);
+    }
+
+    Cell TakeValue(int number, std::size_t value, PaletteEntry& entry) {
+        if (number < 0 || number > MaximumOfColorValue(value))
             return Cell::OutOfRange;
         entry.Set(value, static_cast<std::int16_t>(number));
         colorValues_ += value < kFirstMaterial ? 1 : 0;

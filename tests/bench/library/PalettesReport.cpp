@@ -135,8 +135,9 @@ void Measure(const Measured& format, const BenchSizes& sizes) {
         reading.Measure([&] { read = ReadPalette(bytes, AsciiPage()); });
         if (read.palette.entries.size() != palette.entries.size() || !read.faults.IsNothing())
             throw std::runtime_error("The palette was not read");
-        writing.Measure([&] { sum += WritePalette(palette, format.format).bytes.back(); });
     }
+    for (int repetition = 0; repetition <= 2 * sizes.repetitions; ++repetition)
+        writing.Measure([&] { sum += WritePalette(palette, format.format).bytes.back(); });
     if (sum == 0)
         throw std::runtime_error("The floor read nothing");
     std::printf("| %s | %zu | %zu | %.2f | %.2f | %.2f | %.2f |\n", format.name,

@@ -1,9 +1,12 @@
+#include "common/ColorSpaces.h"
 #include "library/ColorSearch.h"
 #include "library/NearestColors.h"
 #include "tests/bench/library/Reports.h"
 #include "tests/bench/library/Timing.h"
 
+#include <cmath>
 #include <cstdio>
+#include <functional>
 #include <random>
 #include <stdexcept>
 #include <string>
@@ -12,17 +15,32 @@ namespace {
 
 constexpr std::size_t kSlice = 2000; // records between two looks at the window
 
-void Append(ColorTable& colors, int count, int highest) {
+using MadeValues = std::function<ColorValueArray(std::mt19937&)>;
+
+ColorValueArray ValuesUpTo(std::mt19937& random, int highest) {
+    ColorValueArray values{};
+    for (std::int16_t& each : values)
+        each = static_cast<std::int16_t>(std::uniform_int_distribution<int>(0, highest)(random));
+    return values;
+}
+
+// All of about the lightness of the middle gray: luminance tells none of them from another.
+ColorValueArray ValuesOfOneLightness(std::mt19937& random) {
+    while (true) {
+        const ColorValueArray values = ValuesUpTo(random, 255);
+        const LabColor lab = LabOfSrgb({values[0], values[1], values[2]});
+        if (std::abs(lab.lightness - LabOfSrgb({128, 128, 128}).lightness) < 1)
+            return values;
+    }
+}
+
+void Append(ColorTable& colors, int count, const MadeValues& made) {
     std::mt19937 random(11);
-    std::uniform_int_distribution<int> value(0, highest);
     const ColorTable::GroupNumber group = colors.NumberOfGroup("0DG1");
     for (int index = 0; index < count; ++index) {
-        ColorValueArray values{};
-        for (std::int16_t& each : values)
-            each = static_cast<std::int16_t>(value(random));
         const std::string name =
             (index % 20 == 0 ? "Grünton " : "Color no ") + std::to_string(1000000 + index);
-        colors.Append(group, static_cast<std::uint32_t>(index + 1), name, name, values);
+        colors.Append(group, static_cast<std::uint32_t>(index + 1), name, name, made(random));
     }
 }
 
@@ -93,12 +111,15 @@ void ReportSearch(const BenchSizes& sizes) {
         "\n| %d colors | plain pass, ms | search, ms | ratio |\n| --- | --- | --- | --- |\n",
         sizes.largest);
     ColorTable colors;
-    Append(colors, sizes.largest, 255);
+    Append(colors, sizes.largest, [](std::mt19937& random) { return ValuesUpTo(random, 255); });
     MeasureTexts(colors, sizes.repetitions);
     MeasureNearest("any colors", colors, 100, sizes.repetitions);
     MeasureNearest("any colors", colors, NearestColors::kMost, sizes.repetitions);
     ColorTable few;
-    Append(few, sizes.largest, 15);
+    Append(few, sizes.largest, [](std::mt19937& random) { return ValuesUpTo(random, 15); });
     MeasureNearest("4,096 dark colors", few, 100, sizes.repetitions);
+    ColorTable even;
+    Append(even, sizes.largest, ValuesOfOneLightness);
+    MeasureNearest("one lightness", even, 100, sizes.repetitions);
     std::printf("\n");
 }
