@@ -106,14 +106,12 @@ void TableRecords::PassCell() noexcept {
     place_ = place;
 }
 
-// False, and nothing taken: the quote here is never closed.
+// False, and nothing taken: the quote here is never closed.  That happens once at most: each quote
+// behind it is one of two, so that a cell which begins with one is closed by itself.
 bool TableRecords::TakeQuoted(TableCell& cell) {
-    if (noneCloses_)
-        return false;
     bool hasDoubled = false;
     const std::size_t end = ClosingQuote(place_ + 1, hasDoubled);
-    noneCloses_ = end == std::string_view::npos;
-    if (noneCloses_)
+    if (end == std::string_view::npos)
         return false;
     cell = {text_.substr(place_ + 1, end - place_ - 1), hasDoubled};
     line_ += static_cast<std::size_t>(std::ranges::count(cell.raw, '\n'));

@@ -49,7 +49,6 @@ private:
     std::size_t place_ = 0;
     std::size_t line_ = 1;
     std::size_t startLine_ = 1;
-    bool noneCloses_ = false; // no quote from here on is closed
     bool isTooLong_ = false;
     std::vector<TableCell> cells_;
 };

@@ -44,6 +44,17 @@ TEST(PlainColorModels, HuesAreSixtyDegreesApart) {
     EXPECT_EQ(SrgbOfHsb({210, 0.5, 0.8}), (RedGreenBlue{102, 153, 204}));
 }
 
+TEST(PlainColorModels, HuesOfColorsAreFromRedRoundToRed) {
+    EXPECT_DOUBLE_EQ(HsbOfSrgb({255, 0, 0}).hue, 0);
+    EXPECT_DOUBLE_EQ(HsbOfSrgb({200, 200, 0}).hue, 60);
+    EXPECT_DOUBLE_EQ(HsbOfSrgb({10, 20, 10}).hue, 120);
+    EXPECT_DOUBLE_EQ(HsbOfSrgb({0, 0, 255}).hue, 240);
+    EXPECT_DOUBLE_EQ(HsbOfSrgb({255, 0, 255}).hue, 300);
+    EXPECT_NEAR(HsbOfSrgb({255, 0, 51}).hue, 348, 1e-9);
+    EXPECT_DOUBLE_EQ(HsbOfSrgb({100, 50, 50}).saturation, 0.5);
+    EXPECT_DOUBLE_EQ(HsbOfSrgb({51, 0, 0}).brightness, 0.2);
+}
+
 TEST(PlainColorModels, HueGoesRound) {
     EXPECT_EQ(SrgbOfHsb({360, 1, 1}), SrgbOfHsb({0, 1, 1}));
     EXPECT_EQ(SrgbOfHsb({-60, 1, 1}), SrgbOfHsb({300, 1, 1}));

@@ -64,6 +64,13 @@ TEST(TableFile, GroupsAreThoseOfTheTextInTheOrderOfTheirFirstColors) {
                                          MadeEntry("", {0, 0, 5}, 0)}}));
 }
 
+TEST(TableFile, GroupsAreComparedByTheirNamesAndNotByHowTheyAreSpelled) {
+    EXPECT_EQ(Read("group,hex\n\"a\"\"\"\"b\",#000001\n\"a\"\"b\",#000002\n").palette.groups,
+              (std::vector<std::string>{"a\"\"b", "a\"b"}));
+    EXPECT_EQ(Read("group,hex\na,#000001\n\"a\",#000002\n").palette.groups,
+              std::vector<std::string>{"a"});
+}
+
 TEST(TableFile, ValuesBehindTheColorAreTheProgramsNineInTheirOrder) {
     PaletteEntry wanted = kSun[0];
     for (std::size_t value = 3; value < kColorValueCount; ++value)
