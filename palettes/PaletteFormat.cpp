@@ -3,7 +3,6 @@
 #include "common/FileNames.h"
 #include "palettes/AdobeColorFile.h"
 #include "palettes/GimpPaletteFile.h"
-#include "palettes/PaletteLimits.h"
 #include "palettes/PaletteText.h"
 #include "palettes/SwatchExchangeFile.h"
 #include "palettes/TableFile.h"
@@ -33,9 +32,10 @@ PaletteReading ReadAny(std::string_view bytes, const AnsiCodePage& codePage) {
 
 } // namespace
 
-PaletteReading ReadPalette(std::string_view bytes, const AnsiCodePage& codePage) {
-    PaletteReading reading = ReadAny(bytes.substr(0, PaletteLimits::kMostBytes), codePage);
-    if (reading.format && bytes.size() > PaletteLimits::kMostBytes)
+PaletteReading ReadPalette(std::string_view bytes, const AnsiCodePage& codePage,
+                           std::size_t mostBytes) {
+    PaletteReading reading = ReadAny(bytes.substr(0, mostBytes), codePage);
+    if (reading.format && bytes.size() > mostBytes)
         reading.faults.Add(PaletteFault::Limit, reading.palette.entries.size() + 1);
     return reading;
 }

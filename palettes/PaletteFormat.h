@@ -3,8 +3,10 @@
 #include "common/ports/AnsiCodePage.h"
 #include "palettes/Palette.h"
 #include "palettes/PaletteFaults.h"
+#include "palettes/PaletteLimits.h"
 #include "palettes/PaletteLosses.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,7 +31,9 @@ struct PaletteWriting {
 };
 
 // By the content alone, whatever the file is called.  codePage: of texts that are not in Unicode.
-[[nodiscard]] PaletteReading ReadPalette(std::string_view bytes, const AnsiCodePage& codePage);
+// mostBytes: what is behind them is left out.
+[[nodiscard]] PaletteReading ReadPalette(std::string_view bytes, const AnsiCodePage& codePage,
+                                         std::size_t mostBytes = PaletteLimits::kMostBytes);
 
 [[nodiscard]] PaletteWriting WritePalette(const Palette& palette, PaletteFormat format);
 

@@ -155,6 +155,16 @@ TEST(PaletteFormat, CharactersThatAreNoneAreTold) {
     }
 }
 
+TEST(PaletteFormat, MoreBytesThanTheLimitAreLeftOutAndTold) {
+    const std::string bytes = "GIMP Palette\n1 2 3 a\n4 5 6 b\n";
+    const PaletteReading whole = ReadPalette(bytes, kCodePage, bytes.size());
+    EXPECT_TRUE(whole.faults.IsNothing());
+    EXPECT_EQ(whole.palette.entries.size(), 2U);
+    const PaletteReading cut = ReadPalette(bytes, kCodePage, bytes.size() - 8);
+    EXPECT_EQ(cut.palette.entries, (std::vector{MadeEntry("a", {1, 2, 3})}));
+    EXPECT_EQ(cut.faults.Of(PaletteFault::Limit).count, 1U);
+}
+
 TEST(PaletteFormat, EndingsNameFormatsInEitherCase) {
     EXPECT_EQ(FormatOfEnding("C:\\a.GPL"), PaletteFormat::Gimp);
     EXPECT_EQ(FormatOfEnding("a.ase"), PaletteFormat::SwatchExchange);
