@@ -57,7 +57,7 @@ function(tnt_test name)
     endif()
 endfunction()
 
-set(portable_test_folders tests/common tests/library tests/palettes tests/solidworks
+set(portable_test_folders tests/common tests/library tests/palettes tests/convert tests/solidworks
     tests/support/language tests/support/settings tests/support/windows
     tests/mainwindow tests/app tests/standin tests/fakes)
 tnt_test_program(portable_tests FOLDERS ${portable_test_folders}

@@ -22,7 +22,7 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*(?:<([^>]+)>|"([^"]+)")')
 
 # A room inside another one stands before it.
 ROOMS = ("app", "mainwindow/panes", "mainwindow", "support/language", "support/settings",
-         "support/windows", "platform", "library", "palettes", "solidworks", "common", "standin/model",
+         "support/windows", "platform", "library", "palettes", "convert", "solidworks", "common", "standin/model",
          "standin/com", "resources", "tests")
 
 # The rooms that a room may include, itself aside: those that it needs, no others.
@@ -31,6 +31,7 @@ ROOMS_BELOW = {
     "platform": ("common",),
     "library": ("common",),
     "palettes": ("common",),
+    "convert": ("common", "library", "palettes"),
     "solidworks": ("common",),
     "support/language": ("common", "resources"),
     "support/settings": ("common", "support/language", "resources"),

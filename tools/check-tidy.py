@@ -31,7 +31,7 @@ import tempfile
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build"
 KNOWN = BUILD / "tidy"
-ROOMS = ("app", "common", "library", "mainwindow", "palettes", "platform", "solidworks", "standin",
+ROOMS = ("app", "common", "convert", "library", "mainwindow", "palettes", "platform", "solidworks", "standin",
          "support")
 TOGETHER = 24  # files that are looked at as one, at most
 OWN_PART = re.compile(r"^namespace \{$(.*?)^\} // namespace$", re.MULTILINE | re.DOTALL)

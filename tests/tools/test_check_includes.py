@@ -64,6 +64,7 @@ class OwnHeaders(unittest.TestCase):
                              ("solidworks/Bridge.cpp", "library/Library.h"),
                              ("support/settings/Options.cpp", "support/windows/About.h"),
                              ("palettes/Palette.cpp", "library/Library.h"),
+                             ("library/Library.cpp", "convert/LibraryPalette.h"),
                              ("library/Library.cpp", "palettes/Palette.h"),
                              ("support/windows/About.cpp", "library/Library.h")):
             with self.subTest(path):
