@@ -20,6 +20,7 @@ namespace {
 constexpr std::string_view kMark = "\xEF\xBB\xBF";
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::size_t kFirstMaterial = 3;
+constexpr unsigned kAllThree = 0b111;
 
 enum class Cell { Taken, Unreadable, OutOfRange };
 
@@ -98,11 +99,12 @@ private:
     Cell ReadCells(PaletteEntry& entry) {
         const std::vector<TableCell>& cells = records_.Cells();
         const std::size_t count = std::min(cells.size(), columns_.size());
-        colorValues_ = 0;
+        numbers_ = 0;
+        hex_.reset();
         Cell worst = Cell::Taken;
         for (std::size_t cell = 0; cell < count && worst == Cell::Taken; ++cell)
             worst = ReadCell(cells[cell], columns_[cell], entry);
-        if (worst == Cell::Taken && colorValues_ != kFirstMaterial)
+        if (worst == Cell::Taken && !SettleColor(entry))
             worst = Cell::Unreadable;
         if (worst == Cell::Taken)
             CountStrayCells();
@@ -129,7 +131,7 @@ private:
         else if (column == TableColumn::Group)
             entry.group = GroupOf(cell);
         else if (column == TableColumn::Hex)
-            return ReadHex(cell.raw, entry);
+            return ReadHex(cell.raw);
         return Cell::Taken;
     }
 
@@ -151,21 +153,29 @@ private:
         if (number < 0 || number > MaximumOfColorValue(value))
             return Cell::OutOfRange;
         entry.Set(value, static_cast<std::int16_t>(number));
-        colorValues_ += value < kFirstMaterial ? 1 : 0;
+        if (value < kFirstMaterial)
+            numbers_ |= 1U << value;
         return Cell::Taken;
     }
 
-    // Beside numbers for red, green and blue it says nothing new.
-    Cell ReadHex(std::string_view text, PaletteEntry& entry) {
-        if (text.empty() || colorValues_ == kFirstMaterial)
+    Cell ReadHex(std::string_view text) {
+        if (text.empty())
             return Cell::Taken;
         const std::int32_t number = HexNumberOf(text, false);
         if (number < 0)
             return Cell::Unreadable;
         const RedGreenBlue turned = SplitColorNumber(static_cast<ColorNumber>(number));
-        entry.SetColor({turned.blue, turned.green, turned.red}); // red comes first here
-        colorValues_ = kFirstMaterial;
+        hex_ = {turned.blue, turned.green, turned.red}; // red comes first here
         return Cell::Taken;
+    }
+
+    // Numbers hold when all three are there; false: the record has no color.
+    [[nodiscard]] bool SettleColor(PaletteEntry& entry) const noexcept {
+        if (numbers_ == kAllThree)
+            return true;
+        if (hex_)
+            entry.SetColor(*hex_);
+        return hex_.has_value();
     }
 
     // Most records have the group of the one before.
@@ -194,7 +204,8 @@ private:
     bool isBehindFirst_ = false;
     bool hasHeader_ = false;
     TableColumns columns_;
-    std::size_t colorValues_ = 0; // of red, green and blue, in the record that is read
+    unsigned numbers_ = 0; // a bit for each of red, green and blue, in the record that is read
+    std::optional<RedGreenBlue> hex_; // of that record
     std::unordered_map<std::string, PaletteGroup> groups_;
     std::string lastGroupName_;
     PaletteGroup lastGroup_ = kNoGroup;

@@ -31,6 +31,25 @@ TEST(TableFile, ColumnsAreFoundByTheirTitles) {
     EXPECT_EQ(Entries("name,color\nSun,ffcc4d\n"), kSun);
 }
 
+TEST(TableFile, ThreeNumbersHoldBesideAHexNumber) {
+    for (const char* const titles : {"name,hex,red,green,blue\nSun,#000000,255,204,77\n",
+                                     "name,red,green,blue,hex\nSun,255,204,77,#000000\n",
+                                     "name,hex,red,green,blue\nSun,#FFCC4D,1,,2\n",
+                                     "red,green,blue,hex,name\n1,,,#FFCC4D,Sun\n"})
+        EXPECT_EQ(Entries(titles), kSun) << titles;
+}
+
+TEST(TableFile, HexNumberThatIsNoneIsCountedAndItsColorLeftOut) {
+    const PaletteContent content = Read("hex\n#FFCC4\n#FFCC4DE\nred\n-FCC4D\n#12345\n");
+    EXPECT_TRUE(content.palette.entries.empty());
+    EXPECT_EQ(content.faults.Of(PaletteFault::Unreadable), (Met{5, 2}));
+}
+
+TEST(TableFile, NumberWithPointAndCommaIsNone) {
+    const PaletteContent content = Read("name;r;g;b\na;1.000,5;2;3\nb;1,0,0;2;3\n");
+    EXPECT_EQ(content.faults.Of(PaletteFault::Unreadable), (Met{2, 2}));
+}
+
 TEST(TableFile, WithoutAHeaderColumnsAreFoundByTheFirstColor) {
     EXPECT_EQ(Entries("Sun,255,204,77\n"), kSun);
     EXPECT_EQ(Entries("255,204,77,Sun\n"), kSun);
