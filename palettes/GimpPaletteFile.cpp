@@ -17,13 +17,18 @@ constexpr std::string_view kName = "Name:";
 constexpr std::string_view kColumns = "Columns:";
 constexpr int kHighestValue = 255;
 
+bool IsBlank(char letter) {
+    return letter == ' ' || letter == '\t';
+}
+
 bool IsComment(std::string_view line) {
     return line.starts_with('#');
 }
 
 // The whole number that a text begins with, behind blanks; the text moves behind it.
 std::optional<int> TakeNumber(std::string_view& text) {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+    while (!text.empty() && IsBlank(text.front()))
+        text.remove_prefix(1);
     int number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc())
@@ -38,7 +43,7 @@ bool IsInRange(int value) {
 
 // A number ends at a blank or with the line.
 bool EndsNumber(std::string_view rest) {
-    return rest.empty() || rest.front() == ' ' || rest.front() == '\t';
+    return rest.empty() || IsBlank(rest.front());
 }
 
 std::optional<PaletteFault> ReadValues(std::string_view& line, PaletteEntry& entry) {
