@@ -4,7 +4,7 @@
 #include "palettes/Palette.h"
 #include "palettes/PaletteFaults.h"
 #include "palettes/PaletteLimits.h"
-#include "palettes/PaletteLosses.h"
+#include "palettes/PaletteWriting.h"
 
 #include <cstddef>
 #include <optional>
@@ -23,11 +23,6 @@ struct PaletteReading {
     std::optional<PaletteFormat> format; // nothing: it is none of them, and all else is empty
     Palette palette;
     PaletteFaults faults;
-};
-
-struct PaletteWriting {
-    std::string bytes;
-    PaletteLosses losses;
 };
 
 // By the content alone, whatever the file is called.  codePage: of texts that are not in Unicode.

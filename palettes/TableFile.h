@@ -1,7 +1,8 @@
 #pragma once
 
+#include "palettes/Palette.h"
 #include "palettes/PaletteContent.h"
-#include "palettes/PaletteFormat.h"
+#include "palettes/PaletteWriting.h"
 
 #include <optional>
 #include <string_view>

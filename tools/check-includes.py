@@ -22,8 +22,8 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*(?:<([^>]+)>|"([^"]+)")')
 
 # A room inside another one stands before it.
 ROOMS = ("app", "mainwindow/panes", "mainwindow", "support/language", "support/settings",
-         "support/windows", "platform", "library", "palettes", "convert", "solidworks", "common", "standin/model",
-         "standin/com", "resources", "tests")
+         "support/windows", "platform", "library", "palettes", "convert", "solidworks", "common",
+         "standin/model", "standin/com", "resources", "tests")
 
 # The rooms that a room may include, itself aside: those that it needs, no others.
 ROOMS_BELOW = {
