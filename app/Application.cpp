@@ -19,6 +19,17 @@ Application::Application(const Platform& platform, const Windows& windows, const
       libraryFiles_(
           library_,
           {.files = platform.files, .codePage = platform.codePage, .clock = platform.calendar}),
+      crashReports_(platform.files, platform.folders, data.recoveryFolder),
+      recoveryFolder_({.files = platform.files,
+                       .folders = platform.folders,
+                       .copies = platform.copies,
+                       .clock = platform.calendar},
+                      data.recoveryFolder),
+      recoveryKeeper_({.library = library_,
+                       .files = libraryFiles_,
+                       .folder = recoveryFolder_,
+                       .work = platform.background,
+                       .codePage = platform.codePage}),
       solidWorks_({platform.automation, platform.retry, platform.prompts, language_,
                    windows.progressView, platform.events, stopFlag_}),
       links_(platform.shell),
@@ -77,6 +88,17 @@ Application::Application(const Platform& platform, const Windows& windows, const
                         .panes = panes_.library,
                         .bars = windows.mainView.bars,
                         .texts = language_}),
+      recover_({.window = windows.recover,
+                .keeper = recoveryKeeper_,
+                .folder = recoveryFolder_,
+                .library = library_,
+                .libraryFiles = libraryFiles_,
+                .files = shownFiles_,
+                .bars = windows.mainView.bars,
+                .prompts = platform.prompts,
+                .language = language_,
+                .settings = settings_,
+                .registry = registry_}),
       solidWorksCommands_({.tools = solidWorks_,
                            .library = library_,
                            .newNodes = newNodes_,
@@ -96,6 +118,7 @@ Application::Application(const Platform& platform, const Windows& windows, const
                                 .newNodes = newNodes_,
                                 .editing = editing_,
                                 .history = historyCommands_,
+                                .recover = recover_,
                                 .panes = panes_.library,
                                 .editor = panes_.editor,
                                 .view = viewCommands_,
@@ -104,6 +127,7 @@ Application::Application(const Platform& platform, const Windows& windows, const
                                 .about = about_,
                                 .textViewer = textViewer_,
                                 .quit = [this] { Quit(); }},
+                   .keeper = recoveryKeeper_,
                    .settings = settings_,
                    .registry = registry_,
                    .texts = language_,
@@ -133,6 +157,7 @@ void Application::Start() {
         errors_.ReportError(RuntimeError(ErrorNumber::TypeMismatch, ErrorTexts::StoredSettings,
                                          {Joined(unreadable)}));
     windows_.mainView.frame.ShowWindow();
+    recover_.TellAtStart(crashReports_.TakeNew());
 }
 
 // A library that cannot be read must not keep the window from being shown.
@@ -148,6 +173,7 @@ void Application::Quit() {
     windows_.mainView.frame.StopBannerTimer();
     settingsStore_.SaveLastSponsorShown(banner_.IndexToStore());
     windows_.mainView.frame.EndProgram();
+    recoveryKeeper_.KeepAll();
 }
 
 void Application::ShowBanner(int index) {

@@ -1,24 +1,30 @@
 #pragma once
 
+#include "app/CrashReports.h"
 #include "app/SettingsStore.h"
 #include "common/BusyRetry.h"
 #include "common/Settings.h"
 #include "common/ports/AnsiCodePage.h"
 #include "common/ports/AutomationObject.h"
+#include "common/ports/BackgroundWork.h"
 #include "common/ports/CalendarClock.h"
 #include "common/ports/Clipboard.h"
 #include "common/ports/ErrorSink.h"
 #include "common/ports/EventPump.h"
 #include "common/ports/Files.h"
+#include "common/ports/Folders.h"
 #include "common/ports/FormWindow.h"
 #include "common/ports/LocalizableForm.h"
 #include "common/ports/ProgressView.h"
 #include "common/ports/Prompts.h"
 #include "common/ports/RegistryAccess.h"
+#include "common/ports/RunningCopies.h"
 #include "common/ports/Shell.h"
 #include "common/ports/TextCollation.h"
 #include "library/ColorLibrary.h"
 #include "library/LibraryFiles.h"
+#include "library/RecoveryFolder.h"
+#include "library/RecoveryKeeper.h"
 #include "mainwindow/MainView.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/ShownLibraryFiles.h"
@@ -55,6 +61,9 @@ public:
         clsMultiLanguage& language; // the one of the program; the forms' error sink speaks it too
         ErrorSink& errors;
         const CalendarClock& calendar;
+        Folders& folders;
+        const RunningCopies& copies;
+        BackgroundWork& background;
     };
 
     struct Windows {
@@ -66,13 +75,15 @@ public:
         ProgressView& progressView;
         FormWindow& progressWindow;
         LocalizableForm& progressForm;
+        OnDemand<RecoverView>& recover;
     };
 
     struct Data {
         std::string programFolder; // without a backslash at its end
         std::string version;       // major, minor and revision joined by "."
         std::vector<std::string> bannerAddresses;
-        std::string languageFolder; // the program's, as functions of the code page know it
+        std::string languageFolder;   // the program's, as functions of the code page know it
+        std::string recoveryFolder{}; // for libraries that are not saved; empty: none are kept
         std::size_t historyBytes = LibraryHistory::kMostBytes; // that undo may keep
     };
 
@@ -84,6 +95,10 @@ public:
     // window is shown.
     void Start();
 
+    // Keeps all libraries that differ from their files, as at the end; for the case that there is
+    // none in good order.
+    void KeepLibraries() { recoveryKeeper_.KeepAll(); }
+
     // Stops the banner, stores its index and ends the program at once; asks and saves nothing else.
     void Quit();
 
@@ -91,6 +106,7 @@ public:
     [[nodiscard]] AboutEvents& AboutWindowEvents() noexcept { return about_; }
     [[nodiscard]] TextViewerEvents& TextViewerWindowEvents() noexcept { return textViewer_; }
     [[nodiscard]] ProgressEvents& ProgressWindowEvents() noexcept { return progress_; }
+    [[nodiscard]] RecoverEvents& RecoverWindowEvents() noexcept { return recover_; }
 
 private:
     void SetFormDefaults();
@@ -106,6 +122,9 @@ private:
     ErrorSink& errors_;
     ColorLibrary library_;
     LibraryFiles libraryFiles_;
+    CrashReports crashReports_;
+    RecoveryFolder recoveryFolder_;
+    RecoveryKeeper recoveryKeeper_;
     modSldTools solidWorks_;
     modinternet links_;
     Banner banner_;
@@ -123,6 +142,7 @@ private:
     FileCommands fileCommands_;
     ColorDrag drag_;
     HistoryCommands historyCommands_;
+    RecoverCommands recover_;
     SolidWorksCommands solidWorksCommands_;
     MainWindow mainWindow_;
 };

@@ -1,8 +1,12 @@
 #include "app/Application.h"
 #include "common/BusyRetry.h"
+#include "common/ProgramNames.h"
+#include "common/WorkerThread.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/frmRecover.h"
 #include "platform/BusyMessageFilter.h"
 #include "platform/ComApartment.h"
+#include "platform/CrashHandler.h"
 #include "platform/LastResort.h"
 #include "platform/LibrarySearch.h"
 #include "platform/MessageLoop.h"
@@ -14,9 +18,11 @@
 #include "platform/Win32Clipboard.h"
 #include "platform/Win32EventPump.h"
 #include "platform/Win32Files.h"
+#include "platform/Win32Folders.h"
 #include "platform/Win32PrivateProfile.h"
 #include "platform/Win32Prompts.h"
 #include "platform/Win32Registry.h"
+#include "platform/Win32RunningCopies.h"
 #include "platform/Win32Shell.h"
 #include "platform/Win32TextCollation.h"
 #include "platform/Win32WaitingClock.h"
@@ -46,6 +52,9 @@ struct Ports {
     Win32AnsiCodePage codePage;
     Win32TextCollation collation;
     Win32Files files;
+    Win32Folders folders;
+    Win32RunningCopies copies;
+    WorkerThread background;
     Win32PrivateProfile profile;
     Win32Registry registry{codePage};
     Win32Shell shell{codePage};
@@ -59,15 +68,22 @@ struct Ports {
     ErrorReporter errors{prompts, language};
 };
 
+// Empty where there is no folder for data.
+std::string RecoveryFolderIn(const std::string& dataFolder) {
+    return dataFolder.empty() ? "" : dataFolder + ProgramNames::RecoveryFolder;
+}
+
 // The windows beside the main one.
 struct AuxiliaryForms {
     AuxiliaryForms(HWND mainWindow, Ports& ports, const BannerPictures& banners)
         : about(mainWindow, ports.errors, banners), textViewer(mainWindow, ports.errors, banners),
-          progress(mainWindow, ports.errors, ports.clock, kProgressPatience) {}
+          progress(mainWindow, ports.errors, ports.clock, kProgressPatience),
+          recover(mainWindow, ports.errors) {}
 
     AboutOnDemand about;
     TextViewerOnDemand textViewer;
     frmProgress progress;
+    RecoverOnDemand recover;
 };
 
 Application::Platform PlatformOf(Ports& ports) {
@@ -83,7 +99,10 @@ Application::Platform PlatformOf(Ports& ports) {
             .retry = ports.retry,
             .language = ports.language,
             .errors = ports.errors,
-            .calendar = ports.calendar};
+            .calendar = ports.calendar,
+            .folders = ports.folders,
+            .copies = ports.copies,
+            .background = ports.background};
 }
 
 Application::Windows WindowsOf(frmMain& main, AuxiliaryForms& auxiliary) {
@@ -94,7 +113,8 @@ Application::Windows WindowsOf(frmMain& main, AuxiliaryForms& auxiliary) {
             .textViewer = auxiliary.textViewer,
             .progressView = auxiliary.progress,
             .progressWindow = auxiliary.progress,
-            .progressForm = auxiliary.progress};
+            .progressForm = auxiliary.progress,
+            .recover = auxiliary.recover};
 }
 
 void Attach(Application& application, frmMain& main, AuxiliaryForms& auxiliary) {
@@ -102,6 +122,7 @@ void Attach(Application& application, frmMain& main, AuxiliaryForms& auxiliary) 
     auxiliary.about.Attach(application.AboutWindowEvents());
     auxiliary.textViewer.Attach(application.TextViewerWindowEvents());
     auxiliary.progress.Attach(application.ProgressWindowEvents());
+    auxiliary.recover.Attach(application.RecoverWindowEvents());
 }
 
 // Joins the ports, the forms and the program, and runs it.
@@ -117,11 +138,14 @@ int RunProgram() {
     ports.mainWindow = main.Handle();
     AuxiliaryForms auxiliary(main.Handle(), ports, banners);
 
+    const std::string recoveryFolder = RecoveryFolderIn(LocalDataFolder());
     Application application(PlatformOf(ports), WindowsOf(main, auxiliary),
                             {.programFolder = programFolder,
                              .version = kVersion,
                              .bannerAddresses = addresses,
-                             .languageFolder = FolderForCodePage(programFolder, ports.codePage)});
+                             .languageFolder = FolderForCodePage(programFolder, ports.codePage),
+                             .recoveryFolder = recoveryFolder});
+    const CrashHandler crashes(recoveryFolder, kVersion, [&] { application.KeepLibraries(); });
     // The application goes first, and the forms after it: the main window still gets messages then,
     // such as the focus from a text viewer that is destroyed.
     const SilenceAtScopeEnd silence(main);

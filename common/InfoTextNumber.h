@@ -58,6 +58,18 @@ inline constexpr std::int32_t RenameColor = 174;
 inline constexpr std::int32_t MoveColor = 175;
 inline constexpr std::int32_t CopyColor = 176;
 
+// What was kept of libraries that were not saved.  %1 in the second: how many.
+inline constexpr std::int32_t RecoverLibraries = 180;
+inline constexpr std::int32_t CanBeRecovered = 181;
+inline constexpr std::int32_t RecoverName = 182;
+inline constexpr std::int32_t RecoverFile = 183;
+inline constexpr std::int32_t RecoverTime = 184;
+inline constexpr std::int32_t RecoverColors = 185;
+inline constexpr std::int32_t NeverSaved = 186;
+inline constexpr std::int32_t AskForget = 187;
+inline constexpr std::int32_t NotKept = 188;
+inline constexpr std::int32_t ProgramCrashed = 189; // %1: path of the report
+
 // Of a failed automation call, where the system has no words; ErrorText.h has the built-in ones.
 inline constexpr std::int32_t ServerRejectsCall = 163;
 inline constexpr std::int32_t ObjectIsGone = 164;

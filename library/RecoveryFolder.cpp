@@ -16,6 +16,7 @@ namespace {
 
 constexpr std::string_view kLibraryExtension = ".tnt";
 constexpr std::string_view kInfoExtension = ".txt";
+constexpr std::string_view kCrashPrefix = "crash"; // what CrashReports keeps here
 constexpr std::size_t kLongestInfo = 100'000; // bytes
 
 std::string TextOf(const CalendarTime& time) {
@@ -140,7 +141,24 @@ bool RecoveryFolder::IsTooOld(const RecoveryInfo& info) const {
     return day && DayOf(now.year, now.month, now.day) - *day > std::chrono::days(kMostDays);
 }
 
+// What a copy that was killed has left of its work.
+void RecoveryFolder::RemoveRemains() {
+    for (const std::string& name : ports_.folders.FileNamesIn(path_)) {
+        if (name.starts_with(kCrashPrefix))
+            continue;
+        const std::string id = name.substr(0, name.find('.'));
+        const bool isWhole =
+            HasExtension(name, kLibraryExtension) ||
+            (HasExtension(name, kInfoExtension) && ports_.files.Exists(LibraryPath(id)));
+        if (!isWhole && !ports_.copies.IsRunning(CopyOf(id)))
+            ports_.files.Remove(path_ + "\\" + name);
+    }
+}
+
 void RecoveryFolder::Tidy(const std::vector<std::string>& staying) {
+    if (!IsUsable())
+        return;
+    RemoveRemains();
     int count = 0;
     for (const RecoveryEntry& entry : All()) {
         ++count;

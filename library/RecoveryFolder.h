@@ -13,8 +13,8 @@
 // What is told about a kept library.
 struct RecoveryInfo {
     std::string libraryName{};
-    std::string filePath{};        // of the library's own file; empty: it was never saved
-    std::string time{};            // "YYYY-MM-DD hh:mm:ss" of the local clock
+    std::string filePath{}; // of the library's own file; empty: it was never saved
+    std::string time{};     // "YYYY-MM-DD hh:mm:ss" of the local clock
     int colorCount = 0;
 };
 
@@ -25,8 +25,8 @@ struct RecoveryEntry {
 };
 
 // The folder in which libraries are kept that differ from their files.  Each is a library file,
-// "COPY-NUMBER.tnt" of the copy of the program that keeps it, with a text of the same name beside it.
-// Whatever happens while one is written, the old or the new content is there whole.
+// "COPY-NUMBER.tnt" of the copy of the program that keeps it, with a text of the same name beside
+// it. Whatever happens while one is written, the old or the new content is there whole.
 class RecoveryFolder {
 public:
     static constexpr int kMostLibraries = 20;
@@ -59,11 +59,12 @@ public:
     // Of an entry.
     [[nodiscard]] std::string LibraryPath(const std::string& id) const;
 
-    // Removes what is too old and, the oldest first, what is too much; never what another copy that
-    // runs has kept, nor what is named here.
+    // Removes remains, what is too old and, the oldest first, what is too much; never what another
+    // copy that runs has kept, nor what is named here.
     void Tidy(const std::vector<std::string>& staying);
 
 private:
+    void RemoveRemains();
     [[nodiscard]] std::string InfoPath(const std::string& id) const;
     [[nodiscard]] std::vector<RecoveryEntry> All();
     [[nodiscard]] RecoveryInfo ReadInfo(const std::string& id);

@@ -94,6 +94,9 @@ constexpr std::array kMenuRows = {
               [](Commands c) { c.file.mnuFileCancelAutoload_Click(); }),
     Separator(IDM_mnuFileHR, "mnuFileHR"),
     Entry(IDM_mnuQuit, "mnuQuit", "Beenden", [](Commands c) { c.quit(); }),
+    Separator(IDM_mnuFileHR2, "mnuFileHR2"),
+    Reporting(IDM_mnuFileRecover, "mnuFileRecover", "Wiederherstellen ...",
+              [](Commands c) { c.recover.mnuFileRecover_Click(); }),
 
     Title(IDM_mnuEdit, "mnuEdit", "Bearbeiten"),
     Reporting(

@@ -7,6 +7,7 @@
 #include "mainwindow/HistoryCommands.h"
 #include "mainwindow/LibraryPanes.h"
 #include "mainwindow/NewNodes.h"
+#include "mainwindow/RecoverCommands.h"
 #include "mainwindow/SolidWorksCommands.h"
 #include "mainwindow/ViewCommands.h"
 #include "support/windows/About.h"
@@ -22,6 +23,7 @@ struct MainCommands {
     NewNodes& newNodes;
     EditingCommands& editing;
     HistoryCommands& history;
+    RecoverCommands& recover;
     LibraryPanes& panes;
     ColorEditor& editor;
     ViewCommands& view;

@@ -33,6 +33,7 @@ public:
     virtual void FilesDropped(const std::vector<std::string>& paths) = 0;
     virtual void WindowClosing() = 0; // close box
     virtual void SessionEnding() = 0; // the user's session ends, and with it the process
+    virtual void SecondPassed() = 0;
 };
 
 // The main window as its rules see it: it shows what it is told and decides nothing.

@@ -22,6 +22,7 @@ public:
         MainPanes& panes;
         ColorDrag& drag;
         MainCommands commands;
+        RecoveryKeeper& keeper;
         const Settings& settings;
         const modRegistry& registry;
         InfoTexts& texts;
@@ -46,6 +47,7 @@ public:
     void FilesDropped(const std::vector<std::string>& paths) override;
     void WindowClosing() override;
     void SessionEnding() override;
+    void SecondPassed() override { parts_.keeper.Look(); }
 
 private:
     void Run(const MenuRow& row);

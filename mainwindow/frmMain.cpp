@@ -21,6 +21,8 @@ const std::vector<std::string> kNodeImages = {NodeImages::Group, "Colbrush", Nod
 
 constexpr UINT_PTR kBannerTimer = 1;
 constexpr UINT kBannerInterval = 5000; // milliseconds
+constexpr UINT_PTR kSecondTimer = 3;
+constexpr UINT kSecond = 1000;
 
 } // namespace
 
@@ -116,6 +118,8 @@ MessageResult frmMain::OnMessage(const WindowMessage& message) {
     case WM_TIMER:
         if (message.wParam == DragTracker::kTimer)
             drag_.Tick();
+        else if (message.wParam == kSecondTimer)
+            events_->frame.SecondPassed();
         else
             events_->banner.BannerTicked();
         return 0;
@@ -206,6 +210,7 @@ void frmMain::ShowWindow() {
     Show();
     LayOut();
     SetTimer(Handle(), kBannerTimer, kBannerInterval, nullptr);
+    SetTimer(Handle(), kSecondTimer, kSecond, nullptr);
 }
 
 void frmMain::SetBanner(int index) {

@@ -1,5 +1,6 @@
 #include "platform/Win32Files.h"
 
+#include "platform/FileSearch.h"
 #include "platform/KernelHandle.h"
 #include "platform/PlatformPath.h"
 #include "platform/ReplaceFailure.h"
@@ -9,13 +10,6 @@
 #include <algorithm>
 
 namespace {
-
-struct FindHandleTraits {
-    using Handle = HANDLE;
-    static Handle None() noexcept { return INVALID_HANDLE_VALUE; }
-    static bool Close(Handle handle) noexcept { return FindClose(handle) != FALSE; }
-};
-using FindHandle = UniqueHandle<FindHandleTraits>;
 
 constexpr LONGLONG kLargestFile = 1LL << 30;    // a longer file is not read
 constexpr std::size_t kLargestRead = 1U << 24U; // one call counts in 32 bits
@@ -66,14 +60,13 @@ std::optional<std::string> ReadBytes(HANDLE file, std::size_t size) {
 std::string Win32Files::FindNormalFile(const std::string& path) {
     if (path.empty() || path.back() == '\\' || path.back() == '/')
         return {};
-    WIN32_FIND_DATAW found{};
-    const FindHandle search(FindFirstFileExW(ToPlatformPath(path).c_str(), FindExInfoBasic, &found,
-                                             FindExSearchNameMatch, nullptr, 0));
-    for (bool more = static_cast<bool>(search); more;
-         more = FindNextFileW(search.Get(), &found) != FALSE)
+    std::string name;
+    ForEachFound(path, [&](const WIN32_FIND_DATAW& found) {
         if (IsNormalFile(found))
-            return ToUtf8(found.cFileName);
-    return {};
+            name = ToUtf8(found.cFileName);
+        return name.empty();
+    });
+    return name;
 }
 
 bool Win32Files::Exists(const std::string& path) {

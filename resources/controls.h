@@ -52,6 +52,14 @@
 #define IDC_lblInfo 1402
 #define IDC_cmdCancel 1403
 
+// frmRecover
+#define IDC_lblRecover 1501
+#define IDC_lvRecover 1502
+#define IDC_cmdOpen 1503
+#define IDC_cmdDelete 1504
+#define IDC_cmdEmpty 1505
+#define IDC_cmdClose 1506
+
 // Menu entries; the number of a command everywhere
 #define IDM_mnuFile 2001
 #define IDM_mnuFileNew 2002
@@ -123,6 +131,8 @@
 #define IDM_mnuEdit 2068
 #define IDM_mnuEditUndo 2069
 #define IDM_mnuEditRedo 2070
+#define IDM_mnuFileHR2 2071
+#define IDM_mnuFileRecover 2072
 
 // Icons and pictures
 #define IDI_tnt4swx 1

@@ -37,8 +37,7 @@ ROOMS_BELOW = {
     "support/settings": ("common", "support/language", "resources"),
     "support/windows": ("common", "platform", "support/language", "support/settings",
                         "resources"),
-    "mainwindow": ("common", "library", "solidworks", "support/settings", "support/windows",
-                   "resources"),
+    "mainwindow": ("common", "library", "solidworks", *SUPPORT, "resources"),
     "mainwindow/panes": ("common", "platform", "library", "mainwindow", "resources"),
     "app": ("common", "platform", "library", "solidworks", "support/language", "support/settings",
             "support/windows", "mainwindow"),
@@ -48,7 +47,8 @@ ROOMS_BELOW = {
     "tests": tuple(room for room in ROOMS if room != "tests"),
 }
 # The form joins its panes and the toolkit.
-ROOMS_OF_FILES = {"mainwindow/frmMain": ("platform", "mainwindow/panes")}
+ROOMS_OF_FILES = {"mainwindow/frmMain": ("platform", "mainwindow/panes"),
+                  "mainwindow/frmRecover": ("platform",)}
 # What a room must not know of the rooms that it may include.  The library asks nobody and shows
 # nothing: it takes what it needs and gives results.
 CLOSED_HEADERS = {

@@ -21,7 +21,7 @@ PAGE = TESTS / "RULES.md"
 SUBJECTS = (
     "Start-up and shut-down", "Settings store", "Language files and control texts",
     "Window positions", "Options", "Auxiliary windows", "The program as a whole",
-    "Library model", "Library files", "Recovery", "File commands", "Undo and redo",
+    "Library model", "Library files", "File commands", "Undo and redo", "Recovery",
     "Tree and list views",
     "Active-color editor", "Editing commands", "Layout, bars and views", "SolidWorks session",
     "Color from and to the selection", "Clearing colors", "Standard color table",

@@ -71,6 +71,14 @@ void ListView::AddColumn(const std::string& caption, int width) {
     ++columns_;
 }
 
+void ListView::SetColumnCaption(int column, const std::string& caption) {
+    std::wstring wide = ToUtf16(caption);
+    LVCOLUMNW change{};
+    change.mask = LVCF_TEXT;
+    change.pszText = wide.data();
+    Send(LVM_SETCOLUMNW, static_cast<WPARAM>(column) - 1, &change);
+}
+
 void ListView::MarkColumn(int column, bool descending) {
     const auto header = reinterpret_cast<HWND>(Send(LVM_GETHEADER));
     for (int index = 0; index < columns_; ++index) {
@@ -188,6 +196,10 @@ MessageResult ListView::OnNotify(NMHDR& header) {
         return TRUE;
     case LVN_BEGINDRAG:
         StartDrag(reinterpret_cast<const NMLISTVIEW&>(header));
+        return 0;
+    case NM_DBLCLK:
+        if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0)
+            Raise(onDoubleClick);
         return 0;
     case LVN_COLUMNCLICK:
         Raise(onColumnClick, reinterpret_cast<const NMLISTVIEW&>(header).iSubItem + 1);

@@ -21,6 +21,7 @@ public:
     ListView(ControlHost& host, const ControlPlace& place, const Images& images);
 
     void AddColumn(const std::string& caption, int width); // pixels
+    void SetColumnCaption(int column, const std::string& caption);
     // The header shows that the rows are sorted by this column, from 1, and by no other one.
     void MarkColumn(int column, bool descending);
     void SetRowCount(int count); // all rows are new, none is selected
@@ -38,6 +39,7 @@ public:
     std::function<std::string(int row, int column)> cellText;
     std::function<int(const std::string& text, int start)> findRow;
     std::function<void(int row)> onClick;  // a row was selected or clicked again
+    std::function<void()> onDoubleClick;   // on a row
     std::function<void()> onEditRequested; // F2
     std::function<bool()> mayEdit;
     std::function<void(int row, const std::string& text)> onLabelEdited;

@@ -1,6 +1,7 @@
 #include "support/windows/BannerPictures.h"
 
 #include "common/FileNames.h"
+#include "platform/FileSearch.h"
 #include "platform/PlatformPath.h"
 #include "platform/Utf16.h"
 
@@ -10,12 +11,6 @@
 #include <utility>
 
 namespace {
-
-struct SearchTraits {
-    using Handle = HANDLE;
-    static Handle None() noexcept { return INVALID_HANDLE_VALUE; }
-    static bool Close(Handle search) noexcept { return FindClose(search) != FALSE; }
-};
 
 struct BitmapFile {
     int number; // 0: none
@@ -31,18 +26,13 @@ bool ComesBefore(const BitmapFile& one, const BitmapFile& other) {
 
 std::vector<BitmapFile> BitmapFiles(const std::string& folder) {
     std::vector<BitmapFile> files;
-    WIN32_FIND_DATAW found{};
-    const UniqueHandle<SearchTraits> search(
-        FindFirstFileW(ToPlatformPath(folder + "\\*.bmp").c_str(), &found));
-    if (!search)
-        return files;
-    do {
+    ForEachFound(folder + "\\*.bmp", [&](const WIN32_FIND_DATAW& found) {
         // The search also finds longer extensions by their short names.
         const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        if (isFolder || !HasExtension(ToUtf8(found.cFileName), ".bmp"))
-            continue;
-        files.push_back({NumberOfFile(ToUtf8(found.cFileName)), found.cFileName});
-    } while (FindNextFileW(search.Get(), &found) != FALSE);
+        if (!isFolder && HasExtension(ToUtf8(found.cFileName), ".bmp"))
+            files.push_back({NumberOfFile(ToUtf8(found.cFileName)), found.cFileName});
+        return true;
+    });
     std::ranges::sort(files, ComesBefore);
     return files;
 }

@@ -57,4 +57,4 @@ private:
     CommandButton& cmdOK_;
 };
 
-using AboutOnDemand = FormOnDemand<frmAbout, AboutView, AboutEvents>;
+using AboutOnDemand = FormOnDemand<frmAbout, AboutView, AboutEvents, BannerPictures>;

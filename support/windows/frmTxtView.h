@@ -43,4 +43,5 @@ private:
     PictureBox& picSponsor_;
 };
 
-using TextViewerOnDemand = FormOnDemand<frmTxtView, TextViewerView, TextViewerEvents>;
+using TextViewerOnDemand =
+    FormOnDemand<frmTxtView, TextViewerView, TextViewerEvents, BannerPictures>;

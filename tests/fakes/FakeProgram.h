@@ -3,6 +3,7 @@
 #include "app/Application.h"
 #include "standin/model/StandInService.h"
 #include "support/language/ErrorReporter.h"
+#include "tests/fakes/FakeBackgroundWork.h"
 #include "tests/fakes/FakeCalendarClock.h"
 #include "tests/fakes/FakeClipboard.h"
 #include "tests/fakes/FakeCodePage.h"
@@ -16,6 +17,7 @@
 #include "tests/fakes/FakeProgress.h"
 #include "tests/fakes/FakePrompts.h"
 #include "tests/fakes/FakeRegistry.h"
+#include "tests/fakes/FakeRunningCopies.h"
 #include "tests/fakes/FakeShell.h"
 #include "tests/fakes/FakeWaitingClock.h"
 #include "tests/fakes/RetryingService.h"
@@ -71,6 +73,29 @@ public:
     int shown = 0;
 };
 
+class FakeRecover : public RecoverView {
+public:
+    TwipsRect Bounds() const override { return bounds; }
+    void Move(const TwipsRect& newBounds) override { bounds = newBounds; }
+    WindowState State() const override { return WindowState::Normal; }
+    void SetState(WindowState) override {}
+    TwipsSize ScreenSize() const override { return {15360, 11520}; }
+    void SetTopmost(bool onTop) override { topmost.push_back(onTop); }
+    std::vector<FormControl*> Controls() override { return form.Controls(); }
+    void SetWindowCaption(const std::string& text) override { caption = text; }
+    void SetColumnCaptions(const RecoverRow& texts) override { columns = texts; }
+    void SetRows(const std::vector<RecoverRow>& newRows) override { rows = newRows; }
+    std::optional<int> ShowModal() override { return work ? work() : std::nullopt; }
+
+    std::function<std::optional<int>()> work; // what the user does while it is shown
+    FakeForm form{"frmRecover"};
+    TwipsRect bounds{0, 0, 9000, 5000};
+    std::vector<bool> topmost;
+    std::string caption;
+    RecoverRow columns;
+    std::vector<RecoverRow> rows;
+};
+
 // The whole program on fakes, with the stand-in's model as the running SolidWorks.  The language
 // file of both languages is there: its message texts are their numbers in angle brackets; for the
 // descriptions of errors, which have arguments, it has none.
@@ -83,8 +108,9 @@ public:
         files.contents["C:\\prog\\tntlng_de.ini"] = "";
         files.contents["C:\\prog\\tntlng_us.ini"] = "";
         for (int number = 0; number < 300; ++number) {
-            const bool hasArguments =
-                (number >= 110 && number < 150) || (number >= 170 && number < 174);
+            const bool hasArguments = (number >= 110 && number < 150) ||
+                                      (number >= 170 && number < 174) || number == 181 ||
+                                      number == 189;
             if (hasArguments)
                 continue;
             for (const char* code : {"de", "us"})
@@ -101,6 +127,8 @@ public:
     static std::string Setting(const std::string& name) {
         return "SOFTWARE\\Chromixs\\TNT4SWX|" + name;
     }
+
+    static constexpr const char* kRecoveryFolder = "C:\\data\\recovery";
 
     FakePrompts prompts;
     FakeFiles files;
@@ -126,17 +154,22 @@ public:
     FakeTextViewer textViewer;
     FakeOnDemand<AboutView> aboutWindow{about};
     FakeOnDemand<TextViewerView> textViewerWindow{textViewer};
+    FakeRecover recover;
+    FakeOnDemand<RecoverView> recoverWindow{recover};
+    FakeRunningCopies copies;
+    FakeBackgroundWork background;
     FakeFormWindow progressWindow{"frmProgress"};
     FakeForm progressForm{"frmProgress"};
     clsMultiLanguage language{profile, files, codePage};
     ErrorReporter errors{prompts, language};
     Application application{
         {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
-         language, errors, calendar},
+         language, errors, calendar, files, copies, background},
         {view.View(), mainWindow, mainForm, aboutWindow, textViewerWindow, progress, progressWindow,
-         progressForm},
+         progressForm, recoverWindow},
         {"C:\\prog",
          "1.2.7",
          {"https://www.example.org/1", "https://www.example.org/2", "https://www.example.org/3"},
-         "C:\\prog"}};
+         "C:\\prog",
+         kRecoveryFolder}};
 };

@@ -109,7 +109,9 @@ TEST_F(RecoveryTest, EveryKindOfChangeIsTakenUp) {
     const std::string key = Open();
     const std::vector<std::function<void()>> changes = {
         [&] { library.Colors().SetNames(1, "blue"); },
-        [&] { library.Colors().SetValues(1, {1, 2, 3, 4, 5, 6, 7, 8, 9}); },
+        [&] {
+            library.Colors().SetValues(1, {1, 2, 3, 4, 5, 6, 7, 8, 9});
+        },
         [&] { library.NewColorNode("0DG1", "new", {}); },
         [&] { library.Colors().Erase(1); },
         [&] { library.NewGroupNode(key, "group"); },
@@ -227,7 +229,8 @@ TEST_F(RecoveryTest, RecoveredLibraryTakesThePlaceOfItsEntry) {
 
 TEST_F(RecoveryTest, NamesThatWouldEndTheReadingAreSpelledSoThatAllComesBack) {
     const std::string key = Open();
-    library.Colors().SetNames(1, "a=b\xC3\xB7" "c");
+    library.Colors().SetNames(1, "a=b\xC3\xB7"
+                                 "c");
     library.Tree().SetText("0DG1", "g=h");
     library.NewColorNode("0DG1", "next", {});
     Look();
@@ -238,7 +241,8 @@ TEST_F(RecoveryTest, NamesThatWouldEndTheReadingAreSpelledSoThatAllComesBack) {
     EXPECT_EQ(colors.At(3).name, "a-b/c");
     EXPECT_EQ(colors.At(3).altName, "a-b/c");
     EXPECT_EQ(colors.At(4).name, "next");
-    EXPECT_EQ(colors.At(1).name, "a=b\xC3\xB7" "c");
+    EXPECT_EQ(colors.At(1).name, "a=b\xC3\xB7"
+                                 "c");
 }
 
 TEST_F(RecoveryTest, FailureIsToldOnceAndTriedAgainLater) {
@@ -273,8 +277,8 @@ TEST_F(RecoveryTest, WhateverHappensTheOldOrTheNewOneIsThereWhole) {
             FakeFiles disk;
             disk.contents = {{std::string(kFolder) + "\\own-1.tnt", old},
                              {std::string(kFolder) + "\\own-1.txt", oldInfo}};
-            RecoveryFolder failing({.files = disk, .folders = disk, .copies = copies, .clock = clock},
-                                   kFolder);
+            RecoveryFolder failing(
+                {.files = disk, .folders = disk, .copies = copies, .clock = clock}, kFolder);
             disk.FailAtStep(step, kind);
             try {
                 static_cast<void>(failing.Write("own-1", {.libraryName = "two"}, fresh));
@@ -323,6 +327,17 @@ TEST_F(RecoveryTest, WhatAnotherCopyThatRunsKeepsIsItsOwn) {
     EXPECT_EQ(folder.Entries().size(), 1U);
     folder.Tidy({});
     EXPECT_TRUE(Kept().empty());
+}
+
+TEST_F(RecoveryTest, WhatAKilledCopyLeftOfItsWorkGoes) {
+    for (const char* name :
+         {"gone-1.tnt", "gone-1.txt", "gone-1.tnt.saving", "gone-2.txt", "gone-3.tnt.saving2",
+          "own-4.tnt.saving", "own-5.txt", "run-1.txt", "crash 1.txt"})
+        files.contents[std::string(kFolder) + "\\" + name] = "x";
+    copies.others.insert("run");
+    folder.Tidy({});
+    EXPECT_EQ(Kept(), (std::vector<std::string>{"crash 1.txt", "gone-1.tnt", "gone-1.txt",
+                                                "own-4.tnt.saving", "own-5.txt", "run-1.txt"}));
 }
 
 TEST_F(RecoveryTest, WithoutAFolderNothingIsKept) {

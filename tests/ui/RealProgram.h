@@ -1,10 +1,13 @@
 #pragma once
 
 #include "app/Application.h"
+#include "common/WorkerThread.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/frmRecover.h"
 #include "platform/SilenceAtScopeEnd.h"
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32Files.h"
+#include "platform/Win32Folders.h"
 #include "platform/Win32PrivateProfile.h"
 #include "standin/model/StandInService.h"
 #include "support/language/ErrorReporter.h"
@@ -18,6 +21,7 @@
 #include "tests/fakes/FakeOnDemand.h"
 #include "tests/fakes/FakeProgress.h"
 #include "tests/fakes/FakePrompts.h"
+#include "tests/fakes/FakeRunningCopies.h"
 #include "tests/fakes/FakeShell.h"
 #include "tests/fakes/FakeWaitingClock.h"
 
@@ -44,6 +48,7 @@ public:
         about.Attach(application.AboutWindowEvents());
         textViewer.Attach(application.TextViewerWindowEvents());
         progress.Attach(application.ProgressWindowEvents());
+        recover.Attach(application.RecoverWindowEvents());
     }
 
     // The address of a banner picture, from 1.
@@ -88,11 +93,18 @@ public:
     frmTxtView textViewer{main.Handle(), errors, banners};
     FakeOnDemand<TextViewerView> textViewerWindow{textViewer};
     frmProgress progress{main.Handle(), errors, clock};
-    Application application{
-        {files, page, registry, prompts, clipboard, collation, shell, events, automation, retry,
-         language, errors, calendar},
-        {main.View(), main, main, about, textViewerWindow, progress, progress, progress},
-        {folder, "1.0.0", BannerAddresses(banners.Count()), folder, historyBytes}};
+    frmRecover recover{main.Handle(), errors};
+    FakeOnDemand<RecoverView> recoverWindow{recover};
+    Win32Folders folders;
+    FakeRunningCopies copies;
+    WorkerThread background;
+    Application application{{files, page, registry, prompts, clipboard, collation, shell, events,
+                             automation, retry, language, errors, calendar, folders, copies,
+                             background},
+                            {main.View(), main, main, about, textViewerWindow, progress, progress,
+                             progress, recoverWindow},
+                            {folder, "1.0.0", BannerAddresses(banners.Count()), folder,
+                             folder + "\\recovery", historyBytes}};
     SilenceAtScopeEnd silence{main};
 
 private:
