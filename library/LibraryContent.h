@@ -25,7 +25,7 @@ struct LibraryContent {
     std::string name{};
     std::string key{};
     std::vector<Group> groups{};
-    int colorCount = 0; // in its groups
+    int colorCount = 0;     // in its groups
     ColorSnapshot colors{}; // of all open libraries
 
     [[nodiscard]] static LibraryContent Of(const ColorLibrary& library, const std::string& mainKey);

@@ -31,8 +31,8 @@ ReadOutcome LibraryFiles::Read(const std::string& fileName, WorkProgress& progre
 }
 
 ComposedLibrary LibraryFiles::Compose(const std::string& mainKey, WorkProgress& progress) const {
-    AnsiCodePage::Encoded encoded =
-        LibraryContent::Of(library_, mainKey).Compose(ports_.codePage, NameSpelling::AsItIs, progress);
+    AnsiCodePage::Encoded encoded = LibraryContent::Of(library_, mainKey)
+                                        .Compose(ports_.codePage, NameSpelling::AsItIs, progress);
     SaveLosses losses =
         NamesLostBySaving(library_, mainKey, LibraryFileFormat::FieldSeparator(ports_.codePage));
     losses.characters = std::move(encoded.unstored);

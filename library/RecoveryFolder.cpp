@@ -17,7 +17,7 @@ namespace {
 constexpr std::string_view kLibraryExtension = ".tnt";
 constexpr std::string_view kInfoExtension = ".txt";
 constexpr std::string_view kCrashPrefix = "crash"; // what CrashReports keeps here
-constexpr std::size_t kLongestInfo = 100'000; // bytes
+constexpr std::size_t kLongestInfo = 100'000;      // bytes
 
 std::string TextOf(const CalendarTime& time) {
     std::array<char, 80> text{};

@@ -23,5 +23,6 @@ LibraryState SavedStates::StateOf(const std::string& mainKey) const {
 bool SavedStates::IsChanged(const std::string& mainKey) const {
     const LibraryNode& library = library_.Tree().At(mainKey);
     const auto saved = saved_.find(library.id);
-    return !library.children.empty() && (saved == saved_.end() || saved->second != StateOf(mainKey));
+    return !library.children.empty() &&
+           (saved == saved_.end() || saved->second != StateOf(mainKey));
 }

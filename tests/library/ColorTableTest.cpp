@@ -76,7 +76,8 @@ public:
             ASSERT_EQ(table_.IndexOfKey(expected.key), scanned_.IndexOfKey(expected.key));
             ASSERT_EQ(table_.IndexOfId(table_.IdAt(index)), index);
             for (const char* start : {"", "0D", "0DG1", "0DG1E", "0DG1E1", "1"})
-                ASSERT_EQ(table_.ViewAt(index).KeyBeginsWith(start), expected.key.starts_with(start));
+                ASSERT_EQ(table_.ViewAt(index).KeyBeginsWith(start),
+                          expected.key.starts_with(start));
         }
         for (const char* group : {"0DG1", "0DG2", "0DG10", "1DG1", "x", ""})
             ASSERT_EQ(table_.IndexesOfGroup(group), scanned_.IndexesOfGroup(group)) << group;

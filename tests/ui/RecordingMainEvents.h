@@ -109,6 +109,7 @@ public:
     void BannerClicked() override { Note("banner"); }
     void WindowClosing() override { Note("closing"); }
     void SessionEnding() override { Note("session ending"); }
+    void SecondPassed() override {}
 
     LayoutController layout;
     std::vector<int> commands;

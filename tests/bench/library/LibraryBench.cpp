@@ -25,6 +25,7 @@ int main(int count, char** arguments) {
         ReportGrowth(platform, sizes);
         ReportList(platform, sizes);
         ReportHistory(platform, sizes);
+        ReportRecovery(platform, sizes);
         ReportPalettes(sizes);
         ReportSearch(sizes);
         ReportProgress(platform, sizes);
