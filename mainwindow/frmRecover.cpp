@@ -17,9 +17,10 @@ constexpr int kGap = 8;
 constexpr std::array kColumnWidths = {150, 250, 130, 70};
 
 FormDesign DesignFor(HWND owner) {
-    return {L"frmRecover",       L"TNT4SWX", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-            WS_EX_CONTROLPARENT, owner,      {660, 360},
-            {420, 240}};
+    return {
+        L"frmRecover",       L"TNT4SWX", (WS_OVERLAPPEDWINDOW & ~WS_MINIMIZEBOX) | WS_CLIPCHILDREN,
+        WS_EX_CONTROLPARENT, owner,      {660, 360},
+        {420, 240}};
 }
 
 } // namespace

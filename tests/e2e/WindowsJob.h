@@ -4,8 +4,8 @@
 
 #include <string>
 
-// Opens About window, text viewer and progress window in both languages and closes them by keyboard
-// alone, so that their pictures can be looked at.
+// Opens About window, text viewer, progress window and the list of kept libraries in both languages
+// and closes them by keyboard alone, so that their pictures can be looked at.
 class WindowsJob : public Job {
 public:
     using Job::Job;
@@ -22,6 +22,10 @@ private:
     void ClearWholePart(const std::string& stop);
     void Stop();
 
+    static void LeaveLibrary(const std::string& id, const std::string& name,
+                             const std::string& file);
+    void OpenRecover(const std::string& deleteCaption);
+    void CloseRecover(WORD key, LRESULT nodes);
     void Choose(int command);
     [[nodiscard]] RemoteWindow Wait(const wchar_t* className) const; // of the program
     void CheckGone(const RemoteWindow& window);
@@ -29,4 +33,5 @@ private:
     RemoteWindow about_;
     RemoteWindow viewer_;
     RemoteWindow progress_;
+    RemoteWindow recover_;
 };
