@@ -95,9 +95,10 @@ public:
     // window is shown.
     void Start();
 
-    // Keeps all libraries that differ from their files, as at the end; for the case that there is
-    // none in good order.
+    // Keep all libraries that differ from their files: before an end that is none in good order,
+    // and after a crash of this thread.
     void KeepLibraries() { recoveryKeeper_.KeepAll(); }
+    void KeepAfterCrash() { recoveryKeeper_.KeepAfterCrash(); }
 
     // Stops the banner, stores its index and ends the program at once; asks and saves nothing else.
     void Quit();

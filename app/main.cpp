@@ -53,7 +53,7 @@ struct Ports {
     Win32TextCollation collation;
     Win32Files files;
     Win32Folders folders;
-    Win32RunningCopies copies;
+    Win32RunningCopies copies{ProgramNames::Title};
     WorkerThread background;
     Win32PrivateProfile profile;
     Win32Registry registry{codePage};
@@ -145,13 +145,20 @@ int RunProgram() {
                              .bannerAddresses = addresses,
                              .languageFolder = FolderForCodePage(programFolder, ports.codePage),
                              .recoveryFolder = recoveryFolder});
-    const CrashHandler crashes(recoveryFolder, kVersion, [&] { application.KeepLibraries(); });
+    const CrashHandler crashes(
+        {.folder = recoveryFolder, .program = std::string(ProgramNames::Title) + " " + kVersion},
+        [&] { application.KeepAfterCrash(); });
     // The application goes first, and the forms after it: the main window still gets messages then,
     // such as the focus from a text viewer that is destroyed.
     const SilenceAtScopeEnd silence(main);
     Attach(application, main, auxiliary);
-    application.Start();
-    return RunMessageLoop();
+    try {
+        application.Start();
+        return RunMessageLoop();
+    } catch (...) {
+        application.KeepLibraries();
+        throw;
+    }
 }
 
 } // namespace

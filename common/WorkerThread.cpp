@@ -1,6 +1,6 @@
 #include "common/WorkerThread.h"
 
-#include <utility>
+#include <system_error>
 
 WorkerThread::~WorkerThread() {
     if (thread_.joinable())
@@ -10,10 +10,15 @@ WorkerThread::~WorkerThread() {
 void WorkerThread::Start(std::function<void()> work) {
     Wait();
     busy_ = true;
-    thread_ = std::thread([this, work = std::move(work)]() noexcept {
+    try {
+        thread_ = std::thread([this, work]() noexcept {
+            work();
+            busy_ = false;
+        });
+    } catch (const std::system_error&) { // there can be no other thread
         work();
         busy_ = false;
-    });
+    }
 }
 
 void WorkerThread::Wait() {

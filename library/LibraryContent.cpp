@@ -4,6 +4,7 @@
 #include "library/LibraryFileFormat.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -41,12 +42,13 @@ public:
             AppendReadable(view);
         text_.EndLine();
     }
-    [[nodiscard]] AnsiCodePage::Encoded Take() { return text_.Take(); }
+    [[nodiscard]] LibraryContent::Composed Take() { return {text_.Take(), isRespelled_}; }
 
 private:
-    [[nodiscard]] std::string Spelled(const std::string& name) const {
+    [[nodiscard]] std::string Spelled(const std::string& name) {
         const bool asItIs =
             spelling_ == NameSpelling::AsItIs || LibraryFileFormat::NameComesBack(name);
+        isRespelled_ = isRespelled_ || !asItIs;
         return asItIs ? name : Readable(name, separator_);
     }
     [[nodiscard]] bool ComesBack(const StoredColor& color) const {
@@ -54,6 +56,7 @@ private:
                LibraryFileFormat::SecondNameComesBack(color.AltName(), separator_);
     }
     void AppendReadable(const ColorView& view) {
+        isRespelled_ = true;
         StoredColor color(view.color);
         const std::string altName = Readable(std::string(color.AltName()), separator_);
         color.name = CompactText(Readable(std::string(color.name.View()), separator_));
@@ -65,24 +68,27 @@ private:
     EncodedText text_;
     std::string separator_;
     NameSpelling spelling_;
+    bool isRespelled_ = false;
 };
 
 } // namespace
 
-LibraryContent LibraryContent::Of(const ColorLibrary& library, const std::string& mainKey) {
+LibraryContent LibraryContent::Of(const ColorLibrary& library, const std::string& mainKey,
+                                  std::shared_ptr<const ColorSnapshot> colors) {
     LibraryContent content;
+    content.colors = std::move(colors);
     content.name = library.Tree().At(mainKey).text;
     content.key = mainKey;
     for (const std::string& group : library.GetGroupInMainnode(mainKey)) {
         content.groups.push_back({library.Tree().At(group).text, group});
         content.colorCount += library.GetColorCountInGroup(group);
     }
-    content.colors = library.Colors().Snapshot();
     return content;
 }
 
-AnsiCodePage::Encoded LibraryContent::Compose(const AnsiCodePage& codePage, NameSpelling spelling,
-                                              WorkProgress& progress) const {
+LibraryContent::Composed LibraryContent::Compose(const AnsiCodePage& codePage,
+                                                 NameSpelling spelling,
+                                                 WorkProgress& progress) const {
     progress.Starts(static_cast<int>(groups.size()) + colorCount);
     Lines lines(*this, codePage, spelling);
     lines.AppendHeader();
@@ -91,8 +97,8 @@ AnsiCodePage::Encoded LibraryContent::Compose(const AnsiCodePage& codePage, Name
         lines.AppendGroup(group);
         progress.Reaches(++done);
     }
-    for (std::size_t place = 0; place < colors.Count(); ++place) {
-        const ColorView color = colors.At(place);
+    for (std::size_t place = 0; place < colors->Count(); ++place) {
+        const ColorView color = colors->At(place);
         if (!color.KeyBeginsWith(key))
             continue;
         lines.AppendColor(color);

@@ -5,6 +5,7 @@
 #include "library/ColorSnapshot.h"
 #include "library/WorkProgress.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -25,12 +26,17 @@ struct LibraryContent {
     std::string name{};
     std::string key{};
     std::vector<Group> groups{};
-    int colorCount = 0;     // in its groups
-    ColorSnapshot colors{}; // of all open libraries
+    int colorCount = 0;                            // in its groups
+    std::shared_ptr<const ColorSnapshot> colors{}; // of all open libraries
 
-    [[nodiscard]] static LibraryContent Of(const ColorLibrary& library, const std::string& mainKey);
+    // colors: of this moment.
+    [[nodiscard]] static LibraryContent Of(const ColorLibrary& library, const std::string& mainKey,
+                                           std::shared_ptr<const ColorSnapshot> colors);
 
-    // The bytes of a file.
-    [[nodiscard]] AnsiCodePage::Encoded Compose(const AnsiCodePage& codePage, NameSpelling spelling,
-                                                WorkProgress& progress) const;
+    struct Composed {
+        AnsiCodePage::Encoded encoded; // the bytes of a file
+        bool isRespelled = false;      // not all names are as they are
+    };
+    [[nodiscard]] Composed Compose(const AnsiCodePage& codePage, NameSpelling spelling,
+                                   WorkProgress& progress) const;
 };

@@ -2,7 +2,7 @@
 
 #include "common/FileNames.h"
 #include "common/Text.h"
-#include "library/SafeFileWriter.h"
+#include "library/WriteNewFile.h"
 
 #include <algorithm>
 #include <array>
@@ -91,10 +91,20 @@ std::string RecoveryFolder::InfoPath(const std::string& id) const {
 // The info first: without a library it is nothing, and a library without it would have no name.
 bool RecoveryFolder::Write(const std::string& id, RecoveryInfo info, std::string_view content) {
     info.time = TextOf(ports_.clock.Now());
-    SafeFileWriter writer(ports_.files);
-    return ports_.folders.Make(path_) &&
-           writer.Write(InfoPath(id), TextOf(info), false) == Exchanged::Done &&
-           writer.Write(LibraryPath(id), content, false) == Exchanged::Done;
+    return ports_.folders.Make(path_) && Put(InfoPath(id), TextOf(info)) &&
+           Put(LibraryPath(id), content);
+}
+
+// In one step: nothing of the old file, as its rights, is worth more than that there always is one.
+bool RecoveryFolder::Put(const std::string& path, std::string_view content) {
+    const std::optional<std::string> beside = WriteNewFile(
+        ports_.files,
+        [&](int number) { return PathWithSuffix(path, ".saving" + std::to_string(number)); },
+        content);
+    if (!beside || ports_.files.Replace(*beside, path))
+        return beside.has_value();
+    ports_.files.Remove(*beside);
+    return false;
 }
 
 void RecoveryFolder::Remove(const std::string& id) {

@@ -64,6 +64,7 @@ public:
     void Tidy(const std::vector<std::string>& staying);
 
 private:
+    [[nodiscard]] bool Put(const std::string& path, std::string_view content);
     void RemoveRemains();
     [[nodiscard]] std::string InfoPath(const std::string& id) const;
     [[nodiscard]] std::vector<RecoveryEntry> All();

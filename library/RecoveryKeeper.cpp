@@ -31,7 +31,17 @@ RecoveryKeeper::~RecoveryKeeper() {
     parts_.work.Wait();
 }
 
+// Nobody waits for a look, so nobody is told of an error but as of a copy that cannot be written.
 void RecoveryKeeper::Look() {
+    try {
+        LookOrThrow();
+    } catch (...) { // no memory
+        NoteFailure();
+    }
+    colors_.reset();
+}
+
+void RecoveryKeeper::LookOrThrow() {
     if (!parts_.folder.IsUsable() || parts_.work.IsBusy())
         return;
     Finish();
@@ -48,18 +58,29 @@ void RecoveryKeeper::KeepAll() {
         return;
     Finish();
     TakeUpChanges();
+    colors_.reset();
     BeginWork();
     Finish();
+}
+
+void RecoveryKeeper::KeepAfterCrash() {
+    for (const std::string& mainKey : parts_.library.Tree().MainNodes())
+        if (parts_.folder.IsUsable() && IsToBeKept(mainKey)) {
+            Job job = JobFor(mainKey);
+            job.id = parts_.folder.NewId();
+            Carry(job);
+        }
 }
 
 void RecoveryKeeper::KeepBeforeItLeaves(const std::string& mainKey) {
     if (!parts_.folder.IsUsable())
         return;
-    TakeUp(mainKey);
-    if (!parts_.work.IsBusy()) {
+    if (!parts_.work.IsBusy())
         Finish();
+    TakeUp(mainKey);
+    colors_.reset();
+    if (!parts_.work.IsBusy())
         BeginWork();
-    }
 }
 
 void RecoveryKeeper::TakeUpChanges() {
@@ -67,27 +88,38 @@ void RecoveryKeeper::TakeUpChanges() {
         TakeUp(mainKey);
 }
 
-void RecoveryKeeper::TakeUp(const std::string& mainKey) {
+// A library that has lost its last group keeps what it had before: without groups it has no file.
+bool RecoveryKeeper::IsToBeKept(const std::string& mainKey) const {
     const LibraryNode& node = parts_.library.Tree().At(mainKey);
     const SavedStates& states = parts_.files.States();
-    Kept& kept = kept_[node.id];
-    if (!states.IsChanged(mainKey)) {
+    const auto kept = kept_.find(node.id);
+    return !node.children.empty() && !states.IsAsSaved(mainKey) &&
+           (kept == kept_.end() || kept->second.state != states.StateOf(mainKey));
+}
+
+void RecoveryKeeper::TakeUp(const std::string& mainKey) {
+    Kept& kept = kept_[parts_.library.Tree().At(mainKey).id];
+    if (parts_.files.States().IsAsSaved(mainKey))
         RemoveEntries(kept);
+    if (!IsToBeKept(mainKey))
         return;
-    }
-    const LibraryState state = states.StateOf(mainKey);
-    if (kept.state == state)
-        return;
-    kept.state = state;
     if (kept.id.empty())
         kept.id = parts_.folder.NewId();
+    waiting_.push_back(JobFor(mainKey));
+    waiting_.back().id = kept.id;
+    kept.state = parts_.files.States().StateOf(mainKey);
+}
+
+RecoveryKeeper::Job RecoveryKeeper::JobFor(const std::string& mainKey) {
+    const LibraryNode& node = parts_.library.Tree().At(mainKey);
+    if (colors_ == nullptr)
+        colors_ = std::make_shared<const ColorSnapshot>(parts_.library.Colors().Snapshot());
     Job job{.library = node.id,
-            .id = kept.id,
             .info = {.libraryName = node.text, .filePath = node.file.value_or("")},
-            .content = LibraryContent::Of(parts_.library, mainKey),
+            .content = LibraryContent::Of(parts_.library, mainKey, colors_),
             .saved = parts_.files.FingerprintOfFile(node.id)};
     job.info.colorCount = job.content.colorCount;
-    waiting_.push_back(std::move(job));
+    return job;
 }
 
 void RecoveryKeeper::BeginWork() {
@@ -97,19 +129,23 @@ void RecoveryKeeper::BeginWork() {
     parts_.work.Start([this, open = IdsOfOpenLibraries()] {
         for (Job& job : underWay_)
             Carry(job);
-        parts_.folder.Tidy(open);
+        try {
+            parts_.folder.Tidy(open);
+        } catch (...) { // no memory: the next time
+        }
     });
 }
 
 // In the background.
-void RecoveryKeeper::Carry(Job& job) const noexcept {
+void RecoveryKeeper::Carry(Job& job) noexcept {
     try {
         Unheard unheard;
-        const std::string bytes =
-            job.content.Compose(parts_.codePage, NameSpelling::Readable, unheard).bytes;
-        if (job.saved == ContentFingerprint::Of(bytes))
+        const LibraryContent::Composed composed =
+            job.content.Compose(parts_.codePage, NameSpelling::Readable, unheard);
+        const bool isWhole = !composed.isRespelled && composed.encoded.unstored.empty();
+        if (isWhole && job.saved == ContentFingerprint::Of(composed.encoded.bytes))
             job.outcome = Outcome::AsSaved;
-        else if (parts_.folder.Write(job.id, job.info, bytes))
+        else if (parts_.folder.Write(job.id, job.info, composed.encoded.bytes))
             job.outcome = Outcome::Written;
     } catch (...) { // no memory: as when the disk is full
         job.outcome = Outcome::Failed;
@@ -118,33 +154,55 @@ void RecoveryKeeper::Carry(Job& job) const noexcept {
 
 void RecoveryKeeper::Finish() {
     parts_.work.Wait();
-    for (const Job& job : std::exchange(underWay_, {}))
-        FinishJob(job);
+    for (Job& job : std::exchange(underWay_, {}))
+        FinishJob(std::move(job));
 }
 
-void RecoveryKeeper::FinishJob(const Job& job) {
+void RecoveryKeeper::FinishJob(Job job) {
     Kept& kept = kept_[job.library];
-    switch (job.outcome) {
-    case Outcome::Written:
-        if (!kept.formerId.empty())
-            parts_.folder.Remove(std::exchange(kept.formerId, {}));
-        break;
-    case Outcome::AsSaved: {
+    if (job.outcome == Outcome::Written) {
+        FinishWritten(kept, job);
+    } else if (job.outcome == Outcome::AsSaved) {
         const std::optional<LibraryState> state = kept.state;
         RemoveEntries(kept);
         kept.state = state;
-        break;
-    }
-    case Outcome::Failed:
-        kept.state.reset();
-        looksToRest_ = kRestAfterFailure;
-        if (!std::exchange(hasFailed_, true) && onFailed)
-            onFailed();
-        break;
+    } else {
+        NoteFailure();
+        if (IsOpen(job.library))
+            kept.state.reset();
+        else
+            waiting_.push_back(std::move(job)); // nobody else has it any more
     }
 }
 
+// Meanwhile the library may have been saved, or its entry may belong to another one.
+void RecoveryKeeper::FinishWritten(Kept& kept, const Job& job) {
+    hasFailed_ = false;
+    if (kept.id != job.id && !IsFormerOfSome(job.id))
+        parts_.folder.Remove(job.id);
+    if (kept.id == job.id && !kept.formerId.empty())
+        parts_.folder.Remove(std::exchange(kept.formerId, {}));
+}
+
+void RecoveryKeeper::NoteFailure() {
+    looksToRest_ = kRestAfterFailure;
+    if (!std::exchange(hasFailed_, true) && onFailed)
+        onFailed();
+}
+
+bool RecoveryKeeper::IsFormerOfSome(const std::string& id) const {
+    return std::ranges::any_of(kept_, [&](const auto& kept) { return kept.second.formerId == id; });
+}
+
+bool RecoveryKeeper::IsOpen(LibraryId library) const {
+    const LibraryTree& tree = parts_.library.Tree();
+    return std::ranges::any_of(tree.MainNodes(), [&](const std::string& mainKey) {
+        return tree.At(mainKey).id == library;
+    });
+}
+
 void RecoveryKeeper::RemoveEntries(Kept& kept) {
+    std::erase_if(waiting_, [&](const Job& job) { return job.id == kept.id; });
     for (const std::string& id : {kept.id, kept.formerId})
         if (!id.empty())
             parts_.folder.Remove(id);
@@ -153,6 +211,9 @@ void RecoveryKeeper::RemoveEntries(Kept& kept) {
 
 void RecoveryKeeper::IsOpenAgain(const std::string& mainKey, const std::string& entryId) {
     parts_.files.ForgetFile(mainKey);
+    for (auto& [library, kept] : kept_)
+        if (kept.id == entryId) // a closed one, which may come back by undo
+            kept = {};
     kept_[parts_.library.Tree().At(mainKey).id].formerId = entryId;
 }
 

@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -42,6 +43,10 @@ public:
     // The same for all libraries; returns when it is done.
     void KeepAll();
 
+    // After a crash of this thread: what has changed since the last look is written at once and
+    // beside what is kept already, for nobody knows in which state it is.
+    void KeepAfterCrash();
+
     // The library was opened from an entry, which goes as soon as the library is kept or saved.
     void IsOpenAgain(const std::string& mainKey, const std::string& entryId);
 
@@ -64,18 +69,26 @@ private:
         Outcome outcome = Outcome::Failed;
     };
 
+    void LookOrThrow();
     void KeepBeforeItLeaves(const std::string& mainKey);
     void TakeUpChanges();
     void TakeUp(const std::string& mainKey);
+    [[nodiscard]] bool IsToBeKept(const std::string& mainKey) const;
+    [[nodiscard]] Job JobFor(const std::string& mainKey);
     void BeginWork();
     void Finish();
-    void FinishJob(const Job& job);
+    void FinishJob(Job job);
+    void FinishWritten(Kept& kept, const Job& job);
+    void NoteFailure();
+    [[nodiscard]] bool IsFormerOfSome(const std::string& id) const;
+    [[nodiscard]] bool IsOpen(LibraryId library) const;
     void RemoveEntries(Kept& kept);
     [[nodiscard]] std::vector<std::string> IdsOfOpenLibraries() const;
-    void Carry(Job& job) const noexcept;
+    void Carry(Job& job) noexcept;
 
     Parts parts_;
     std::map<LibraryId, Kept> kept_;
+    std::shared_ptr<const ColorSnapshot> colors_; // of this look, when it was needed
     std::vector<Job> waiting_;
     std::vector<Job> underWay_; // or done, and to be finished
     int looksToRest_ = 0;       // after a failure

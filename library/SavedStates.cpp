@@ -20,9 +20,7 @@ LibraryState SavedStates::StateOf(const std::string& mainKey) const {
     return state;
 }
 
-bool SavedStates::IsChanged(const std::string& mainKey) const {
-    const LibraryNode& library = library_.Tree().At(mainKey);
-    const auto saved = saved_.find(library.id);
-    return !library.children.empty() &&
-           (saved == saved_.end() || saved->second != StateOf(mainKey));
+bool SavedStates::IsAsSaved(const std::string& mainKey) const {
+    const auto saved = saved_.find(library_.Tree().At(mainKey).id);
+    return saved != saved_.end() && saved->second == StateOf(mainKey);
 }

@@ -5,7 +5,6 @@
 #include <compare>
 #include <cstdint>
 #include <map>
-#include <optional>
 #include <string>
 
 // A state of a library: another one after every change of what its file is made of.
@@ -27,9 +26,8 @@ public:
 
     [[nodiscard]] LibraryState StateOf(const std::string& mainKey) const;
 
-    // False also for a library without groups, which has no file.  True may be said of one that
-    // has been changed and changed back.
-    [[nodiscard]] bool IsChanged(const std::string& mainKey) const;
+    // False may be said of one that has been changed and changed back.
+    [[nodiscard]] bool IsAsSaved(const std::string& mainKey) const;
 
 private:
     const ColorLibrary& library_;

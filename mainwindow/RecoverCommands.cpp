@@ -7,6 +7,8 @@
 #include "common/Text.h"
 #include "support/settings/modWindowsHandling.h"
 
+#include <exception>
+
 RecoverCommands::RecoverCommands(const Parts& parts) : parts_(parts), position_(parts.registry) {
     parts_.keeper.onFailed = [this] {
         parts_.bars.SetInfoPanelText(
@@ -29,16 +31,16 @@ std::string RecoverCommands::Text(std::int32_t number, const char* builtIn) cons
 void RecoverCommands::TellAtStart(const std::string& crashReport) {
     parts_.folder.Tidy({});
     std::string status;
-    if (!crashReport.empty())
-        status = WithArguments(Text(InfoTextNumber::ProgramCrashed,
-                                    "Das Programm wurde unerwartet beendet. Bericht: %1"),
-                               {crashReport});
     if (const std::size_t count = parts_.keeper.Entries().size(); count > 0)
+        status = WithArguments(
+            Text(InfoTextNumber::CanBeRecovered,
+                 "Nicht gespeicherte Bibliotheken: %1  -  Datei > Wiederherstellen ..."),
+            {std::to_string(count)});
+    if (!crashReport.empty())
         status += (status.empty() ? "" : "  -  ") +
-                  WithArguments(
-                      Text(InfoTextNumber::CanBeRecovered,
-                           "Nicht gespeicherte Bibliotheken: %1  -  Datei > Wiederherstellen ..."),
-                      {std::to_string(count)});
+                  WithArguments(Text(InfoTextNumber::ProgramCrashed,
+                                     "Das Programm wurde unerwartet beendet. Bericht: %1"),
+                                {crashReport});
     if (!status.empty())
         parts_.bars.SetInfoPanelText(status);
 }
@@ -78,22 +80,34 @@ RecoverRow RecoverCommands::RowOf(const RecoveryEntry& entry) const {
 }
 
 // It is the library that it was: a save goes to its own file, and what that has in it stays beside.
+// Of an entry that is damaged comes what can be read, and the entry stays.
 void RecoverCommands::Open(const RecoveryEntry& entry) {
-    const std::string path = parts_.folder.LibraryPath(entry.id);
     const std::size_t before = parts_.library.Tree().MainNodes().size();
-    const ReadResult result = parts_.files.Read(path);
-    if (parts_.library.Tree().MainNodes().size() == before) {
-        parts_.prompts.ShowMessage(parts_.language.GetInfoText(InfoTextNumber::OpenFailed) + path,
+    std::exception_ptr error;
+    ReadResult result = ReadResult::Failed;
+    try {
+        result = parts_.files.Read(parts_.folder.LibraryPath(entry.id));
+    } catch (const RuntimeError&) {
+        error = std::current_exception();
+    }
+    if (parts_.library.Tree().MainNodes().size() > before)
+        TakeOver(entry, result);
+    else if (!error)
+        parts_.prompts.ShowMessage(parts_.language.GetInfoText(InfoTextNumber::OpenFailed) +
+                                       parts_.folder.LibraryPath(entry.id),
                                    MessageStyle::Critical,
                                    parts_.language.GetInfoText(InfoTextNumber::Attention));
-        return;
-    }
+    if (error)
+        std::rethrow_exception(error);
+}
+
+void RecoverCommands::TakeOver(const RecoveryEntry& entry, ReadResult result) {
     const std::string mainKey = parts_.library.Tree().MainNodes().back();
     SetPlace(mainKey, entry.info.filePath);
-    if (result == ReadResult::Complete) {
-        parts_.keeper.IsOpenAgain(mainKey, entry.id);
-        parts_.bars.SetInfoPanelText("Okay " + parts_.library.Tree().At(mainKey).text);
-    }
+    if (result != ReadResult::Complete)
+        return;
+    parts_.keeper.IsOpenAgain(mainKey, entry.id);
+    parts_.bars.SetInfoPanelText("Okay " + parts_.library.Tree().At(mainKey).text);
 }
 
 void RecoverCommands::SetPlace(const std::string& mainKey, const std::string& filePath) {

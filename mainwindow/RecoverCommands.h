@@ -51,6 +51,7 @@ private:
     void ShowEntries();
     [[nodiscard]] RecoverRow RowOf(const RecoveryEntry& entry) const;
     void Open(const RecoveryEntry& entry);
+    void TakeOver(const RecoveryEntry& entry, ReadResult result);
     void SetPlace(const std::string& mainKey, const std::string& filePath);
     [[nodiscard]] bool IsConfirmed(const std::string& what);
 

@@ -18,10 +18,11 @@ public:
 
     virtual void SetWindowCaption(const std::string& caption) = 0;
     virtual void SetColumnCaptions(const RecoverRow& captions) = 0;
-    virtual void SetRows(const std::vector<RecoverRow>& rows) = 0; // the first one is selected
+    // The row stays selected by its number, as far as there is one.
+    virtual void SetRows(const std::vector<RecoverRow>& rows) = 0;
 
-    // Shows the window modally over the main window.  Gives the row, from 0, that is to be opened;
-    // nothing when the window was closed.
+    // Shows the window modally over the main window, with the first row selected.  Gives the row,
+    // from 0, that is to be opened; nothing when the window was closed.
     [[nodiscard]] virtual std::optional<int> ShowModal() = 0;
 };
 

@@ -20,7 +20,7 @@ FormDesign DesignFor(HWND owner) {
     return {
         L"frmRecover",       L"TNT4SWX", (WS_OVERLAPPEDWINDOW & ~WS_MINIMIZEBOX) | WS_CLIPCHILDREN,
         WS_EX_CONTROLPARENT, owner,      {660, 360},
-        {420, 240}};
+        {520, 240}};
 }
 
 } // namespace
@@ -72,16 +72,17 @@ void frmRecover::SetColumnCaptions(const RecoverRow& captions) {
 }
 
 void frmRecover::SetRows(const std::vector<RecoverRow>& rows) {
+    const int selected = std::max(lvRecover_.SelectedRow(), 0);
     rows_ = rows;
     lvRecover_.SetRowCount(static_cast<int>(rows_.size()));
     if (!rows_.empty())
-        lvRecover_.SelectRow(0);
+        lvRecover_.SelectRow(std::min(selected, static_cast<int>(rows_.size()) - 1));
     ShowWhatCanBeDone();
 }
 
 void frmRecover::ShowWhatCanBeDone() {
     const bool isSelected = lvRecover_.SelectedRow() >= 0;
-    if (!isSelected && GetFocus() != lvRecover_.Handle())
+    if (!isSelected && IsWindowVisible(Handle()) != FALSE)
         lvRecover_.Focus(); // before a button that has it turns grey
     cmdOpen_.SetEnabled(isSelected);
     cmdDelete_.SetEnabled(isSelected);
@@ -104,6 +105,8 @@ std::optional<int> frmRecover::ShowModal() {
     OnLayout();
     done_ = false;
     chosen_.reset();
+    if (!rows_.empty())
+        lvRecover_.SelectRow(0);
     {
         const ModalDisplay display(Handle());
         lvRecover_.Focus();

@@ -3,65 +3,113 @@
 #include "platform/KernelHandle.h"
 #include "platform/PlatformPath.h"
 #include "platform/SystemFunction.h"
-#include "platform/Utf16.h"
 #include "platform/Win32Folders.h"
 
 #include <array>
+#include <atomic>
 #include <cstdio>
+#include <cstdlib>
+#include <cwchar>
 #include <dbghelp.h>
 #include <exception>
 #include <utility>
 #include <windows.h>
 
-struct CrashHandler::Settings {
-    std::string folder;
-    std::string version;
+namespace {
+
+constexpr DWORD kLongestEnd = 5000;            // milliseconds from the crash to the end
+constexpr DWORD kTerminateCalled = 0xE0545443; // as an exception's code
+constexpr ULONG kStackForTheEnd = 64 * 1024;   // bytes that an overflow of the stack leaves
+constexpr std::size_t kLongestPath = 1000;
+
+KernelHandle Checked(HANDLE handle) {
+    return KernelHandle(handle != nullptr ? handle : KernelHandleTraits::None());
+}
+
+} // namespace
+
+// All that is needed in a crash is made before it: the heap may be broken then, and a new thread
+// may never begin.
+struct CrashHandler::Parts {
+    Parts(Report place, std::function<void()> saveWork)
+        : report(std::move(place)), save(std::move(saveWork)),
+          pathStart(ToPlatformPath(report.folder + "\\crash ")),
+          crashed(Checked(CreateEventW(nullptr, TRUE, FALSE, nullptr))),
+          watch(Checked(CreateThread(nullptr, kStackForTheEnd, Watch, this, 0, nullptr))) {}
+
+    // A heap that is broken may hold whoever asks it for memory.
+    static DWORD WINAPI Watch(void* parts) {
+        WaitForSingleObject(static_cast<const Parts*>(parts)->crashed.Get(), INFINITE);
+        if (static_cast<const Parts*>(parts)->isOver)
+            return 0;
+        Sleep(kLongestEnd);
+        TerminateProcess(GetCurrentProcess(), kTerminateCalled);
+        return 0;
+    }
+
+    Report report;
     std::function<void()> save;
+    std::wstring pathStart;
     DWORD thread = GetCurrentThreadId();
+    std::atomic<bool> isOver = false;
+    std::atomic<bool> isReporting = false;
     LPTOP_LEVEL_EXCEPTION_FILTER filterBefore = nullptr;
     std::terminate_handler terminateBefore = nullptr;
+    KernelHandle crashed; // an event
+    KernelHandle watch;   // its thread
 };
 
 namespace {
 
 // The system calls its handlers without an argument of ours.
-struct CurrentSettings {
-    const std::string* folder;
-    const std::string* version;
-    const std::function<void()>* save;
-    DWORD thread;
+struct Current {
+    const std::string* folder = nullptr;
+    const char* program = nullptr;
+    const wchar_t* pathStart = nullptr;
+    const std::function<void()>* save = nullptr;
+    DWORD thread = 0;
+    HANDLE crashed = nullptr;
+    std::atomic<bool>* isReporting = nullptr;
 };
-CurrentSettings current{};
+Current current;
 
-constexpr DWORD kLongestEnd = 5000;            // milliseconds from the crash to the end
-constexpr DWORD kTerminateCalled = 0xE0545443; // as an exception's code
+using Path = std::array<wchar_t, kLongestPath>;
 
-// A heap that is broken may hold whoever asks it for memory.
-DWORD WINAPI EndAfterAWhile(void* exceptionCode) {
-    Sleep(kLongestEnd);
-    TerminateProcess(GetCurrentProcess(), *static_cast<const DWORD*>(exceptionCode));
-    return 0;
-}
-
-std::string NewName() {
-    SYSTEMTIME now{};
-    GetLocalTime(&now);
-    std::array<char, 80> name{};
-    static_cast<void>(std::snprintf(name.data(), name.size(), "crash %04u%02u%02u %02u%02u%02u %lu",
+// Date, time and process number, so that names sort as the crashes came.
+Path PathOf(const SYSTEMTIME& now, const wchar_t* extension) {
+    Path path{};
+    static_cast<void>(std::swprintf(path.data(), path.size(),
+                                    L"%ls%04u%02u%02u %02u%02u%02u %lu%ls", current.pathStart,
                                     now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute,
-                                    now.wSecond, GetCurrentProcessId()));
-    return name.data();
+                                    now.wSecond, GetCurrentProcessId(), extension));
+    return path;
 }
 
-KernelHandle NewFile(const std::string& path) {
-    return KernelHandle(CreateFileW(ToPlatformPath(path).c_str(), GENERIC_WRITE, 0, nullptr,
-                                    CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+KernelHandle NewFile(const Path& path) {
+    return KernelHandle(CreateFileW(path.data(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
-void WriteDump(const std::string& path, EXCEPTION_POINTERS* pointers) {
+bool WriteText(const SYSTEMTIME& now, const EXCEPTION_RECORD& record) {
+    const KernelHandle file = NewFile(PathOf(now, L".new"));
+    if (!file)
+        return false;
+    const auto base = reinterpret_cast<std::uintptr_t>(GetModuleHandleW(nullptr));
+    const auto address = reinterpret_cast<std::uintptr_t>(record.ExceptionAddress);
+    std::array<char, 300> text{};
+    const int length = std::snprintf(
+        text.data(), text.size(), "%.100s\r\nexception %08lX at %llX, program at %llX\r\n",
+        current.program, record.ExceptionCode, static_cast<unsigned long long>(address),
+        static_cast<unsigned long long>(base));
+    DWORD written = 0;
+    return length > 0 && WriteFile(file.Get(), text.data(), static_cast<DWORD>(length), &written,
+                                   nullptr) != FALSE;
+}
+
+void WriteDump(const SYSTEMTIME& now, EXCEPTION_POINTERS* pointers) {
     const auto write =
         SystemFunction<decltype(&MiniDumpWriteDump)>(L"dbghelp.dll", "MiniDumpWriteDump");
-    const KernelHandle file = NewFile(path);
+    const KernelHandle file = NewFile(PathOf(now, L".dmp"));
     if (write == nullptr || !file)
         return;
     MINIDUMP_EXCEPTION_INFORMATION exception{GetCurrentThreadId(), pointers, FALSE};
@@ -69,32 +117,19 @@ void WriteDump(const std::string& path, EXCEPTION_POINTERS* pointers) {
           nullptr, nullptr);
 }
 
-void WriteText(const std::string& path, const EXCEPTION_RECORD& record) {
-    const auto base = reinterpret_cast<std::uintptr_t>(GetModuleHandleW(nullptr));
-    const auto address = reinterpret_cast<std::uintptr_t>(record.ExceptionAddress);
-    std::array<char, 200> text{};
-    const int length = std::snprintf(
-        text.data(), text.size(), "TNT4SWX %s\r\nexception %08lX at %llX, program at %llX\r\n",
-        current.version->c_str(), record.ExceptionCode, static_cast<unsigned long long>(address),
-        static_cast<unsigned long long>(base));
-    DWORD written = 0;
-    const KernelHandle file = NewFile(path);
-    if (file && length > 0)
-        WriteFile(file.Get(), text.data(), static_cast<DWORD>(length), &written, nullptr);
-}
-
-// The text first: it takes the least.
-LONG WINAPI Report(EXCEPTION_POINTERS* pointers) {
-    SetUnhandledExceptionFilter(nullptr); // a second crash is the end
-    DWORD code = pointers->ExceptionRecord->ExceptionCode;
-    const KernelHandle watch(CreateThread(nullptr, 0, EndAfterAWhile, &code, 0, nullptr));
-    const std::string path = *current.folder + "\\" + NewName();
-    static_cast<void>(Win32Folders().Make(*current.folder));
-    WriteText(path + ".new", *pointers->ExceptionRecord);
-    WriteDump(path + ".dmp", pointers);
+// The text first: it takes the least.  A second crash, in the report too, waits for the end.
+LONG WINAPI ReportCrash(EXCEPTION_POINTERS* pointers) {
+    if (current.isReporting->exchange(true))
+        Sleep(INFINITE);
+    SetEvent(current.crashed);
+    SYSTEMTIME now{};
+    GetLocalTime(&now);
+    if (!WriteText(now, *pointers->ExceptionRecord) && Win32Folders().Make(*current.folder))
+        WriteText(now, *pointers->ExceptionRecord);
+    WriteDump(now, pointers);
     if (GetCurrentThreadId() == current.thread && *current.save)
         (*current.save)();
-    TerminateProcess(GetCurrentProcess(), code);
+    TerminateProcess(GetCurrentProcess(), pointers->ExceptionRecord->ExceptionCode);
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
@@ -105,18 +140,29 @@ LONG WINAPI Report(EXCEPTION_POINTERS* pointers) {
 
 } // namespace
 
-CrashHandler::CrashHandler(std::string folder, std::string version, std::function<void()> save)
-    : settings_(new Settings{std::move(folder), std::move(version), std::move(save)}) {
-    if (settings_->folder.empty())
+CrashHandler::CrashHandler(Report report, std::function<void()> save) {
+    if (report.folder.empty())
         return;
-    current = {&settings_->folder, &settings_->version, &settings_->save, settings_->thread};
-    settings_->filterBefore = SetUnhandledExceptionFilter(Report);
-    settings_->terminateBefore = std::set_terminate(ReportTerminate);
+    parts_ = std::make_unique<Parts>(std::move(report), std::move(save));
+    current = {.folder = &parts_->report.folder,
+               .program = parts_->report.program.c_str(),
+               .pathStart = parts_->pathStart.c_str(),
+               .save = &parts_->save,
+               .thread = parts_->thread,
+               .crashed = parts_->crashed.Get(),
+               .isReporting = &parts_->isReporting};
+    ULONG stack = kStackForTheEnd;
+    SetThreadStackGuarantee(&stack);
+    parts_->filterBefore = SetUnhandledExceptionFilter(ReportCrash);
+    parts_->terminateBefore = std::set_terminate(ReportTerminate);
 }
 
 CrashHandler::~CrashHandler() {
-    if (settings_->folder.empty())
+    if (parts_ == nullptr)
         return;
-    SetUnhandledExceptionFilter(settings_->filterBefore);
-    std::set_terminate(settings_->terminateBefore);
+    SetUnhandledExceptionFilter(parts_->filterBefore);
+    std::set_terminate(parts_->terminateBefore);
+    parts_->isOver = true;
+    SetEvent(parts_->crashed.Get());
+    WaitForSingleObject(parts_->watch.Get(), INFINITE);
 }

@@ -9,15 +9,19 @@
 // nothing is sent anywhere.  There is at most one.
 class CrashHandler {
 public:
-    // folder: without a backslash at its end, made when it is needed; empty: nothing is handled.
-    // version: of the program.  save: is called when the thread that makes this has crashed;
-    // another one cannot know what that thread is doing.
-    CrashHandler(std::string folder, std::string version, std::function<void()> save);
+    struct Report {
+        std::string folder;  // without a backslash at its end, made when it is needed; empty: none
+        std::string program; // name and version
+    };
+
+    // save: is called when the thread that makes this has crashed; another one cannot know what
+    // that thread is doing.
+    CrashHandler(Report report, std::function<void()> save);
     CrashHandler(const CrashHandler&) = delete;
     CrashHandler& operator=(const CrashHandler&) = delete;
     ~CrashHandler();
 
 private:
-    struct Settings;
-    std::unique_ptr<Settings> settings_;
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
 };

@@ -19,8 +19,8 @@ std::string NewName() {
 }
 
 // Known to all sessions of the computer: the same user may work in two of them.
-std::wstring MutexName(const std::string& copy) {
-    return ToUtf16("Global\\TNT4SWX " + copy);
+std::wstring MutexName(const std::string& program, const std::string& copy) {
+    return ToUtf16("Global\\" + program + " " + copy);
 }
 
 KernelHandle Checked(HANDLE mutex) {
@@ -29,13 +29,15 @@ KernelHandle Checked(HANDLE mutex) {
 
 } // namespace
 
-Win32RunningCopies::Win32RunningCopies()
-    : own_(NewName()), mutex_(Checked(CreateMutexW(nullptr, FALSE, MutexName(own_).c_str()))) {}
+Win32RunningCopies::Win32RunningCopies(const std::string& program)
+    : program_(program), own_(NewName()),
+      mutex_(Checked(CreateMutexW(nullptr, FALSE, MutexName(program_, own_).c_str()))) {}
 
 bool Win32RunningCopies::IsRunning(const std::string& copy) const {
     if (copy == own_)
         return true;
-    const KernelHandle mutex = Checked(OpenMutexW(SYNCHRONIZE, FALSE, MutexName(copy).c_str()));
+    const KernelHandle mutex =
+        Checked(OpenMutexW(SYNCHRONIZE, FALSE, MutexName(program_, copy).c_str()));
     // A mutex that may not be opened is there.
     return static_cast<bool>(mutex) || GetLastError() == ERROR_ACCESS_DENIED;
 }

@@ -227,6 +227,69 @@ TEST_F(RecoveryTest, RecoveredLibraryTakesThePlaceOfItsEntry) {
     EXPECT_TRUE(Kept().empty());
 }
 
+TEST_F(RecoveryTest, ClosedLibraryThatCouldNotBeWrittenIsWrittenLater) {
+    Rename(Open(), "Other");
+    files.FailAtStep(1, FakeFiles::FailureKind::FromHereOn);
+    library.RemoveMainNode("0D");
+    Look();
+    EXPECT_TRUE(Kept().empty());
+    files.FailAtStep(0, FakeFiles::FailureKind::Reported);
+    for (int second = 0; second < 20; ++second)
+        Look();
+    EXPECT_EQ(Kept().size(), 2U);
+}
+
+TEST_F(RecoveryTest, LibraryThatIsSavedAndClosedWhileItIsWrittenLeavesNothing) {
+    const std::string key = Open();
+    Rename(key, "Other");
+    keeper->Look(); // under way
+    Save(key);
+    library.RemoveMainNode(key);
+    work.Wait();
+    Look();
+    EXPECT_TRUE(Kept().empty());
+}
+
+TEST_F(RecoveryTest, EntryThatIsOpenedAgainSurvivesTheUndoOfItsClosing) {
+    library.History().BeginStep({});
+    const std::string key = Open();
+    library.History().EndStep(1, {});
+    Rename(key, "Other");
+    Look();
+    library.History().BeginStep({});
+    library.RemoveMainNode(key);
+    library.History().EndStep(2, {});
+    Look();
+    const std::string again = Open(folder.LibraryPath("own-1"));
+    keeper->IsOpenAgain(again, "own-1");
+    static_cast<void>(library.History().Undo()); // the closed one is there too
+    for (int second = 0; second < 3; ++second)
+        Look();
+    EXPECT_EQ(Kept().size(), 4U); // each has its own
+}
+
+TEST_F(RecoveryTest, NameThatTheFileCannotHoldIsNoSavedOne) {
+    const std::string key = Open();
+    library.Colors().SetNames(1, "a-b");
+    Save(key);
+    library.Colors().SetNames(1, "a=b");
+    Look();
+    EXPECT_EQ(Kept().size(), 2U);
+}
+
+TEST_F(RecoveryTest, AfterACrashWhatIsKeptAlreadyIsNotTouched) {
+    const std::string key = Open();
+    Rename(key, "good");
+    Look();
+    const std::string good = KeptContent("own-1");
+    keeper->KeepAfterCrash();
+    EXPECT_EQ(Kept().size(), 2U); // nothing is new
+    Rename(key, "half");
+    keeper->KeepAfterCrash();
+    EXPECT_EQ(KeptContent("own-1"), good);
+    EXPECT_EQ(KeptContent("own-2"), libraryFiles.Compose(key, progress).bytes);
+}
+
 TEST_F(RecoveryTest, NamesThatWouldEndTheReadingAreSpelledSoThatAllComesBack) {
     const std::string key = Open();
     library.Colors().SetNames(1, "a=b\xC3\xB7"

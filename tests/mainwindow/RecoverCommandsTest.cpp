@@ -60,17 +60,23 @@ TEST_F(RecoverCommandsTest, EndOfTheSessionKeepsWhatIsNotSaved) {
 
 TEST_F(RecoverCommandsTest, CloseKeepsWhatIsNotSaved) {
     NewLibrary("mine");
-    Run(IDM_mnuFileClose); // its group
+    program.Main().tree.NodeClicked("0D");
     Run(IDM_mnuFileClose);
     EXPECT_EQ(program.view.nodes.size(), 0U);
-    NewLibrary("other");
     SecondPasses();
-    program.view.infoPanel.clear();
-    program.recover.work = [&] {
-        EXPECT_TRUE(program.recover.rows.empty()); // a library without groups has no file
-        return std::nullopt;
-    };
+    program.recover.work = [] { return std::nullopt; };
     Run(IDM_mnuFileRecover);
+    ASSERT_EQ(program.recover.rows.size(), 1U);
+    EXPECT_EQ(program.recover.rows[0][0], "mine");
+}
+
+TEST_F(RecoverCommandsTest, LibraryWhoseLastGroupIsClosedStaysKeptAsItWasBefore) {
+    NewLibrary("mine");
+    SecondPasses();
+    Run(IDM_mnuFileClose); // its group
+    SecondPasses();
+    Run(IDM_mnuQuit);
+    EXPECT_EQ(KeptFiles(), 2U);
 }
 
 TEST_F(RecoverCommandsTest, StartTellsOfWhatCanBeRecovered) {
@@ -143,6 +149,27 @@ TEST_F(RecoverCommandsTest, BrokenEntryIsToldAndStays) {
     ASSERT_FALSE(program.prompts.messages.empty());
     EXPECT_EQ(program.prompts.messages.back().style, MessageStyle::Critical);
     EXPECT_EQ(KeptFiles(), 2U);
+}
+
+TEST_F(RecoverCommandsTest, WhatCanBeReadOfADamagedEntryDoesNotLiveInTheFolder) {
+    Leave("gone-1", "Reds", "C:\\reds.tnt");
+    program.files.contents[std::string(FakeProgram::kRecoveryFolder) + "\\gone-1.tnt"] +=
+        "\"E#red=0DG1:red\xF7x\xF7"
+        "0\xF7"
+        "0\xF7"
+        "0\xF7"
+        "0\xF7"
+        "0\xF7"
+        "0\xF7"
+        "0\xF7"
+        "0\"\r\n";
+    program.recover.work = [] { return 0; };
+    EXPECT_THROW(Run(IDM_mnuFileRecover), RuntimeError);
+    EXPECT_EQ(program.view.nodes["0D"], "Reds");
+    Run(IDM_mnuFileSave);
+    EXPECT_TRUE(program.files.contents.contains("C:\\reds.tnt"));
+    EXPECT_TRUE(program.files.contents.contains(std::string(FakeProgram::kRecoveryFolder) +
+                                                "\\gone-1.tnt"));
 }
 
 TEST_F(RecoverCommandsTest, DeletingAsksFirst) {

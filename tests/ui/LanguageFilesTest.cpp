@@ -2,6 +2,7 @@
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32Files.h"
 #include "platform/Win32PrivateProfile.h"
+#include "mainwindow/frmRecover.h"
 #include "support/language/clsMultiLanguage.h"
 #include "support/windows/frmAbout.h"
 #include "support/windows/frmProgress.h"
@@ -101,7 +102,8 @@ protected:
     frmAbout about{form.Handle(), errors, banners};
     FakeWaitingClock clock;
     frmProgress progress{form.Handle(), errors, clock};
-    std::vector<LocalizableForm*> forms{&form, &about, &progress};
+    frmRecover recover{form.Handle(), errors};
+    std::vector<LocalizableForm*> forms{&form, &about, &progress, &recover};
 };
 
 Keys Without(const Keys& left, const Keys& right) {

@@ -1,4 +1,5 @@
 // Rules: Auxiliary windows
+#include "mainwindow/frmRecover.h"
 #include "standin/com/frmStandIn.h"
 #include "standin/model/StandInContract.h"
 #include "standin/model/StandInModel.h"
@@ -126,6 +127,18 @@ TEST_F(Repaint, Viewer) {
         return PictureAfter(viewer.Handle(), sizes);
     };
     ExpectSameWayOrNot(show, {700, 500}, {{500, 400}, {1200, 900}, {600, 300}});
+}
+
+TEST_F(Repaint, Recover) {
+    const auto show = [this](const Sizes& sizes) {
+        frmRecover recover(nullptr, errors);
+        recover.SetColumnCaptions({"Library", "File", "As of", "Colors"});
+        recover.SetRows({{"Reds", "C:\\reds.tnt", "2024-01-02 03:04:05", "7"}});
+        Resize(recover.Handle(), sizes.front());
+        ShowWindow(recover.Handle(), SW_SHOW);
+        return PictureAfter(recover.Handle(), sizes);
+    };
+    ExpectSameWayOrNot(show, {700, 400}, {{600, 300}, {1200, 900}, {540, 250}});
 }
 
 TEST_F(Repaint, StandIn) {
