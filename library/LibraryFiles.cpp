@@ -44,8 +44,10 @@ ComposedLibrary LibraryFiles::Compose(const std::string& mainKey, WorkProgress& 
 
 WriteResult LibraryFiles::Write(const SaveTarget& target, std::string_view bytes) {
     WriteResult result;
+    std::unique_ptr<FileTurn> turn; // what is looked at is what is replaced
     const Exchanged outcome =
         SafeFileWriter(ports_.files).Write(target.fileName, bytes, target.keepsBackup, [&] {
+            turn = ports_.files.TakeTurn(target.fileName);
             const std::optional<std::string> kept = Keep(target);
             result.keptPath = kept.value_or("");
             return kept.has_value();
@@ -67,6 +69,7 @@ void LibraryFiles::ForgetFile(const std::string& mainKey) {
 }
 
 std::optional<std::string> LibraryFiles::BackUp(const SaveTarget& target) {
+    const std::unique_ptr<FileTurn> turn = ports_.files.TakeTurn(target.fileName);
     std::optional<std::string> kept = Keep(target);
     if (kept && !SafeFileWriter(ports_.files).MoveToBackup(target.fileName)) {
         RemoveCopy(*kept, target.fileName);

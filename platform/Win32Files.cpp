@@ -1,10 +1,12 @@
 #include "platform/Win32Files.h"
 
+#include "common/FileNames.h"
 #include "platform/FileSearch.h"
 #include "platform/KernelHandle.h"
 #include "platform/PlatformPath.h"
 #include "platform/ReplaceFailure.h"
 #include "platform/Utf16.h"
+#include "platform/Win32FileTurn.h"
 #include "platform/Win32OutputFile.h"
 
 #include <algorithm>
@@ -120,4 +122,8 @@ Exchanged Win32Files::Exchange(const std::string& from, const std::string& to,
 
 bool Win32Files::Remove(const std::string& path) {
     return DeleteFileW(ToPlatformPath(path).c_str()) != FALSE;
+}
+
+std::unique_ptr<FileTurn> Win32Files::TakeTurn(const std::string& path) {
+    return Win32FileTurn::Take(PathWithSuffix(path, ".turn"));
 }

@@ -28,4 +28,7 @@ public:
                                      const std::string& backup) override;
 
     bool Remove(const std::string& path) override;
+
+    // An empty file of the name with ".turn" behind it is there for as long.
+    [[nodiscard]] std::unique_ptr<FileTurn> TakeTurn(const std::string& path) override;
 };

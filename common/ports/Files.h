@@ -16,6 +16,15 @@ public:
     [[nodiscard]] virtual bool Close() = 0;
 };
 
+// The turn of one process with a file; it ends with this object, or with the process.
+class FileTurn {
+public:
+    FileTurn() = default;
+    FileTurn(const FileTurn&) = delete;
+    FileTurn& operator=(const FileTurn&) = delete;
+    virtual ~FileTurn() = default;
+};
+
 // What became of a file that was to take another's place.
 enum class Exchanged {
     Done,
@@ -62,4 +71,9 @@ public:
                                              const std::string& backup) = 0;
 
     virtual bool Remove(const std::string& path) = 0;
+
+    // Waits until this process is the only one that has its turn with the file, also where others
+    // work on it from other computers.  It binds those alone that ask for theirs.  Null: there is
+    // none, or it did not come within a few seconds.
+    [[nodiscard]] virtual std::unique_ptr<FileTurn> TakeTurn(const std::string& path) = 0;
 };

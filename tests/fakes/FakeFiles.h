@@ -4,7 +4,9 @@
 #include "common/ports/Files.h"
 #include "common/ports/Folders.h"
 
+#include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -69,6 +71,12 @@ public:
     }
     bool Remove(const std::string& path) override { return !Fails() && contents.erase(path) > 0; }
 
+    std::unique_ptr<FileTurn> TakeTurn(const std::string& path) override {
+        if (onTurn)
+            onTurn(path);
+        return std::make_unique<Turn>(*this);
+    }
+
     bool Make(const std::string& path) override {
         if (Fails() || contents.contains(path))
             return false;
@@ -90,7 +98,23 @@ public:
     Exchanged exchanges = Exchanged::Done;       // how far an exchange that does not fail comes
     std::string newcomer; // what somebody else puts in the place that an exchange left empty
 
+    std::function<void(const std::string&)> onTurn; // when a turn with a path has come
+    std::function<void()> onTurnOver;
+
 private:
+    class Turn : public FileTurn {
+    public:
+        explicit Turn(FakeFiles& files) : files_(files) {}
+        ~Turn() override {
+            if (files_.onTurnOver)
+                files_.onTurnOver();
+        }
+        Turn(const Turn&) = delete;
+        Turn& operator=(const Turn&) = delete;
+
+    private:
+        FakeFiles& files_;
+    };
     class Output : public OutputFile {
     public:
         Output(FakeFiles& files, std::string path) : files_(files), path_(std::move(path)) {}

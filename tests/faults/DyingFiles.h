@@ -27,6 +27,9 @@ public:
                        const std::string& backup) override;
     bool Replace(const std::string& from, const std::string& to) override;
     bool Remove(const std::string& path) override;
+    std::unique_ptr<FileTurn> TakeTurn(const std::string& path) override {
+        return files_.TakeTurn(path);
+    }
 
     // True: the process is to be killed now.
     [[nodiscard]] bool IsLastStep() noexcept { return stepsLeft_-- == 1; }

@@ -2,12 +2,14 @@
 
 #include "platform/KernelHandle.h"
 #include "platform/Utf16.h"
+#include "platform/Win32CalendarClock.h"
 #include "tests/faults/DyingFiles.h"
 #include "tests/faults/RealLibrary.h"
 #include "tests/platform/PollUntil.h"
 
 #include <array>
 #include <cstdlib>
+#include <fstream>
 #include <string_view>
 #include <windows.h>
 
@@ -48,6 +50,30 @@ int Hold(const std::string& path) {
     return 1;
 }
 
+// Each save is that of a program that has just begun: it holds nothing of what the file has in it.
+bool SaveAsANewcomer(Files& files, const std::string& path, const std::string& content) {
+    const Win32AnsiCodePage codePage(1252);
+    const Win32CalendarClock clock;
+    ColorLibrary library;
+    LibraryFiles libraryFiles(library, {.files = files, .codePage = codePage, .clock = clock});
+    const std::string key = library.NewMainNode(content);
+    return libraryFiles.Write({path, key, false}, content).isWritten;
+}
+
+// The contents that were written stand in FILE.NAME, one a line.
+int SaveOften(const std::string& name, int count, const std::string& path) {
+    Win32Files files;
+    std::ofstream written(path + "." + name, std::ios::binary);
+    if (!PollUntil([&] { return files.Exists(path + ".go"); }))
+        return 1;
+    for (int number = 1; number <= count; ++number) {
+        const std::string content = name + " " + std::to_string(number);
+        if (SaveAsANewcomer(files, path, content))
+            written << content << '\n';
+    }
+    return 0;
+}
+
 } // namespace
 
 std::optional<int> RunAsSecondProcess(int count, char** arguments) {
@@ -62,6 +88,8 @@ std::optional<int> RunAsSecondProcess(int count, char** arguments) {
     }
     if (task == "--save-on-signal" && count == 3)
         return SaveOnSignal(arguments[2]);
+    if (task == "--save-often" && count == 5)
+        return SaveOften(arguments[2], std::atoi(arguments[3]), arguments[4]);
     if (task == "--hold" && count == 3)
         return Hold(arguments[2]);
     return {};

@@ -7,6 +7,8 @@
 //     --save-and-die STEP FILE   opens the library, adds a color and saves; killed at that step
 //     --save FILE                the same without an end before its time
 //     --save-on-signal FILE      opens it, makes FILE.open, and saves when FILE.go is there
+//     --save-often NAME COUNT FILE   when FILE.go is there, saves as many contents "NAME number",
+//                                    and lists in FILE.NAME those that were written
 //     --hold FILE                keeps the file open, shared with nobody, until it is ended
 // Nothing when the command line asks for none of them; otherwise the exit code.
 [[nodiscard]] std::optional<int> RunAsSecondProcess(int count, char** arguments);

@@ -122,6 +122,43 @@ TEST_F(KeptFilesTest, TwoProgramsThatSaveInTurnLoseNoneOfTheirContents) {
         })) << content;
 }
 
+// The other program saves while this one waits for its turn, and again as soon as that is over.
+TEST_F(KeptFilesTest, FileIsLookedAtAndReplacedInOneTurn) {
+    for (const bool backups : {true, false}) {
+        files.contents = {{kA, kContent}};
+        Session saver(files);
+        saver.settings.createBackups = backups;
+        saver.Open(kA);
+        saver.AddGroup("mine");
+        std::vector<std::string> turns;
+        std::string atTheEnd;
+        files.onTurn = [&](const std::string& path) {
+            turns.push_back(path);
+            files.contents[kA] = kForeign;
+        };
+        files.onTurnOver = [&] { atTheEnd = files.contents[kA]; };
+        saver.Save();
+        files.onTurn = nullptr;
+        files.onTurnOver = nullptr;
+        EXPECT_EQ(turns, std::vector<std::string>{kA});
+        ASSERT_TRUE(files.contents.contains(kKeptA));
+        EXPECT_EQ(files.contents.at(kKeptA), kForeign);
+        EXPECT_NE(atTheEnd.find("mine"), std::string::npos);
+    }
+}
+
+TEST_F(KeptFilesTest, LibraryWithoutGroupsMovesItsFileInItsTurn) {
+    files.contents[kA] = "\"D#Lib=0D:1\"\r\n\"G#broken\"\r\n";
+    session.Open(kA);
+    bool wasThere = true;
+    files.onTurn = [&](const std::string&) { files.contents[kA] = kForeign; };
+    files.onTurnOver = [&] { wasThere = files.contents.contains(kA); };
+    session.Save();
+    files.onTurnOver = nullptr;
+    EXPECT_EQ(files.contents.at(kKeptA), kForeign);
+    EXPECT_FALSE(wasThere);
+}
+
 TEST_F(KeptFilesTest, SaveThatIsRetargetedToAnotherFileKeepsThatOne) {
     files.contents[kB] = kForeign;
     session.Open(kA);

@@ -28,6 +28,7 @@ private:
 
 class StandardFiles : public Files {
 public:
+    std::unique_ptr<FileTurn> TakeTurn(const std::string&) override { return nullptr; }
     std::string FindNormalFile(const std::string& path) override {
         return Exists(path) ? std::filesystem::path(path).filename().string() : std::string();
     }
