@@ -17,7 +17,9 @@
 
 namespace {
 
-constexpr DWORD kLongestEnd = 5000;            // milliseconds from the crash to the end
+// Milliseconds from the crash to the end.  A system whose dumps name every symbol takes ten seconds
+// and more for one on a busy machine.
+constexpr DWORD kLongestEnd = 25'000;
 constexpr DWORD kTerminateCalled = 0xE0545443; // as an exception's code
 constexpr ULONG kStackForTheEnd = 64 * 1024;   // bytes that an overflow of the stack leaves
 constexpr std::size_t kLongestPath = 1000;
