@@ -32,10 +32,10 @@ ReadOutcome LibraryFiles::Read(const std::string& fileName, WorkProgress& progre
 }
 
 ComposedLibrary LibraryFiles::Compose(const std::string& mainKey, WorkProgress& progress) const {
-    auto colors = std::make_shared<const ColorSnapshot>(library_.Colors().Snapshot());
-    AnsiCodePage::Encoded encoded = LibraryContent::Of(library_, mainKey, std::move(colors))
-                                        .Compose(ports_.codePage, NameSpelling::AsItIs, progress)
-                                        .encoded;
+    const LibraryContent content = LibraryContent::Of(
+        library_, mainKey, std::make_shared<const ColorSnapshot>(library_.Colors().Snapshot()));
+    AnsiCodePage::Encoded encoded =
+        content.Compose(ports_.codePage, NameSpelling::AsItIs, progress).encoded;
     SaveLosses losses =
         NamesLostBySaving(library_, mainKey, LibraryFileFormat::FieldSeparator(ports_.codePage));
     losses.characters = std::move(encoded.unstored);

@@ -8,10 +8,10 @@ struct BenchSizes {
 };
 
 // Each measures one side of the library and prints its table.
-void ReportFiles(BenchPlatform& platform, const BenchSizes& sizes);   // beside the floors; memory
-void ReportGrowth(BenchPlatform& platform, const BenchSizes& sizes);  // from a thousand colors
-void ReportList(BenchPlatform& platform, const BenchSizes& sizes);    // showing a group
-void ReportHistory(BenchPlatform& platform, const BenchSizes& sizes); // steps, undo; memory
+void ReportFiles(BenchPlatform& platform, const BenchSizes& sizes);    // beside the floors; memory
+void ReportGrowth(BenchPlatform& platform, const BenchSizes& sizes);   // from a thousand colors
+void ReportList(BenchPlatform& platform, const BenchSizes& sizes);     // showing a group
+void ReportHistory(BenchPlatform& platform, const BenchSizes& sizes);  // steps, undo; memory
 void ReportRecovery(BenchPlatform& platform, const BenchSizes& sizes); // keeping what has changed
 void ReportPalettes(const BenchSizes& sizes); // foreign files, beside floors
 void ReportSearch(const BenchSizes& sizes);   // finding colors
