@@ -25,11 +25,7 @@ Application::Application(const Platform& platform, const Windows& windows, const
                        .copies = platform.copies,
                        .clock = platform.calendar},
                       data.recoveryFolder),
-      recoveryKeeper_({.library = library_,
-                       .files = libraryFiles_,
-                       .folder = recoveryFolder_,
-                       .work = platform.background,
-                       .codePage = platform.codePage}),
+      recoveryKeeper_(PartsOfKeeper(platform)),
       solidWorks_({platform.automation, platform.retry, platform.prompts, language_,
                    windows.progressView, platform.events, stopFlag_}),
       links_(platform.shell),
@@ -45,96 +41,138 @@ Application::Application(const Platform& platform, const Windows& windows, const
                    banner_, data.programFolder}),
       progress_(windows.progressWindow, windows.progressForm, language_, settings_, stopFlag_),
       panes_(windows.mainView, library_, platform.prompts, language_, platform.collation),
-      newNodes_({.library = library_,
-                 .panes = panes_.library,
-                 .editor = panes_.editor,
-                 .prompts = platform.prompts,
-                 .texts = language_}),
-      shownFiles_({.files = libraryFiles_,
-                   .library = library_,
-                   .panes = panes_.library,
-                   .settings = settings_,
-                   .prompts = platform.prompts,
-                   .texts = language_,
-                   .progress = windows.progressView}),
+      newNodes_(PartsOfNewNodes(platform)), shownFiles_(PartsOfShownFiles(platform)),
       viewCommands_(windows.mainView.bars, windows.mainView.list, panes_.layout, settings_),
-      editing_({.library = library_,
-                .list = panes_.list,
-                .panes = panes_.library,
-                .newNodes = newNodes_,
-                .settings = settings_,
-                .clipboard = platform.clipboard,
-                .prompts = platform.prompts,
-                .texts = language_}),
-      fileCommands_({.library = library_,
-                     .files = shownFiles_,
-                     .newNodes = newNodes_,
-                     .editing = editing_,
-                     .bars = windows.mainView.bars,
-                     .settings = settings_,
-                     .prompts = platform.prompts,
-                     .texts = language_,
-                     .codePage = platform.codePage,
-                     .programFolder = data.programFolder}),
-      drag_({.pane = windows.mainView.drag,
-             .library = library_,
-             .panes = panes_.library,
-             .list = panes_.list,
-             .editing = editing_,
-             .prompts = platform.prompts,
-             .texts = language_,
-             .activity = panes_.activity}),
-      historyCommands_({.history = library_.History(),
-                        .panes = panes_.library,
-                        .bars = windows.mainView.bars,
-                        .texts = language_}),
-      recover_({.window = windows.recover,
-                .keeper = recoveryKeeper_,
-                .folder = recoveryFolder_,
-                .library = library_,
-                .libraryFiles = libraryFiles_,
-                .files = shownFiles_,
-                .bars = windows.mainView.bars,
-                .prompts = platform.prompts,
-                .language = language_,
-                .settings = settings_,
-                .registry = registry_}),
-      solidWorksCommands_({.tools = solidWorks_,
-                           .library = library_,
-                           .newNodes = newNodes_,
-                           .list = panes_.list,
-                           .panes = panes_.library,
-                           .editor = panes_.editor,
-                           .bars = windows.mainView.bars,
-                           .prompts = platform.prompts,
-                           .texts = language_,
-                           .activity = panes_.activity}),
-      mainWindow_({.view = windows.mainView,
-                   .form = windows.mainWindow,
-                   .panes = panes_,
-                   .drag = drag_,
-                   .commands = {.file = fileCommands_,
-                                .library = library_,
-                                .newNodes = newNodes_,
-                                .editing = editing_,
-                                .history = historyCommands_,
-                                .recover = recover_,
-                                .panes = panes_.library,
-                                .editor = panes_.editor,
-                                .view = viewCommands_,
-                                .solidWorks = solidWorksCommands_,
-                                .options = options_,
-                                .about = about_,
-                                .textViewer = textViewer_,
-                                .quit = [this] { Quit(); }},
-                   .keeper = recoveryKeeper_,
-                   .settings = settings_,
-                   .registry = registry_,
-                   .texts = language_,
-                   .retry = platform.retry,
-                   .events = platform.events,
-                   .stopFlag = stopFlag_}) {
+      editing_(PartsOfEditing(platform)), fileCommands_(PartsOfFileCommands(platform, data)),
+      drag_(PartsOfDrag(platform)), historyCommands_({.history = library_.History(),
+                                                      .panes = panes_.library,
+                                                      .bars = windows.mainView.bars,
+                                                      .texts = language_}),
+      recover_(PartsOfRecover(platform)), solidWorksCommands_(PartsOfSolidWorks(platform)),
+      mainWindow_(PartsOfMainWindow(platform)) {
     library_.History().SetMostBytes(data.historyBytes);
+}
+
+// What the members made last need of those before them.
+
+RecoveryKeeper::Parts Application::PartsOfKeeper(const Platform& platform) {
+    return {.library = library_,
+            .files = libraryFiles_,
+            .folder = recoveryFolder_,
+            .work = platform.background,
+            .codePage = platform.codePage};
+}
+
+NewNodes::Parts Application::PartsOfNewNodes(const Platform& platform) {
+    return {.library = library_,
+            .panes = panes_.library,
+            .editor = panes_.editor,
+            .prompts = platform.prompts,
+            .texts = language_};
+}
+
+ShownLibraryFiles::Parts Application::PartsOfShownFiles(const Platform& platform) {
+    return {.files = libraryFiles_,
+            .library = library_,
+            .panes = panes_.library,
+            .settings = settings_,
+            .prompts = platform.prompts,
+            .texts = language_,
+            .progress = windows_.progressView};
+}
+
+EditingCommands::Parts Application::PartsOfEditing(const Platform& platform) {
+    return {.library = library_,
+            .list = panes_.list,
+            .panes = panes_.library,
+            .newNodes = newNodes_,
+            .settings = settings_,
+            .clipboard = platform.clipboard,
+            .prompts = platform.prompts,
+            .texts = language_};
+}
+
+FileCommands::Parts Application::PartsOfFileCommands(const Platform& platform, const Data& data) {
+    return {.library = library_,
+            .files = shownFiles_,
+            .newNodes = newNodes_,
+            .editing = editing_,
+            .bars = windows_.mainView.bars,
+            .settings = settings_,
+            .prompts = platform.prompts,
+            .texts = language_,
+            .codePage = platform.codePage,
+            .programFolder = data.programFolder};
+}
+
+ColorDrag::Parts Application::PartsOfDrag(const Platform& platform) {
+    return {.pane = windows_.mainView.drag,
+            .library = library_,
+            .panes = panes_.library,
+            .list = panes_.list,
+            .editing = editing_,
+            .prompts = platform.prompts,
+            .texts = language_,
+            .activity = panes_.activity};
+}
+
+RecoverCommands::Parts Application::PartsOfRecover(const Platform& platform) {
+    return {.window = windows_.recover,
+            .keeper = recoveryKeeper_,
+            .folder = recoveryFolder_,
+            .library = library_,
+            .libraryFiles = libraryFiles_,
+            .files = shownFiles_,
+            .bars = windows_.mainView.bars,
+            .prompts = platform.prompts,
+            .language = language_,
+            .settings = settings_,
+            .registry = registry_};
+}
+
+SolidWorksCommands::Parts Application::PartsOfSolidWorks(const Platform& platform) {
+    return {.tools = solidWorks_,
+            .library = library_,
+            .newNodes = newNodes_,
+            .list = panes_.list,
+            .panes = panes_.library,
+            .editor = panes_.editor,
+            .bars = windows_.mainView.bars,
+            .prompts = platform.prompts,
+            .texts = language_,
+            .activity = panes_.activity};
+}
+
+MainCommands Application::Commands() {
+    return {.file = fileCommands_,
+            .library = library_,
+            .newNodes = newNodes_,
+            .editing = editing_,
+            .history = historyCommands_,
+            .recover = recover_,
+            .panes = panes_.library,
+            .editor = panes_.editor,
+            .view = viewCommands_,
+            .solidWorks = solidWorksCommands_,
+            .options = options_,
+            .about = about_,
+            .textViewer = textViewer_,
+            .quit = [this] { Quit(); }};
+}
+
+MainWindow::Parts Application::PartsOfMainWindow(const Platform& platform) {
+    return {.view = windows_.mainView,
+            .form = windows_.mainWindow,
+            .panes = panes_,
+            .drag = drag_,
+            .commands = Commands(),
+            .keeper = recoveryKeeper_,
+            .settings = settings_,
+            .registry = registry_,
+            .texts = language_,
+            .retry = platform.retry,
+            .events = platform.events,
+            .stopFlag = stopFlag_};
 }
 
 MainEvents Application::MainWindowEvents() noexcept {

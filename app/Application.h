@@ -114,6 +114,19 @@ private:
     void ShowBanner(int index);
     [[nodiscard]] std::vector<LocalizableForm*> LocalizableForms() const;
 
+    // For the constructor: each uses the members above the one that it is for.
+    [[nodiscard]] RecoveryKeeper::Parts PartsOfKeeper(const Platform& platform);
+    [[nodiscard]] NewNodes::Parts PartsOfNewNodes(const Platform& platform);
+    [[nodiscard]] ShownLibraryFiles::Parts PartsOfShownFiles(const Platform& platform);
+    [[nodiscard]] EditingCommands::Parts PartsOfEditing(const Platform& platform);
+    [[nodiscard]] FileCommands::Parts PartsOfFileCommands(const Platform& platform,
+                                                          const Data& data);
+    [[nodiscard]] ColorDrag::Parts PartsOfDrag(const Platform& platform);
+    [[nodiscard]] RecoverCommands::Parts PartsOfRecover(const Platform& platform);
+    [[nodiscard]] SolidWorksCommands::Parts PartsOfSolidWorks(const Platform& platform);
+    [[nodiscard]] MainCommands Commands();
+    [[nodiscard]] MainWindow::Parts PartsOfMainWindow(const Platform& platform);
+
     Windows windows_;
     bool stopFlag_ = false;
     Settings settings_;
