@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdio>
+#include <utility>
 #include <windows.h>
 
 namespace {
@@ -29,8 +30,8 @@ KernelHandle Checked(HANDLE mutex) {
 
 } // namespace
 
-Win32RunningCopies::Win32RunningCopies(const std::string& program)
-    : program_(program), own_(NewName()),
+Win32RunningCopies::Win32RunningCopies(std::string program)
+    : program_(std::move(program)), own_(NewName()),
       mutex_(Checked(CreateMutexW(nullptr, FALSE, MutexName(program_, own_).c_str()))) {}
 
 bool Win32RunningCopies::IsRunning(const std::string& copy) const {

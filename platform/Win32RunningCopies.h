@@ -7,7 +7,7 @@
 class Win32RunningCopies : public RunningCopies {
 public:
     // program: its name, which the mutexes have too.
-    explicit Win32RunningCopies(const std::string& program);
+    explicit Win32RunningCopies(std::string program);
 
     [[nodiscard]] const std::string& Own() const override { return own_; }
     [[nodiscard]] bool IsRunning(const std::string& copy) const override;

@@ -1,5 +1,7 @@
 #include "platform/controls/Frame.h"
 
+#include <commctrl.h>
+
 namespace {
 
 constexpr ControlKind kFrame{"Frame", WC_BUTTONW, "Caption"};

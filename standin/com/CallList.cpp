@@ -4,6 +4,8 @@
 #include "platform/ExplorerTheme.h"
 #include "platform/Utf16.h"
 
+#include <commctrl.h>
+
 namespace {
 
 constexpr ControlKind kCallList{"ListView", WC_LISTVIEWW, ""};

@@ -26,8 +26,12 @@
 #include <string>
 #include <vector>
 
-class FakeAbout : public AboutView {
+// What all windows have that keep their place and have texts.
+template <typename View>
+class FakeWindowOf : public View {
 public:
+    FakeWindowOf(const char* name, const TwipsRect& placed) : form(name), bounds(placed) {}
+
     TwipsRect Bounds() const override { return bounds; }
     void Move(const TwipsRect& newBounds) override { bounds = newBounds; }
     WindowState State() const override { return WindowState::Normal; }
@@ -36,15 +40,22 @@ public:
     void SetTopmost(bool onTop) override { topmost.push_back(onTop); }
     std::vector<FormControl*> Controls() override { return form.Controls(); }
     void SetWindowCaption(const std::string& text) override { caption = text; }
+
+    FakeForm form;
+    TwipsRect bounds;
+    std::vector<bool> topmost;
+    std::string caption;
+};
+
+class FakeAbout : public FakeWindowOf<AboutView> {
+public:
+    FakeAbout() : FakeWindowOf("frmAbout", {0, 0, 6000, 4000}) {}
+
     void SetTitle(const std::string& text) override { title = text; }
     void SetVersion(const std::string& text) override { version = text; }
     void SetBanner(int index) override { banner = index; }
     void ShowModal() override { ++shown; }
 
-    FakeForm form{"frmAbout"};
-    TwipsRect bounds{0, 0, 6000, 4000};
-    std::vector<bool> topmost;
-    std::string caption;
     std::string title;
     std::string version;
     int banner = -1;
@@ -73,25 +84,15 @@ public:
     int shown = 0;
 };
 
-class FakeRecover : public RecoverView {
+class FakeRecover : public FakeWindowOf<RecoverView> {
 public:
-    TwipsRect Bounds() const override { return bounds; }
-    void Move(const TwipsRect& newBounds) override { bounds = newBounds; }
-    WindowState State() const override { return WindowState::Normal; }
-    void SetState(WindowState) override {}
-    TwipsSize ScreenSize() const override { return {15360, 11520}; }
-    void SetTopmost(bool onTop) override { topmost.push_back(onTop); }
-    std::vector<FormControl*> Controls() override { return form.Controls(); }
-    void SetWindowCaption(const std::string& text) override { caption = text; }
+    FakeRecover() : FakeWindowOf("frmRecover", {0, 0, 9000, 5000}) {}
+
     void SetColumnCaptions(const RecoverRow& texts) override { columns = texts; }
     void SetRows(const std::vector<RecoverRow>& newRows) override { rows = newRows; }
     std::optional<int> ShowModal() override { return work ? work() : std::nullopt; }
 
     std::function<std::optional<int>()> work; // what the user does while it is shown
-    FakeForm form{"frmRecover"};
-    TwipsRect bounds{0, 0, 9000, 5000};
-    std::vector<bool> topmost;
-    std::string caption;
     RecoverRow columns;
     std::vector<RecoverRow> rows;
 };
