@@ -255,7 +255,7 @@ std::vector<RemovedColor> ColorTable::LeaveGroup(Group& group, const std::vector
     return removed;
 }
 
-void ColorTable::PutBack(std::vector<RemovedColors> coming) {
+void ColorTable::PutBack(std::vector<RemovedColors>&& coming) {
     std::vector<ColorId> ids;
     for (const RemovedColors& group : coming)
         for (const RemovedColor& removed : group.colors)
@@ -266,7 +266,7 @@ void ColorTable::PutBack(std::vector<RemovedColors> coming) {
     MergeSorted(order_, ids);
 }
 
-void ColorTable::PutIntoGroup(const std::string& groupKey, std::vector<RemovedColor> colors) {
+void ColorTable::PutIntoGroup(const std::string& groupKey, std::vector<RemovedColor>&& colors) {
     const GroupNumber number = NumberOfGroup(groupKey);
     Group& group = groups_[number];
     NoteChange(group);

@@ -29,7 +29,7 @@ public:
     // in their places, as colors of the groups that are named.  Neither is told to the journal.
     [[nodiscard]] std::vector<RemovedColors>
     TakeOut(const std::vector<std::vector<ColorId>>& idsOfGroups);
-    void PutBack(std::vector<RemovedColors> coming);
+    void PutBack(std::vector<RemovedColors>&& coming);
 
     // Names and values of a color that is there and those given change places; not told to the
     // journal.
@@ -88,7 +88,7 @@ private:
     struct Numbered {
         std::uint32_t number = 0;
         ColorId id = 0;
-        auto operator<=>(const Numbered&) const = default;
+        auto operator<=>(const Numbered&) const = default; // NOLINT(modernize-use-nullptr): none
     };
     struct Group {
         std::string key;
@@ -105,7 +105,7 @@ private:
     // All of one group, ascending; they are out of the order already.
     [[nodiscard]] std::vector<RemovedColor> LeaveGroup(Group& group,
                                                        const std::vector<ColorId>& ids);
-    void PutIntoGroup(const std::string& groupKey, std::vector<RemovedColor> colors);
+    void PutIntoGroup(const std::string& groupKey, std::vector<RemovedColor>&& colors);
     void ForgetKeys(Group& group, const std::vector<ColorId>& ids);
     void ForgetOtherKey(ColorId id, const std::string& key);
     [[nodiscard]] const Group* FindGroup(const std::string& groupKey) const;

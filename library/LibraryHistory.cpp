@@ -68,8 +68,8 @@ LibraryView LibraryHistory::Undo() {
     tree_.SetJournal(nullptr);
     for (const auto& change : step.afterwards)
         change->TurnRound(tree_, colors_);
-    for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change)
-        (*change)->TurnRound(tree_, colors_);
+    std::for_each(step.changes.rbegin(), step.changes.rend(),
+                  [this](const auto& change) { change->TurnRound(tree_, colors_); });
     tree_.SetJournal(this);
     TellChange();
     return step.before;
@@ -91,7 +91,7 @@ LibraryView LibraryHistory::Redo() {
 void LibraryHistory::KeepLooks() {
     for (auto& change : open_.changes)
         if (auto* look = dynamic_cast<LibraryChanges::LastColor*>(change.get())) {
-            change.release();
+            static_cast<void>(change.release());
             KeepAfterwards(std::unique_ptr<LibraryChanges::LastColor>(look));
         }
     open_.changes.clear();

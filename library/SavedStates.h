@@ -2,7 +2,6 @@
 
 #include "library/ColorLibrary.h"
 
-#include <compare>
 #include <cstdint>
 #include <map>
 #include <string>
@@ -11,7 +10,7 @@
 struct LibraryState {
     std::uint64_t nodes = 0;  // revision of the latest change of its names and groups
     std::uint64_t colors = 0; // and of its colors
-    auto operator<=>(const LibraryState&) const = default;
+    bool operator==(const LibraryState&) const = default;
 };
 
 // Knows which open libraries may differ from their files.
