@@ -97,10 +97,11 @@ protected:
                 commands.push_back(row.command);
     }
 
-    // The end of the program and the About window, which waits for a person.
+    // Not the end of the program, nor the windows that wait for a person.
     static bool IsForMonkeys(const MenuRow& row) {
         return (row.place == MenuKind::Entry || row.place == MenuKind::SubmenuEntry) &&
-               row.command != IDM_mnuQuit && row.command != IDM_mnuHlpAbout;
+               row.command != IDM_mnuQuit && row.command != IDM_mnuHlpAbout &&
+               row.command != IDM_mnuFileRecover;
     }
 
     [[nodiscard]] HWND Child(int id) const { return FindChild(program->main.Handle(), id); }
