@@ -1,5 +1,7 @@
 #include "common/Text.h"
 
+#include <algorithm>
+
 std::vector<std::string> SplitFields(std::string_view text, std::string_view separator) {
     std::vector<std::string> fields;
     std::size_t start = 0;
@@ -38,4 +40,10 @@ std::string CutText(std::string_view text, std::size_t length) {
     for (std::size_t index = 0; index < length; ++index)
         cut += characters[index];
     return cut + "...";
+}
+
+std::string InOneLine(std::string text) {
+    std::ranges::replace_if(
+        text, [](char letter) { return letter == '\r' || letter == '\n'; }, ' ');
+    return text;
 }

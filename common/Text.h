@@ -23,5 +23,8 @@
 // Lower case for A..Z only; every other character stays.
 [[nodiscard]] std::string ToLowerAscii(std::string_view text);
 
+// The text with a blank in the place of each character that breaks a line.
+[[nodiscard]] std::string InOneLine(std::string text);
+
 // The line break inside messages and text files.
 inline constexpr const char* kLineBreak = "\r\n";

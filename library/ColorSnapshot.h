@@ -12,7 +12,6 @@
 // Another thread may read it; to make and to destroy it is for the thread of the table.
 class ColorSnapshot {
 public:
-    ColorSnapshot() = default;
     // order: ids of all colors.  groupKeys: by the groups' numbers.
     ColorSnapshot(ColorStore store, std::vector<ColorId> order, std::vector<std::string> groupKeys)
         : store_(std::move(store)), order_(std::move(order)), groupKeys_(std::move(groupKeys)) {}

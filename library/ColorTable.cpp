@@ -167,13 +167,8 @@ void ColorTable::Insert(StoredColor&& color) {
 void ColorTable::BeginChange(ColorId id) {
     const StoredColor& color = std::as_const(store_).At(id);
     NoteChange(groups_[color.group]);
-    if (!journal_)
-        return;
-    StoredColor before;
-    before.name = CompactText(color.name.View());
-    before.SetAltName(color.AltName());
-    before.values = color.values;
-    journal_->ColorChanging(id, std::move(before));
+    if (journal_)
+        journal_->ColorChanging(id, StoredColor(color));
 }
 
 void ColorTable::Exchange(ColorId id, StoredColor& other) {

@@ -1,23 +1,13 @@
 #include "library/KeptFiles.h"
 
+#include "common/CalendarText.h"
 #include "common/FileNames.h"
 #include "common/Text.h"
 #include "library/WriteNewFile.h"
 
-#include <array>
-#include <cstdio>
-
 namespace {
 
 constexpr std::string_view kExtension = ".tnt";
-
-std::string TextOf(const CalendarTime& time) {
-    std::array<char, 80> text{};
-    static_cast<void>(std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d%02d%02d",
-                                    time.year, time.month, time.day, time.hour, time.minute,
-                                    time.second));
-    return text.data();
-}
 
 // number: from 1; the first has none in its name.
 std::string KeptPath(const std::string& path, const CalendarTime& time, int number) {
@@ -25,7 +15,7 @@ std::string KeptPath(const std::string& path, const CalendarTime& time, int numb
     const std::string stem = path.substr(0, path.size() - (isLibrary ? kExtension.size() : 0));
     const std::string extension = isLibrary ? path.substr(stem.size()) : std::string(kExtension);
     const std::string distinction = number == 1 ? "" : " " + std::to_string(number);
-    return PathWithSuffix(stem, " (kept " + TextOf(time) + distinction + ")" + extension);
+    return PathWithSuffix(stem, " (kept " + CalendarText(time, "") + distinction + ")" + extension);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "library/LibraryContent.h"
 
+#include "common/Text.h"
 #include "library/EncodedText.h"
 #include "library/LibraryFileFormat.h"
 
@@ -14,9 +15,7 @@ std::string Readable(std::string name, std::string_view separator) {
          place = name.find(separator, place))
         name.replace(place, separator.size(), "/");
     std::ranges::replace(name, '=', '-');
-    std::ranges::replace_if(
-        name, [](char letter) { return letter == '\r' || letter == '\n'; }, ' ');
-    return name;
+    return InOneLine(std::move(name));
 }
 
 // Writes the lines of one library.
@@ -36,7 +35,8 @@ public:
         text_.EndLine();
     }
     void AppendColor(const ColorView& view) {
-        if (spelling_ == NameSpelling::AsItIs || ComesBack(view.color))
+        if (spelling_ == NameSpelling::AsItIs ||
+            LibraryFileFormat::NamesComeBack(view.color, separator_))
             LibraryFileFormat::AppendColor(text_.Line(), view, separator_);
         else
             AppendReadable(view);
@@ -50,10 +50,6 @@ private:
             spelling_ == NameSpelling::AsItIs || LibraryFileFormat::NameComesBack(name);
         isRespelled_ = isRespelled_ || !asItIs;
         return asItIs ? name : Readable(name, separator_);
-    }
-    [[nodiscard]] bool ComesBack(const StoredColor& color) const {
-        return LibraryFileFormat::NameComesBack(color.name) &&
-               LibraryFileFormat::SecondNameComesBack(color.AltName(), separator_);
     }
     void AppendReadable(const ColorView& view) {
         isRespelled_ = true;

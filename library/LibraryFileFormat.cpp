@@ -250,6 +250,10 @@ bool SecondNameComesBack(std::string_view name, std::string_view separator) {
            std::ranges::none_of(name, [](char letter) { return letter == '\r' || letter == '\n'; });
 }
 
+bool NamesComeBack(const StoredColor& color, std::string_view separator) {
+    return NameComesBack(color.name) && SecondNameComesBack(color.AltName(), separator);
+}
+
 ColorValueArray ValuesOf(const Color& color, std::string_view separator) {
     if (color.hasPlainValues)
         return color.plainValues;

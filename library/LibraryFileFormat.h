@@ -75,6 +75,8 @@ enum class RecordKind { Library, Group, Color, Other };
 [[nodiscard]] bool NameComesBack(std::string_view name);
 [[nodiscard]] bool SecondNameComesBack(std::string_view name, std::string_view separator);
 
+[[nodiscard]] bool NamesComeBack(const StoredColor& color, std::string_view separator);
+
 // Throws RuntimeError TypeMismatch or Overflow for a value that is no 16-bit number.
 [[nodiscard]] ColorValueArray ValuesOf(const Color& color, std::string_view separator);
 

@@ -1,14 +1,13 @@
 #include "library/RecoveryFolder.h"
 
+#include "common/CalendarText.h"
 #include "common/FileNames.h"
 #include "common/Text.h"
 #include "library/WriteNewFile.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <chrono>
-#include <cstdio>
 #include <tuple>
 #include <utility>
 
@@ -18,14 +17,6 @@ constexpr std::string_view kLibraryExtension = ".tnt";
 constexpr std::string_view kInfoExtension = ".txt";
 constexpr std::string_view kCrashPrefix = "crash"; // what CrashReports keeps here
 constexpr std::size_t kLongestInfo = 100'000;      // bytes
-
-std::string TextOf(const CalendarTime& time) {
-    std::array<char, 80> text{};
-    static_cast<void>(std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d:%02d:%02d",
-                                    time.year, time.month, time.day, time.hour, time.minute,
-                                    time.second));
-    return text.data();
-}
 
 // 0: there is no number.
 int NumberIn(std::string_view text) {
@@ -44,12 +35,6 @@ std::optional<std::chrono::sys_days> DayOf(const std::string& time) {
         return {};
     return DayOf(NumberIn(time.substr(0, 4)), NumberIn(time.substr(5, 2)),
                  NumberIn(time.substr(8, 2)));
-}
-
-std::string InOneLine(std::string text) {
-    std::ranges::replace_if(
-        text, [](char letter) { return letter == '\r' || letter == '\n'; }, ' ');
-    return text;
 }
 
 // One line each, UTF-8.
@@ -90,7 +75,7 @@ std::string RecoveryFolder::InfoPath(const std::string& id) const {
 
 // The info first: without a library it is nothing, and a library without it would have no name.
 bool RecoveryFolder::Write(const std::string& id, RecoveryInfo info, std::string_view content) {
-    info.time = TextOf(ports_.clock.Now());
+    info.time = CalendarText(ports_.clock.Now());
     return ports_.folders.Make(path_) && Put(InfoPath(id), TextOf(info)) &&
            Put(LibraryPath(id), content);
 }

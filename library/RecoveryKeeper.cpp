@@ -8,12 +8,6 @@ namespace {
 
 constexpr int kRestAfterFailure = 10; // looks
 
-class Unheard : public WorkProgress {
-public:
-    void Starts(std::int32_t) override {}
-    void Reaches(std::int32_t) override {}
-};
-
 bool Contains(const std::vector<std::string>& texts, const std::string& text) {
     return std::ranges::find(texts, text) != texts.end();
 }
@@ -38,7 +32,6 @@ void RecoveryKeeper::Look() {
     } catch (...) { // no memory
         NoteFailure();
     }
-    colors_.reset();
 }
 
 void RecoveryKeeper::LookOrThrow() {
@@ -58,15 +51,15 @@ void RecoveryKeeper::KeepAll() {
         return;
     Finish();
     TakeUpChanges();
-    colors_.reset();
     BeginWork();
     Finish();
 }
 
 void RecoveryKeeper::KeepAfterCrash() {
+    Colors colors;
     for (const std::string& mainKey : parts_.library.Tree().MainNodes())
         if (parts_.folder.IsUsable() && IsToBeKept(mainKey)) {
-            Job job = JobFor(mainKey);
+            Job job = JobFor(mainKey, colors);
             job.id = parts_.folder.NewId();
             Carry(job);
         }
@@ -77,15 +70,16 @@ void RecoveryKeeper::KeepBeforeItLeaves(const std::string& mainKey) {
         return;
     if (!parts_.work.IsBusy())
         Finish();
-    TakeUp(mainKey);
-    colors_.reset();
+    Colors colors;
+    TakeUp(mainKey, colors);
     if (!parts_.work.IsBusy())
         BeginWork();
 }
 
 void RecoveryKeeper::TakeUpChanges() {
+    Colors colors;
     for (const std::string& mainKey : parts_.library.Tree().MainNodes())
-        TakeUp(mainKey);
+        TakeUp(mainKey, colors);
 }
 
 // A library that has lost its last group keeps what it had before: without groups it has no file.
@@ -97,7 +91,7 @@ bool RecoveryKeeper::IsToBeKept(const std::string& mainKey) const {
            (kept == kept_.end() || kept->second.state != states.StateOf(mainKey));
 }
 
-void RecoveryKeeper::TakeUp(const std::string& mainKey) {
+void RecoveryKeeper::TakeUp(const std::string& mainKey, Colors& colors) {
     Kept& kept = kept_[parts_.library.Tree().At(mainKey).id];
     if (parts_.files.States().IsAsSaved(mainKey))
         RemoveEntries(kept);
@@ -105,18 +99,18 @@ void RecoveryKeeper::TakeUp(const std::string& mainKey) {
         return;
     if (kept.id.empty())
         kept.id = parts_.folder.NewId();
-    waiting_.push_back(JobFor(mainKey));
+    waiting_.push_back(JobFor(mainKey, colors));
     waiting_.back().id = kept.id;
     kept.state = parts_.files.States().StateOf(mainKey);
 }
 
-RecoveryKeeper::Job RecoveryKeeper::JobFor(const std::string& mainKey) {
+RecoveryKeeper::Job RecoveryKeeper::JobFor(const std::string& mainKey, Colors& colors) {
     const LibraryNode& node = parts_.library.Tree().At(mainKey);
-    if (colors_ == nullptr)
-        colors_ = std::make_shared<const ColorSnapshot>(parts_.library.Colors().Snapshot());
+    if (colors == nullptr)
+        colors = std::make_shared<const ColorSnapshot>(parts_.library.Colors().Snapshot());
     Job job{.library = node.id,
             .info = {.libraryName = node.text, .filePath = node.file.value_or("")},
-            .content = LibraryContent::Of(parts_.library, mainKey, colors_),
+            .content = LibraryContent::Of(parts_.library, mainKey, colors),
             .saved = parts_.files.FingerprintOfFile(node.id)};
     job.info.colorCount = job.content.colorCount;
     return job;
@@ -139,7 +133,7 @@ void RecoveryKeeper::BeginWork() {
 // In the background.
 void RecoveryKeeper::Carry(Job& job) noexcept {
     try {
-        Unheard unheard;
+        UnheardProgress unheard;
         const LibraryContent::Composed composed =
             job.content.Compose(parts_.codePage, NameSpelling::Readable, unheard);
         const bool isWhole = !composed.isRespelled && composed.encoded.unstored.empty();

@@ -54,6 +54,9 @@ public:
     [[nodiscard]] std::vector<RecoveryEntry> Entries();
 
 private:
+    // As they are now, made when they are first needed and shared by all libraries of a look.
+    using Colors = std::shared_ptr<const ColorSnapshot>;
+
     struct Kept {
         std::optional<LibraryState> state{}; // that was taken up last
         std::string id{};                    // of its entry; empty: it has none
@@ -72,9 +75,9 @@ private:
     void LookOrThrow();
     void KeepBeforeItLeaves(const std::string& mainKey);
     void TakeUpChanges();
-    void TakeUp(const std::string& mainKey);
+    void TakeUp(const std::string& mainKey, Colors& colors);
     [[nodiscard]] bool IsToBeKept(const std::string& mainKey) const;
-    [[nodiscard]] Job JobFor(const std::string& mainKey);
+    [[nodiscard]] Job JobFor(const std::string& mainKey, Colors& colors);
     void BeginWork();
     void Finish();
     void FinishJob(Job job);
@@ -88,7 +91,6 @@ private:
 
     Parts parts_;
     std::map<LibraryId, Kept> kept_;
-    std::shared_ptr<const ColorSnapshot> colors_; // of this look, when it was needed
     std::vector<Job> waiting_;
     std::vector<Job> underWay_; // or done, and to be finished
     int looksToRest_ = 0;       // after a failure

@@ -2,15 +2,6 @@
 
 #include "library/LibraryFileFormat.h"
 
-namespace {
-
-bool ComesBack(const StoredColor& color, std::string_view separator) {
-    return LibraryFileFormat::NameComesBack(color.name) &&
-           LibraryFileFormat::SecondNameComesBack(color.AltName(), separator);
-}
-
-} // namespace
-
 SaveLosses NamesLostBySaving(const ColorLibrary& library, const std::string& mainKey,
                              std::string_view separator) {
     SaveLosses losses;
@@ -24,7 +15,7 @@ SaveLosses NamesLostBySaving(const ColorLibrary& library, const std::string& mai
     const ColorTable& colors = library.Colors();
     for (int index = 1; index <= colors.UpperBound(); ++index)
         if (const ColorView view = colors.ViewAt(index);
-            !ComesBack(view.color, separator) && view.KeyBeginsWith(mainKey))
+            !LibraryFileFormat::NamesComeBack(view.color, separator) && view.KeyBeginsWith(mainKey))
             losses.names.push_back(view.color.name);
     return losses;
 }

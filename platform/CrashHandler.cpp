@@ -64,26 +64,17 @@ struct CrashHandler::Parts {
 namespace {
 
 // The system calls its handlers without an argument of ours.
-struct Current {
-    const std::string* folder = nullptr;
-    const char* program = nullptr;
-    const wchar_t* pathStart = nullptr;
-    const std::function<void()>* save = nullptr;
-    DWORD thread = 0;
-    HANDLE crashed = nullptr;
-    std::atomic<bool>* isReporting = nullptr;
-};
-Current current;
+CrashHandler::Parts* current = nullptr;
 
 using Path = std::array<wchar_t, kLongestPath>;
 
 // Date, time and process number, so that names sort as the crashes came.
 Path PathOf(const SYSTEMTIME& now, const wchar_t* extension) {
     Path path{};
-    static_cast<void>(std::swprintf(path.data(), path.size(),
-                                    L"%ls%04u%02u%02u %02u%02u%02u %lu%ls", current.pathStart,
-                                    now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute,
-                                    now.wSecond, GetCurrentProcessId(), extension));
+    static_cast<void>(
+        std::swprintf(path.data(), path.size(), L"%ls%04u%02u%02u %02u%02u%02u %lu%ls",
+                      current->pathStart.c_str(), now.wYear, now.wMonth, now.wDay, now.wHour,
+                      now.wMinute, now.wSecond, GetCurrentProcessId(), extension));
     return path;
 }
 
@@ -101,8 +92,8 @@ bool WriteText(const SYSTEMTIME& now, const EXCEPTION_RECORD& record) {
     std::array<char, 300> text{};
     const int length = std::snprintf(
         text.data(), text.size(), "%.100s\r\nexception %08lX at %llX, program at %llX\r\n",
-        current.program, record.ExceptionCode, static_cast<unsigned long long>(address),
-        static_cast<unsigned long long>(base));
+        current->report.program.c_str(), record.ExceptionCode,
+        static_cast<unsigned long long>(address), static_cast<unsigned long long>(base));
     DWORD written = 0;
     return length > 0 && WriteFile(file.Get(), text.data(), static_cast<DWORD>(length), &written,
                                    nullptr) != FALSE;
@@ -121,16 +112,16 @@ void WriteDump(const SYSTEMTIME& now, EXCEPTION_POINTERS* pointers) {
 
 // The text first: it takes the least.  A second crash, in the report too, waits for the end.
 LONG WINAPI ReportCrash(EXCEPTION_POINTERS* pointers) {
-    if (current.isReporting->exchange(true))
+    if (current->isReporting.exchange(true))
         Sleep(INFINITE);
-    SetEvent(current.crashed);
+    SetEvent(current->crashed.Get());
     SYSTEMTIME now{};
     GetLocalTime(&now);
-    if (!WriteText(now, *pointers->ExceptionRecord) && Win32Folders().Make(*current.folder))
+    if (!WriteText(now, *pointers->ExceptionRecord) && Win32Folders().Make(current->report.folder))
         WriteText(now, *pointers->ExceptionRecord);
     WriteDump(now, pointers);
-    if (GetCurrentThreadId() == current.thread && *current.save)
-        (*current.save)();
+    if (GetCurrentThreadId() == current->thread && current->save)
+        current->save();
     TerminateProcess(GetCurrentProcess(), pointers->ExceptionRecord->ExceptionCode);
     return EXCEPTION_EXECUTE_HANDLER;
 }
@@ -146,13 +137,7 @@ CrashHandler::CrashHandler(Report report, std::function<void()> save) {
     if (report.folder.empty())
         return;
     parts_ = std::make_unique<Parts>(std::move(report), std::move(save));
-    current = {.folder = &parts_->report.folder,
-               .program = parts_->report.program.c_str(),
-               .pathStart = parts_->pathStart.c_str(),
-               .save = &parts_->save,
-               .thread = parts_->thread,
-               .crashed = parts_->crashed.Get(),
-               .isReporting = &parts_->isReporting};
+    current = parts_.get();
     ULONG stack = kStackForTheEnd;
     SetThreadStackGuarantee(&stack);
     parts_->filterBefore = SetUnhandledExceptionFilter(ReportCrash);

@@ -21,7 +21,8 @@ public:
     CrashHandler& operator=(const CrashHandler&) = delete;
     ~CrashHandler();
 
+    struct Parts; // for the functions that the system calls
+
 private:
-    struct Parts;
     std::unique_ptr<Parts> parts_;
 };

@@ -3,6 +3,7 @@
 #include "platform/PlatformPath.h"
 
 #include <windows.h>
+
 namespace {
 
 constexpr DWORD kPause = 5;       // milliseconds between two tries

@@ -100,12 +100,7 @@ public:
 
     // The bytes of every library as it would be saved.
     [[nodiscard]] std::vector<std::string> SavedBytes() const {
-        class Unheard : public WorkProgress {
-        public:
-            void Starts(std::int32_t) override {}
-            void Reaches(std::int32_t) override {}
-        };
-        Unheard unheard;
+        UnheardProgress unheard;
         std::vector<std::string> bytes;
         for (const std::string& main : library.Tree().MainNodes())
             bytes.push_back(filesOfLibrary.Compose(main, unheard).bytes);

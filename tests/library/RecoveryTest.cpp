@@ -28,12 +28,6 @@ constexpr const char* kContent = "\"D#Lib=0D:2\"\r\n\"G#g=0DG1\"\r\n"
                                  "0\xF7"
                                  "0\"\r\n";
 
-class Unheard : public WorkProgress {
-public:
-    void Starts(std::int32_t) override {}
-    void Reaches(std::int32_t) override {}
-};
-
 class RecoveryTest : public testing::Test {
 protected:
     RecoveryTest() {
@@ -80,7 +74,7 @@ protected:
     RecoveryFolder folder{{.files = files, .folders = files, .copies = copies, .clock = clock},
                           kFolder};
     std::unique_ptr<RecoveryKeeper> keeper;
-    Unheard progress;
+    UnheardProgress progress;
 };
 
 TEST_F(RecoveryTest, LibraryThatIsAsItsFileIsNotKept) {

@@ -45,12 +45,6 @@ std::string Library() {
     return text;
 }
 
-class Unheard : public WorkProgress {
-public:
-    void Starts(std::int32_t) override {}
-    void Reaches(std::int32_t) override {}
-};
-
 // The library's colors from top to bottom; nothing: it cannot be read to its end.
 std::optional<std::vector<std::string>> ColorsOf(const std::string& path) {
     Win32Files files;
@@ -58,7 +52,7 @@ std::optional<std::vector<std::string>> ColorsOf(const std::string& path) {
     const Win32CalendarClock clock;
     ColorLibrary library;
     LibraryFiles libraryFiles(library, {.files = files, .codePage = codePage, .clock = clock});
-    Unheard progress;
+    UnheardProgress progress;
     if (libraryFiles.Read(path, progress).result != ReadResult::Complete)
         return {};
     std::vector<std::string> names;
