@@ -2,12 +2,12 @@
 #include "platform/Utf16.h"
 #include "tests/e2e/RunningProgram.h"
 #include "tests/faults/DyingFiles.h"
+#include "tests/faults/PreparedPlaces.h"
 #include "tests/faults/RealLibrary.h"
 #include "tests/faults/SecondProcess.h"
 #include "tests/platform/PollUntil.h"
 #include "tests/platform/ScratchFolder.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <iostream>
@@ -28,17 +28,6 @@ constexpr const char* kOld = "\"D#Lib=0D:2\"\r\n\"G#g=0DG1\"\r\n"
                              "7\xF7"
                              "8\xF7"
                              "9\"\r\n";
-
-// A place that the surroundings of the test prepared; empty: they could not.
-std::string Prepared(const char* variable) {
-    const char* value = std::getenv(variable);
-    return value != nullptr ? value : "";
-}
-
-// Set where the surroundings must be able to prepare every place: nothing is left out silently.
-bool MustBePrepared() {
-    return !Prepared("TNT_ALL_FAULTS").empty();
-}
 
 class FileFaults : public testing::Test {
 protected:
@@ -224,8 +213,7 @@ TEST_F(FileFaults, PathsOf300CharactersWithUmlautsAndBeyondTheCodePageAreSavedAn
 }
 
 TEST_F(FileFaults, FullDiskKeepsTheOldFileAndSaysSo) {
-    const std::string disk = Prepared("TNT_SMALL_DISK");
-    ASSERT_FALSE(disk.empty() && MustBePrepared()) << "no small disk";
+    const std::string disk = PreparedPlace("TNT_SMALL_DISK");
     if (disk.empty())
         GTEST_SKIP() << "no small disk could be mounted here";
     const std::string path = disk + "\\a.tnt";
@@ -241,8 +229,7 @@ TEST_F(FileFaults, FullDiskKeepsTheOldFileAndSaysSo) {
 }
 
 TEST_F(FileFaults, LibraryInAReadOnlyFolderOpensAndItsSaveSaysThatItFailed) {
-    const std::string readOnly = Prepared("TNT_READ_ONLY_FOLDER"); // holds materials.tnt
-    ASSERT_FALSE(readOnly.empty() && MustBePrepared()) << "no folder that is read-only";
+    const std::string readOnly = PreparedPlace("TNT_READ_ONLY_FOLDER"); // holds materials.tnt
     if (readOnly.empty())
         GTEST_SKIP() << "no folder could be mounted read-only here";
     const std::string path = readOnly + "\\materials.tnt";

@@ -1,8 +1,11 @@
 #include "tests/faults/SecondProcess.h"
 
+#include "library/RecoveryFolder.h"
 #include "platform/KernelHandle.h"
 #include "platform/Utf16.h"
 #include "platform/Win32CalendarClock.h"
+#include "platform/Win32Folders.h"
+#include "tests/fakes/FakeRunningCopies.h"
 #include "tests/faults/DyingFiles.h"
 #include "tests/faults/RealLibrary.h"
 #include "tests/platform/PollUntil.h"
@@ -23,6 +26,15 @@ int SaveWithOneColorMore(Files& files, const std::string& path) {
     program.AddColors(1);
     program.Save();
     return program.prompts.messages.empty() ? 0 : 1;
+}
+
+int Keep(Files& files, const std::string& folder, const std::string& content) {
+    Win32Folders folders;
+    const Win32CalendarClock clock;
+    FakeRunningCopies copies;
+    RecoveryFolder recovery({.files = files, .folders = folders, .copies = copies, .clock = clock},
+                            folder);
+    return recovery.Write(recovery.NewId(), {.libraryName = "Lib"}, content) ? 0 : 1;
 }
 
 int SaveOnSignal(const std::string& path) {
@@ -81,6 +93,10 @@ std::optional<int> RunAsSecondProcess(int count, char** arguments) {
     if (task == "--save-and-die" && count == 4) {
         DyingFiles files(std::atoi(arguments[2]));
         return SaveWithOneColorMore(files, arguments[3]);
+    }
+    if (task == "--keep-and-die" && count == 5) {
+        DyingFiles files(std::atoi(arguments[2]));
+        return Keep(files, arguments[3], arguments[4]);
     }
     if (task == "--save" && count == 3) {
         DyingFiles files(kNever);

@@ -6,6 +6,8 @@
 // What the test program does when it is started once more, as a process of its own:
 //     --save-and-die STEP FILE   opens the library, adds a color and saves; killed at that step
 //     --save FILE                the same without an end before its time
+//     --keep-and-die STEP FOLDER CONTENT   keeps the content as a library in a recovery folder;
+//                                killed at that step
 //     --save-on-signal FILE      opens it, makes FILE.open, and saves when FILE.go is there
 //     --save-often NAME COUNT FILE   when FILE.go is there, saves as many contents "NAME number",
 //                                    and lists in FILE.NAME those that were written
