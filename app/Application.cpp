@@ -48,8 +48,8 @@ Application::Application(const Platform& platform, const Windows& windows, const
                                                       .panes = panes_.library,
                                                       .bars = windows.mainView.bars,
                                                       .texts = language_}),
-      recover_(PartsOfRecover(platform)), solidWorksCommands_(PartsOfSolidWorks(platform)),
-      mainWindow_(PartsOfMainWindow(platform)) {
+      recover_(PartsOfRecover(platform)), palettes_(PartsOfPalettes(platform)),
+      solidWorksCommands_(PartsOfSolidWorks(platform)), mainWindow_(PartsOfMainWindow(platform)) {
     library_.History().SetMostBytes(data.historyBytes);
 }
 
@@ -130,6 +130,19 @@ RecoverCommands::Parts Application::PartsOfRecover(const Platform& platform) {
             .registry = registry_};
 }
 
+PaletteCommands::Parts Application::PartsOfPalettes(const Platform& platform) {
+    return {.library = library_,
+            .panes = panes_.library,
+            .editor = panes_.editor,
+            .bars = windows_.mainView.bars,
+            .frame = windows_.mainView.frame,
+            .files = platform.files,
+            .codePage = platform.codePage,
+            .settings = settings_,
+            .prompts = platform.prompts,
+            .texts = language_};
+}
+
 SolidWorksCommands::Parts Application::PartsOfSolidWorks(const Platform& platform) {
     return {.tools = solidWorks_,
             .library = library_,
@@ -150,6 +163,7 @@ MainCommands Application::Commands() {
             .editing = editing_,
             .history = historyCommands_,
             .recover = recover_,
+            .palettes = palettes_,
             .panes = panes_.library,
             .editor = panes_.editor,
             .view = viewCommands_,

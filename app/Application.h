@@ -122,6 +122,7 @@ private:
     [[nodiscard]] FileCommands::Parts PartsOfFileCommands(const Platform& platform,
                                                           const Data& data);
     [[nodiscard]] ColorDrag::Parts PartsOfDrag(const Platform& platform);
+    [[nodiscard]] PaletteCommands::Parts PartsOfPalettes(const Platform& platform);
     [[nodiscard]] RecoverCommands::Parts PartsOfRecover(const Platform& platform);
     [[nodiscard]] SolidWorksCommands::Parts PartsOfSolidWorks(const Platform& platform);
     [[nodiscard]] MainCommands Commands();
@@ -157,6 +158,7 @@ private:
     ColorDrag drag_;
     HistoryCommands historyCommands_;
     RecoverCommands recover_;
+    PaletteCommands palettes_;
     SolidWorksCommands solidWorksCommands_;
     MainWindow mainWindow_;
 };

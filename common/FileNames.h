@@ -37,6 +37,10 @@
     return path.substr(0, path.rfind('\\') + 1);
 }
 
+// A text as the name of a file without an ending: "-" for each character that may not be in one,
+// and for each dot; never empty.
+[[nodiscard]] std::string AsFileName(std::string text);
+
 // The path with a suffix behind its name.  A name without room for it loses as much of its end; it
 // is never cut inside a character.
 [[nodiscard]] std::string PathWithSuffix(const std::string& path, std::string_view suffix);

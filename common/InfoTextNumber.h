@@ -70,6 +70,41 @@ inline constexpr std::int32_t AskForget = 187;
 inline constexpr std::int32_t NotKept = 188;
 inline constexpr std::int32_t ProgramCrashed = 189; // %1: path of the report
 
+// Foreign palettes.  Numbers of what is told follow with a colon.
+inline constexpr std::int32_t ImportPalettes = 210;
+inline constexpr std::int32_t Palettes = 211;
+inline constexpr std::int32_t ImportedGroup = 212; // of colors without one
+inline constexpr std::int32_t ImportedColors = 213;
+inline constexpr std::int32_t NotAllImported = 214;
+inline constexpr std::int32_t PaletteNotOpened = 215;
+inline constexpr std::int32_t NoPalette = 216;
+inline constexpr std::int32_t EmptyPalette = 217;
+inline constexpr std::int32_t PaletteFirst = 218; // place of the first one
+inline constexpr std::int32_t PaletteUnreadable = 219;
+inline constexpr std::int32_t PaletteOutOfRange = 220;
+inline constexpr std::int32_t PaletteUnknownModel = 221;
+inline constexpr std::int32_t PaletteNameBroken = 222;
+inline constexpr std::int32_t PaletteNameCut = 223;
+inline constexpr std::int32_t PaletteColumn = 224;
+inline constexpr std::int32_t PaletteEnds = 225;
+inline constexpr std::int32_t PaletteCount = 226;
+inline constexpr std::int32_t PaletteRest = 227;
+inline constexpr std::int32_t PaletteLimit = 228;
+inline constexpr std::int32_t ExportPalette = 230;
+inline constexpr std::int32_t GimpPalette = 231;
+inline constexpr std::int32_t SwatchExchange = 232;
+inline constexpr std::int32_t AdobeColor = 233;
+inline constexpr std::int32_t ColorTable = 234;
+inline constexpr std::int32_t EndingIsNoFormat = 235;
+inline constexpr std::int32_t NotHeldByFormat = 236;
+inline constexpr std::int32_t LostColors = 237;
+inline constexpr std::int32_t LostMaterials = 238;
+inline constexpr std::int32_t LostGroups = 239;
+inline constexpr std::int32_t LostNames = 240;
+inline constexpr std::int32_t LostPaletteName = 241;
+inline constexpr std::int32_t ChangedColors = 242;
+inline constexpr std::int32_t AskExportAllTheSame = 243;
+
 // Of a failed automation call, where the system has no words; ErrorText.h has the built-in ones.
 inline constexpr std::int32_t ServerRejectsCall = 163;
 inline constexpr std::int32_t ObjectIsGone = 164;

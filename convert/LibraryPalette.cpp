@@ -1,12 +1,16 @@
 #include "convert/LibraryPalette.h"
 
+#include "common/RuntimeError.h"
+
 #include <algorithm>
+#include <array>
+#include <cstdio>
 #include <tuple>
 #include <vector>
 
 namespace {
 
-constexpr std::size_t kFirstMaterial = kColorValueCount - std::tuple_size_v<MaterialValues>;
+constexpr std::size_t kFirstMaterial = kColorValueCount - std::tuple_size_v<ColorMaterial>;
 
 // Whether a value had to be brought into its range.
 bool SetValues(PaletteEntry& entry, const ColorValueArray& values) {
@@ -19,22 +23,28 @@ bool SetValues(PaletteEntry& entry, const ColorValueArray& values) {
     return isChanged;
 }
 
-void AddGroup(LibraryAsPalette& made, const ColorLibrary& library, const std::string& groupKey) {
-    Palette& palette = made.palette;
-    const auto group = static_cast<PaletteGroup>(palette.groups.size());
-    palette.groups.push_back(library.Tree().At(groupKey).text);
+void AddColors(LibraryAsPalette& made, const ColorLibrary& library, const std::string& groupKey,
+               PaletteGroup group) {
     for (const int index : library.GetColorIndexInGroup(groupKey)) {
         const StoredColor& color = library.Colors().ViewAt(index).color;
-        PaletteEntry& entry = palette.entries.emplace_back();
+        PaletteEntry& entry = made.palette.entries.emplace_back();
         entry.name = color.name.View();
         entry.group = group;
         made.changedColors += SetValues(entry, color.values) ? 1 : 0;
     }
 }
 
-ColorRecord ColorOf(const PaletteEntry& entry, const MaterialValues& material) {
+std::string HexText(const RedGreenBlue& color) {
+    std::array<char, 32> text{};
+    static_cast<void>(
+        std::snprintf(text.data(), text.size(), "#%02X%02X%02X", static_cast<unsigned>(color.red),
+                      static_cast<unsigned>(color.green), static_cast<unsigned>(color.blue)));
+    return text.data();
+}
+
+ColorRecord ColorOf(const PaletteEntry& entry, const ColorMaterial& material) {
     ColorRecord color;
-    color.name = entry.name;
+    color.name = entry.name.empty() ? HexText(entry.Color()) : entry.name;
     color.values = entry.values;
     for (std::size_t value = kFirstMaterial; value < kColorValueCount; ++value)
         if (!entry.Has(value))
@@ -44,7 +54,7 @@ ColorRecord ColorOf(const PaletteEntry& entry, const MaterialValues& material) {
 
 // Those without a group come first.
 std::vector<std::vector<ColorRecord>> ColorsByGroup(const Palette& palette,
-                                                    const MaterialValues& material) {
+                                                    const ColorMaterial& material) {
     std::vector<std::vector<ColorRecord>> colors(palette.groups.size() + 1);
     for (const PaletteEntry& entry : palette.entries)
         colors[entry.group == kNoGroup ? 0 : entry.group + 1].push_back(ColorOf(entry, material));
@@ -56,18 +66,51 @@ std::vector<std::vector<ColorRecord>> ColorsByGroup(const Palette& palette,
 LibraryAsPalette PaletteOfLibrary(const ColorLibrary& library, const std::string& mainKey) {
     LibraryAsPalette made;
     made.palette.name = library.Tree().At(mainKey).text;
-    for (const std::string& groupKey : library.GetGroupInMainnode(mainKey))
-        AddGroup(made, library, groupKey);
+    for (const std::string& groupKey : library.GetGroupInMainnode(mainKey)) {
+        made.palette.groups.push_back(library.Tree().At(groupKey).text);
+        AddColors(made, library, groupKey,
+                  static_cast<PaletteGroup>(made.palette.groups.size() - 1));
+    }
     return made;
+}
+
+LibraryAsPalette PaletteOfGroup(const ColorLibrary& library, const std::string& groupKey) {
+    LibraryAsPalette made;
+    made.palette.name = library.Tree().At(groupKey).text;
+    AddColors(made, library, groupKey, kNoGroup);
+    return made;
+}
+
+bool LacksMaterial(const Palette& palette) {
+    return std::ranges::any_of(palette.entries, [](const PaletteEntry& entry) {
+        for (std::size_t value = kFirstMaterial; value < kColorValueCount; ++value)
+            if (!entry.Has(value))
+                return true;
+        return false;
+    });
+}
+
+std::string AddPaletteGroups(ColorLibrary& library, const std::string& mainKey,
+                             const Palette& palette, const NewGroups& added) {
+    const std::vector<std::vector<ColorRecord>> colors = ColorsByGroup(palette, added.material);
+    std::vector<std::string> names = palette.groups;
+    names.insert(names.begin(), added.firstGroup);
+    const std::size_t first = colors.front().empty() && names.size() > 1 ? 1 : 0;
+    if (!library.AreNextGroupNumbersFree(mainKey, names.size() - first))
+        throw RuntimeError(ErrorNumber::DuplicateKey, ErrorTexts::GroupNumberTaken);
+    std::string firstKey;
+    for (std::size_t group = first; group < names.size(); ++group) {
+        const std::string key = library.NewGroupNode(mainKey, names[group]);
+        library.AppendColors(key, colors[group]);
+        if (group == first)
+            firstKey = key;
+    }
+    return firstKey;
 }
 
 std::string AddPalette(ColorLibrary& library, const Palette& palette, const NewLibrary& added) {
     std::string mainKey = library.NewMainNode(added.name);
-    const std::vector<std::vector<ColorRecord>> colors = ColorsByGroup(palette, added.material);
-    if (!colors.front().empty() || palette.groups.empty())
-        library.AppendColors(library.NewGroupNode(mainKey, added.firstGroup), colors.front());
-    for (std::size_t group = 0; group < palette.groups.size(); ++group)
-        library.AppendColors(library.NewGroupNode(mainKey, palette.groups[group]),
-                             colors[group + 1]);
+    AddPaletteGroups(library, mainKey, palette,
+                     {.firstGroup = added.firstGroup, .material = added.material});
     return mainKey;
 }

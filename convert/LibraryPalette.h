@@ -12,10 +12,10 @@
 // Between a library and a foreign palette.
 
 // The six values behind red, green and blue, 0..100, in their order.
-using MaterialValues = std::array<std::int16_t, 6>;
+using ColorMaterial = std::array<std::int16_t, 6>;
 
 // What a color gets that came without material values.
-inline constexpr MaterialValues kUsualMaterial = {100, 100, 100, 30, 0, 0};
+inline constexpr ColorMaterial kUsualMaterial = {100, 100, 100, 30, 0, 0};
 
 struct LibraryAsPalette {
     Palette palette;
@@ -27,13 +27,32 @@ struct LibraryAsPalette {
 [[nodiscard]] LibraryAsPalette PaletteOfLibrary(const ColorLibrary& library,
                                                 const std::string& mainKey);
 
-struct NewLibrary {
-    std::string name;
+// A group alone, as a palette of its name without groups; the same otherwise.
+[[nodiscard]] LibraryAsPalette PaletteOfGroup(const ColorLibrary& library,
+                                              const std::string& groupKey);
+
+// Whether a color of the palette comes without some of its material values.
+[[nodiscard]] bool LacksMaterial(const Palette& palette);
+
+struct NewGroups {
     std::string firstGroup; // of colors without a group, and when there is no group at all
-    MaterialValues material = kUsualMaterial;
+    ColorMaterial material = kUsualMaterial;
 };
 
-// Adds a palette as a library without a file, which is selected then; gives its key.  Colors
-// without a group are in a group of their own, before the others; each value that the palette did
-// not have is that of the material.  Names stay as they are, whatever a library file makes of them.
+// Adds a palette's groups to a library, behind its own; gives the key of the first one.  Colors
+// without a group are in a group of their own, before the others.  Each value that the palette did
+// not have is that of the material, and a color without a name is called "#RRGGBB".  Other names
+// stay as they are, whatever a library file makes of them.  Throws RuntimeError DuplicateKey when
+// one of the groups' numbers is taken; nothing has changed then.
+std::string AddPaletteGroups(ColorLibrary& library, const std::string& mainKey,
+                             const Palette& palette, const NewGroups& added);
+
+struct NewLibrary {
+    std::string name;
+    std::string firstGroup{};
+    ColorMaterial material = kUsualMaterial;
+};
+
+// Adds a palette as a library without a file, which is selected then; gives its key.  For the rest
+// as above.
 std::string AddPalette(ColorLibrary& library, const Palette& palette, const NewLibrary& added);

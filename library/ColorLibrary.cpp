@@ -15,8 +15,12 @@ std::string ColorLibrary::NextGroupKey(const std::string& mainKey) const {
     return LibraryKeys::OfGroup(mainKey, tree_.At(mainKey).children.size() + 1);
 }
 
-bool ColorLibrary::IsNextGroupNumberFree(const std::string& mainKey) const {
-    return tree_.Find(NextGroupKey(mainKey)) == nullptr;
+bool ColorLibrary::AreNextGroupNumbersFree(const std::string& mainKey, std::size_t count) const {
+    const std::size_t last = tree_.At(mainKey).children.size();
+    for (std::size_t number = last + 1; number <= last + count; ++number)
+        if (tree_.Find(LibraryKeys::OfGroup(mainKey, number)) != nullptr)
+            return false;
+    return true;
 }
 
 void ColorLibrary::RemoveMainNode(const std::string& mainKey) {

@@ -38,7 +38,11 @@ public:
     // siblings; a number that is taken already makes the tree refuse the key: RuntimeError
     // DuplicateKey, nothing changed.
     std::string NewGroupNode(const std::string& mainKey, const std::string& name);
-    [[nodiscard]] bool IsNextGroupNumberFree(const std::string& mainKey) const;
+    [[nodiscard]] bool IsNextGroupNumberFree(const std::string& mainKey) const {
+        return AreNextGroupNumbersFree(mainKey, 1);
+    }
+    // Of so many groups that are made one after the other.
+    [[nodiscard]] bool AreNextGroupNumbersFree(const std::string& mainKey, std::size_t count) const;
 
     // Adds a color to a group, with the lowest number that is free there; gives its key.
     std::string NewColorNode(const std::string& groupKey, const std::string& name,

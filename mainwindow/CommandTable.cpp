@@ -97,6 +97,14 @@ constexpr std::array kMenuRows = {
     Separator(IDM_mnuFileHR2, "mnuFileHR2"),
     Reporting(IDM_mnuFileRecover, "mnuFileRecover", "Wiederherstellen ...",
               [](Commands c) { c.recover.mnuFileRecover_Click(); }),
+    Separator(IDM_mnuFileHR3, "mnuFileHR3"),
+    Step(Reporting(IDM_mnuFileImport, "mnuFileImport", "Importieren ...",
+                   [](Commands c) { c.palettes.mnuFileImport_Click(); })),
+    Step(Reporting(IDM_mnuFileImportGroups, "mnuFileImportGroups",
+                   "In die Bibliothek importieren ...",
+                   [](Commands c) { c.palettes.mnuFileImportGroups_Click(); })),
+    Reporting(IDM_mnuFileExport, "mnuFileExport", "Exportieren ...",
+              [](Commands c) { c.palettes.mnuFileExport_Click(); }),
 
     Title(IDM_mnuEdit, "mnuEdit", "Bearbeiten"),
     Reporting(

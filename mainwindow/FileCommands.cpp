@@ -1,11 +1,9 @@
 #include "mainwindow/FileCommands.h"
 
 #include "common/FileNames.h"
+#include "common/FirstError.h"
 #include "common/InfoTextNumber.h"
-#include "common/RuntimeError.h"
 #include "common/Text.h"
-
-#include <exception>
 
 namespace {
 
@@ -38,20 +36,14 @@ void FileCommands::mnuFileOpen_Click() {
 }
 
 void FileCommands::OpenDropped(const std::vector<std::string>& paths) {
-    std::exception_ptr firstError;
-    for (const std::string& path : paths) {
-        if (!HasExtension(path, kLibraryExtension))
-            continue;
-        try {
-            if (OpenLibrary(path) && paths.size() == 1)
-                AskAutoload(path);
-        } catch (const RuntimeError&) {
-            if (!firstError)
-                firstError = std::current_exception();
-        }
-    }
-    if (firstError)
-        std::rethrow_exception(firstError);
+    FirstError error;
+    for (const std::string& path : paths)
+        if (HasExtension(path, kLibraryExtension))
+            error.Watch([&] {
+                if (OpenLibrary(path) && paths.size() == 1)
+                    AskAutoload(path);
+            });
+    error.Rethrow();
 }
 
 bool FileCommands::OpenLibrary(const std::string& path) {

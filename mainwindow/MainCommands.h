@@ -7,6 +7,7 @@
 #include "mainwindow/HistoryCommands.h"
 #include "mainwindow/LibraryPanes.h"
 #include "mainwindow/NewNodes.h"
+#include "mainwindow/PaletteCommands.h"
 #include "mainwindow/RecoverCommands.h"
 #include "mainwindow/SolidWorksCommands.h"
 #include "mainwindow/ViewCommands.h"
@@ -24,6 +25,7 @@ struct MainCommands {
     EditingCommands& editing;
     HistoryCommands& history;
     RecoverCommands& recover;
+    PaletteCommands& palettes;
     LibraryPanes& panes;
     ColorEditor& editor;
     ViewCommands& view;

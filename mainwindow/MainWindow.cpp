@@ -1,28 +1,14 @@
 #include "mainwindow/MainWindow.h"
 
+#include "common/FirstError.h"
 #include "common/InfoTextNumber.h"
 #include "common/ProgramNames.h"
 #include "common/ValueRestorer.h"
 #include "mainwindow/HistoryStep.h"
+#include "mainwindow/WaitingShown.h"
 #include "resources/controls.h"
 
 #include <optional>
-
-namespace {
-
-// The hour-glass, for as long as this lives.
-class WaitingShown {
-public:
-    explicit WaitingShown(MainFrame& frame) : frame_(frame) { frame_.SetWaiting(true); }
-    ~WaitingShown() { frame_.SetWaiting(false); }
-    WaitingShown(const WaitingShown&) = delete;
-    WaitingShown& operator=(const WaitingShown&) = delete;
-
-private:
-    MainFrame& frame_;
-};
-
-} // namespace
 
 MainWindow::MainWindow(const Parts& parts)
     : parts_(parts), position_(parts.registry),
@@ -135,7 +121,15 @@ void MainWindow::FilesDropped(const std::vector<std::string>& paths) {
         return;
     parts_.panes.library.FinishLabelEdit();
     ForgetStatus();
-    parts_.commands.file.OpenDropped(paths);
+    FirstError error;
+    error.Watch([&] { parts_.commands.file.OpenDropped(paths); });
+    error.Watch([&] {
+        const HistoryStep step(parts_.commands.library.History(), parts_.panes.library,
+                               StepName{.command = IDM_mnuFileImport});
+        parts_.commands.palettes.ImportDropped(paths);
+    });
+    parts_.commands.history.ShowEntries();
+    error.Rethrow();
 }
 
 // The position is stored only here: Quit in the file menu does not pass, on purpose.

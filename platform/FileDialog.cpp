@@ -1,5 +1,6 @@
 #include "platform/FileDialog.h"
 
+#include "platform/ChosenFiles.h"
 #include "platform/CommonDialogError.h"
 #include "platform/FileDialogFilter.h"
 #include "platform/Utf16.h"
@@ -10,7 +11,8 @@
 
 namespace {
 
-constexpr std::size_t kLongestPath = 0x8000; // what the platform's paths can have
+constexpr std::size_t kLongestPath = 0x8000;         // what the platform's paths can have
+constexpr std::size_t kLongestOfSeveral = 0x10'0000; // a folder and names of several thousand files
 
 // The dialog walks the process's current directory along with the user; a file name without a
 // folder would then mean another file.  (OFN_NOCHANGEDIR does not hold for the open dialog.)
@@ -32,9 +34,9 @@ using DialogFunction = BOOL(WINAPI*)(OPENFILENAMEW*);
 
 class FileDialog {
 public:
-    FileDialog(HWND owner, const FileDialogRequest& request)
+    FileDialog(HWND owner, const FileDialogRequest& request, std::size_t room = kLongestPath)
         : title_(ToUtf16(request.title)), filter_(PlatformFilter(request.filter)),
-          path_(kLongestPath, L'\0') {
+          path_(room, L'\0') {
         const std::wstring preset = ToUtf16(request.fileName);
         if (preset.size() < path_.size())
             std::copy(preset.begin(), preset.end(), path_.begin());
@@ -53,7 +55,8 @@ public:
         dialog_.lpstrDefExt = extension_.empty() ? nullptr : extension_.c_str();
     }
 
-    [[nodiscard]] std::optional<std::string> Show(DialogFunction function) {
+    // Gives what the dialog has left in its buffer.
+    [[nodiscard]] std::optional<std::wstring> Show(DialogFunction function) {
         const CurrentDirectoryKeeper keeper;
         bool chosen = function(&dialog_) != FALSE;
         if (!chosen && CommDlgExtendedError() == FNERR_INVALIDFILENAME) {
@@ -61,7 +64,7 @@ public:
             chosen = function(&dialog_) != FALSE;
         }
         if (chosen)
-            return ToUtf8(path_.c_str());
+            return path_;
         ThrowUnlessCancelled();
         return std::nullopt;
     }
@@ -74,14 +77,25 @@ private:
     OPENFILENAMEW dialog_{};
 };
 
+std::optional<std::string> OnePath(const std::optional<std::wstring>& buffer) {
+    return buffer ? std::optional(ToUtf8(buffer->c_str())) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<std::string> ShowOpenDialog(HWND owner, const FileDialogRequest& request) {
-    return FileDialog(owner, request).Show(GetOpenFileNameW);
+    return OnePath(FileDialog(owner, request).Show(GetOpenFileNameW));
+}
+
+std::vector<std::string> ShowOpenDialogForSeveral(HWND owner, const FileDialogRequest& request) {
+    FileDialogRequest several = request;
+    several.flags |= OFN_ALLOWMULTISELECT;
+    return ChosenFiles(
+        FileDialog(owner, several, kLongestOfSeveral).Show(GetOpenFileNameW).value_or(L""));
 }
 
 std::optional<std::string> ShowSaveDialog(HWND owner, const FileDialogRequest& request) {
     FileDialog dialog(owner, request);
     dialog.SetDefaultExtension(DefaultExtension(request.filter));
-    return dialog.Show(GetSaveFileNameW);
+    return OnePath(dialog.Show(GetSaveFileNameW));
 }

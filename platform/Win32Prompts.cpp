@@ -68,6 +68,11 @@ std::optional<std::string> Win32Prompts::AskOpenFile(const FileDialogRequest& re
     return ShowOpenDialog(owner.Handle(), request);
 }
 
+std::vector<std::string> Win32Prompts::AskOpenFiles(const FileDialogRequest& request) {
+    const BoxOwner owner(mainWindow_());
+    return ShowOpenDialogForSeveral(owner.Handle(), request);
+}
+
 std::optional<std::string> Win32Prompts::AskSaveFile(const FileDialogRequest& request) {
     const BoxOwner owner(mainWindow_());
     return ShowSaveDialog(owner.Handle(), request);

@@ -17,6 +17,7 @@ public:
     std::string AskText(const std::string& prompt, const std::string& title,
                         const std::string& preset) override;
     std::optional<std::string> AskOpenFile(const FileDialogRequest& request) override;
+    std::vector<std::string> AskOpenFiles(const FileDialogRequest& request) override;
     std::optional<std::string> AskSaveFile(const FileDialogRequest& request) override;
     std::optional<ColorNumber> AskColor(const std::string& title, ColorNumber initial) override;
 

@@ -133,6 +133,10 @@
 #define IDM_mnuEditRedo 2070
 #define IDM_mnuFileHR2 2071
 #define IDM_mnuFileRecover 2072
+#define IDM_mnuFileHR3 2073
+#define IDM_mnuFileImport 2074
+#define IDM_mnuFileImportGroups 2075
+#define IDM_mnuFileExport 2076
 
 // Icons and pictures
 #define IDI_tnt4swx 1

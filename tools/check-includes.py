@@ -37,7 +37,7 @@ ROOMS_BELOW = {
     "support/settings": ("common", "support/language", "resources"),
     "support/windows": ("common", "platform", "support/language", "support/settings",
                         "resources"),
-    "mainwindow": ("common", "library", "solidworks", "support/language", "support/settings",
+    "mainwindow": ("common", "library", "palettes", "convert", "solidworks", "support/language", "support/settings",
                    "support/windows", "resources"),
     "mainwindow/panes": ("common", "platform", "library", "mainwindow", "resources"),
     "app": ("common", "platform", "library", "solidworks", "support/language", "support/settings",

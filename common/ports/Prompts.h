@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 // Message-box styles: buttons, icon and default button added up, as the platform counts them.
 namespace MessageStyle {
@@ -46,6 +47,8 @@ public:
 
     // The full path chosen by the user; nothing when the user cancels.
     virtual std::optional<std::string> AskOpenFile(const FileDialogRequest& request) = 0;
+    // Any number of files; none when the user cancels.
+    virtual std::vector<std::string> AskOpenFiles(const FileDialogRequest& request) = 0;
     virtual std::optional<std::string> AskSaveFile(const FileDialogRequest& request) = 0;
 
     // The color chosen by the user in the fully opened color dialog; nothing when the user

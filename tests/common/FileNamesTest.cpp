@@ -17,4 +17,16 @@ TEST(NumberOfFile, IsZeroWithoutOne) {
         EXPECT_EQ(NumberOfFile(name), 0) << name;
 }
 
+TEST(AsFileName, HasNoCharacterThatMayNotBeInOneAndNoDot) {
+    EXPECT_EQ(AsFileName("RAL 1.5: \"matt\"/<glanz>|?*\\"), "RAL 1-5- -matt---glanz-----");
+    EXPECT_EQ(AsFileName("a\r\nb"), "a--b");
+    EXPECT_EQ(AsFileName("Grün 色"), "Grün 色");
+    EXPECT_EQ(AsFileName("end  "), "end");
+}
+
+TEST(AsFileName, IsNeverEmpty) {
+    EXPECT_EQ(AsFileName(""), "-");
+    EXPECT_EQ(AsFileName("  "), "-");
+}
+
 } // namespace

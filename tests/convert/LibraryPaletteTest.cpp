@@ -85,6 +85,54 @@ TEST_F(LibraryPaletteTest, ValuesBeyondTheirRangeAreBroughtIntoItAndCounted) {
               (ColorValueArray{0, 255, 255, 100, 100, 0, 0, 100, 7}));
 }
 
+TEST_F(LibraryPaletteTest, ColorWithoutANameIsCalledByItsNumbers) {
+    AddPalette(library, {"", {}, {MadeEntry("", {1, 171, 255})}}, added);
+    EXPECT_EQ(Color(1).name, "#01ABFF");
+}
+
+TEST_F(LibraryPaletteTest, GroupsComeBehindThoseOfALibrary) {
+    AddPalette(library, {"", {}, {MadeEntry("a", {1, 2, 3})}}, added);
+    const Palette palette{"", {"g", "h"}, {MadeEntry("b", {1, 1, 1}, 1)}};
+    EXPECT_EQ(AddPaletteGroups(library, "0D", palette, {.firstGroup = "unused"}), "0DG2");
+    EXPECT_EQ(library.GetGroupInMainnode("0D"), (std::vector<std::string>{"0DG1", "0DG2", "0DG3"}));
+    EXPECT_EQ(GroupName("0DG3"), "h");
+    EXPECT_EQ(library.GetColorCountInGroup("0DG3"), 1);
+}
+
+TEST_F(LibraryPaletteTest, GroupsAreRefusedAsAWholeWhenOneOfTheirNumbersIsTaken) {
+    const std::string key = library.NewMainNode("L");
+    for (const char* name : {"1", "2", "3"})
+        library.NewGroupNode(key, name);
+    library.Tree().Remove("0DG1");
+    library.Tree().Remove("0DG2"); // 3 is left, and would come second
+    EXPECT_TRUE(library.AreNextGroupNumbersFree("0D", 1));
+    EXPECT_THROW(AddPaletteGroups(library, "0D", {"", {"g", "h"}, {}}, {}), RuntimeError);
+    EXPECT_EQ(library.GetGroupInMainnode("0D"), std::vector<std::string>{"0DG3"});
+}
+
+TEST_F(LibraryPaletteTest, GroupAloneIsAPaletteOfItsNameWithoutGroups) {
+    const Palette palette{
+        "", {"g", "h"}, {MadeEntry("a", {1, 2, 3}, 0), MadeEntry("b", {4, 5, 6}, 1)}};
+    AddPalette(library, palette, added);
+    const Palette group = PaletteOfGroup(library, "0DG2").palette;
+    EXPECT_EQ(group.name, "h");
+    EXPECT_TRUE(group.groups.empty());
+    ASSERT_EQ(group.entries.size(), 1U);
+    EXPECT_EQ(group.entries[0].name, "b");
+    EXPECT_EQ(group.entries[0].group, kNoGroup);
+    EXPECT_THROW(static_cast<void>(PaletteOfGroup(library, "7DG1")), RuntimeError);
+}
+
+TEST_F(LibraryPaletteTest, MaterialIsLackedByAColorWithoutOneOfItsSixValues) {
+    Palette palette{"", {}, {MadeEntry("a", {1, 2, 3})}};
+    EXPECT_FALSE(LacksMaterial({}));
+    for (std::size_t value = 3; value < kColorValueCount; ++value) {
+        EXPECT_TRUE(LacksMaterial(palette)) << value;
+        palette.entries[0].Set(value, 1);
+    }
+    EXPECT_FALSE(LacksMaterial(palette));
+}
+
 TEST_F(LibraryPaletteTest, LibraryThatIsNotThereIsAnError) {
     EXPECT_THROW(static_cast<void>(PaletteOfLibrary(library, "7D")), RuntimeError);
 }

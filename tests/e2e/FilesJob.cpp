@@ -37,6 +37,8 @@ void FilesJob::Work() {
     Report().Step("names that the dialogs refuse", [this] { RefusedNames(); });
     Report().Step("save as over an existing file", [this] { SaveAsOverAnExistingFile(); });
     Report().Step("a new library is saved as", [this] { NewLibraryIsSavedAs(); });
+    Report().Step("palettes are imported and exported",
+                  [this] { PalettesAreImportedAndExported(); });
     Report().Step("close a group and every library", [this] { CloseGroupAndLibraries(); });
     Report().Step("load a library at every start", [this] { LoadAtEveryStart(); });
     Report().Step("start with the library", [this] { StartWithTheLibrary(); });

@@ -23,6 +23,7 @@ private:
     void SaveAsOverAnExistingFile();
     void RefusedNames();
     void NewLibraryIsSavedAs();
+    void PalettesAreImportedAndExported();
     void CloseGroupAndLibraries();
     void LoadAtEveryStart();
     void StartWithTheLibrary();

@@ -99,3 +99,35 @@ void FilesJob::NewLibraryIsSavedAs() {
                                     "6\"\r\n"));
     Report().CheckEqual("name of the library", Main().Tree().Roots().back(), std::string("Mine"));
 }
+
+void FilesJob::PalettesAreImportedAndExported() {
+    const RemoteWindow& owner = Main().Window();
+    WriteFile("web.gpl", "GIMP Palette\nName: Web\n255 204 77\tSun\n0 0 255\tSky\n");
+    ChooseFile("mnuFileImport");
+    const RemoteDialogs::FileDialog dialog = RemoteDialogs::ReadFileDialog(owner);
+    Report().CheckEqual("title", dialog.title, std::string("Import palettes"));
+    Report().CheckEqual("kinds of files", dialog.kinds, {"Palettes", "All files"});
+    RemoteDialogs::EnterFileName(owner, File("web.gpl"));
+    CheckStatus("Okay web.gpl  -  Colors imported: 2");
+    CheckRoots({"First", "Second", "Second", "Mine", "Web"});
+    Report().CheckEqual("selected node", Main().Tree().SelectedPath(), std::string("4/Web/Colors"));
+    ChooseFile("mnuFileExport");
+    Report().CheckEqual("title", RemoteDialogs::ReadFileDialog(owner).title,
+                        std::string("Export as palette"));
+    RemoteDialogs::EnterFileName(owner, File("Colors.csv"));
+    CheckStatus("Okay Colors.csv");
+    Report().CheckEqual("table", ReadFile("Colors.csv"),
+                        std::string("\xEF\xBB\xBFgroup,name,red,green,blue,ambient,diffuse,"
+                                    "specular,shininess,transparency,emission\r\n"
+                                    ",Sun,255,204,77,1,2,3,4,5,6\r\n"
+                                    ",Sky,0,0,255,1,2,3,4,5,6\r\n"));
+    ChooseFile("mnuFileExport");
+    RemoteDialogs::EnterFileName(owner, File("out.gpl"));
+    CheckMessage(RemoteDialogs::AnswerMessageBox(owner, IDOK), "Attention",
+                 "This format does not hold everything:\r\n"
+                 "Colors without their six material values: 2\r\nExport all the same?");
+    CheckStatus("Okay out.gpl");
+    Report().CheckEqual("palette", ReadFile("out.gpl"),
+                        std::string("GIMP Palette\nName: Colors\nColumns: 0\n#\n"
+                                    "255 204  77\tSun\n  0   0 255\tSky\n"));
+}

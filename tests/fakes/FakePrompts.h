@@ -38,6 +38,10 @@ public:
         fileRequests.push_back(request);
         return Next(chosenFiles, std::optional<std::string>());
     }
+    std::vector<std::string> AskOpenFiles(const FileDialogRequest& request) override {
+        fileRequests.push_back(request);
+        return Next(chosenFileSets, std::vector<std::string>());
+    }
     std::optional<std::string> AskSaveFile(const FileDialogRequest& request) override {
         fileRequests.push_back(request);
         return Next(chosenFiles, std::optional<std::string>());
@@ -47,10 +51,11 @@ public:
         return Next(chosenColors, std::optional<ColorNumber>());
     }
 
-    // Prepared answers; when they run out: OK, cancelled, cancelled, cancelled.
+    // Prepared answers; when they run out: OK, and cancelled for all others.
     std::deque<Answer> answers;
     std::deque<std::string> typed;
     std::deque<std::optional<std::string>> chosenFiles;
+    std::deque<std::vector<std::string>> chosenFileSets;
     std::deque<std::optional<ColorNumber>> chosenColors;
 
     std::vector<Message> messages;

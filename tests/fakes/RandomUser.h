@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mainwindow/HistoryStep.h"
+#include "mainwindow/PaletteCommands.h"
 #include "tests/fakes/LibraryOnFakes.h"
 #include "tests/fakes/LibraryOutline.h"
 
@@ -133,7 +134,7 @@ private:
         const std::string node = AnyNode();
         return library.Tree().IsGroup(node) ? node : std::string();
     }
-    void Import() {
+    void ImportStandardColors() {
         const std::string main = library.GetActiveMainnode();
         if (main.empty())
             return;
@@ -143,6 +144,18 @@ private:
         library.AppendColors(group, colors);
         library.Tree().Select(group);
         panes.ShowColorNodes(group);
+    }
+
+    void ImportPalettes() {
+        std::string table = "group,name,r,g,b\n";
+        for (unsigned left = choose_(4); left > 0; --left)
+            table += Name() + "," + Name() + ",1,2," + std::to_string(choose_(256)) + "\n";
+        files.contents["C:\\palette.csv"] = table;
+        prompts.chosenFileSets = {{"C:\\palette.csv", "C:\\missing.gpl", "C:\\palette.csv"}};
+        if (choose_(2) == 0)
+            palettes.mnuFileImport_Click();
+        else
+            palettes.mnuFileImportGroups_Click();
     }
 
     static const std::vector<Step>& Steps() {
@@ -179,10 +192,21 @@ private:
                 if (const std::string group = user.AnyGroup(); !group.empty())
                     user.editing.CopyInto(group);
             },
-            [](User user) { user.Import(); },
+            [](User user) { user.ImportStandardColors(); },
+            [](User user) { user.ImportPalettes(); },
         };
         return steps;
     }
 
     Choose choose_;
+    PaletteCommands palettes{{.library = library,
+                              .panes = panes,
+                              .editor = editor,
+                              .bars = view,
+                              .frame = view,
+                              .files = files,
+                              .codePage = codePage,
+                              .settings = settings,
+                              .prompts = prompts,
+                              .texts = texts}};
 };

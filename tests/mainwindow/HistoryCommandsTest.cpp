@@ -200,7 +200,8 @@ TEST(CommandTable, WhatChangesTheLibrariesIsAStepAndWhatUndoDoesIsNone) {
                              name == "mnuFileNew" || name == "mnuFileClose" ||
                              name == "mnuColorCut" || name == "mnuColorPaste" ||
                              name == "mnuColorUpdateColor" || name == "mnuSWXNewColorUpdate" ||
-                             name == "mnuSWXGetStandardColor";
+                             name == "mnuSWXGetStandardColor" || name == "mnuFileImport" ||
+                             name == "mnuFileImportGroups";
         EXPECT_EQ(row.isStep, changes) << name;
     }
 }

@@ -1,6 +1,7 @@
 // Rules: File commands
 #include "platform/FileDialog.h"
 
+#include "platform/ChosenFiles.h"
 #include "platform/ComApartment.h"
 #include "platform/Utf16.h"
 #include "tests/platform/DialogDriver.h"
@@ -78,6 +79,49 @@ TEST_F(FileDialogTest, NameTypedWithoutAnEndingIsSavedWithTheFirstPatternsEnding
     EXPECT_EQ(Save(Request(FileDialogFlags::SaveAs),
                    [&](HWND dialog) { EnterName(dialog, folder.File("mine")); }),
               folder.File("mine.tnt"));
+}
+
+TEST_F(FileDialogTest, NameTypedWithoutAnEndingGetsThatOfTheKindThatIsChosen) {
+    FileDialogRequest request = Request(FileDialogFlags::SaveAs);
+    request.filter = "One|*.gpl|Two|*.ase|Three|*.csv";
+    const auto path = Save(request, [&](HWND dialog) {
+        constexpr int kKinds = 1136; // the combo box with the kinds of files
+        const HWND kinds = GetDlgItem(dialog, kKinds);
+        EXPECT_TRUE(PollUntil([&] { return SendMessageW(kinds, CB_GETCOUNT, 0, 0) == 3; }));
+        SendMessageW(kinds, CB_SETCURSEL, 1, 0);
+        SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(kKinds, CBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(kinds));
+        EnterName(dialog, folder.File("mine"));
+    });
+    EXPECT_EQ(path, folder.File("mine.ase"));
+}
+
+TEST_F(FileDialogTest, SeveralFilesAreGivenWithTheirFullPaths) {
+    folder.Write("a.gpl", "");
+    folder.Write("b c.gpl", "");
+    const auto choose = [&](const std::string& names) {
+        const DialogDriver driver(L"tnt dialog", [&](HWND dialog) { EnterName(dialog, names); });
+        return ShowOpenDialogForSeveral(nullptr,
+                                        Request(FileDialogFlags::Open, folder.File("none.gpl")));
+    };
+    EXPECT_EQ(choose("\"a.gpl\" \"b c.gpl\""),
+              (std::vector<std::string>{folder.File("a.gpl"), folder.File("b c.gpl")}));
+    EXPECT_EQ(choose(folder.File("b c.gpl")), std::vector<std::string>{folder.File("b c.gpl")});
+}
+
+TEST_F(FileDialogTest, NoFileOfSeveralIsGivenWhenTheUserCancels) {
+    const DialogDriver driver(L"tnt dialog", [](HWND dialog) { Press(dialog, IDCANCEL); });
+    EXPECT_TRUE(ShowOpenDialogForSeveral(nullptr, Request(FileDialogFlags::Open)).empty());
+}
+
+TEST(ChosenFiles, AreWhatTheDialogsBufferHoldsUpToItsTwoZeros) {
+    using namespace std::string_literals;
+    using Paths = std::vector<std::string>;
+    EXPECT_EQ(ChosenFiles(L""s), Paths());
+    EXPECT_EQ(ChosenFiles(L"\0\0"s), Paths());
+    EXPECT_EQ(ChosenFiles(L"C:\\a.gpl\0\0rest"s), Paths{"C:\\a.gpl"});
+    EXPECT_EQ(ChosenFiles(L"C:\\pal\0a\0b\0\0rest"s), (Paths{"C:\\pal\\a", "C:\\pal\\b"}));
+    EXPECT_EQ(ChosenFiles(L"C:\\\0a\0b"s), (Paths{"C:\\a", "C:\\b"}));
 }
 
 TEST_F(FileDialogTest, ImpossiblePresetDoesNotHideTheDialog) {

@@ -87,6 +87,7 @@ protected:
             folder.Write(name,
                          *files.ReadWhole(SourceFile(std::string("resources/language/") + name)));
         folder.Write("a.tnt", *files.ReadWhole(SourceFile("resources/samples/materials.tnt")));
+        folder.Write("palette.gpl", "GIMP Palette\n255 204 77 Sun\nrubbish\n0 0 0\n");
         registry.PutText(std::string(ProgramNames::RegistryPath), "DefaultColorFile",
                          folder.File("a.tnt"));
         program = std::make_unique<RealProgram>(registry, folder.Path(), codePage);
@@ -259,7 +260,10 @@ void Monkey::PrepareAnswers() {
     prompts.answers.assign(3, OneOf(kAnswers));
     prompts.typed.assign(3, Below(4) == 0 ? "" : "name " + std::to_string(Below(1000)));
     prompts.chosenColors.assign(1, static_cast<ColorNumber>(Below(0x1000000)));
-    prompts.chosenFiles.assign(1, folder.File(Below(2) == 0 ? "a.tnt" : "b.tnt"));
+    constexpr const char* kFiles[] = {"a.tnt", "b.tnt", "exported.gpl", "exported.ase"};
+    prompts.chosenFiles.assign(1, folder.File(OneOf(kFiles)));
+    // Never what was exported: it would grow and grow.
+    prompts.chosenFileSets.assign(1, {folder.File("palette.gpl"), folder.File("missing.csv")});
 }
 
 // A change of the language reads whole files: it comes seldom.
