@@ -85,16 +85,18 @@ void TableRecords::PassLineEnd() noexcept {
 }
 
 void TableRecords::TakeCell(TableCell& cell) {
-    while (place_ < text_.size() && IsBlank(text_[place_]) && text_[place_] != separator_)
-        ++place_;
-    if (place_ < text_.size() && text_[place_] == '"' && TakeQuoted(cell))
-        return;
-    const std::size_t start = place_;
+    if (place_ < text_.size() && (IsBlank(text_[place_]) || text_[place_] == '"')) {
+        while (place_ < text_.size() && IsBlank(text_[place_]) && text_[place_] != separator_)
+            ++place_;
+        if (place_ < text_.size() && text_[place_] == '"' && TakeQuoted(cell))
+            return;
+    }
+    const char* const start = text_.data() + place_;
     PassCell();
-    std::size_t end = place_;
-    while (end > start && IsBlank(text_[end - 1]))
+    const char* end = text_.data() + place_;
+    while (end > start && IsBlank(end[-1]))
         --end;
-    cell.raw = text_.substr(start, end - start);
+    cell.raw = {start, static_cast<std::size_t>(end - start)};
 }
 
 void TableRecords::PassCell() noexcept {
