@@ -90,8 +90,9 @@ std::optional<std::string> ShowOpenDialog(HWND owner, const FileDialogRequest& r
 std::vector<std::string> ShowOpenDialogForSeveral(HWND owner, const FileDialogRequest& request) {
     FileDialogRequest several = request;
     several.flags |= OFN_ALLOWMULTISELECT;
-    return ChosenFiles(
-        FileDialog(owner, several, kLongestOfSeveral).Show(GetOpenFileNameW).value_or(L""));
+    const std::optional<std::wstring> buffer =
+        FileDialog(owner, several, kLongestOfSeveral).Show(GetOpenFileNameW);
+    return buffer ? ChosenFiles(*buffer) : std::vector<std::string>();
 }
 
 std::optional<std::string> ShowSaveDialog(HWND owner, const FileDialogRequest& request) {
