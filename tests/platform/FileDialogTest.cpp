@@ -89,8 +89,9 @@ TEST_F(FileDialogTest, NameTypedWithoutAnEndingGetsThatOfTheKindThatIsChosen) {
         const HWND kinds = GetDlgItem(dialog, kKinds);
         EXPECT_TRUE(PollUntil([&] { return SendMessageW(kinds, CB_GETCOUNT, 0, 0) == 3; }));
         SendMessageW(kinds, CB_SETCURSEL, 1, 0);
-        SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(kKinds, CBN_SELCHANGE),
-                     reinterpret_cast<LPARAM>(kinds));
+        for (const int told : {CBN_SELENDOK, CBN_SELCHANGE}) // as the combo box itself does
+            SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(kKinds, told),
+                         reinterpret_cast<LPARAM>(kinds));
         EnterName(dialog, folder.File("mine"));
     });
     EXPECT_EQ(path, folder.File("mine.ase"));

@@ -174,7 +174,7 @@ TEST_F(MainMenu, TitleKeepsItsMenuWhenItsCaptionChanges) {
     std::array<wchar_t, 32> text{};
     GetMenuStringW(bar, 0, text.data(), 32, MF_BYPOSITION);
     EXPECT_STREQ(text.data(), L"&File");
-    EXPECT_EQ(GetMenuItemCount(GetSubMenu(bar, 0)), 10);
+    EXPECT_EQ(GetMenuItemCount(GetSubMenu(bar, 0)), 14);
 }
 
 TEST_F(MainMenu, SeparatorStaysOneWhenItsCaptionIsSet) {
