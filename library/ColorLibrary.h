@@ -4,6 +4,7 @@
 #include "library/LibraryHistory.h"
 #include "library/LibraryTree.h"
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -23,6 +24,11 @@ public:
 
     [[nodiscard]] LibraryHistory& History() noexcept { return history_; }
     [[nodiscard]] const LibraryHistory& History() const noexcept { return history_; }
+
+    // Greater after every change of what the user sees of libraries, groups and colors.
+    [[nodiscard]] std::uint64_t Revision() const noexcept {
+        return tree_.Revision() + colors_.Revision();
+    }
 
     // Called before a library goes, while all of it is there still.
     std::function<void(const std::string& mainKey)> onLibraryLeaving;

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "library/ColorQuery.h"
+#include "library/ColorMatch.h"
 #include "library/LibraryPass.h"
 
-#include <string>
-#include <string_view>
 #include <vector>
 
 // Finds colors over all open libraries by name or by value.  What was found so far can be shown
@@ -13,7 +11,7 @@ class ColorSearch {
 public:
     // colors: must live as long as this.  A query for nothing finds nothing.
     ColorSearch(const ColorTable& colors, LibraryRevision revision, ColorQuery query)
-        : query_(std::move(query)), pass_(colors, std::move(revision)) {}
+        : match_(std::move(query)), pass_(colors, std::move(revision)) {}
 
     // Looks at up to so many colors more; false: it is done.  A thousand take less than a
     // millisecond.
@@ -29,12 +27,8 @@ public:
     [[nodiscard]] int Starts() const noexcept { return pass_.Starts(); }
 
 private:
-    [[nodiscard]] bool HasColor(const ColorValueArray& values) const noexcept;
-    [[nodiscard]] bool HasWords(std::string_view name);
-
-    ColorQuery query_;
+    ColorMatch match_;
     LibraryPass pass_;
     std::vector<ColorId> colorHits_;
     std::vector<ColorId> nameHits_;
-    std::string folded_; // name that is looked at
 };

@@ -61,6 +61,7 @@ void ColorTable::Reset() {
     groups_ = {};
     numberOfGroup_ = {};
     otherKeys_ = {};
+    ++revision_;
 }
 
 ColorId ColorTable::IdAt(int index) const {

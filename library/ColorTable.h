@@ -49,6 +49,9 @@ public:
     // All colors as they are now.
     [[nodiscard]] ColorSnapshot Snapshot() const;
 
+    // Greater after every change of any color.
+    [[nodiscard]] std::uint64_t Revision() const noexcept { return revision_; }
+
     // Greater after every change of the group's colors; 0: it never had one.
     [[nodiscard]] std::uint64_t RevisionOfGroup(const std::string& groupKey) const;
 

@@ -60,6 +60,9 @@ public:
     // Keys of the main nodes, in order.
     [[nodiscard]] const std::vector<std::string>& MainNodes() const noexcept { return mainNodes_; }
 
+    // Greater after every change of a name or of what is in a library.
+    [[nodiscard]] std::uint64_t Revision() const noexcept { return revision_; }
+
     // Key of the selected node; empty when nothing is selected.
     [[nodiscard]] const std::string& Selected() const noexcept { return selected_; }
     void Select(const std::string& key);

@@ -60,9 +60,9 @@ double LightnessAt(double difference, double wanted, double inside, double outsi
 } // namespace
 
 NearestColors::NearestColors(const ColorTable& colors, LibraryRevision revision,
-                             const RedGreenBlue& wanted, std::size_t count)
+                             const RedGreenBlue& wanted, std::size_t count, ColorQuery query)
     : wanted_(LabOfSrgb(wanted)), count_(std::clamp<std::size_t>(count, 1, kMost)),
-      pass_(colors, std::move(revision)), remembered_(kRemembered) {
+      match_(std::move(query)), pass_(colors, std::move(revision)), remembered_(kRemembered) {
     StartAnew();
 }
 
@@ -75,18 +75,23 @@ void NearestColors::StartAnew() {
 bool NearestColors::Advance(std::size_t records) {
     return pass_.Advance(
         records, [this] { StartAnew(); },
-        [this](ColorId id, const StoredColor& color) { Look(id, color.values); });
+        [this](ColorId id, const StoredColor& color) { Look(id, color); });
 }
 
-void NearestColors::Look(ColorId id, const ColorValueArray& values) {
+void NearestColors::Look(ColorId id, const StoredColor& stored) {
     const auto inRange = [](std::int16_t value) { return std::clamp<int>(value, 0, 255); };
-    const RedGreenBlue color{inRange(values[0]), inRange(values[1]), inRange(values[2])};
+    const RedGreenBlue color{inRange(stored.values[0]), inRange(stored.values[1]),
+                             inRange(stored.values[2])};
     static const LuminanceTables& tables = Tables();
     const double luminance = tables.red[PlaceOf(color.red)] + tables.green[PlaceOf(color.green)] +
                              tables.blue[PlaceOf(color.blue)];
-    if (luminance < leastLuminance_ || luminance > mostLuminance_)
-        return;
-    Take({id, DifferenceOf(color)});
+    if (luminance >= leastLuminance_ && luminance <= mostLuminance_ && IsAskedFor(stored))
+        Take({id, DifferenceOf(color)});
+}
+
+bool NearestColors::IsAskedFor(const StoredColor& color) {
+    return match_.IsForNothing() || match_.HasColor(color.values) ||
+           match_.HasWords(color.name.View());
 }
 
 double NearestColors::DifferenceOf(const RedGreenBlue& color) {

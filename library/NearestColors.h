@@ -2,6 +2,7 @@
 
 #include "common/ColorNumber.h"
 #include "common/ColorSpaces.h"
+#include "library/ColorMatch.h"
 #include "library/LibraryPass.h"
 
 #include <array>
@@ -25,9 +26,10 @@ public:
     static constexpr std::size_t kMost = 1000;
 
     // colors: must live as long as this.  count: how many are wanted, 1..kMost; other numbers count
-    // as the nearest of these.  Values of colors beyond 0..255 count as its ends.
+    // as the nearest of these.  Values of colors beyond 0..255 count as its ends.  Only colors that
+    // the query asks for are looked at; all when it asks for nothing.
     NearestColors(const ColorTable& colors, LibraryRevision revision, const RedGreenBlue& wanted,
-                  std::size_t count);
+                  std::size_t count, ColorQuery query = {});
 
     // Looks at up to so many colors more; false: it is done.
     bool Advance(std::size_t records);
@@ -48,13 +50,15 @@ private:
     static constexpr std::size_t kRemembered = 4096;
 
     void StartAnew();
-    void Look(ColorId id, const ColorValueArray& values);
+    void Look(ColorId id, const StoredColor& stored);
+    [[nodiscard]] bool IsAskedFor(const StoredColor& color);
     [[nodiscard]] double DifferenceOf(const RedGreenBlue& color);
     void Take(const NearColor& near);
     void NarrowLuminance();
 
     LabColor wanted_;
     std::size_t count_;
+    ColorMatch match_;
     LibraryPass pass_;
     std::vector<NearColor> nearest_; // a heap, the farthest first
     double leastLuminance_ = 0;      // of colors that can still be among them

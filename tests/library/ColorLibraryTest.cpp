@@ -32,6 +32,31 @@ TEST_F(ColorLibraryTest, LowestFreeNumberBecomesTheMainKey) {
     EXPECT_EQ(library.Tree().At("2D").text, "d");
 }
 
+TEST_F(ColorLibraryTest, RevisionIsGreaterAfterEveryChangeAndStaysWithoutOne) {
+    std::uint64_t before = library.Revision();
+    const auto isChanged = [&] {
+        return library.Revision() > std::exchange(before, library.Revision());
+    };
+    const std::string mainKey = library.NewMainNode("a");
+    EXPECT_TRUE(isChanged());
+    const std::string group = library.NewGroupNode(mainKey, "g");
+    EXPECT_TRUE(isChanged());
+    library.NewColorNode(group, "c", kValues);
+    EXPECT_TRUE(isChanged());
+    library.Tree().SetText(group, "h");
+    EXPECT_TRUE(isChanged());
+    library.Colors().SetNames(1, "d");
+    EXPECT_TRUE(isChanged());
+    library.Tree().Select(group);
+    library.Tree().RememberColor(group, "x");
+    library.Colors().SetNames(1, "d");
+    EXPECT_FALSE(isChanged());
+    library.Colors().Erase(1);
+    EXPECT_TRUE(isChanged());
+    library.Colors().Reset();
+    EXPECT_TRUE(isChanged());
+}
+
 TEST_F(ColorLibraryTest, NewLibraryIsSelected) {
     library.NewMainNode("a");
     library.NewMainNode("b");

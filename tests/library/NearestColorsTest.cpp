@@ -11,8 +11,9 @@ namespace {
 
 class NearestColorsTest : public testing::Test {
 protected:
-    void Add(int red, int green, int blue) {
+    void Add(int red, int green, int blue, const std::string& name = {}) {
         ColorRecord record;
+        record.name = name;
         record.groupKey = "0DG1";
         record.key = "0DG1E" + std::to_string(++number);
         record.values[0] = static_cast<std::int16_t>(red);
@@ -108,6 +109,26 @@ TEST_F(NearestColorsTest, ChangedLibraryIsSearchedAnew) {
     EXPECT_EQ(search.Sorted().size(), 1U);
     EXPECT_FALSE(search.Advance(1000));
     EXPECT_EQ(search.Sorted(), FindPlainly({9, 9, 9}, 3));
+}
+
+TEST_F(NearestColorsTest, QueryLeavesOthersOut) {
+    Add(10, 10, 10, "gray");
+    Add(11, 10, 10, "Red one");
+    Add(90, 10, 10, "the RED two");
+    Add(200, 10, 10, "red");
+    const auto find = [this](const char* text, std::size_t count) {
+        NearestColors search(
+            colors, [this] { return revision; }, {10, 10, 10}, count, ParseColorQuery(text));
+        EXPECT_FALSE(search.Advance(1000));
+        std::vector<int> indexes;
+        for (const NearColor& near : search.Sorted())
+            indexes.push_back(colors.IndexOfId(near.id));
+        return indexes;
+    };
+    EXPECT_EQ(find("red", 2), (std::vector{2, 3}));
+    EXPECT_EQ(find("200 10 10", 5), std::vector{4});
+    EXPECT_EQ(find("none", 5), std::vector<int>{});
+    EXPECT_EQ(find("", 5), (std::vector{1, 2, 3, 4}));
 }
 
 TEST_F(NearestColorsTest, CountIsWithinItsLimits) {
