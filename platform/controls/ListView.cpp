@@ -1,5 +1,6 @@
 #include "platform/controls/ListView.h"
 
+#include "platform/Canvas.h"
 #include "platform/DpiScale.h"
 #include "platform/ExplorerTheme.h"
 #include "platform/Fonts.h"
@@ -79,6 +80,22 @@ void ListView::SetColumnCaption(int column, const std::string& caption) {
     Send(LVM_SETCOLUMNW, static_cast<WPARAM>(column) - 1, &change);
 }
 
+void ListView::SetColumnWidth(int column, int width) {
+    Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column) - 1, LPARAM{width});
+}
+
+void ListView::AlignRight(int column) {
+    LVCOLUMNW change{};
+    change.mask = LVCF_FMT;
+    change.fmt = LVCFMT_RIGHT;
+    Send(LVM_SETCOLUMNW, static_cast<WPARAM>(column) - 1, &change);
+}
+
+void ListView::RemoveLastColumn() {
+    --columns_;
+    Send(LVM_DELETECOLUMN, static_cast<WPARAM>(columns_));
+}
+
 void ListView::MarkColumn(int column, bool descending) {
     const auto header = reinterpret_cast<HWND>(Send(LVM_GETHEADER));
     for (int index = 0; index < columns_; ++index) {
@@ -99,6 +116,11 @@ void ListView::SetRowCount(int count) {
     ShowSelection(-1);
     Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(count), LPARAM{0});
     Arrange();
+}
+
+void ListView::AddRowsTo(int count) {
+    Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(count),
+         LPARAM{LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL});
 }
 
 // Icons get their places, which not every version of the control does by itself; undrawn, for
@@ -179,6 +201,9 @@ MessageResult ListView::OnNotify(NMHDR& header) {
     case LVN_GETDISPINFOW:
         FillItem(reinterpret_cast<NMLVDISPINFOW&>(header).item);
         return 0;
+    case NM_CUSTOMDRAW:
+        return rowColor ? DrawRow(reinterpret_cast<const NMLVCUSTOMDRAW&>(header))
+                        : MessageResult();
     case LVN_ODFINDITEMW:
         return FindText(reinterpret_cast<const NMLVFINDITEMW&>(header));
     case LVN_ITEMCHANGED:
@@ -233,6 +258,30 @@ void ListView::FillItem(LVITEMW& item) const {
     }
     if ((item.mask & LVIF_IMAGE) != 0)
         item.iImage = item.iSubItem == 0 ? ShownImages().IndexOf(images_.key) : -1;
+}
+
+// The platform draws a row with its picture, which the swatch covers then.
+MessageResult ListView::DrawRow(const NMLVCUSTOMDRAW& draw) const {
+    switch (draw.nmcd.dwDrawStage) {
+    case CDDS_PREPAINT:
+        return CDRF_NOTIFYITEMDRAW;
+    case CDDS_ITEMPREPAINT:
+        return CDRF_NOTIFYPOSTPAINT;
+    case CDDS_ITEMPOSTPAINT:
+        DrawSwatch(draw.nmcd.hdc, static_cast<int>(draw.nmcd.dwItemSpec));
+        return CDRF_DODEFAULT;
+    default:
+        return CDRF_DODEFAULT;
+    }
+}
+
+void ListView::DrawSwatch(HDC device, int row) const {
+    RECT area{LVIR_ICON, 0, 0, 0};
+    if (Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), &area) == 0)
+        return;
+    const Canvas canvas(device, Host().Font());
+    canvas.Fill(area, rowColor(row));
+    canvas.Frame(area, GetSysColor(COLOR_3DSHADOW), 1);
 }
 
 const IconList& ListView::ShownImages() const {

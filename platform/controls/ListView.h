@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/ColorNumber.h"
 #include "platform/controls/Control.h"
 #include "platform/controls/LabelEdit.h"
 #include "platform/controls/MouseDrag.h"
@@ -22,9 +23,13 @@ public:
 
     void AddColumn(const std::string& caption, int width); // pixels
     void SetColumnCaption(int column, const std::string& caption);
+    void SetColumnWidth(int column, int width); // pixels
+    void AlignRight(int column);                // its texts; not of the first one
+    void RemoveLastColumn();
     // The header shows that the rows are sorted by this column, from 1, and by no other one.
     void MarkColumn(int column, bool descending);
     void SetRowCount(int count); // all rows are new, none is selected
+    void AddRowsTo(int count);   // more than before; those that were there are the same
     void SelectRow(int row);
     void EnsureVisible(int row);
     [[nodiscard]] int FirstRowInSight() const; // 0 but in details and list
@@ -38,9 +43,10 @@ public:
 
     std::function<std::string(int row, int column)> cellText;
     std::function<int(const std::string& text, int start)> findRow;
-    std::function<void(int row)> onClick;  // a row was selected or clicked again
-    std::function<void()> onDoubleClick;   // on a row
-    std::function<void()> onEditRequested; // F2
+    std::function<ColorNumber(int row)> rowColor; // set: what stands in the picture's stead
+    std::function<void(int row)> onClick;         // a row was selected or clicked again
+    std::function<void()> onDoubleClick;          // on a row
+    std::function<void()> onEditRequested;        // F2
     std::function<bool()> mayEdit;
     std::function<void(int row, const std::string& text)> onLabelEdited;
     std::function<void(int column)> onColumnClick;
@@ -62,6 +68,8 @@ private:
     };
 
     void FillItem(LVITEMW& item) const;
+    [[nodiscard]] MessageResult DrawRow(const NMLVCUSTOMDRAW& draw) const;
+    void DrawSwatch(HDC device, int row) const;
     [[nodiscard]] const IconList& ShownImages() const;
     void FitColumns();
     [[nodiscard]] LONG_PTR View() const noexcept; // LVS_ICON ... LVS_REPORT
