@@ -1,6 +1,7 @@
 #include "common/ColorSpaces.h"
 #include "library/ColorSearch.h"
 #include "library/NearestColors.h"
+#include "mainwindow/FindHits.h"
 #include "tests/bench/library/Reports.h"
 #include "tests/bench/library/Timing.h"
 
@@ -104,6 +105,29 @@ void MeasureNearest(const char* what, const ColorTable& colors, std::size_t coun
     }
 }
 
+// As the window that finds colors goes through them: how long it waits for one slice.
+void MeasureSlices(const char* what, FindHits& hits, const std::function<void()>& begin) {
+    Times slices(WallMilliseconds);
+    begin();
+    do
+        slices.Measure([&] { static_cast<void>(hits.Advance()); });
+    while (!hits.IsDone());
+    std::printf("| longest of %zu slices, %s | | %.1f | |\n", slices.Count(), what,
+                slices.Longest());
+}
+
+void MeasureSlices(int colors) {
+    ColorLibrary library;
+    library.NewGroupNode(library.NewMainNode("library"), "group");
+    Append(library.Colors(), colors, ValuesOfOneLightness);
+    FindHits hits(library, FindHits::kSlice);
+    for (const char* const text : {"1000777", "o", "nowhere"})
+        MeasureSlices(text, hits, [&] { hits.Search(ParseColorQuery(text)); });
+    MeasureSlices("100 nearest, one lightness", hits, [&] {
+        hits.SearchNearest({}, {128, 128, 128});
+    });
+}
+
 } // namespace
 
 void ReportSearch(const BenchSizes& sizes) {
@@ -121,5 +145,6 @@ void ReportSearch(const BenchSizes& sizes) {
     ColorTable even;
     Append(even, sizes.largest, ValuesOfOneLightness);
     MeasureNearest("one lightness", even, 100, sizes.repetitions);
+    MeasureSlices(sizes.largest);
     std::printf("\n");
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <vector>
 
 // The processor time of this process in milliseconds: other programs on the machine do not count.
@@ -32,6 +33,9 @@ public:
         std::ranges::sort(sorted);
         return sorted[sorted.size() / 2];
     }
+
+    [[nodiscard]] double Longest() const { return std::ranges::max(times_); }
+    [[nodiscard]] std::size_t Count() const noexcept { return times_.size(); }
 
 private:
     Clock clock_;
