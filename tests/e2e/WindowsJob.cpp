@@ -15,6 +15,10 @@ namespace {
 
 constexpr int kMargin = 10; // around the window, pixels
 
+// Colors of the sample with "red" in their names, as the window that finds them lists them.
+const std::vector<RemoteList::Row> kHits = {{"Red plastic", "Plastics", "Materials"},
+                                            {"Red rubber", "Rubber", "Materials"}};
+
 } // namespace
 
 void WindowsJob::Work() {
@@ -29,7 +33,15 @@ void WindowsJob::Work() {
     Report().Step("stop by Enter", [this] { Stop(); });
     Report().Step("recover", [this] { OpenRecover("&Delete ..."); });
     Report().Step("close it by Escape", [this] { CloseRecover(VK_ESCAPE, 0); });
+    Report().Step("open a sample", [this] { OpenSample(); });
+    Report().Step("find while typing", [this] { Find(); });
+    Report().Step("go to a hit by Enter", [this] { GoToHit(); });
+    Report().Step("go to the next hit by F3", [this] { GoToNextHit(); });
+    Report().Step("find like the active color", [this] { FindLikeActiveColor(); });
+    Report().Step("a larger window that finds", [this] { GrowFind(); });
     Report().Step("change over to German", [this] { SpeakGerman(); });
+    Report().Step("find in German", [this] { FindInGerman(); });
+    Report().Step("close it by Escape again", [this] { CloseFind(); });
     Report().Step("about in German", [this] { OpenAbout("&Systeminfo ..."); });
     Report().Step("close About by Escape again", [this] { CloseAbout(); });
     Report().Step("viewer in German",
@@ -120,7 +132,12 @@ void WindowsJob::LeaveLibrary(const std::string& id, const std::string& name,
         << name + "\r\n" + file + "\r\n2026-11-0" + id.back() + " 10:30:00\r\n12\r\n";
 }
 
+LRESULT WindowsJob::CountNodes() const {
+    return SendMessageW(Main().Window().Child(IDC_tvColor).Handle(), TVM_GETCOUNT, 0, 0);
+}
+
 void WindowsJob::OpenRecover(const std::string& deleteCaption) {
+    nodesBefore_ = CountNodes();
     Choose(IDM_mnuFileRecover);
     recover_ = Wait(L"frmRecover");
     Report().CheckEqual("button", recover_.Child(IDC_cmdDelete).Text(), deleteCaption);
@@ -134,15 +151,93 @@ void WindowsJob::OpenRecover(const std::string& deleteCaption) {
         LRESULT{2});
 }
 
-void WindowsJob::CloseRecover(WORD key, LRESULT nodes) {
+void WindowsJob::CloseRecover(WORD key, LRESULT newNodes) {
     RealInput::PressKey(key);
     CheckGone(recover_);
     Report().CheckBecomes(
-        "nodes of the tree",
+        "nodes of the tree", [this] { return CountNodes(); }, nodesBefore_ + newNodes);
+}
+
+void WindowsJob::OpenSample() {
+    CopySample("materials.tnt");
+    OpenFromMenu(File("materials.tnt"));
+}
+
+void WindowsJob::Find() {
+    RealInput::HoldKey(VK_CONTROL);
+    RealInput::PressKey('F');
+    RealInput::ReleaseKey(VK_CONTROL);
+    find_ = Wait(L"frmFind");
+    Report().CheckBecomes(
+        "the text box has the focus",
+        [this] { return find_.FocusedChild() == find_.Child(IDC_txtFind).Handle(); }, true);
+    RealInput::TypeText(L"red");
+    CheckHits(kHits);
+    Report().CheckBecomes(
+        "it is painted", [this] { return find_.IsPainted(); }, true);
+}
+
+void WindowsJob::CheckHits(const std::vector<RemoteList::Row>& rows) {
+    Report().CheckBecomes(
+        "rows", [this] { return RemoteList(find_.Child(IDC_lvFind)).ReadRows(); }, rows);
+}
+
+void WindowsJob::GoToHit() {
+    RealInput::PressKey(VK_RETURN);
+    Report().CheckBecomes(
+        "selected colors", [this] { return Main().List().SelectedNames(); },
+        RemoteList::Row{kHits.front().front()});
+    Report().CheckBecomes(
+        "the list has the focus",
         [this] {
-            return SendMessageW(Main().Window().Child(IDC_tvColor).Handle(), TVM_GETCOUNT, 0, 0);
+            return Main().Window().FocusedChild() == Main().Window().Child(IDC_lvColor).Handle();
         },
-        nodes);
+        true);
+}
+
+void WindowsJob::GoToNextHit() {
+    RealInput::PressKey(VK_F3);
+    Report().CheckBecomes(
+        "selected colors", [this] { return Main().List().SelectedNames(); },
+        RemoteList::Row{kHits.back().front()});
+}
+
+void WindowsJob::FindLikeActiveColor() {
+    RealInput::HoldKey(VK_CONTROL);
+    RealInput::PressKey('F');
+    RealInput::ReleaseKey(VK_CONTROL);
+    Report().CheckBecomes(
+        "the text box has the focus",
+        [this] { return find_.FocusedChild() == find_.Child(IDC_txtFind).Handle(); }, true);
+    RealInput::PressKey(VK_DELETE); // the text is selected
+    RealInput::PressWithAlt('L');
+    Report().CheckBecomes(
+        "the nearest", [this] { return RemoteList(find_.Child(IDC_lvFind)).ReadRow(0); },
+        RemoteList::Row{kHits.back()[0], kHits.back()[1], kHits.back()[2], "0.00"});
+}
+
+void WindowsJob::GrowFind() {
+    const RECT place = find_.Bounds();
+    find_.Place(kMargin, place.top, place.right - kMargin, GetSystemMetrics(SM_CYSCREEN) / 2);
+    Report().CheckBecomes(
+        "it is painted", [this] { return find_.IsPainted(); }, true);
+}
+
+void WindowsJob::FindInGerman() {
+    Report().CheckBecomes(
+        "caption", [this] { return find_.Title(); }, std::string("Farben suchen"));
+    Report().CheckBecomes(
+        "difference", [this] { return RemoteList(find_.Child(IDC_lvFind)).ReadRow(0).back(); },
+        std::string("0,00"));
+}
+
+void WindowsJob::CloseFind() {
+    Choose(IDM_mnuEditFind);
+    Report().CheckBecomes(
+        "it has the focus",
+        [this] { return find_.FocusedChild() == find_.Child(IDC_txtFind).Handle(); }, true);
+    RealInput::PressKey(VK_ESCAPE);
+    CheckGone(find_);
 }
 
 void WindowsJob::Choose(int command) {

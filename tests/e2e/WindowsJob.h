@@ -3,9 +3,11 @@
 #include "tests/e2e/Job.h"
 
 #include <string>
+#include <vector>
 
-// Opens About window, text viewer, progress window and the list of kept libraries in both languages
-// and closes them by keyboard alone, so that their pictures can be looked at.
+// Opens About window, text viewer, progress window, the list of kept libraries and the window that
+// finds colors in both languages and works and closes them by keyboard alone, so that their
+// pictures can be looked at.
 class WindowsJob : public Job {
 public:
     using Job::Job;
@@ -25,7 +27,17 @@ private:
     static void LeaveLibrary(const std::string& id, const std::string& name,
                              const std::string& file);
     void OpenRecover(const std::string& deleteCaption);
-    void CloseRecover(WORD key, LRESULT nodes);
+    void CloseRecover(WORD key, LRESULT newNodes);
+    [[nodiscard]] LRESULT CountNodes() const; // of the tree
+    void OpenSample();
+    void Find();
+    void GoToHit();
+    void GoToNextHit();
+    void FindLikeActiveColor();
+    void GrowFind();
+    void FindInGerman();
+    void CloseFind();
+    void CheckHits(const std::vector<RemoteList::Row>& rows);
     void Choose(int command);
     [[nodiscard]] RemoteWindow Wait(const wchar_t* className) const; // of the program
     void CheckGone(const RemoteWindow& window);
@@ -34,4 +46,6 @@ private:
     RemoteWindow viewer_;
     RemoteWindow progress_;
     RemoteWindow recover_;
+    RemoteWindow find_;
+    LRESULT nodesBefore_ = 0; // the list of kept libraries was opened
 };
