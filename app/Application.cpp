@@ -49,7 +49,8 @@ Application::Application(const Platform& platform, const Windows& windows, const
                                                       .bars = windows.mainView.bars,
                                                       .texts = language_}),
       recover_(PartsOfRecover(platform)), palettes_(PartsOfPalettes(platform)),
-      solidWorksCommands_(PartsOfSolidWorks(platform)), mainWindow_(PartsOfMainWindow(platform)) {
+      find_(PartsOfFind(data)), solidWorksCommands_(PartsOfSolidWorks(platform)),
+      mainWindow_(PartsOfMainWindow(platform)) {
     library_.History().SetMostBytes(data.historyBytes);
 }
 
@@ -143,6 +144,21 @@ PaletteCommands::Parts Application::PartsOfPalettes(const Platform& platform) {
             .texts = language_};
 }
 
+FindCommands::Parts Application::PartsOfFind(const Data& data) {
+    return {.window = windows_.find,
+            .library = library_,
+            .panes = panes_.library,
+            .editor = panes_.editor,
+            .list = windows_.mainView.list,
+            .drag = drag_,
+            .activity = panes_.activity,
+            .language = language_,
+            .settings = settings_,
+            .registry = registry_,
+            .mainWindow = windows_.mainWindow,
+            .slice = data.findSlice};
+}
+
 SolidWorksCommands::Parts Application::PartsOfSolidWorks(const Platform& platform) {
     return {.tools = solidWorks_,
             .library = library_,
@@ -162,6 +178,7 @@ MainCommands Application::Commands() {
             .newNodes = newNodes_,
             .editing = editing_,
             .history = historyCommands_,
+            .find = find_,
             .recover = recover_,
             .palettes = palettes_,
             .panes = panes_.library,
@@ -224,6 +241,7 @@ void Application::SetFormDefaults() {
 void Application::Quit() {
     windows_.mainView.frame.StopBannerTimer();
     settingsStore_.SaveLastSponsorShown(banner_.IndexToStore());
+    find_.ProgramEnding();
     windows_.mainView.frame.EndProgram();
     recoveryKeeper_.KeepAll();
 }

@@ -40,6 +40,7 @@
 #include "support/settings/modRegistry.h"
 #include "support/windows/modinternet.h"
 
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -76,6 +77,7 @@ public:
         FormWindow& progressWindow;
         LocalizableForm& progressForm;
         OnDemand<RecoverView>& recover;
+        OnDemand<FindView>& find;
     };
 
     struct Data {
@@ -84,7 +86,8 @@ public:
         std::vector<std::string> bannerAddresses;
         std::string languageFolder;   // the program's, as functions of the code page know it
         std::string recoveryFolder{}; // for libraries that are not saved; empty: none are kept
-        std::size_t historyBytes = LibraryHistory::kMostBytes; // that undo may keep
+        std::size_t historyBytes = LibraryHistory::kMostBytes;  // that undo may keep
+        std::chrono::milliseconds findSlice = FindHits::kSlice; // of a search, in one go
     };
 
     Application(const Platform& platform, const Windows& windows, const Data& data);
@@ -108,6 +111,7 @@ public:
     [[nodiscard]] TextViewerEvents& TextViewerWindowEvents() noexcept { return textViewer_; }
     [[nodiscard]] ProgressEvents& ProgressWindowEvents() noexcept { return progress_; }
     [[nodiscard]] RecoverEvents& RecoverWindowEvents() noexcept { return recover_; }
+    [[nodiscard]] FindEvents& FindWindowEvents() noexcept { return find_; }
 
 private:
     void SetFormDefaults();
@@ -124,6 +128,7 @@ private:
     [[nodiscard]] ColorDrag::Parts PartsOfDrag(const Platform& platform);
     [[nodiscard]] PaletteCommands::Parts PartsOfPalettes(const Platform& platform);
     [[nodiscard]] RecoverCommands::Parts PartsOfRecover(const Platform& platform);
+    [[nodiscard]] FindCommands::Parts PartsOfFind(const Data& data);
     [[nodiscard]] SolidWorksCommands::Parts PartsOfSolidWorks(const Platform& platform);
     [[nodiscard]] MainCommands Commands();
     [[nodiscard]] MainWindow::Parts PartsOfMainWindow(const Platform& platform);
@@ -159,6 +164,7 @@ private:
     HistoryCommands historyCommands_;
     RecoverCommands recover_;
     PaletteCommands palettes_;
+    FindCommands find_;
     SolidWorksCommands solidWorksCommands_;
     MainWindow mainWindow_;
 };

@@ -2,6 +2,7 @@
 #include "common/BusyRetry.h"
 #include "common/ProgramNames.h"
 #include "common/WorkerThread.h"
+#include "mainwindow/frmFind.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/frmRecover.h"
 #include "platform/BusyMessageFilter.h"
@@ -78,12 +79,13 @@ struct AuxiliaryForms {
     AuxiliaryForms(HWND mainWindow, Ports& ports, const BannerPictures& banners)
         : about(mainWindow, ports.errors, banners), textViewer(mainWindow, ports.errors, banners),
           progress(mainWindow, ports.errors, ports.clock, kProgressPatience),
-          recover(mainWindow, ports.errors) {}
+          recover(mainWindow, ports.errors), find(mainWindow, ports.errors) {}
 
     AboutOnDemand about;
     TextViewerOnDemand textViewer;
     frmProgress progress;
     RecoverOnDemand recover;
+    FindOnDemand find;
 };
 
 Application::Platform PlatformOf(Ports& ports) {
@@ -114,7 +116,8 @@ Application::Windows WindowsOf(frmMain& main, AuxiliaryForms& auxiliary) {
             .progressView = auxiliary.progress,
             .progressWindow = auxiliary.progress,
             .progressForm = auxiliary.progress,
-            .recover = auxiliary.recover};
+            .recover = auxiliary.recover,
+            .find = auxiliary.find};
 }
 
 void Attach(Application& application, frmMain& main, AuxiliaryForms& auxiliary) {
@@ -123,6 +126,7 @@ void Attach(Application& application, frmMain& main, AuxiliaryForms& auxiliary) 
     auxiliary.textViewer.Attach(application.TextViewerWindowEvents());
     auxiliary.progress.Attach(application.ProgressWindowEvents());
     auxiliary.recover.Attach(application.RecoverWindowEvents());
+    auxiliary.find.Attach(application.FindWindowEvents());
 }
 
 // Joins the ports, the forms and the program, and runs it.

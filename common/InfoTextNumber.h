@@ -70,6 +70,17 @@ inline constexpr std::int32_t AskForget = 187;
 inline constexpr std::int32_t NotKept = 188;
 inline constexpr std::int32_t ProgramCrashed = 189; // %1: path of the report
 
+// Finding colors.  %1: how many were found; %2: how many there are.
+inline constexpr std::int32_t FindColors = 200;
+inline constexpr std::int32_t FoundName = 201;
+inline constexpr std::int32_t FoundGroup = 202;
+inline constexpr std::int32_t FoundLibrary = 203;
+inline constexpr std::int32_t FoundDifference = 204;
+inline constexpr std::int32_t FoundOfColors = 205;
+inline constexpr std::int32_t NearestOfColors = 206;
+inline constexpr std::int32_t ThousandsSign = 207; // in numbers, as the language writes them
+inline constexpr std::int32_t DecimalSign = 208;
+
 // Foreign palettes.  Numbers of what is told follow with a colon.
 inline constexpr std::int32_t ImportPalettes = 210;
 inline constexpr std::int32_t Palettes = 211;

@@ -26,6 +26,9 @@ public:
     // partial complement, on purpose.
     void ShowColorFromSolidWorks(const ColorRecord& color);
 
+    // Red, green and blue as they are shown.
+    [[nodiscard]] ColorNumber ActiveColor() const noexcept { return swatch_; }
+
     void SetName(const std::string& name);
 
     // Whether the name is that of a color of the library, not one of SolidWorks or of the start.

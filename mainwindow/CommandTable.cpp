@@ -12,6 +12,9 @@ using Commands = const MainCommands&;
 constexpr Shortcut Plain(std::uint8_t key) {
     return {.key = key};
 }
+constexpr Shortcut Shifted(std::uint8_t key) {
+    return {.shift = true, .key = key};
+}
 constexpr Shortcut Ctrl(std::uint8_t key) {
     return {.ctrl = true, .key = key};
 }
@@ -114,6 +117,16 @@ constexpr std::array kMenuRows = {
            Reporting(
                IDM_mnuEditRedo, "mnuEditRedo", "Wiederholen",
                [](Commands c) { c.history.mnuEditRedo_Click(); }, OutsideText('Y'))),
+    Separator(IDM_mnuEditHR1, "mnuEditHR1"),
+    Entry(
+        IDM_mnuEditFind, "mnuEditFind", "Suchen ...",
+        [](Commands c) { c.find.mnuEditFind_Click(); }, Ctrl('F')),
+    Entry(
+        IDM_mnuEditFindNext, "mnuEditFindNext", "Nächster Treffer",
+        [](Commands c) { c.find.mnuEditFindNext_Click(); }, Plain(Key::F3)),
+    Entry(
+        IDM_mnuEditFindPrevious, "mnuEditFindPrevious", "Vorheriger Treffer",
+        [](Commands c) { c.find.mnuEditFindPrevious_Click(); }, Shifted(Key::F3)),
 
     Title(IDM_mnuColor, "mnuColor", "Farbe"),
     Step(Entry(IDM_mnuColorNewMainNode, "mnuColorNewMainNode", "Neue Bibliothek",

@@ -13,6 +13,7 @@ inline constexpr std::uint8_t Shift = 0x10;
 inline constexpr std::uint8_t Control = 0x11;
 inline constexpr std::uint8_t Delete = 0x2E;
 inline constexpr std::uint8_t F1 = 0x70;
+inline constexpr std::uint8_t F3 = 0x72;
 } // namespace Key
 
 // Where the focus must be for a shortcut to be taken.

@@ -51,6 +51,21 @@ void LibraryPanes::Show(const LibraryView& view) {
     }
 }
 
+bool LibraryPanes::ShowColor(ColorId color) {
+    const int index = library_.Colors().IndexOfId(color);
+    if (index == 0)
+        return false;
+    const std::string group = library_.Colors().ViewAt(index).groupKey;
+    if (group != library_.Tree().Selected())
+        library_.Tree().Select(group);
+    ShowColorNodes();
+    list_.SelectColor(color);
+    list_.ShowSelected();
+    ShowColorPreview();
+    RememberActiveColorNode();
+    return true;
+}
+
 void LibraryPanes::ShowColorPreview() {
     const int index = library_.GetColornodeIndex(list_.SelectedKey());
     if (index > 0)

@@ -37,6 +37,9 @@ public:
     [[nodiscard]] LibraryView View() const override;
     void Show(const LibraryView& view);
 
+    // Selects a color with its group, as clicks would; false: it is not there any more.
+    bool ShowColor(ColorId color);
+
     // Loads the list's selected color into the editor; nothing without one.
     void ShowColorPreview();
 

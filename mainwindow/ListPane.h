@@ -24,6 +24,7 @@ public:
     virtual void RowsChanged(int rowCount) = 0;
     virtual void SelectRow(int row) = 0;
     virtual void EnsureRowVisible(int row) = 0;
+    virtual void FocusRows() = 0; // the list has the focus, and its window is the active one
     // The first row that is in sight, and the same by program as far as there are rows below it.
     [[nodiscard]] virtual int FirstRowInSight() const = 0;
     virtual void ShowFromRow(int row) = 0;

@@ -4,6 +4,7 @@
 #include "mainwindow/ColorEditor.h"
 #include "mainwindow/EditingCommands.h"
 #include "mainwindow/FileCommands.h"
+#include "mainwindow/FindCommands.h"
 #include "mainwindow/HistoryCommands.h"
 #include "mainwindow/LibraryPanes.h"
 #include "mainwindow/NewNodes.h"
@@ -24,6 +25,7 @@ struct MainCommands {
     NewNodes& newNodes;
     EditingCommands& editing;
     HistoryCommands& history;
+    FindCommands& find;
     RecoverCommands& recover;
     PaletteCommands& palettes;
     LibraryPanes& panes;

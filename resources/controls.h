@@ -60,6 +60,16 @@
 #define IDC_cmdEmpty 1505
 #define IDC_cmdClose 1506
 
+// frmFind
+#define IDC_lblFind 1601
+#define IDC_txtFind 1602
+#define IDC_chkLikeActive 1603
+#define IDC_lblLikeActive 1604
+#define IDC_lvFind 1605
+#define IDC_cmdShow 1606
+#define IDC_cmdCloseFind 1607
+#define IDC_stbarFind 1608
+
 // Menu entries; the number of a command everywhere
 #define IDM_mnuFile 2001
 #define IDM_mnuFileNew 2002
@@ -137,6 +147,10 @@
 #define IDM_mnuFileImport 2074
 #define IDM_mnuFileImportGroups 2075
 #define IDM_mnuFileExport 2076
+#define IDM_mnuEditHR1 2079
+#define IDM_mnuEditFind 2080
+#define IDM_mnuEditFindNext 2081
+#define IDM_mnuEditFindPrevious 2082
 
 // Icons and pictures
 #define IDI_tnt4swx 1

@@ -41,6 +41,10 @@ void MainList::EnsureRowVisible(int row) {
     control_.EnsureVisible(row);
 }
 
+void MainList::FocusRows() {
+    control_.Focus();
+}
+
 int MainList::FirstRowInSight() const {
     return control_.FirstRowInSight();
 }

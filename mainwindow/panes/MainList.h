@@ -18,6 +18,7 @@ public:
     void RowsChanged(int rowCount) override;
     void SelectRow(int row) override;
     void EnsureRowVisible(int row) override;
+    void FocusRows() override;
     int FirstRowInSight() const override;
     void ShowFromRow(int row) override;
     void EditRowLabel(int row) override;

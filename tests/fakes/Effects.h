@@ -141,6 +141,6 @@ public:
          rest.events, rest.service, rest.retry, language, errors, rest.calendar, rest.files,
          rest.copies, rest.background},
         {view.View(), window, form, rest.aboutWindow, rest.textViewerWindow, rest.progress,
-         rest.progressWindow, rest.progressForm, rest.recoverWindow},
+         rest.progressWindow, rest.progressForm, rest.recoverWindow, rest.findWindow},
         {"C:\\prog", "1.2.7", {"https://www.example.org/1"}, "C:\\prog"}};
 };

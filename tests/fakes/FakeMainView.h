@@ -68,6 +68,7 @@ public:
     }
     void SelectRow(int row) override { selectedRow = row; }
     void EnsureRowVisible(int row) override { visibleRow = row; }
+    void FocusRows() override { ++rowFocuses; }
     int FirstRowInSight() const override { return firstRow; }
     void ShowFromRow(int row) override { firstRow = row; }
     void EditRowLabel(int row) override { editedRow = row; }
@@ -163,6 +164,7 @@ public:
     bool rowsChangeFails = false;
     int selectedRow = -1;
     int visibleRow = -1;
+    int rowFocuses = 0;
     int firstRow = 0; // in sight
     int editedRow = -1;
     ListViewMode listMode = ListViewMode::LargeIcons;

@@ -22,6 +22,7 @@
 #include "tests/fakes/FakeWaitingClock.h"
 #include "tests/fakes/RetryingService.h"
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -97,21 +98,54 @@ public:
     std::vector<RecoverRow> rows;
 };
 
+// As the user sees it: texts of the rows are asked as they are painted.
+class FakeFind : public FakeWindowOf<FindView> {
+public:
+    FakeFind() : FakeWindowOf("frmFind", {0, 0, 6000, 5000}) {}
+
+    void SetColumnCaptions(const FindCaptions& texts) override { columns = texts; }
+    void ShowDifferences(bool isShown) override { hasDifferences = isShown; }
+    void ShowActiveColor(ColorNumber color) override { swatch = color; }
+    void ShowRows(int count, int selected) override {
+        rowCount = count;
+        selectedRow = selected;
+        ++rowChanges;
+    }
+    void AddRows(int count) override { rowCount = count; }
+    void SelectRow(int row) override { selectedRow = row; }
+    void SetStatus(const std::string& text) override { status = text; }
+    void TickEvery(int milliseconds) override { pace = milliseconds; }
+    void ShowModeless() override { ++shown; }
+
+    FindCaptions columns;
+    bool hasDifferences = false;
+    ColorNumber swatch = 0;
+    int rowCount = 0;
+    int selectedRow = -1;
+    int rowChanges = 0; // reported, of all rows
+    std::string status;
+    int pace = 0;
+    int shown = 0;
+};
+
 // The whole program on fakes, with the stand-in's model as the running SolidWorks.  The language
 // file of both languages is there: its message texts are their numbers in angle brackets; for the
 // descriptions of errors, which have arguments, it has none.
 class FakeProgram {
 public:
-    // running: gets the running SolidWorks instead of the model.
+    // running: gets the running SolidWorks instead of the model.  sliceOfSearch: how long a search
+    // goes on in one go.
     explicit FakeProgram(const std::string& scenario = "default",
-                         AutomationService* running = nullptr)
-        : solidWorks(scenario), automation(running ? *running : retryingService) {
+                         AutomationService* running = nullptr,
+                         std::chrono::milliseconds sliceOfSearch = FindHits::kSlice)
+        : solidWorks(scenario), automation(running ? *running : retryingService),
+          findSlice(sliceOfSearch) {
         files.contents["C:\\prog\\tntlng_de.ini"] = "";
         files.contents["C:\\prog\\tntlng_us.ini"] = "";
         for (int number = 0; number < 300; ++number) {
             const bool hasArguments = (number >= 110 && number < 150) ||
                                       (number >= 170 && number < 174) || number == 181 ||
-                                      number == 189;
+                                      number == 189 || (number >= 205 && number < 209);
             if (hasArguments)
                 continue;
             for (const char* code : {"de", "us"})
@@ -148,6 +182,7 @@ public:
     BusyRetry retry{clock};
     RetryingService retryingService{service, retry};
     AutomationService& automation;
+    std::chrono::milliseconds findSlice;
     FakeMainView view;
     FakeFormWindow mainWindow;
     FakeForm mainForm{"frmMain"};
@@ -157,6 +192,8 @@ public:
     FakeOnDemand<TextViewerView> textViewerWindow{textViewer};
     FakeRecover recover;
     FakeOnDemand<RecoverView> recoverWindow{recover};
+    FakeFind find;
+    FakeOnDemand<FindView> findWindow{find};
     FakeRunningCopies copies;
     FakeBackgroundWork background;
     FakeFormWindow progressWindow{"frmProgress"};
@@ -167,10 +204,12 @@ public:
         {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
          language, errors, calendar, files, copies, background},
         {view.View(), mainWindow, mainForm, aboutWindow, textViewerWindow, progress, progressWindow,
-         progressForm, recoverWindow},
+         progressForm, recoverWindow, findWindow},
         {"C:\\prog",
          "1.2.7",
          {"https://www.example.org/1", "https://www.example.org/2", "https://www.example.org/3"},
          "C:\\prog",
-         kRecoveryFolder}};
+         kRecoveryFolder,
+         LibraryHistory::kMostBytes,
+         findSlice}};
 };

@@ -2,6 +2,7 @@
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32Files.h"
 #include "platform/Win32PrivateProfile.h"
+#include "mainwindow/frmFind.h"
 #include "mainwindow/frmRecover.h"
 #include "support/language/clsMultiLanguage.h"
 #include "support/windows/frmAbout.h"
@@ -103,7 +104,8 @@ protected:
     FakeWaitingClock clock;
     frmProgress progress{form.Handle(), errors, clock};
     frmRecover recover{form.Handle(), errors};
-    std::vector<LocalizableForm*> forms{&form, &about, &progress, &recover};
+    frmFind find{form.Handle(), errors};
+    std::vector<LocalizableForm*> forms{&form, &about, &progress, &recover, &find};
 };
 
 Keys Without(const Keys& left, const Keys& right) {

@@ -2,6 +2,7 @@
 
 #include "app/Application.h"
 #include "common/WorkerThread.h"
+#include "mainwindow/frmFind.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/frmRecover.h"
 #include "platform/SilenceAtScopeEnd.h"
@@ -49,6 +50,7 @@ public:
         textViewer.Attach(application.TextViewerWindowEvents());
         progress.Attach(application.ProgressWindowEvents());
         recover.Attach(application.RecoverWindowEvents());
+        find.Attach(application.FindWindowEvents());
     }
 
     // The address of a banner picture, from 1.
@@ -95,6 +97,7 @@ public:
     frmProgress progress{main.Handle(), errors, clock};
     frmRecover recover{main.Handle(), errors};
     FakeOnDemand<RecoverView> recoverWindow{recover};
+    FindOnDemand find{main.Handle(), errors};
     Win32Folders folders;
     FakeRunningCopies copies;
     WorkerThread background;
@@ -102,7 +105,7 @@ public:
                              automation, retry, language, errors, calendar, folders, copies,
                              background},
                             {main.View(), main, main, about, textViewerWindow, progress, progress,
-                             progress, recoverWindow},
+                             progress, recoverWindow, find},
                             {folder, "1.0.0", BannerAddresses(banners.Count()), folder,
                              folder + "\\recovery", historyBytes}};
     SilenceAtScopeEnd silence{main};

@@ -1,4 +1,5 @@
 // Rules: Auxiliary windows
+#include "mainwindow/frmFind.h"
 #include "mainwindow/frmRecover.h"
 #include "standin/com/frmStandIn.h"
 #include "standin/model/StandInContract.h"
@@ -139,6 +140,37 @@ TEST_F(Repaint, Recover) {
         return PictureAfter(recover.Handle(), sizes);
     };
     ExpectSameWayOrNot(show, {700, 400}, {{600, 300}, {1200, 900}, {540, 250}});
+}
+
+TEST_F(Repaint, Find) {
+    const auto show = [this](const Sizes& sizes) {
+        class : public FindEvents {
+        public:
+            void TextChanged(const std::string&) override {}
+            void LikeActiveColorChosen(bool) override {}
+            void RowSelected(int) override {}
+            void RowChosen(int) override {}
+            void Ticked() override {}
+            void FindClosing() override {}
+            [[nodiscard]] std::string CellText(int row, int column) const override {
+                return "cell " + std::to_string(row) + "," + std::to_string(column);
+            }
+            [[nodiscard]] ColorNumber ColorOfRow(int row) const override {
+                return static_cast<ColorNumber>(0x203040 * row);
+            }
+        } events;
+        frmFind find(nullptr, errors);
+        find.Attach(events);
+        find.SetColumnCaptions({"Color", "Group", "Library", "Difference"});
+        find.ShowDifferences(true);
+        find.ShowActiveColor(0x4080C0);
+        find.ShowRows(60, 2);
+        find.SetStatus("60 of 3,400 colors");
+        Resize(find.Handle(), sizes.front());
+        ShowWindow(find.Handle(), SW_SHOW);
+        return PictureAfter(find.Handle(), sizes);
+    };
+    ExpectSameWayOrNot(show, {700, 400}, {{600, 300}, {1200, 900}, {440, 270}});
 }
 
 TEST_F(Repaint, StandIn) {
