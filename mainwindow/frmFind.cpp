@@ -106,6 +106,8 @@ void frmFind::SetColumnCaptions(const FindCaptions& captions) {
     const int columns = kDifferenceColumn - (hasDifferences_ ? 0 : 1);
     for (int column = 1; column <= columns; ++column)
         lvFind_.SetColumnCaption(column, captions_.at(static_cast<std::size_t>(column) - 1));
+    if (hasDifferences_)
+        lvFind_.AlignRight(kDifferenceColumn); // the header's text too, which is a new one
     OnLayout();
 }
 

@@ -41,7 +41,6 @@ public:
 class FindForm : public MainFormTest {
 protected:
     FindForm() {
-        form.ShowWindow();
         window.Attach(recorded);
         window.SetColumnCaptions({"Color", "Group", "Library", "Difference"});
         window.ShowModeless();
@@ -211,6 +210,15 @@ TEST_F(FindForm, CheckBoxIsReportedAndBringsTheColumnOfDifferences) {
     EXPECT_EQ(std::wstring(caption.data()), L"Difference");
     window.ShowDifferences(false);
     EXPECT_EQ(ColumnCount(), 3);
+}
+
+TEST_F(FindForm, HeaderOfTheDifferencesIsOnTheRightAlsoInAnotherLanguage) {
+    window.ShowDifferences(true);
+    window.SetColumnCaptions({"Farbe", "Gruppe", "Bibliothek", "Abstand"});
+    HDITEMW item{};
+    item.mask = HDI_FORMAT;
+    SendMessageW(ListView_GetHeader(List()), HDM_GETITEMW, 3, reinterpret_cast<LPARAM>(&item));
+    EXPECT_EQ(item.fmt & HDF_JUSTIFYMASK, HDF_RIGHT);
 }
 
 TEST_F(FindForm, RowsThatComeLeaveSelectionAndSightAlone) {
