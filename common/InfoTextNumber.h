@@ -90,7 +90,7 @@ inline constexpr std::int32_t NotAllImported = 214;
 inline constexpr std::int32_t PaletteNotOpened = 215;
 inline constexpr std::int32_t NoPalette = 216;
 inline constexpr std::int32_t EmptyPalette = 217;
-inline constexpr std::int32_t PaletteFirst = 218; // place of the first one
+inline constexpr std::int32_t FirstInLine = 218; // place of the first one
 inline constexpr std::int32_t PaletteUnreadable = 219;
 inline constexpr std::int32_t PaletteOutOfRange = 220;
 inline constexpr std::int32_t PaletteUnknownModel = 221;
@@ -101,6 +101,7 @@ inline constexpr std::int32_t PaletteEnds = 225;
 inline constexpr std::int32_t PaletteCount = 226;
 inline constexpr std::int32_t PaletteRest = 227;
 inline constexpr std::int32_t PaletteLimit = 228;
+inline constexpr std::int32_t FirstAtEntry = 229;
 inline constexpr std::int32_t ExportPalette = 230;
 inline constexpr std::int32_t GimpPalette = 231;
 inline constexpr std::int32_t SwatchExchange = 232;
@@ -115,6 +116,7 @@ inline constexpr std::int32_t LostNames = 240;
 inline constexpr std::int32_t LostPaletteName = 241;
 inline constexpr std::int32_t ChangedColors = 242;
 inline constexpr std::int32_t AskExportAllTheSame = 243;
+inline constexpr std::int32_t ExportFailed = 244; // the path follows
 
 // Of a failed automation call, where the system has no words; ErrorText.h has the built-in ones.
 inline constexpr std::int32_t ServerRejectsCall = 163;

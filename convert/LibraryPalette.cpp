@@ -90,13 +90,21 @@ bool LacksMaterial(const Palette& palette) {
     });
 }
 
+std::size_t CountOfNewGroups(const Palette& palette) {
+    const bool hasFirstGroup =
+        palette.groups.empty() ||
+        std::ranges::find(palette.entries, kNoGroup, &PaletteEntry::group) != palette.entries.end();
+    return palette.groups.size() + (hasFirstGroup ? 1 : 0);
+}
+
 std::string AddPaletteGroups(ColorLibrary& library, const std::string& mainKey,
                              const Palette& palette, const NewGroups& added) {
     const std::vector<std::vector<ColorRecord>> colors = ColorsByGroup(palette, added.material);
     std::vector<std::string> names = palette.groups;
     names.insert(names.begin(), added.firstGroup);
-    const std::size_t first = colors.front().empty() && names.size() > 1 ? 1 : 0;
-    if (!library.AreNextGroupNumbersFree(mainKey, names.size() - first))
+    const std::size_t count = CountOfNewGroups(palette);
+    const std::size_t first = names.size() - count;
+    if (!library.AreNextGroupNumbersFree(mainKey, count))
         throw RuntimeError(ErrorNumber::DuplicateKey, ErrorTexts::GroupNumberTaken);
     std::string firstKey;
     for (std::size_t group = first; group < names.size(); ++group) {

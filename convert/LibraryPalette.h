@@ -34,6 +34,9 @@ struct LibraryAsPalette {
 // Whether a color of the palette comes without some of its material values.
 [[nodiscard]] bool LacksMaterial(const Palette& palette);
 
+// How many groups a palette has in a library.
+[[nodiscard]] std::size_t CountOfNewGroups(const Palette& palette);
+
 struct NewGroups {
     std::string firstGroup; // of colors without a group, and when there is no group at all
     ColorMaterial material = kUsualMaterial;

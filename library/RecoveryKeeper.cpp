@@ -161,6 +161,7 @@ void RecoveryKeeper::FinishJob(Job job) {
         RemoveEntries(kept);
         kept.state = state;
     } else {
+        kept.isFailing = true;
         NoteFailure();
         if (IsOpen(job.library))
             kept.state.reset();
@@ -171,7 +172,9 @@ void RecoveryKeeper::FinishJob(Job job) {
 
 // Meanwhile the library may have been saved, or its entry may belong to another one.
 void RecoveryKeeper::FinishWritten(Kept& kept, const Job& job) {
-    hasFailed_ = false;
+    kept.isFailing = false;
+    hasFailed_ = hasFailed_ &&
+                 std::ranges::any_of(kept_, [](const auto& each) { return each.second.isFailing; });
     if (kept.id != job.id && !IsFormerOfSome(job.id))
         parts_.folder.Remove(job.id);
     if (kept.id == job.id && !kept.formerId.empty())

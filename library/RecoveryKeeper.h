@@ -61,6 +61,7 @@ private:
         std::optional<LibraryState> state{}; // that was taken up last
         std::string id{};                    // of its entry; empty: it has none
         std::string formerId{};              // of the entry that it was opened from
+        bool isFailing = false;              // it could not be kept the last time
     };
     enum class Outcome { Written, AsSaved, Failed };
     struct Job {

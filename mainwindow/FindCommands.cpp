@@ -125,7 +125,7 @@ void FindCommands::Advance() {
     NoteRevision();
     const bool hadRows = hits_.Count() > 0;
     const FindHits::Change change = hits_.Advance();
-    if (change == FindHits::Change::MoreRows && hadRows)
+    if (change == FindHits::Change::MoreRows && hadRows && !isCurrentMissing_)
         parts_.window.Get().AddRows(hits_.Count());
     else if (change != FindHits::Change::None)
         ShowAllRows();
@@ -177,6 +177,7 @@ void FindCommands::ShowTexts() {
 void FindCommands::ShowAllRows() {
     const std::optional<int> row = current_ != 0 ? hits_.RowOf(current_) : std::optional<int>();
     const int count = hits_.Count();
+    isCurrentMissing_ = current_ != 0 && !row;
     place_ = row.value_or(place_);
     parts_.window.Get().ShowRows(count, std::min(place_, count - 1));
 }
@@ -211,7 +212,9 @@ void FindCommands::RowChosen(int row) {
 }
 
 void FindCommands::GoOn(int direction) {
-    Advance(); // the libraries may have changed while the window was hidden
+    do // the libraries may have changed: the next hit is that of all
+        Advance();
+    while (!hits_.IsDone());
     if (hits_.Count() == 0) {
         mnuEditFind_Click();
         return;

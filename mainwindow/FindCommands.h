@@ -97,10 +97,11 @@ private:
     ColorNumber wanted_ = 0;               // that the nearest are looked for
     std::optional<std::int32_t> language_; // that the texts are of
     Texts texts_;
-    std::uint64_t revision_ = 0; // of the libraries, as it was seen last
-    bool isChanging_ = false;    // they were other ones then
-    ColorId current_ = 0;        // that the user has selected or gone to; 0: none yet
-    int place_ = 0;              // its row, or where it was
+    std::uint64_t revision_ = 0;    // of the libraries, as it was seen last
+    bool isChanging_ = false;       // they were other ones then
+    ColorId current_ = 0;           // that the user has selected or gone to; 0: none yet
+    int place_ = 0;                 // its row, or where it was
+    bool isCurrentMissing_ = false; // it has not been found again yet
     bool isOpen_ = false;
     int pace_ = 0; // milliseconds between ticks; 0: there are none
     std::string status_;

@@ -2,6 +2,7 @@
 
 #include "common/FileNames.h"
 #include "common/InfoTextNumber.h"
+#include "common/RuntimeError.h"
 #include "common/Text.h"
 #include "library/SafeFileWriter.h"
 #include "mainwindow/WaitingShown.h"
@@ -43,7 +44,8 @@ void PaletteCommands::mnuFileImport_Click() {
 }
 
 void PaletteCommands::mnuFileImportGroups_Click() {
-    Import(AskPalettes(), parts_.library.GetActiveMainnode());
+    const std::vector<std::string> paths = AskPalettes();
+    Import(paths, parts_.library.GetActiveMainnode());
 }
 
 void PaletteCommands::ImportDropped(const std::vector<std::string>& paths) {
@@ -60,7 +62,7 @@ bool PaletteCommands::IsDroppedPalette(const std::string& path) const {
     return !HasExtension(path, kTextExtension) || Read(path, unheard).has_value();
 }
 
-// All are read before the first one is added: a value that is missing stops all of them.
+// All are read and looked at before the first one is added: what stops one of them stops all.
 void PaletteCommands::Import(const std::vector<std::string>& paths, const std::string& mainKey) {
     std::string report;
     {
@@ -70,6 +72,8 @@ void PaletteCommands::Import(const std::vector<std::string>& paths, const std::s
             if (std::optional<Palette> palette = Read(path, report))
                 files.push_back({path, std::move(*palette)});
         const ColorMaterial material = MaterialFor(files);
+        if (!mainKey.empty())
+            CheckRoomForGroups(files, mainKey);
         std::string firstGroup;
         for (const ReadFile& file : files)
             firstGroup = Add(file, mainKey, material);
@@ -94,7 +98,7 @@ std::optional<Palette> PaletteCommands::Read(const std::string& path, std::strin
         return {};
     }
     if (!reading.faults.IsNothing())
-        AddLine(report, path, texts_.Told(reading.faults));
+        AddLine(report, path, texts_.Told(reading.faults, *reading.format));
     if (reading.palette.entries.empty()) {
         AddLine(report, path, texts_.Text(InfoTextNumber::EmptyPalette, "keine Farben"));
         return {};
@@ -111,6 +115,15 @@ ColorMaterial PaletteCommands::MaterialFor(const std::vector<ReadFile>& files) c
     const ColorValueArray values = parts_.editor.Values();
     std::copy(values.end() - std::tuple_size_v<ColorMaterial>, values.end(), material.begin());
     return material;
+}
+
+void PaletteCommands::CheckRoomForGroups(const std::vector<ReadFile>& files,
+                                         const std::string& mainKey) const {
+    std::size_t count = 0;
+    for (const ReadFile& file : files)
+        count += CountOfNewGroups(file.palette);
+    if (!parts_.library.AreNextGroupNumbersFree(mainKey, count))
+        throw RuntimeError(ErrorNumber::DuplicateKey, ErrorTexts::GroupNumberTaken);
 }
 
 std::string PaletteCommands::Add(const ReadFile& file, const std::string& mainKey,
@@ -195,7 +208,9 @@ void PaletteCommands::Export(const std::string& path) {
 void PaletteCommands::Write(const std::string& path, const std::string& bytes) {
     if (SafeFileWriter(parts_.files).Write(path, bytes, parts_.settings.createBackups) !=
         Exchanged::Done) {
-        parts_.prompts.ShowMessage(parts_.texts.GetInfoText(InfoTextNumber::SaveFailed) + path,
+        parts_.prompts.ShowMessage(texts_.Text(InfoTextNumber::ExportFailed,
+                                               "Die Palette konnte nicht geschrieben werden:") +
+                                       " " + path,
                                    MessageStyle::Critical,
                                    parts_.texts.GetInfoText(InfoTextNumber::Attention));
         return;

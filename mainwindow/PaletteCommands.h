@@ -40,7 +40,8 @@ public:
     // editor.  What could not be read is told in one message.  Throws RuntimeError when a value of
     // the editor is needed and is no number.
     void mnuFileImport_Click();
-    // The same as groups of the selected library; without one, as libraries.
+    // The same as groups of the selected library; without one, as libraries.  Throws RuntimeError
+    // DuplicateKey when the number of one of the groups is taken; nothing is imported then.
     void mnuFileImportGroups_Click();
 
     // Palettes among files that were dropped onto the window, as with Import; a file of another
@@ -62,6 +63,7 @@ private:
     void Import(const std::vector<std::string>& paths, const std::string& mainKey);
     [[nodiscard]] std::optional<Palette> Read(const std::string& path, std::string& report) const;
     [[nodiscard]] ColorMaterial MaterialFor(const std::vector<ReadFile>& files) const;
+    void CheckRoomForGroups(const std::vector<ReadFile>& files, const std::string& mainKey) const;
     // Gives the key of the palette's first group.
     std::string Add(const ReadFile& file, const std::string& mainKey,
                     const ColorMaterial& material);

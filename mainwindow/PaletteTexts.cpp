@@ -23,7 +23,7 @@ constexpr std::array<NumberedText, kPaletteFaultCount> kFaults = {{
     {InfoTextNumber::PaletteEnds, "die Datei bricht ab"},
     {InfoTextNumber::PaletteCount, "die Datei nennt eine andere Anzahl"},
     {InfoTextNumber::PaletteRest, "Rest hinter dem Ende"},
-    {InfoTextNumber::PaletteLimit, "zu groß, der Rest fehlt"},
+    {InfoTextNumber::PaletteLimit, "über den Grenzen des Programms"},
 }};
 
 std::string Joined(const std::string& one, const char* between, const std::string& other) {
@@ -44,15 +44,17 @@ std::string PaletteTexts::ExportFilter() const {
            Text(InfoTextNumber::ColorTable, "Tabelle mit allen neun Werten (.csv)") + "|*.csv";
 }
 
-std::string PaletteTexts::Told(const PaletteFaults& faults) const {
+std::string PaletteTexts::Told(const PaletteFaults& faults, PaletteFormat format) const {
+    const bool isText = format == PaletteFormat::Gimp || format == PaletteFormat::Table;
+    const std::string first = isText ? Text(InfoTextNumber::FirstInLine, "zuerst in Zeile")
+                                     : Text(InfoTextNumber::FirstAtEntry, "zuerst bei Eintrag");
     std::string told;
     for (std::size_t kind = 0; kind < kPaletteFaultCount; ++kind) {
         const PaletteFaults::Met& met = faults.Of(static_cast<PaletteFault>(kind));
         if (met.count > 0)
             told = Joined(told, ", ",
                           Text(kFaults[kind].number, kFaults[kind].builtIn) + ": " +
-                              std::to_string(met.count) + " (" +
-                              Text(InfoTextNumber::PaletteFirst, "zuerst Nr.") + " " +
+                              std::to_string(met.count) + " (" + first + " " +
                               std::to_string(met.first) + ")");
     }
     return told;

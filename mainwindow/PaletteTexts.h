@@ -3,6 +3,7 @@
 #include "common/ports/InfoTexts.h"
 #include "convert/LibraryPalette.h"
 #include "palettes/PaletteFaults.h"
+#include "palettes/PaletteFormat.h"
 #include "palettes/PaletteLosses.h"
 
 #include <string>
@@ -17,7 +18,7 @@ public:
     [[nodiscard]] std::string ExportFilter() const;
 
     // What could not be read: kind, how often, and where first; empty: nothing.
-    [[nodiscard]] std::string Told(const PaletteFaults& faults) const;
+    [[nodiscard]] std::string Told(const PaletteFaults& faults, PaletteFormat format) const;
 
     // The question before a file is written that does not hold everything; empty: it does.
     // changedColors: with values beyond their range.

@@ -15,7 +15,8 @@ enum class PaletteFault {
     Ends,         // the file ends in the middle of something
     Count,        // the file says that it has another number of parts
     Rest,         // bytes behind the last part
-    Limit,        // more bytes, colors or groups than the limit; what is beyond is left out
+    Limit,        // more bytes or colors than the limit, which are left out, or more groups, whose
+                  // colors are without one
 };
 inline constexpr std::size_t kPaletteFaultCount = 10;
 

@@ -59,13 +59,13 @@ bool TableRecords::Next() {
 
 void TableRecords::TakeRecord() {
     cells_.clear();
-    isTooLong_ = false;
+    hasMore_ = false;
     startLine_ = line_;
     while (true) {
         TakeCell(cells_.emplace_back());
         if (cells_.size() > PaletteLimits::kMostColumns) {
             cells_.pop_back();
-            isTooLong_ = true;
+            hasMore_ = true;
         }
         if (place_ >= text_.size())
             return;
@@ -119,6 +119,8 @@ bool TableRecords::TakeQuoted(TableCell& cell) {
     line_ += static_cast<std::size_t>(std::ranges::count(cell.raw, '\n'));
     place_ = end + 1;
     PassCell();
+    const std::string_view behind = text_.substr(end + 1, place_ - end - 1);
+    hasMore_ = hasMore_ || !std::ranges::all_of(behind, IsBlank);
     return true;
 }
 

@@ -28,8 +28,9 @@ public:
     // Valid until the next call.
     [[nodiscard]] const std::vector<TableCell>& Cells() const noexcept { return cells_; }
 
-    // Whether the record has more cells than the limit, which are not given.
-    [[nodiscard]] bool IsTooLong() const noexcept { return isTooLong_; }
+    // Whether the record has more than is given: cells beyond the limit, or something behind the
+    // closing quote of a cell.
+    [[nodiscard]] bool HasMore() const noexcept { return hasMore_; }
 
     // Of the record's first line, from 1.
     [[nodiscard]] std::size_t Line() const noexcept { return startLine_; }
@@ -49,7 +50,7 @@ private:
     std::size_t place_ = 0;
     std::size_t line_ = 1;
     std::size_t startLine_ = 1;
-    bool isTooLong_ = false;
+    bool hasMore_ = false;
     std::vector<TableCell> cells_;
 };
 

@@ -78,7 +78,7 @@ private:
             if (columns_[cell] == TableColumn::Nothing && !records_.Cells()[cell].raw.empty())
                 content_.Add(PaletteFault::Column, records_.Line());
         hasHeader_ = !columns_.empty();
-        if (hasHeader_ && records_.IsTooLong())
+        if (hasHeader_ && records_.HasMore())
             content_.Add(PaletteFault::Column, records_.Line());
         return hasHeader_;
     }
@@ -114,7 +114,7 @@ private:
     // Cells behind the columns, and those of columns that no header has called useless already.
     void CountStrayCells() {
         const std::vector<TableCell>& cells = records_.Cells();
-        bool isStray = records_.IsTooLong();
+        bool isStray = records_.HasMore();
         const std::size_t first = hasHeader_ ? columns_.size() : 0;
         for (std::size_t cell = first; cell < cells.size(); ++cell)
             if (cell >= columns_.size() || columns_[cell] == TableColumn::Nothing)

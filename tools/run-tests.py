@@ -17,7 +17,8 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 LOGS = ROOT / "build" / "logs"
 WINE = ("tools/wine-session.sh",)
 OWN_LIBRARIES = ("tnt_portable", "tnt_platform", "tnt_forms", "standin_model")
-LONG_DOSES = (("TNT_MONKEY", "100000"), ("TNT_ENDURANCE", "1000"), ("TNT_KILLS", "100"))
+LONG_DOSES = (("TNT_MONKEY", "100000"), ("TNT_ENDURANCE", "1000"), ("TNT_KILLS", "100"),
+              ("TNT_SAVES", "1000"))
 
 USAGE = """usage: ./test                      everything that is for every hour
        ./test native               the portable half and the quick checks

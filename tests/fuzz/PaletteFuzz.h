@@ -18,6 +18,13 @@ inline void RequireWithinLimits(const Palette& palette) {
     }
 }
 
+// Whatever else a format holds.
+inline void RequireSameColors(const Palette& one, const Palette& other) {
+    Require(one.entries.size() == other.entries.size());
+    for (std::size_t entry = 0; entry < one.entries.size(); ++entry)
+        Require(one.entries[entry].Color() == other.entries[entry].Color());
+}
+
 // Any bytes as a file: a palette within the limits or none; written in the format, what was said to
 // be held comes back, and a second time the bytes are the same.
 inline void FuzzPalette(const std::string& bytes, PaletteFormat format) {
@@ -29,7 +36,9 @@ inline void FuzzPalette(const std::string& bytes, PaletteFormat format) {
     const PaletteReading again = ReadPalette(first.bytes, codePage);
     Require(again.format == format);
     if (first.losses.IsNothing())
-        Require(again.palette.entries.size() == reading.palette.entries.size());
+        Require(again.palette == reading.palette);
+    else if (first.losses.entries == 0)
+        RequireSameColors(again.palette, reading.palette);
     // U+FFFD counts as a broken name each time.
     Require(again.faults.Of(PaletteFault::Unreadable).count == 0);
     Require(again.faults.Of(PaletteFault::Ends).count == 0);

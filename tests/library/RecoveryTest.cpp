@@ -317,6 +317,28 @@ TEST_F(RecoveryTest, FailureIsToldOnceAndTriedAgainLater) {
     EXPECT_EQ(Kept().size(), 2U);
 }
 
+TEST_F(RecoveryTest, FailureOfOneLibraryIsToldOnceWhileAnotherOneIsKept) {
+    int told = 0;
+    keeper->onFailed = [&] { ++told; };
+    Rename(Open(), "Other");
+    Look();
+    files.locked.insert(std::string(kFolder) + "\\own-1.tnt");
+    Rename("0D", "again");
+    const std::string second = Open();
+    for (int look = 0; look < 40; ++look) {
+        Rename(second, "second " + std::to_string(look));
+        Look();
+    }
+    EXPECT_EQ(told, 1);
+    files.locked.clear();
+    for (int look = 0; look < 20; ++look)
+        Look();
+    files.locked.insert(std::string(kFolder) + "\\own-1.tnt");
+    Rename("0D", "and again");
+    Look();
+    EXPECT_EQ(told, 2) << "it had been kept meanwhile";
+}
+
 // Each step of writing a copy anew fails, or the process ends there.
 TEST_F(RecoveryTest, WhateverHappensTheOldOrTheNewOneIsThereWhole) {
     const std::string key = Open();

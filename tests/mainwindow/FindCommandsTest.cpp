@@ -452,6 +452,28 @@ TEST_F(SlicedFindTest, NearestOfAllAreThereAtTheEnd) {
     EXPECT_EQ(program.find.status, "Die 100 ähnlichsten von 9.005 Farben");
 }
 
+TEST_F(SlicedFindTest, SelectedHitIsSelectedAgainWhenAChangeHasMadeTheSearchBeginAnew) {
+    Type("many");
+    for (int tick = 0; tick < 5; ++tick)
+        Window().Ticked();
+    Window().RowSelected(5000);
+    Run(IDM_mnuColorUpdateColor); // of the first row
+    for (int tick = 0; tick < 9; ++tick)
+        Window().Ticked();
+    EXPECT_EQ(program.find.rowCount, 9000);
+    EXPECT_EQ(program.find.selectedRow, 5000);
+}
+
+TEST_F(SlicedFindTest, NextHitIsThatOfAllAlsoWhileASearchGoesOn) {
+    Type("many");
+    for (int tick = 0; tick < 5; ++tick)
+        Window().Ticked();
+    Window().RowSelected(5000);
+    Run(IDM_mnuColorUpdateColor);
+    Run(IDM_mnuEditFindNext);
+    EXPECT_EQ(program.find.selectedRow, 5001);
+}
+
 TEST_F(SlicedFindTest, SearchGoesOnBehindAWindowThatIsClosed) {
     Type("many");
     Window().FindClosing();

@@ -133,6 +133,22 @@ TEST_F(PaletteCommandsTest, GroupsWhoseNumbersAreTakenAreAllRefused) {
     EXPECT_EQ(Nodes(), (Texts{"0D Mine", "0DG2 other"}));
 }
 
+TEST_F(PaletteCommandsTest, SecondFileWithoutRoomForItsGroupsKeepsTheFirstOneOutToo) {
+    NewLibrary("Mine");
+    program.prompts.typed = {"two", ""};
+    Run(IDM_mnuColorNewGroup);
+    program.prompts.typed = {"three", ""};
+    Run(IDM_mnuColorNewGroup);
+    for (const char* group : {"0DG1", "0DG2"}) {
+        program.Main().tree.NodeClicked(group);
+        Run(IDM_mnuColorDelGroup);
+    }
+    ASSERT_EQ(Nodes(), (Texts{"0D Mine", "0DG3 three"}));
+    EXPECT_THROW(Import({kGpl, kCsv}, IDM_mnuFileImportGroups), RuntimeError);
+    EXPECT_EQ(Nodes(), (Texts{"0D Mine", "0DG3 three"})) << "the first one would have had room";
+    EXPECT_FALSE(program.view.isWaiting);
+}
+
 TEST_F(PaletteCommandsTest, WhatCouldNotBeReadIsToldInOneMessageWithCountAndPlace) {
     program.files.contents["C:\\a.gpl"] = "GIMP Palette\n1 2 3 a\nrubbish\n1 2 999 b\nmore\n";
     program.files.contents["C:\\b.png"] = std::string("\x89PNG\0\0", 6);
@@ -273,7 +289,7 @@ TEST_F(PaletteCommandsTest, ExportThatFailsAtAnyStepIsToldAndLeavesTheOldFile) {
         if (isWritten)
             continue;
         EXPECT_EQ(program.prompts.messages.back(),
-                  (Message{std::string("<4>") + kOut, 16, "<98>"}));
+                  (Message{std::string("<244> ") + kOut, 16, "<98>"}));
         EXPECT_TRUE(Written(kOut) == "old" || Written(std::string(kOut) + ".bak") == "old") << step;
     }
     EXPECT_TRUE(isWritten);
