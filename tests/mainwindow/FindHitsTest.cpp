@@ -65,9 +65,9 @@ TEST_F(FindHitsTest, RowsOfATextComeSliceBySlice) {
 }
 
 TEST_F(FindHitsTest, ColorsWithTheValuesStandBeforeThoseWithTheWords) {
-    Add("1 0 0", {9, 9, 9});
+    Add("was #010000 once", {9, 9, 9});
     Add("other", {1, 0, 0});
-    hits.Search(ParseColorQuery("1 0 0"));
+    hits.Search(ParseColorQuery("#010000"));
     AdvanceToTheEnd();
     std::vector<int> wanted;
     for (int number = 1; number <= kColors; number += 256)
@@ -79,11 +79,11 @@ TEST_F(FindHitsTest, ColorsWithTheValuesStandBeforeThoseWithTheWords) {
 }
 
 TEST_F(FindHitsTest, RowsBeforeOthersThatWereThereAreAnotherList) {
-    Add("1 0 0", {9, 9, 9});
+    Add("was #010000 once", {9, 9, 9});
     for (int number = 0; number < kColors; ++number)
         Add("more", {7, 7, 7});
     Add("last", {1, 0, 0});
-    hits.Search(ParseColorQuery("1 0 0"));
+    hits.Search(ParseColorQuery("#010000"));
     EXPECT_EQ(AdvanceToTheEnd().back(), Change::AllRows);
 }
 

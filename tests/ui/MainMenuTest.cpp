@@ -213,6 +213,16 @@ TEST_F(MainMenu, KeysOfTextEntryAreLeftToTheTextBox) {
     EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuFileSave});
 }
 
+TEST_F(MainMenu, KeysThatFindAreTakenFromTextBoxesToo) {
+    MSG next{Child(IDC_txtActiveColor), WM_KEYDOWN, VK_F3, 0, 0, {}};
+    EXPECT_TRUE(form.TranslateKeys(next));
+    SetCtrl(true);
+    MSG find{Child(IDC_txtActiveColor), WM_KEYDOWN, 'F', 0, 0, {}};
+    EXPECT_TRUE(form.TranslateKeys(find));
+    SetCtrl(false);
+    EXPECT_EQ(events.commands, (std::vector<int>{IDM_mnuEditFindNext, IDM_mnuEditFind}));
+}
+
 // Anywhere else the key would delete a color that the user is not looking at.
 TEST_F(MainMenu, DeleteKeyDeletesAColorOnlyWhileTheListHasTheFocus) {
     form.ShowWindow();
