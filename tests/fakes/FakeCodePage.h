@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/Windows1252.h"
 #include "common/ports/AnsiCodePage.h"
 
 #include <cstdint>
@@ -10,13 +11,15 @@
 // A single-byte code page: ASCII, and a table for the upper half.
 class FakeCodePage : public AnsiCodePage {
 public:
-    // Western (Windows-1252): Latin-1 from 0xA0 on, and a few of the characters in between.
+    // Windows-1252; the five bytes that are control characters there have no meaning here.
     static FakeCodePage Western() {
         FakeCodePage page;
-        for (std::uint32_t octet = 0xA0; octet <= 0xFF; ++octet)
-            page.Add(static_cast<unsigned char>(octet), octet);
-        page.Add(0x80, 0x20AC);
-        page.Add(0x96, 0x2013);
+        for (std::uint32_t number = 0x80; number <= 0xFF; ++number) {
+            const auto octet = static_cast<unsigned char>(number);
+            const std::uint32_t character = Windows1252::CharacterOf(octet);
+            if (character >= 0xA0)
+                page.Add(octet, character);
+        }
         return page;
     }
 
