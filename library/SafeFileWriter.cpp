@@ -18,8 +18,7 @@ std::string BesideOf(const std::string& path, int number) {
 
 Exchanged SafeFileWriter::Write(const std::string& path, std::string_view content, bool keepBackup,
                                 const LastLook& lastLook) {
-    const auto besidePath = WriteNewFile(
-        files_, [&](int number) { return BesideOf(path, number); }, content);
+    const std::optional<std::string> besidePath = WriteBeside(path, content);
     if (!besidePath)
         return Exchanged::Unchanged;
     const Exchanged outcome =
@@ -29,6 +28,20 @@ Exchanged SafeFileWriter::Write(const std::string& path, std::string_view conten
     if (outcome == Exchanged::Unchanged || outcome == Exchanged::OldIsBackup)
         files_.Remove(*besidePath);
     return outcome;
+}
+
+bool SafeFileWriter::WriteNew(const std::string& path, std::string_view content) {
+    const std::optional<std::string> besidePath = WriteBeside(path, content);
+    const bool isThere = besidePath && files_.Rename(*besidePath, path);
+    if (besidePath && !isThere)
+        files_.Remove(*besidePath);
+    return isThere;
+}
+
+std::optional<std::string> SafeFileWriter::WriteBeside(const std::string& path,
+                                                       std::string_view content) {
+    return WriteNewFile(
+        files_, [&](int number) { return BesideOf(path, number); }, content);
 }
 
 bool SafeFileWriter::MayGo(const LastLook& lastLook, const std::string& besidePath) {

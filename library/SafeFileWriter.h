@@ -3,6 +3,7 @@
 #include "common/ports/Files.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,10 +30,17 @@ public:
         const std::string& path, std::string_view content, bool keepBackup,
         const LastLook& lastLook = [] { return true; });
 
+    // The same for a file that is not there yet: one that is there, or comes meanwhile, is never
+    // replaced.  False: nothing is written.
+    [[nodiscard]] bool WriteNew(const std::string& path, std::string_view content);
+
     // The backup step alone.  True when there was nothing to keep or the backup stands.
     [[nodiscard]] bool MoveToBackup(const std::string& path);
 
 private:
+    // The path of the new file beside the target; nothing when it could not be written.
+    [[nodiscard]] std::optional<std::string> WriteBeside(const std::string& path,
+                                                         std::string_view content);
     [[nodiscard]] bool MayGo(const LastLook& lastLook, const std::string& besidePath);
     [[nodiscard]] Exchanged TakePlace(const std::string& besidePath, const std::string& path,
                                       const std::string& backup);
