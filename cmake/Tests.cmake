@@ -60,8 +60,12 @@ endfunction()
 set(portable_test_folders tests/common tests/library tests/palettes tests/convert tests/solidworks
     tests/support/language tests/support/settings tests/support/windows
     tests/mainwindow tests/app tests/standin tests/fakes)
+if(TNT_CONVERTER)
+    list(APPEND portable_test_folders tests/converter tests/converter/${converter_system})
+endif()
 tnt_test_program(portable_tests FOLDERS ${portable_test_folders}
-    LIBRARIES standin_model tnt_portable gmock gtest gtest_main)
+    LIBRARIES $<TARGET_NAME_IF_EXISTS:tnt_converter> standin_model tnt_portable gmock gtest
+    gtest_main)
 tnt_test(portable_tests portable_tests)
 
 # Measures the library and its files; its numbers stand in docs/performance.md.

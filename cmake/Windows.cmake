@@ -1,3 +1,18 @@
+# A program as it is shipped: one file that runs anywhere, without a run-time library beside it.
+function(tnt_windows_program program)
+    if(MSVC)
+        target_link_options(${program} PRIVATE /MANIFEST:NO # the resource script holds it
+            /guard:cf /guard:ehcont /CETCOMPAT
+            /DEPENDENTLOADFLAG:0x800)
+    else()
+        # The same sources give the same bytes: no time of the link in it.
+        target_link_options(${program} PRIVATE -static -municode -Wl,--dynamicbase
+            -Wl,--nxcompat -Wl,--high-entropy-va -Wl,--no-insert-timestamp
+            $<$<CONFIG:Release>:-s>)
+    endif()
+    set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+endfunction()
+
 # The Windows half: toolkit, forms, the program and the stand-in.
 tnt_sources(platform_sources platform platform/controls)
 add_library(tnt_platform STATIC ${platform_sources})
@@ -11,14 +26,8 @@ target_link_libraries(tnt_forms PUBLIC tnt_platform)
 tnt_target_options(tnt_forms)
 target_precompile_headers(tnt_forms REUSE_FROM tnt_platform)
 
-# The version as code and resource scripts see it; its one place is CMakeLists.txt.
 configure_file(${CMAKE_SOURCE_DIR}/resources/tnt4swx.manifest.in
     ${CMAKE_BINARY_DIR}/generated/resources/tnt4swx.manifest @ONLY)
-add_library(tnt_version INTERFACE)
-target_include_directories(tnt_version INTERFACE ${CMAKE_BINARY_DIR}/generated)
-target_compile_definitions(tnt_version INTERFACE TNT_VERSION="${PROJECT_VERSION}"
-    TNT_VERSION_MAJOR=${PROJECT_VERSION_MAJOR} TNT_VERSION_MINOR=${PROJECT_VERSION_MINOR}
-    TNT_VERSION_PATCH=${PROJECT_VERSION_PATCH})
 
 add_executable(tnt4swx WIN32 app/main.cpp resources/tnt4swx.rc)
 target_link_libraries(tnt4swx PRIVATE tnt_forms tnt_version)
@@ -35,20 +44,8 @@ add_executable(swx_standin WIN32 standin/com/StandInMain.cpp resources/swx_stand
 target_link_libraries(swx_standin PRIVATE standin_com tnt_version)
 tnt_target_options(swx_standin)
 
-foreach(program tnt4swx swx_standin)
-    if(MSVC)
-        target_link_options(${program} PRIVATE /MANIFEST:NO # the resource script holds it
-            /guard:cf /guard:ehcont /CETCOMPAT
-            /DEPENDENTLOADFLAG:0x800)
-    else()
-        # One file that runs anywhere: no run-time library beside it.  The same sources give the same
-        # bytes: no time of the link in it.
-        target_link_options(${program} PRIVATE -static -municode -Wl,--dynamicbase
-            -Wl,--nxcompat -Wl,--high-entropy-va -Wl,--no-insert-timestamp
-            $<$<CONFIG:Release>:-s>)
-    endif()
-    set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
-endforeach()
+tnt_windows_program(tnt4swx)
+tnt_windows_program(swx_standin)
 
 # What the program reads at run time stands beside it.
 add_custom_target(program_data ALL

@@ -2,8 +2,9 @@
 """Checks the rules of the house for every source file.
 
 Windows headers stand only in the Windows half: the toolkit, the forms, the entry point, the
-server around the stand-in and the tests that need a window.  Everything else includes the
-project's own headers and those of the C++ standard library.
+server around the stand-in and the tests that need a window; those of Linux in what the console
+program asks it for.  Everything else includes the project's own headers and those of the C++
+standard library.
 
 Includes run down the house only; see ROOMS_BELOW and CLOSED_HEADERS.  No files include each other
 in a circle.
@@ -22,8 +23,9 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*(?:<([^>]+)>|"([^"]+)")')
 
 # A room inside another one stands before it.
 ROOMS = ("app", "mainwindow/panes", "mainwindow", "support/language", "support/settings",
-         "support/windows", "platform", "library", "palettes", "convert", "solidworks", "common",
-         "standin/model", "standin/com", "resources", "tests")
+         "support/windows", "platform", "library", "palettes", "convert", "converter/windows",
+         "converter/linux", "converter", "solidworks", "common", "standin/model", "standin/com",
+         "resources", "tests")
 
 # The rooms that a room may include, itself aside: those that it needs, no others.
 ROOMS_BELOW = {
@@ -32,6 +34,9 @@ ROOMS_BELOW = {
     "library": ("common",),
     "palettes": ("common",),
     "convert": ("common", "library", "palettes"),
+    "converter": ("common", "library", "palettes", "convert"),
+    "converter/windows": ("common", "platform", "converter"),
+    "converter/linux": ("common", "converter"),
     "solidworks": ("common",),
     "support/language": ("common", "resources"),
     "support/settings": ("common", "support/language", "resources"),
@@ -64,10 +69,17 @@ SOURCES_IN_CIRCLES = re.compile(r"standin/model/.*\.cpp$")
 WINDOWS_HALF = re.compile(
     r"platform/|mainwindow/(frm|panes/)|"
     r"support/windows/(frm(About|TxtView|Progress)|BannerPictures\.|FormOnDemand\.)|"
-    r"app/main\.cpp$|standin/com/|"
+    r"app/main\.cpp$|standin/com/|converter/windows/|"
     r"tests/(platform|ui|e2e|faults)/|tests/bench/(Groups|Start|Walk|Sort)Bench\.cpp$|"
     r"tests/bench/library/(BenchPlatformWindows|HeapUse)\.cpp$|"
     r"resources/(?!controls\.h$)")
+
+# What the console program asks Linux for.
+LINUX_HALF = re.compile(r"converter/linux/|tests/converter/linux/")
+LINUX_HEADERS = frozenset("fcntl.h iconv.h sys/stat.h unistd.h".split())
+# The one file that knows the library that reads a command line.
+COMMAND_LINE = "converter/ConverterArguments.cpp"
+COMMAND_LINE_HEADER = "CLI/CLI.hpp"
 
 STANDARD_HEADERS = frozenset("""
 algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono
@@ -100,6 +112,10 @@ def fault_of_system_header(path, header):
         return None
     if path.startswith("tests/") and TEST_HEADERS.match(header):
         return None
+    if LINUX_HALF.match(path) and header in LINUX_HEADERS:
+        return None
+    if (path, header) == (COMMAND_LINE, COMMAND_LINE_HEADER):
+        return None
     return "not a header of the C++ standard library, in the portable half"
 
 
@@ -113,6 +129,8 @@ def fault_of_own_header(path, header):
         return f"{own_room} asks nobody and shows nothing"
     if WINDOWS_HALF.match(header) and not WINDOWS_HALF.match(path):
         return "a header of the Windows half, in the portable half"
+    if LINUX_HALF.match(header) and not LINUX_HALF.match(path):
+        return "a header of the Linux half, in the portable half"
     return None
 
 

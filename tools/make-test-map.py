@@ -25,7 +25,7 @@ SUBJECTS = (
     "Tree and list views",
     "Active-color editor", "Editing commands", "Layout, bars and views", "SolidWorks session",
     "Color from and to the selection", "Clearing colors", "Standard color table",
-    "Color mathematics", "Foreign palettes", "Finding colors",
+    "Color mathematics", "Foreign palettes", "Console program", "Finding colors",
     "Stand-in for SolidWorks", "Toolkit", "Tools and packages",
 )
 SUBJECT = re.compile(r"^(?://|#) Rules: (.+)$", re.MULTILINE)

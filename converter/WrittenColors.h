@@ -1,0 +1,32 @@
+#pragma once
+
+#include "convert/LibraryPalette.h"
+#include "converter/ReadColors.h"
+
+#include <optional>
+#include <string>
+
+// What a file is to be written with.
+struct WritingWishes {
+    std::string name;                     // of the library or palette
+    std::optional<MaterialValues> values; // of colors that have none; nothing: what is usual
+};
+
+// A file as it will be.
+struct WrittenColors {
+    std::string bytes;
+    Notes notes; // what it does not hold
+};
+
+// Colors without values are without them in a table too, unless there are wishes.  colors: taken
+// apart.
+[[nodiscard]] WrittenColors WriteAsPalette(ReadColors& colors, PaletteFormat format,
+                                           const WritingWishes& wishes);
+
+// A library that was read keeps everything but its name.  Names that would not be read back are
+// changed.
+[[nodiscard]] WrittenColors WriteAsLibrary(ReadColors& colors, const AnsiCodePage& codePage,
+                                           const WritingWishes& wishes, WorkProgress& progress);
+
+// Gives each color the values that it does not have.
+void FillIn(Palette& palette, const MaterialValues& values);
