@@ -36,3 +36,9 @@ std::wstring ToPlatformPath(const std::string& utf8) {
     const std::wstring full = FullPath(path);
     return full.size() < kShortPathLimit ? path : WithoutLengthLimit(full);
 }
+
+std::wstring ToAbsolutePlatformPath(const std::string& utf8) {
+    const std::wstring path = ToPlatformPath(utf8);
+    const std::wstring full = FullPath(path);
+    return full.empty() ? path : full;
+}

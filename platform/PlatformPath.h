@@ -7,3 +7,6 @@
 // does not hold; a shorter one stays as it is.  A path with a NUL inside names nothing: the result
 // is empty.
 [[nodiscard]] std::wstring ToPlatformPath(const std::string& utf8);
+
+// The same, made absolute also when it is short.
+[[nodiscard]] std::wstring ToAbsolutePlatformPath(const std::string& utf8);

@@ -110,9 +110,10 @@ Exchanged Win32Files::Exchange(const std::string& from, const std::string& to,
                                const std::string& backup) {
     if (IsReadOnly(to) || IsReadOnly(backup))
         return Exchanged::Unchanged;
-    const std::wstring fromPath = ToPlatformPath(from);
-    const std::wstring toPath = ToPlatformPath(to);
-    const std::wstring backupPath = ToPlatformPath(backup);
+    // Wine would not find a relative one.
+    const std::wstring fromPath = ToAbsolutePlatformPath(from);
+    const std::wstring toPath = ToAbsolutePlatformPath(to);
+    const std::wstring backupPath = ToAbsolutePlatformPath(backup);
     if (ReplaceFileW(toPath.c_str(), fromPath.c_str(),
                      backup.empty() ? nullptr : backupPath.c_str(), REPLACEFILE_IGNORE_MERGE_ERRORS,
                      nullptr, nullptr))

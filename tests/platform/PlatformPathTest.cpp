@@ -35,4 +35,14 @@ TEST(PlatformPath, PrefixedPathIsNotPrefixedAgain) {
 
 TEST(PlatformPath, PathWithANulNamesNothing) {
     EXPECT_TRUE(ToPlatformPath(std::string("a\0b", 3)).empty());
+    EXPECT_TRUE(ToAbsolutePlatformPath(std::string("a\0b", 3)).empty());
+}
+
+TEST(PlatformPath, AbsolutePathIsThatOfTheCurrentFolder) {
+    const std::wstring path = ToAbsolutePlatformPath("colors.tnt");
+    EXPECT_TRUE(path.ends_with(L"\\colors.tnt")) << path.size();
+    EXPECT_EQ(path[1], L':');
+    EXPECT_EQ(ToAbsolutePlatformPath(R"(C:\a\b.tnt)"), LR"(C:\a\b.tnt)");
+    EXPECT_EQ(ToAbsolutePlatformPath("C:\\" + kLongName + "\\" + kLongName),
+              LR"(\\?\C:\)" + kLongWideName + L"\\" + kLongWideName);
 }

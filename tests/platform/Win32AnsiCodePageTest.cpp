@@ -1,6 +1,8 @@
 // Rules: Library files
 #include "platform/Win32AnsiCodePage.h"
 
+#include "common/Windows1252.h"
+
 #include <gtest/gtest.h>
 
 TEST(Win32AnsiCodePage, WesternPageHoldsUmlautsAndTheDivisionSign) {
@@ -17,6 +19,13 @@ TEST(Win32AnsiCodePage, EveryByteOfTheWesternPageComesBack) {
     const AnsiCodePage::Encoded encoded = page.Encode(page.Decode(bytes));
     EXPECT_EQ(encoded.bytes, bytes);
     EXPECT_EQ(encoded.unstored, "");
+}
+
+TEST(Win32AnsiCodePage, WesternPageIsTheOneThatIsUsedWhereThereIsNoWindows) {
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte)
+        bytes += static_cast<char>(byte);
+    EXPECT_EQ(Win32AnsiCodePage(1252).Decode(bytes), Windows1252::CodePage().Decode(bytes));
 }
 
 TEST(Win32AnsiCodePage, CyrillicPageHoldsCyrillic) {

@@ -6,6 +6,7 @@
 #include "platform/Utf16.h"
 #include "tests/platform/ScratchFolder.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -130,6 +131,18 @@ TEST_F(Win32FilesTest, ExchangeWithoutABackupLeavesTheNewContentAlone) {
     EXPECT_EQ(files.Exchange(folder.File("new"), folder.File("old"), ""), Exchanged::Done);
     EXPECT_EQ(folder.Read("old"), "new content");
     EXPECT_FALSE(files.Exists(folder.File("new")));
+}
+
+TEST_F(Win32FilesTest, ExchangeFindsFilesOfTheCurrentFolder) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    folder.Write("old", "a");
+    folder.Write("new", "b");
+    std::filesystem::current_path(ToUtf16(folder.Path()));
+    const Exchanged outcome = files.Exchange("new", "old", "backup");
+    std::filesystem::current_path(before);
+    EXPECT_EQ(outcome, Exchanged::Done);
+    EXPECT_EQ(folder.Read("old"), "b");
+    EXPECT_EQ(folder.Read("backup"), "a");
 }
 
 TEST_F(Win32FilesTest, ExchangeWithAFileInUseOrMarkedReadOnlyChangesNothing) {
