@@ -12,5 +12,5 @@ LangString README ${LANG_GERMAN} "readme_de.txt"
 LicenseLangString TERMS ${LANG_ENGLISH} "${STAGE}\terms_us.txt"
 LicenseLangString TERMS ${LANG_GERMAN} "${STAGE}\terms_de.txt"
 
-LangString CLOSE_FIRST ${LANG_ENGLISH} "TNT4SWX or its stand-in for SolidWorks is running. Please close it first."
-LangString CLOSE_FIRST ${LANG_GERMAN} "TNT4SWX oder sein Stellvertreter für SolidWorks läuft. Bitte zuerst schließen."
+LangString CLOSE_FIRST ${LANG_ENGLISH} "TNT4SWX or one of the programs beside it is running. Please close it first."
+LangString CLOSE_FIRST ${LANG_GERMAN} "TNT4SWX oder eines der Programme daneben läuft. Bitte zuerst schließen."

@@ -115,6 +115,8 @@ FunctionEnd
     Call ${PREFIX}WaitUntilClosed
     Push "${FOLDER}\swx_standin.exe"
     Call ${PREFIX}WaitUntilClosed
+    Push "${FOLDER}\tnt-convert.exe"
+    Call ${PREFIX}WaitUntilClosed
 !macroend
 
 ; An older version goes, with all that this one may no longer have; settings and libraries stay.

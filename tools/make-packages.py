@@ -27,7 +27,7 @@ from language_codes import language_codes
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 NAME = "tnt4swx"
-PROGRAMS = ("tnt4swx.exe", "swx_standin.exe")
+PROGRAMS = ("tnt4swx.exe", "swx_standin.exe", "tnt-convert.exe")
 SAMPLES = "samples"
 LEGAL_TEXTS = {"LICENSE.txt": "LICENSE", "NOTICES.txt": "packaging/notices.txt"}
 OLDEST_ZIP_TIME = 315532800  # 1980-01-01; for sources that are in no repository

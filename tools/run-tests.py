@@ -16,7 +16,8 @@ from steps import JOBS, Runner, Step
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 LOGS = ROOT / "build" / "logs"
 WINE = ("tools/wine-session.sh",)
-OWN_LIBRARIES = ("tnt_portable", "tnt_platform", "tnt_forms", "standin_model")
+PROGRAMS = ("tnt4swx", "swx_standin", "tnt-convert")
+OWN_LIBRARIES = ("tnt_portable", "tnt_platform", "tnt_forms", "standin_model", "tnt_converter")
 LONG_DOSES = (("TNT_MONKEY", "100000"), ("TNT_ENDURANCE", "1000"), ("TNT_KILLS", "100"),
               ("TNT_SAVES", "1000"))
 
@@ -42,6 +43,13 @@ def suite(name, preset, command, limit, **options):
     return Step(name, tuple(command), limit, needs=(f"build-{preset}",), counts=True, **options)
 
 
+def convert_tests(name, preset, *command):
+    """The console program of a build as scripts see it."""
+    return Step(name, (*command, sys.executable, "-m", "unittest", "discover", "-s",
+                       "tests/converter/process"), 300, needs=(f"build-{preset}",), counts=True,
+                filter="-k", targets=("tnt-convert",))
+
+
 def check(name, *command, limit=120, **options):
     return Step(name, command, limit, **options)
 
@@ -50,6 +58,7 @@ def native_steps():
     return [
         build("native", 1800),
         suite("portable-tests", "native", ["build/native/portable_tests"], 300),
+        convert_tests("convert-tests", "native"),
         # Whether it runs, at a small size; nothing is timed here.
         check("library-bench", "build/native/library_bench", "10000", "1",
               needs=("build-native",), targets=("library_bench",)),
@@ -92,7 +101,7 @@ def job(name):
 
 
 def windows_steps(shards, doses):
-    programs = [f"build/windows/bin/{name}.exe" for name in ("tnt4swx", "swx_standin")]
+    programs = [f"build/windows/bin/{name}.exe" for name in PROGRAMS]
     own = [f"--objects=build/windows/lib{name}.a" for name in OWN_LIBRARIES]
     session = (*WINE, "wine")
     return [
@@ -101,18 +110,20 @@ def windows_steps(shards, doses):
         *windows_suites(shards, doses),
         suite("portable-tests-wine", "windows", (*session, "build/windows/portable_tests.exe"),
               300),
+        convert_tests("convert-tests-wine", "windows", *WINE, "env",
+                      "TNT_CONVERT=build/windows/bin/tnt-convert.exe"),
         suite("file-faults", "windows",
               (*WINE, "tools/run-file-faults.sh", "build/windows/file_faults.exe"), 300),
         # What protects the programs and their user, and that nothing of this machine is in them.
         check("hardening", "tools/check-hardening.py", *own, f"--forbid={ROOT}", "--forbid=/usr/",
-              *programs, needs=("build-windows",), targets=("tnt4swx", "swx_standin")),
+              *programs, needs=("build-windows",), targets=PROGRAMS),
         check("library-bench-wine", *session, "build/windows/library_bench.exe", "1000", "1",
               needs=("build-windows",), targets=("library_bench",)),
         # Whether the walks make no call more than a bare loop.
         check("walk-bench", *session, "build/windows/walk_bench.exe", "300",
               needs=("build-windows",), targets=("walk_bench",)),
         check("make-packages", "tools/make-packages.py", needs=("build-windows",),
-              targets=("tnt4swx", "swx_standin")),
+              targets=PROGRAMS),
         *map(job, JOBS),
         # The packages, unpacked and installed as their user does.
         Step("packages", (*WINE, sys.executable, "-m", "unittest", "discover", "-s",
@@ -130,6 +141,9 @@ def long_steps():
         suite("windows-tests-clang", "windows-clang",
               (*WINE, "wine", "build/windows-clang/windows_tests.exe"), 2400),
         check("coverage", "tools/check-coverage.sh", limit=1800, follows=("build-windows-clang",)),
+        # Those of drawing programs, fetched from their packages.
+        check("real-palettes", "tools/check-real-palettes.py", limit=900, needs=("build-native",),
+              targets=("tnt-convert",)),
         build("fuzz", 1800, follows=("coverage",)),
         suite("fuzz", "fuzz", ["tools/run-fuzzers.sh", "60"], 1800, filter="", targets=()),
     ]

@@ -10,7 +10,7 @@
 #   --list     only names the packages of the set
 set -euo pipefail
 
-readonly build=(cmake ninja-build googletest python3)
+readonly build=(cmake ninja-build googletest libcli11-dev python3)
 readonly windows_build=("${build[@]}" g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64)
 readonly session=(
     wine wine64 locales                                      # running Windows programs

@@ -28,10 +28,13 @@ def windows_plan(build, root=ROOT):
                                  root / "build" / "screenshots" / name), 600, counts=True,
                  alone=True)
             for name in JOBS]
+    convert = Step("convert-tests", (sys.executable, "-m", "unittest", "discover", "-s",
+                                     root / "tests" / "converter" / "process"), 600, counts=True,
+                   alone=True, environment=places)
     packages = Step("packages", (sys.executable, "-m", "unittest", "discover", "-s",
                                  root / "tests" / "package"), 1800, counts=True, alone=True,
                     environment=places)
-    return [*tests, *jobs, packages]
+    return [*tests, convert, *jobs, packages]
 
 
 def main():

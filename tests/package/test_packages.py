@@ -76,7 +76,7 @@ class PackageTest(unittest.TestCase):
 
 
 class Version(PackageTest):
-    def test_is_the_same_in_both_programs_and_the_installer(self):
+    def test_is_the_same_in_all_programs_and_the_installer(self):
         numbers = tuple(map(int, VERSION.split("."))) + (0,)
         for name in make.PROGRAMS:
             self.assertEqual(versions(windows.PROGRAMS / name), (numbers, numbers), name)

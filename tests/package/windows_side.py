@@ -20,7 +20,7 @@ UNINSTALL_KEY = r"HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Un
 SETTINGS_KEY = r"HKEY_CURRENT_USER\Software\Chromixs\TNT4SWX"
 
 PATIENCE = 30  # seconds
-OWN_NAMES = re.compile(r"tnt4swx|chromixs|swx_standin|sldworks", re.IGNORECASE)
+OWN_NAMES = re.compile(r"tnt4swx|tnt-convert|chromixs|swx_standin|sldworks", re.IGNORECASE)
 
 
 def command(*parts):

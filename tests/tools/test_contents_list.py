@@ -10,8 +10,9 @@ listing = tool.load("contents_list")
 
 CONTENTS = {"LICENSE.txt": "\ufeffTerms\r\n".encode(), "NOTICES.txt": b"Notices", "b/a.tnt": b"a",
             "tnt4swx.exe": b"MZ"}
-LIBRARIES = [("libstdc++", "12", listing.GCC_TERMS, "Foundation"),
-             ("winpthreads", "10.0.0", "MIT", "x")]
+LIBRARIES = [listing.Library("libstdc++", "12", listing.GCC_TERMS, "Foundation"),
+             listing.Library("winpthreads", "10.0.0", "MIT", "x"),
+             listing.Library("CLI11", "2.1.2", "BSD-3-Clause", "y", ("other.exe",))]
 
 
 def listed(contents=None, moment=1700000000):
@@ -42,6 +43,13 @@ class ContentsList(unittest.TestCase):
         self.assertEqual(links, [("SPDXRef-File-4", "SPDXRef-Package-libstdcxx"),
                                  ("SPDXRef-File-4", "SPDXRef-Package-winpthreads")])
 
+    def test_library_of_one_program_is_in_no_other(self):
+        document = listed(CONTENTS | {"other.exe": b"MZ"})
+        files = {entry["fileName"]: entry["SPDXID"] for entry in document["files"]}
+        with_it = [relation["spdxElementId"] for relation in document["relationships"]
+                   if relation["relatedSpdxElement"] == "SPDXRef-Package-CLI11"]
+        self.assertEqual(with_it, [files["./other.exe"]])
+
     def test_speaks_only_of_what_it_names(self):
         document = listed()
         known = {"SPDXRef-DOCUMENT"} | {entry["SPDXID"]
@@ -63,8 +71,8 @@ class ContentsList(unittest.TestCase):
 @unittest.skipUnless(shutil.which(listing.COMPILER), "the compiler is not there")
 class LinkedLibraries(unittest.TestCase):
     def test_have_the_versions_of_the_compiler_that_links_them(self):
-        for name, version, _, _ in listing.linked_libraries():
-            self.assertRegex(version, r"^\d+(\.\d+)*$", name)
+        for library in listing.linked_libraries():
+            self.assertRegex(library.version, r"^\d+(\.\d+)*$", library.name)
 
 
 class LegalTexts(unittest.TestCase):
@@ -76,7 +84,7 @@ class LegalTexts(unittest.TestCase):
     def test_notices_have_a_section_for_every_library(self):
         notices = (tool.ROOT / "packaging" / "notices.txt").read_text(encoding="utf-8")
         for words in ("libgcc", "libstdc++", "libssp", "MinGW-w64", "winpthreads",
-                      "GCC RUNTIME LIBRARY EXCEPTION", "Lucent", "Lockless", "Nullsoft"):
+                      "GCC RUNTIME LIBRARY EXCEPTION", "Lucent", "Lockless", "Nullsoft", "CLI11"):
             self.assertIn(words, notices)
 
 

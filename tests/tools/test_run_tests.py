@@ -69,7 +69,15 @@ class Choice(unittest.TestCase):
     def test_packages_are_made_before_they_are_tried(self):
         plan = commands(tests.chosen_plan(["packages"], 2))
         self.assertEqual(list(plan), ["build-windows", "make-packages", "packages"])
-        self.assertLessEqual({"tnt4swx", "swx_standin", "play_job"}, set(plan["build-windows"]))
+        self.assertLessEqual({*tests.PROGRAMS, "play_job"}, set(plan["build-windows"]))
+
+    def test_console_program_is_tested_natively_and_under_wine(self):
+        plan = commands(tests.chosen_plan(["convert"], 2))
+        self.assertEqual(plan["build-native"], ("tools/build.sh", "native", "tnt-convert"))
+        plan = commands(tests.chosen_plan(["convert-tests-wine", "exit_codes"], 2))
+        self.assertEqual(plan["build-windows"], ("tools/build.sh", "windows", "tnt-convert"))
+        self.assertIn("TNT_CONVERT=build/windows/bin/tnt-convert.exe", plan["convert-tests-wine"])
+        self.assertEqual(plan["convert-tests-wine"][-2:], ("-k", "exit_codes"))
 
     def test_a_step_without_tests_has_none_to_choose_among(self):
         for name in ("format", "mouse"):

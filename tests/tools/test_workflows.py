@@ -61,7 +61,7 @@ class TestOnWindows(unittest.TestCase):
         plan = on_windows.windows_plan(pathlib.Path("build"))
         self.assertTrue(all(step.alone and step.counts for step in plan))
         self.assertEqual([step.name for step in plan],
-                         ["portable-tests", "windows-tests", "file-faults",
+                         ["portable-tests", "windows-tests", "file-faults", "convert-tests",
                           *(f"{job}-job" for job in tests.JOBS), "packages"])
 
     def test_tells_the_tests_where_sources_and_programs_are(self):

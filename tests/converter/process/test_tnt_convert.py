@@ -2,7 +2,8 @@
 
   python3 -m unittest discover -s tests/converter/process
 
-TNT_CONVERT names another program than that of the native build; one for Windows runs under Wine.
+TNT_CONVERT names another program than that of the native build, or on Windows itself that beside the
+others; one for Windows runs under Wine elsewhere.
 """
 # Rules: Console program
 
@@ -15,9 +16,12 @@ import tempfile
 import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[3]
-PROGRAM = pathlib.Path(os.environ.get("TNT_CONVERT", ROOT / "build" / "native" / "tnt-convert"))
+ON_WINDOWS = os.name == "nt"
+USUAL = (pathlib.Path(os.environ.get("TNT_PROGRAMS", ROOT / "build" / "windows" / "bin")) /
+         "tnt-convert.exe" if ON_WINDOWS else ROOT / "build" / "native" / "tnt-convert")
+PROGRAM = pathlib.Path(os.environ.get("TNT_CONVERT", USUAL)).resolve()
 IS_WINDOWS_PROGRAM = PROGRAM.suffix == ".exe"
-COMMAND = ["wine", str(PROGRAM)] if IS_WINDOWS_PROGRAM and os.name != "nt" else [str(PROGRAM)]
+COMMAND = ["wine", str(PROGRAM)] if IS_WINDOWS_PROGRAM and not ON_WINDOWS else [str(PROGRAM)]
 SAMPLES = ROOT / "resources" / "samples"
 
 DONE, LOSSY, WRONG_USAGE, UNREADABLE, NOT_WRITTEN = range(5)
