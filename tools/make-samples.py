@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the sample libraries in resources/samples, byte for byte the same every time.
+"""Writes the samples in resources/samples, byte for byte the same every time.
 
 materials.tnt comes from the classic table of OpenGL materials: ambient, diffuse and specular
 color, exponent of the highlight (0..128) and, for gems, opacity.  The nine values are made so
@@ -16,7 +16,10 @@ that color times percentage gives the table's constants back:
 
 web-colors.tnt holds the 148 named colors of CSS, by hue, all with one satin surface.
 
-  tools/make-samples.py            writes the libraries
+powder-coats.gpl and anodized-aluminium.csv are palettes to import, as other programs would write
+them: the one has names and red, green, blue alone, the other groups and all nine values.
+
+  tools/make-samples.py            writes the samples
   tools/make-samples.py --check    writes nothing; names what would change and fails
 """
 
@@ -126,6 +129,26 @@ WEB_COLORS = {
 }
 SATIN = [100, 100, 50, 30, 0, 0]
 
+# name and color in hexadecimal digits
+POWDER_COATS = {
+    "Paper white": "f1f0ea", "Cream": "efe6cf", "Sand": "d3c3a0", "Clay": "a9876a",
+    "Pebble": "c4c5c1", "Workshop gray": "969c9e", "Machine gray": "6d7477", "Graphite": "3f4447",
+    "Deep black": "17181a", "Ice blue": "b5cfd8", "Harbor blue": "3f6f94", "Press blue": "1d3f6e",
+    "Mint": "a8cdb4", "Bench green": "4f7f5f", "Moss": "4b5639", "Guard yellow": "f2c01d",
+    "Lever orange": "e8701a", "Stop red": "b8201f", "Brick": "8a3b2d", "Plum": "5a3048",
+}
+# color in hexadecimal digits by name; the values behind red, green, blue by group
+ANODIZED_ALUMINIUM = {
+    "Satin": {"Natural": "c9cbcc", "Champagne": "cdb88f", "Light bronze": "9b7f5c",
+              "Dark bronze": "4d3b2c", "Black": "26272a", "Blue": "2f5d9c", "Red": "a62c35",
+              "Green": "3f7a52"},
+    "Bright": {"Natural": "d8dadb", "Gold": "d1a94a", "Copper": "b7683f", "Black": "1b1c1f",
+               "Blue": "2468b5", "Violet": "5f3f96", "Red": "bd2531", "Turquoise": "1e9aa0"},
+}
+ANODIZED_SURFACES = {"Satin": [60, 90, 45, 25, 0, 0], "Bright": [50, 80, 85, 60, 0, 0]}
+TABLE_HEAD = ("group,name,red,green,blue,ambient,diffuse,specular,shininess,transparency,"
+              "emission")
+
 
 def percent(share):
     return min(100, int(share * 100 + 0.5))
@@ -165,15 +188,31 @@ def library_file(name, groups):
     return "".join(f'"{record}"\r\n' for record in records).encode("cp1252")
 
 
-def libraries():
+def gimp_palette(name, colors):
+    """Bytes of a ".gpl" file."""
+    lines = ["{:3} {:3} {:3}\t{}".format(*bytes.fromhex(digits), color)
+             for color, digits in colors.items()]
+    return "\n".join(["GIMP Palette", f"Name: {name}", "Columns: 0", "#", *lines, ""]).encode()
+
+
+def table(groups, surfaces):
+    """Bytes of a ".csv" file; surfaces: the values behind red, green, blue by group."""
+    rows = [",".join(map(str, [group, color, *bytes.fromhex(digits), *surfaces[group]]))
+            for group, colors in groups.items() for color, digits in colors.items()]
+    return "\r\n".join([TABLE_HEAD, *rows, ""]).encode("utf-8-sig")
+
+
+def samples():
     return {"materials.tnt": library_file("Materials", materials()),
-            "web-colors.tnt": library_file("Web colors", web_colors())}
+            "web-colors.tnt": library_file("Web colors", web_colors()),
+            "powder-coats.gpl": gimp_palette("Powder coats", POWDER_COATS),
+            "anodized-aluminium.csv": table(ANODIZED_ALUMINIUM, ANODIZED_SURFACES)}
 
 
 def write_stale(folder, write):
-    """Names of the libraries that are not as this script makes them."""
+    """Names of the samples that are not as this script makes them."""
     stale = []
-    for name, content in libraries().items():
+    for name, content in samples().items():
         path = folder / name
         if not path.is_file() or path.read_bytes() != content:
             stale.append(name)

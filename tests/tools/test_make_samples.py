@@ -13,6 +13,19 @@ class LibraryFile(unittest.TestCase):
                          b'"E#x=0DG1:x\xf71\xf72\xf73\xf74\xf75\xf76\xf77\xf78\xf79"\r\n')
 
 
+class Palettes(unittest.TestCase):
+    def test_are_as_other_programs_write_them(self):
+        self.assertEqual(samples.gimp_palette("Grün", {"a b": "0a00ff"}),
+                         "GIMP Palette\nName: Grün\nColumns: 0\n#\n 10   0 255\ta b\n".encode())
+        self.assertEqual(samples.table({"g": {"a": "0a00ff"}}, {"g": [1, 2, 3, 4, 5, 6]}),
+                         f"\ufeff{samples.TABLE_HEAD}\r\ng,a,10,0,255,1,2,3,4,5,6\r\n".encode())
+
+    def test_have_names_that_differ_within_their_group(self):
+        for name in samples.POWDER_COATS | samples.ANODIZED_ALUMINIUM["Satin"]:
+            self.assertRegex(name, r"^[A-Z][a-z ]+$")
+        self.assertEqual(len(set(samples.POWDER_COATS.values())), len(samples.POWDER_COATS))
+
+
 class Colors(unittest.TestCase):
     def setUp(self):
         self.libraries = {"materials": samples.materials(), "web colors": samples.web_colors()}
