@@ -35,7 +35,7 @@ ROOMS_BELOW = {
     "palettes": ("common",),
     "convert": ("common", "library", "palettes"),
     "converter": ("common", "library", "palettes", "convert"),
-    "converter/windows": ("common", "platform", "converter"),
+    "converter/windows": ("platform", "converter"),
     "converter/linux": ("common", "converter"),
     "solidworks": ("common",),
     "support/language": ("common", "resources"),

@@ -35,6 +35,21 @@ class WindowsHeaders(unittest.TestCase):
         self.assertEqual(len(faults("support/settings/Options.cpp", '#include "platform/Window.h"')), 1)
         self.assertEqual(len(faults("mainwindow/Views.cpp", '#include "mainwindow/frmMain.h"')), 1)
 
+    def test_those_of_linux_are_for_what_the_console_program_asks_it(self):
+        self.assertEqual(faults("converter/linux/LinuxFiles.cpp", "#include <unistd.h>"), [])
+        self.assertEqual(faults("tests/converter/linux/LinuxFilesTest.cpp",
+                                "#include <sys/stat.h>"), [])
+        for path in ("converter/Converter.cpp", "tests/converter/ConverterTest.cpp"):
+            self.assertEqual(len(faults(path, "#include <unistd.h>")), 1)
+            self.assertEqual(len(faults(path, '#include "converter/linux/LinuxFiles.h"')), 1)
+        self.assertEqual(len(faults("converter/linux/LinuxFiles.cpp", "#include <windows.h>")), 1)
+        self.assertEqual(faults("converter/windows/Win32Console.cpp", "#include <windows.h>"), [])
+
+    def test_that_of_the_command_lines_library_stands_in_one_file(self):
+        self.assertEqual(faults("converter/ConverterArguments.cpp", "#include <CLI/CLI.hpp>"), [])
+        for path in ("converter/Converter.cpp", "converter/ConverterArguments.h"):
+            self.assertEqual(len(faults(path, "#include <CLI/CLI.hpp>")), 1)
+
     def test_the_fault_names_file_line_and_header(self):
         found = faults("common/Text.cpp", "#include <string>", "#include <windows.h>")
         self.assertTrue(found[0].startswith("common/Text.cpp:2: windows.h: "), found)

@@ -78,6 +78,18 @@ class TntConvert(unittest.TestCase):
                 self.assertEqual(self.exit_code(name, f"{name}.tnt"), DONE)
                 self.assertEqual([row[1:5] for row in self.listed(f"{name}.tnt")], colors)
 
+    def test_sample_palettes_are_libraries_at_once_and_as_the_program_writes_them(self):
+        for name, groups, colors in (("powder-coats.gpl", 0, 20), ("anodized-aluminium.csv", 2, 16)):
+            with self.subTest(name):
+                (self.folder / name).write_bytes((SAMPLES / name).read_bytes())
+                code, out, _ = self.run_program("--check", name)
+                self.assertEqual(code, DONE)
+                self.assertTrue(out.endswith(f"groups: {groups}\ncolors: {colors}\n"), out)
+                self.assertEqual(self.exit_code(name, f"{name}.tnt"), DONE)
+                self.assertEqual(self.exit_code(name, f"again-{name}"), DONE)
+                self.assertEqual((self.folder / f"again-{name}").read_bytes(),
+                                 (SAMPLES / name).read_bytes())
+
     def test_what_is_lost_is_told_on_standard_error_in_a_line_each(self):
         code, out, told = self.run_program("library.tnt", "b.gpl")
         self.assertEqual((code, out), (LOSSY, ""))
