@@ -9,7 +9,11 @@
 
 namespace {
 
-constexpr const char* kProgram = "tnt-convert: ";
+// A line of standard error.
+std::string Told(const std::string& about, const std::string& what) {
+    std::string line = "tnt-convert: ";
+    return line.append(about).append(": ").append(what).append("\n");
+}
 
 // A file's name without its folder and its ending.
 std::string StemOf(const std::string& path) {
@@ -122,14 +126,14 @@ Exchanged Converter::Replace(const std::string& bytes) {
 }
 
 ExitCode Converter::Refuse(ExitCode exitCode, const std::string& about, const std::string& why) {
-    platform_.console.Tell(kProgram + about + ": " + why + "\n");
+    platform_.console.Tell(Told(about, why));
     return exitCode;
 }
 
 void Converter::Tell(const std::string& path, const Notes& notes) {
     isLossy_ = isLossy_ || !notes.empty();
     for (const std::string& note : notes)
-        platform_.console.Tell(kProgram + path + ": " + note + "\n");
+        platform_.console.Tell(Told(path, note));
 }
 
 ExitCode RunConverter(const std::vector<std::string>& arguments, const std::string& version,
@@ -145,7 +149,7 @@ ExitCode RunConverter(const std::vector<std::string>& arguments, const std::stri
         platform.console.Tell(reply.text);
         return reply.exitCode;
     } catch (const std::exception& error) {
-        platform.console.Tell(kProgram + std::string(error.what()) + "\n");
+        platform.console.Tell(Told("error", error.what()));
         return ExitCode::Failed;
     }
 }

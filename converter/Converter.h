@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 // What the program asks its system for.
 struct ConverterPlatform {
@@ -22,8 +23,8 @@ struct ConverterPlatform {
 // Does what a command line asks for: one file is read, and written, listed or told about.
 class Converter {
 public:
-    Converter(const ConverterPlatform& platform, ConverterArguments asked)
-        : platform_(platform), asked_(std::move(asked)) {}
+    Converter(ConverterPlatform platform, ConverterArguments asked)
+        : platform_(std::move(platform)), asked_(std::move(asked)) {}
 
     // Tells on standard error what was left out or changed, and why it was not done.
     [[nodiscard]] ExitCode Run();

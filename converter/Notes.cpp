@@ -3,7 +3,6 @@
 #include "common/Text.h"
 
 #include <array>
-#include <string_view>
 
 namespace {
 
@@ -23,17 +22,18 @@ constexpr std::array<const char*, kPaletteFaultCount> kFaults = {
     "beyond the limits of size, left out",
 };
 
-std::string_view PlacesOf(PaletteFormat format) {
+std::string PlaceIn(PaletteFormat format, std::size_t place) {
+    const std::string number = std::to_string(place);
     switch (format) {
     case PaletteFormat::Gimp:
     case PaletteFormat::Table:
-        return "line ";
+        return "line " + number;
     case PaletteFormat::SwatchExchange:
-        return "block ";
+        return "block " + number;
     case PaletteFormat::AdobeColor:
         break;
     }
-    return "color ";
+    return "color " + number;
 }
 
 } // namespace
@@ -49,9 +49,7 @@ Notes NotesOf(const PaletteFaults& faults, PaletteFormat format) {
         const PaletteFaults::Met& met = faults.Of(static_cast<PaletteFault>(fault));
         AddNote(notes, kFaults.at(fault), met.count);
         if (met.count > 0)
-            notes.back().append(" (first: ").append(PlacesOf(format));
-        if (met.count > 0)
-            notes.back().append(std::to_string(met.first)).append(")");
+            notes.back() += " (first: " + PlaceIn(format, met.first) + ")";
     }
     return notes;
 }

@@ -345,7 +345,7 @@ TEST_F(ConverterTest, LackOfMemoryIsToldAndHasACodeOfItsOwn) {
                           throw std::bad_alloc();
                       }});
     EXPECT_EQ(exitCode, ExitCode::Failed);
-    EXPECT_EQ(console.told, "tnt-convert: std::bad_alloc\n");
+    EXPECT_EQ(console.told, "tnt-convert: error: std::bad_alloc\n");
 }
 
 TEST_F(ConverterTest, ProgressIsForWhoSitsInFrontOfATerminal) {
