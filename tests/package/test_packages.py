@@ -143,6 +143,17 @@ class Archive(PackageTest):
         self.play_main_job(programs, PICTURES / "main-portable")
         self.assertTrue(windows.contents(programs) == before)
 
+    def test_unpacked_console_program_makes_libraries_of_the_sample_palettes(self):
+        programs = self.unpack()
+        before = windows.contents(programs)
+        for sample in ("powder-coats.gpl", "anodized-aluminium.csv"):
+            library = self.folder / f"{sample}.tnt"
+            self.assertEqual(windows.run(programs / "tnt-convert.exe",
+                                         windows.path(programs / "samples" / sample),
+                                         windows.path(library)), 0)
+            self.assertTrue(library.read_bytes().startswith(b'"D#'))
+        self.assertTrue(windows.contents(programs) == before)
+
 
 class Installer(PackageTest):
     def setUp(self):
