@@ -90,8 +90,7 @@ TEST_F(LinuxFilesTest, NewFileIsMadeWhereNothingIs) {
     EXPECT_EQ(files.Create(Path("none/new")), nullptr);
 }
 
-TEST_F(LinuxFilesTest, FullDiskIsReported) {
-    const std::unique_ptr<OutputFile> file = files.Create(Path("x"));
+TEST_F(LinuxFilesTest, FileThatCannotBeMadeIsReported) {
     fs::create_symlink("/dev/full", Path("full"));
     EXPECT_EQ(files.Create(Path("full")), nullptr);
     EXPECT_FALSE(SafeFileWriter(files).WriteNew("/proc/none", "abc"));
