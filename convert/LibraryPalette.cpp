@@ -42,13 +42,19 @@ std::string HexText(const RedGreenBlue& color) {
     return text.data();
 }
 
+// All nine, with those of the material that the color comes without.
+ColorValueArray WholeValues(const PaletteEntry& entry, const ColorMaterial& material) {
+    ColorValueArray values = entry.values;
+    for (std::size_t value = kFirstMaterial; value < kColorValueCount; ++value)
+        if (!entry.Has(value))
+            values[value] = material[value - kFirstMaterial];
+    return values;
+}
+
 ColorRecord ColorOf(const PaletteEntry& entry, const ColorMaterial& material) {
     ColorRecord color;
     color.name = entry.name.empty() ? HexText(entry.Color()) : entry.name;
-    color.values = entry.values;
-    for (std::size_t value = kFirstMaterial; value < kColorValueCount; ++value)
-        if (!entry.Has(value))
-            color.values[value] = material[value - kFirstMaterial];
+    color.values = WholeValues(entry, material);
     return color;
 }
 
@@ -95,6 +101,14 @@ std::size_t CountOfNewGroups(const Palette& palette) {
         palette.groups.empty() ||
         std::ranges::find(palette.entries, kNoGroup, &PaletteEntry::group) != palette.entries.end();
     return palette.groups.size() + (hasFirstGroup ? 1 : 0);
+}
+
+void FillIn(Palette& palette, const ColorMaterial& material) {
+    for (PaletteEntry& entry : palette.entries) {
+        const ColorValueArray values = WholeValues(entry, material);
+        for (std::size_t value = 0; value < kColorValueCount; ++value)
+            entry.Set(value, values[value]);
+    }
 }
 
 std::string AddPaletteGroups(ColorLibrary& library, const std::string& mainKey,

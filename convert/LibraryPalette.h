@@ -37,6 +37,9 @@ struct LibraryAsPalette {
 // How many groups a palette has in a library.
 [[nodiscard]] std::size_t CountOfNewGroups(const Palette& palette);
 
+// Gives each color the material values that it comes without.
+void FillIn(Palette& palette, const ColorMaterial& material);
+
 struct NewGroups {
     std::string firstGroup; // of colors without a group, and when there is no group at all
     ColorMaterial material = kUsualMaterial;

@@ -31,9 +31,9 @@ std::int16_t MaterialValue(const std::string& text) {
     return value;
 }
 
-MaterialValues ParseValues(const std::string& text) {
+ColorMaterial ParseValues(const std::string& text) {
     const std::vector<std::string> fields = SplitFields(text, ",");
-    MaterialValues values{};
+    ColorMaterial values{};
     if (fields.size() != values.size())
         throw CLI::ValidationError("--values", "six numbers with commas between them are wanted");
     try {

@@ -24,14 +24,6 @@ ColorLibrary& LibraryOf(ReadColors& colors, const WritingWishes& wishes) {
 
 } // namespace
 
-void FillIn(Palette& palette, const MaterialValues& values) {
-    constexpr std::size_t kFirst = kColorValueCount - std::tuple_size_v<MaterialValues>;
-    for (PaletteEntry& entry : palette.entries)
-        for (std::size_t value = kFirst; value < kColorValueCount; ++value)
-            if (!entry.Has(value))
-                entry.Set(value, values.at(value - kFirst));
-}
-
 WrittenColors WriteAsPalette(ReadColors& colors, PaletteFormat format,
                              const WritingWishes& wishes) {
     colors.palette.name = wishes.name;

@@ -8,8 +8,8 @@
 
 // What a file is to be written with.
 struct WritingWishes {
-    std::string name;                     // of the library or palette
-    std::optional<MaterialValues> values; // of colors that have none; nothing: what is usual
+    std::string name;                    // of the library or palette
+    std::optional<ColorMaterial> values; // of colors that have none; nothing: what is usual
 };
 
 // A file as it will be.
@@ -27,6 +27,3 @@ struct WrittenColors {
 // changed.
 [[nodiscard]] WrittenColors WriteAsLibrary(ReadColors& colors, const AnsiCodePage& codePage,
                                            const WritingWishes& wishes, WorkProgress& progress);
-
-// Gives each color the values that it does not have.
-void FillIn(Palette& palette, const MaterialValues& values);

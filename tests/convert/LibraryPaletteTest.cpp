@@ -62,6 +62,15 @@ TEST_F(LibraryPaletteTest, OnlyValuesThatThePaletteDidNotHaveAreThoseOfTheMateri
     EXPECT_EQ(Color(1).values, (ColorValueArray{1, 2, 3, 10, 0, 30, 40, 50, 77}));
 }
 
+TEST_F(LibraryPaletteTest, PaletteIsFilledInWithTheMaterialThatItLacks) {
+    Palette palette{"", {}, {MadeEntry("a", {1, 2, 3}), MadeEntry("b", {4, 5, 6})}};
+    palette.entries[0].Set(4, 0);
+    FillIn(palette, {10, 20, 30, 40, 50, 60});
+    EXPECT_EQ(palette.entries[0].values, (ColorValueArray{1, 2, 3, 10, 0, 30, 40, 50, 60}));
+    EXPECT_EQ(palette.entries[1].values, (ColorValueArray{4, 5, 6, 10, 20, 30, 40, 50, 60}));
+    EXPECT_FALSE(LacksMaterial(palette));
+}
+
 TEST_F(LibraryPaletteTest, LibraryGoesToATableAndBackWithAllOfItsValues) {
     MadePalettes made(9);
     Palette palette = made.WithGroups();

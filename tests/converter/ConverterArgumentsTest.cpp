@@ -39,7 +39,7 @@ TEST(ConverterArgumentsTest, OptionsMayStandAnywhere) {
     EXPECT_EQ(line.out, "b");
     EXPECT_TRUE(line.force);
     EXPECT_EQ(line.name, "My colors");
-    EXPECT_EQ(line.values, (MaterialValues{1, 2, 3, 4, 5, 100}));
+    EXPECT_EQ(line.values, (ColorMaterial{1, 2, 3, 4, 5, 100}));
     EXPECT_EQ(line.codePage, 1251U);
 }
 
@@ -58,7 +58,7 @@ TEST(ConverterArgumentsTest, OneFileIsListedOrChecked) {
     EXPECT_EQ(Parsed({"--list", "a"}).task, Task::List);
     EXPECT_EQ(Parsed({"a", "--check"}).task, Task::Check);
     EXPECT_EQ(Parsed({"--list", "a", "--values", "1,2,3,4,5,6"}).values,
-              (MaterialValues{1, 2, 3, 4, 5, 6}));
+              (ColorMaterial{1, 2, 3, 4, 5, 6}));
 }
 
 TEST(ConverterArgumentsTest, HelpAndVersionAreGoodAnswers) {
@@ -94,7 +94,7 @@ TEST(ConverterArgumentsTest, WhatMakesNoSenseTogetherIsRefused) {
 }
 
 TEST(ConverterArgumentsTest, ValuesAreSixNumbersOfTheirRange) {
-    EXPECT_EQ(Parsed({"a", "b", "--values", "0,0,0,0,0,0"}).values, MaterialValues());
+    EXPECT_EQ(Parsed({"a", "b", "--values", "0,0,0,0,0,0"}).values, ColorMaterial());
     ExpectRefused({"a", "b", "--values", "1,2,3,4,5"},
                   "--values: six numbers with commas between them are wanted");
     ExpectRefused({"a", "b", "--values", "1,2,3,4,5,101"},
