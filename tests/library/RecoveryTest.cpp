@@ -322,7 +322,7 @@ TEST_F(RecoveryTest, FailureOfOneLibraryIsToldOnceWhileAnotherOneIsKept) {
     keeper->onFailed = [&] { ++told; };
     Rename(Open(), "Other");
     Look();
-    files.locked.insert(std::string(kFolder) + "\\own-1.tnt");
+    files.locked[std::string(kFolder) + "\\own-1.tnt"] = true;
     Rename("0D", "again");
     const std::string second = Open();
     for (int look = 0; look < 40; ++look) {
@@ -333,7 +333,7 @@ TEST_F(RecoveryTest, FailureOfOneLibraryIsToldOnceWhileAnotherOneIsKept) {
     files.locked.clear();
     for (int look = 0; look < 20; ++look)
         Look();
-    files.locked.insert(std::string(kFolder) + "\\own-1.tnt");
+    files.locked[std::string(kFolder) + "\\own-1.tnt"] = true;
     Rename("0D", "and again");
     Look();
     EXPECT_EQ(told, 2) << "it had been kept meanwhile";

@@ -409,6 +409,12 @@ protected:
         Open("C:\\many.tnt", content);
         Run(IDM_mnuEditFind);
     }
+    void ChangeFirstRow() {
+        program.Main().list.RowClicked(0);
+        program.Main().editor.ValueTextChanged(1, "77");
+        Run(IDM_mnuColorUpdateColor);
+        ASSERT_EQ(program.Main().rows.CellText(0, 3), "77");
+    }
 };
 
 TEST_F(SlicedFindTest, FirstHitsAreShownAtOnceAndTheOthersWithTheTicks) {
@@ -457,7 +463,7 @@ TEST_F(SlicedFindTest, SelectedHitIsSelectedAgainWhenAChangeHasMadeTheSearchBegi
     for (int tick = 0; tick < 5; ++tick)
         Window().Ticked();
     Window().RowSelected(5000);
-    Run(IDM_mnuColorUpdateColor); // of the first row
+    ChangeFirstRow();
     for (int tick = 0; tick < 9; ++tick)
         Window().Ticked();
     EXPECT_EQ(program.find.rowCount, 9000);
@@ -469,7 +475,7 @@ TEST_F(SlicedFindTest, NextHitIsThatOfAllAlsoWhileASearchGoesOn) {
     for (int tick = 0; tick < 5; ++tick)
         Window().Ticked();
     Window().RowSelected(5000);
-    Run(IDM_mnuColorUpdateColor);
+    ChangeFirstRow();
     Run(IDM_mnuEditFindNext);
     EXPECT_EQ(program.find.selectedRow, 5001);
 }
