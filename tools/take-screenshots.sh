@@ -43,6 +43,10 @@ if [[ $docs == yes ]]; then
     for step in 06:1-edit 07:2-get 09:3-set 10:4-component; do
         shrink "$pictures/${step%%:*}"-*.png "docs/images/tour-${step#*:}.png" -resize '900x>'
     done
+    pictures=$PWD/build/screenshots/windows
+    play 96 windows "$pictures"
+    shrink "$pictures/14-find-like-the-active-color.png" docs/images/find-en.png \
+        -gravity North -crop x420+0+0 +repage -resize '900x>'
     cp docs/images/views-96/06-large-editor.png docs/images/main-en.png
     cp docs/images/views-96/07-large-editor-in-German.png docs/images/main-de.png
 fi
