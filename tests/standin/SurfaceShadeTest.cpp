@@ -41,6 +41,20 @@ TEST(SurfaceShade, AFullyTransparentBallShowsTheGround) {
     EXPECT_EQ(PixelOf({0, 0, 0, 0, 0, 0, 0, 1}, kSize / 2, kSize / 2), 0xEDEDEDU);
 }
 
+// FNV-1a over every pixel of balls in three sizes, of all kinds of material.
+TEST(SurfaceShade, EveryPixelIsAsItWas) {
+    std::uint64_t sum = 14695981039346656037U;
+    for (int kind = 0; kind < 40; ++kind) {
+        MaterialValues values{};
+        for (std::size_t i = 0; i < values.size(); ++i)
+            values[i] = static_cast<double>((kind * 37 + static_cast<int>(i) * 53) % 101) / 97.0;
+        for (const int size : {16, 33, 96})
+            for (const std::uint32_t pixel : ShadedBall(values, size, kBackground))
+                sum = (sum ^ pixel) * 1099511628211U;
+    }
+    EXPECT_EQ(sum, 9185652598348272395U);
+}
+
 TEST(PlainColor, AnExactHalfGoesToTheEvenNeighbour) {
     MaterialValues values{0.5, 0.3, 0.1};
     EXPECT_EQ(PlainColor(values), (RedGreenBlue{128, 76, 26}));
