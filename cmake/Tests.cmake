@@ -57,8 +57,8 @@ function(tnt_test name)
     endif()
 endfunction()
 
-set(portable_test_folders tests/common tests/library tests/palettes tests/convert tests/solidworks
-    tests/support/language tests/support/settings tests/support/windows
+set(portable_test_folders tests/common tests/library tests/palettes tests/convert tests/shading
+    tests/solidworks tests/support/language tests/support/settings tests/support/windows
     tests/mainwindow tests/app tests/standin tests/fakes)
 if(TNT_CONVERTER)
     list(APPEND portable_test_folders tests/converter tests/converter/${converter_system})

@@ -14,7 +14,7 @@ tools/build.sh coverage portable_tests
 find "$build" -name '*.gcda' -delete # what an earlier run counted
 "$build/portable_tests" --gtest_brief=1
 gcovr --root . --object-directory "$build" -j "$(nproc)" \
-    --filter '(app|common|convert|converter|library|mainwindow|palettes|solidworks|standin/model|support)/' \
+    --filter '(app|common|convert|converter|library|mainwindow|palettes|shading|solidworks|standin/model|support)/' \
     --exclude-throw-branches --exclude-unreachable-branches \
     --txt "$report" --html-details "$build/report.html" --print-summary \
     --fail-under-line "$lines" --fail-under-branch "$branches"

@@ -12,4 +12,4 @@ exec cppcheck --quiet --error-exitcode=1 -j "$(nproc)" --cppcheck-build-dir="$kn
     --suppressions-list=.cppcheck-suppressions --inline-suppr \
     -DTNT_VERSION='""' '-DSTDMETHODIMP_(type)=type __stdcall' \
     --template='{file}:{line}: {severity}: {message} [{id}]' \
-    app common convert converter library mainwindow palettes platform solidworks standin support
+    app common convert converter library mainwindow palettes platform shading solidworks standin support

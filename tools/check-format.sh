@@ -5,5 +5,5 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 mode=(--dry-run -Werror)
 [[ ${1-} != --fix ]] || mode=(-i)
-find app common convert converter library mainwindow palettes platform solidworks standin support tests resources \
+find app common convert converter library mainwindow palettes platform shading solidworks standin support tests resources \
     \( -name '*.cpp' -o -name '*.h' \) -print0 | xargs -0 -r clang-format "${mode[@]}"

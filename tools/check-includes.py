@@ -24,8 +24,8 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*(?:<([^>]+)>|"([^"]+)")')
 # A room inside another one stands before it.
 ROOMS = ("app", "mainwindow/panes", "mainwindow", "support/language", "support/settings",
          "support/windows", "platform", "library", "palettes", "convert", "converter/windows",
-         "converter/linux", "converter", "solidworks", "common", "standin/model", "standin/com",
-         "resources", "tests")
+         "converter/linux", "converter", "shading", "solidworks", "common", "standin/model",
+         "standin/com", "resources", "tests")
 
 # The rooms that a room may include, itself aside: those that it needs, no others.
 ROOMS_BELOW = {
@@ -37,6 +37,7 @@ ROOMS_BELOW = {
     "converter": ("common", "library", "palettes", "convert"),
     "converter/windows": ("platform", "converter"),
     "converter/linux": ("common", "converter"),
+    "shading": ("common",),
     "solidworks": ("common",),
     "support/language": ("common", "resources"),
     "support/settings": ("common", "support/language", "resources"),
@@ -44,11 +45,11 @@ ROOMS_BELOW = {
                         "resources"),
     "mainwindow": ("common", "library", "palettes", "convert", "solidworks", "support/language", "support/settings",
                    "support/windows", "resources"),
-    "mainwindow/panes": ("common", "platform", "library", "mainwindow", "resources"),
+    "mainwindow/panes": ("common", "platform", "library", "shading", "mainwindow", "resources"),
     "app": ("common", "platform", "library", "solidworks", "support/language", "support/settings",
             "support/windows", "mainwindow"),
     "standin/model": ("common",),
-    "standin/com": ("common", "platform", "standin/model", "resources"),
+    "standin/com": ("common", "platform", "shading", "standin/model", "resources"),
     "resources": (),
     "tests": tuple(room for room in ROOMS if room != "tests"),
 }

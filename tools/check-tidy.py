@@ -32,7 +32,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build"
 KNOWN = BUILD / "tidy"
 ROOMS = ("app", "common", "convert", "converter", "library", "mainwindow", "palettes", "platform",
-         "solidworks", "standin", "support")
+         "shading", "solidworks", "standin", "support")
 TOGETHER = 24  # files that are looked at as one, at most
 OWN_PART = re.compile(r"^namespace \{$(.*?)^\} // namespace$", re.MULTILINE | re.DOTALL)
 OWN_NAME = re.compile(r"^(?:template <.*> )?(?:(?:class|struct|enum|enum class|using|namespace) (\w+)|"

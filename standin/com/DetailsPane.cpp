@@ -3,8 +3,8 @@
 #include "platform/Canvas.h"
 #include "platform/DpiScale.h"
 #include "platform/Fonts.h"
+#include "shading/SurfaceShade.h"
 #include "standin/model/CallText.h"
-#include "standin/model/SurfaceShade.h"
 
 #include <algorithm>
 #include <array>

@@ -4,7 +4,7 @@
 #include "platform/DpiScale.h"
 #include "platform/ExplorerTheme.h"
 #include "platform/Utf16.h"
-#include "standin/model/SurfaceShade.h"
+#include "shading/SurfaceShade.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,9 +3,9 @@
 #include "platform/Canvas.h"
 #include "platform/DpiScale.h"
 #include "platform/Fonts.h"
+#include "shading/SurfaceShade.h"
 #include "standin/com/PlateColors.h"
 #include "standin/model/ObjectRows.h"
-#include "standin/model/SurfaceShade.h"
 
 #include <algorithm>
 #include <array>

@@ -80,6 +80,8 @@ class OwnHeaders(unittest.TestCase):
                              ("support/settings/Options.cpp", "support/windows/About.h"),
                              ("palettes/Palette.cpp", "library/Library.h"),
                              ("library/Library.cpp", "convert/LibraryPalette.h"),
+                             ("library/Library.cpp", "shading/SurfaceShade.h"),
+                             ("shading/SurfaceShade.cpp", "library/Library.h"),
                              ("library/Library.cpp", "palettes/Palette.h"),
                              ("support/windows/About.cpp", "library/Library.h")):
             with self.subTest(path):

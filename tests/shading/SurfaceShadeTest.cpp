@@ -1,5 +1,5 @@
-// Rules: Stand-in for SolidWorks
-#include "standin/model/SurfaceShade.h"
+// Rules: Color mathematics
+#include "shading/SurfaceShade.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@ namespace {
 constexpr int kSize = 40;
 constexpr std::uint32_t kBackground = 0x102030;
 
-std::uint32_t PixelOf(const MaterialValues& values, int column, int row) {
+std::uint32_t PixelOf(const SurfaceShares& values, int column, int row) {
     return ShadedBall(values, kSize, kBackground)
         .at(static_cast<std::size_t>(row) * kSize + static_cast<std::size_t>(column));
 }
@@ -29,7 +29,7 @@ TEST(SurfaceShade, WithoutLightTheBallIsBlackAndEmissionLightsIt) {
 }
 
 TEST(SurfaceShade, DiffuseLightComesFromTheUpperLeft) {
-    const MaterialValues white{1, 1, 1, 0, 1};
+    const SurfaceShares white{1, 1, 1, 0, 1};
     EXPECT_GT(PixelOf(white, 12, 10), PixelOf(white, 28, 30));
 }
 
@@ -45,7 +45,7 @@ TEST(SurfaceShade, AFullyTransparentBallShowsTheGround) {
 TEST(SurfaceShade, EveryPixelIsAsItWas) {
     std::uint64_t sum = 14695981039346656037U;
     for (int kind = 0; kind < 40; ++kind) {
-        MaterialValues values{};
+        SurfaceShares values{};
         for (std::size_t i = 0; i < values.size(); ++i)
             values[i] = static_cast<double>((kind * 37 + static_cast<int>(i) * 53) % 101) / 97.0;
         for (const int size : {16, 33, 96})
@@ -56,7 +56,7 @@ TEST(SurfaceShade, EveryPixelIsAsItWas) {
 }
 
 TEST(PlainColor, AnExactHalfGoesToTheEvenNeighbour) {
-    MaterialValues values{0.5, 0.3, 0.1};
+    SurfaceShares values{0.5, 0.3, 0.1};
     EXPECT_EQ(PlainColor(values), (RedGreenBlue{128, 76, 26}));
 }
 

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "common/ColorNumber.h"
+#include "common/ColorRecord.h"
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+// How a surface looks that has the nine values of a color: docs/shading.md describes the model.
+
+// The nine values in their order, 0..1 each; what is beyond counts as that end.
+using SurfaceShares = std::array<double, kColorValueCount>;
+
+// values: 0..255 and 0..100; what is beyond counts as that end.
+[[nodiscard]] SurfaceShares SharesOf(const ColorValueArray& values) noexcept;
+
+// The plain color of the values, without any light.
+[[nodiscard]] RedGreenBlue PlainColor(const SurfaceShares& values) noexcept;
+
+// A lit ball of this material on a chequered ground that shows through when it is transparent.
+// size * size pixels, row after row from the top, each 0x00RRGGBB; background likewise.
+[[nodiscard]] std::vector<std::uint32_t> ShadedBall(const SurfaceShares& values, int size,
+                                                    std::uint32_t background);
+
+// What all balls of a size have in common, whatever their material is.
+class BallShape {
+public:
+    // A pixel of the picture.
+    struct Spot {
+        double facing;     // cosine between the surface and the way to the lamp; 0: in the shade
+        double reflection; // binary logarithm of the cosine between the reflected ray and the eye
+        double ground;     // shade of the checkerboard
+        double covered;    // how much of the pixel the ball covers
+    };
+
+    explicit BallShape(int size); // pixels
+
+    [[nodiscard]] int Size() const noexcept { return size_; }
+    [[nodiscard]] const std::vector<Spot>& Spots() const noexcept { return spots_; }
+
+private:
+    int size_;
+    std::vector<Spot> spots_; // row after row from the top
+};
+
+// The same ball without a background: pixels row after row from the top, each 0xAARRGGBB with the
+// alpha multiplied in.
+[[nodiscard]] std::vector<std::uint32_t> BallPicture(const ColorValueArray& values,
+                                                     const BallShape& shape);
+
+// A field of the plain color on a chequered ground that shows through when it is transparent, with
+// a border inside its edges.
+struct FieldShape {
+    int size = 0;            // of the picture, pixels
+    int margin = 0;          // around the field, without a color
+    int border = 0;          // thickness
+    std::uint32_t color = 0; // of the border, 0x00RRGGBB
+};
+
+// Pixels like those of a ball's picture.
+[[nodiscard]] std::vector<std::uint32_t> FieldPicture(const ColorValueArray& values,
+                                                      const FieldShape& shape);
