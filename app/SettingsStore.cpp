@@ -16,6 +16,7 @@ using SettingMember =
 struct SettingRow {
     const char* name;
     SettingMember member;
+    bool onceUsed = false; // stored only once it has had another value than its default
 };
 
 // The order in which the settings are read and written.
@@ -32,6 +33,7 @@ constexpr std::array kSettings = {
     SettingRow{"ViewStatusBar", &Settings::viewStatusBar},
     SettingRow{"ViewHugeColorDialog", &Settings::viewHugeColorDialog},
     SettingRow{"DefaultColorFile", &Settings::defaultColorFile},
+    SettingRow{"ViewColorsInList", &Settings::viewColorsInList, true},
 };
 
 constexpr const char* kLastSponsorShown = "LastSponsorShown";
@@ -57,6 +59,10 @@ std::string TextOf(const std::string& setting) {
     return setting;
 }
 
+std::string TextOf(const SettingRow& row, const Settings& settings) {
+    return std::visit([&](auto member) { return TextOf(settings.*member); }, row.member);
+}
+
 bool Converts(const SettingRow& row, const std::string& text, Settings& settings) {
     try {
         std::visit([&](auto member) { Assign(settings.*member, text); }, row.member);
@@ -79,9 +85,11 @@ std::vector<std::string> SettingsStore::Load(Settings& settings) const {
 }
 
 void SettingsStore::Save(const Settings& settings) const {
-    for (const SettingRow& row : kSettings)
-        Write(row.name,
-              std::visit([&](auto member) { return TextOf(settings.*member); }, row.member));
+    for (const SettingRow& row : kSettings) {
+        const std::string text = TextOf(row, settings);
+        if (!row.onceUsed || text != TextOf(row, Settings{}) || Read(row.name) != std::string())
+            Write(row.name, text);
+    }
 }
 
 std::string SettingsStore::LoadLastSponsorShown() const {

@@ -16,6 +16,7 @@ public:
     // is; the names of these values are returned.
     std::vector<std::string> Load(Settings& settings) const;
 
+    // A setting that has never been used is not stored, where it is such a one.
     void Save(const Settings& settings) const;
 
     // The banner last shown, as text; "1" when nothing is stored.

@@ -104,14 +104,16 @@ if(WIN32)
         tests/platform/ScratchFolder.cpp resources/tnt4swx.rc)
     add_executable(groups_bench tests/bench/GroupsBench.cpp tests/platform/ScratchFolder.cpp
         resources/tnt4swx.rc)
-    foreach(bench walk_bench groups_bench)
+    add_executable(list_bench tests/bench/ListBench.cpp tests/platform/ScratchFolder.cpp
+        resources/tnt4swx.rc)
+    foreach(bench walk_bench groups_bench list_bench)
         target_link_libraries(${bench} PRIVATE standin_model tnt_forms tnt_version)
     endforeach()
     target_compile_definitions(walk_bench PRIVATE ${program_folder}
         $<$<CXX_COMPILER_ID:MSVC>:_CRT_SECURE_NO_WARNINGS>)
     add_dependencies(start_bench tnt4swx)
     add_dependencies(walk_bench swx_standin)
-    foreach(bench start_bench sort_bench walk_bench groups_bench)
+    foreach(bench start_bench sort_bench walk_bench groups_bench list_bench)
         target_link_libraries(${bench} PRIVATE tnt_platform)
         tnt_target_options(${bench})
         if(NOT MSVC)

@@ -17,7 +17,8 @@ struct Settings {
     bool viewBarSolidWorks = true;
     bool viewStatusBar = false;
     bool viewHugeColorDialog = false;
-    std::string defaultColorFile; // loaded at start-up; empty: none
+    bool viewColorsInList = false; // each row's picture is painted from its color
+    std::string defaultColorFile;  // loaded at start-up; empty: none
 
     bool operator==(const Settings&) const = default;
 };

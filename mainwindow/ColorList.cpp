@@ -171,6 +171,16 @@ std::string ColorList::TextOfColor(ColorId color, int column) const {
     return std::to_string(stored.values[static_cast<std::size_t>(column - kNameColumn - 1)]);
 }
 
+std::optional<ColorValueArray> ColorList::RowValues(int row) const {
+    if (row < 0 || row >= RowCount())
+        return {};
+    const ColorTable& colors = library_.Colors();
+    const int index = colors.IndexOfId(rows_[static_cast<std::size_t>(row)]);
+    if (index == 0)
+        return {};
+    return colors.ViewAt(index).color.values;
+}
+
 int ColorList::FindRow(const std::string& text, int start) const {
     const std::string wanted = collation_.LowerCase(text);
     for (int step = 0; step < RowCount(); ++step) {

@@ -53,6 +53,8 @@ public:
 
     [[nodiscard]] std::string CellText(int row, int column) const override;
 
+    [[nodiscard]] std::optional<ColorValueArray> RowValues(int row) const override;
+
     [[nodiscard]] int FindRow(const std::string& text, int start) const override;
 
 private:

@@ -187,6 +187,9 @@ constexpr std::array kMenuRows = {
           [](Commands c) { c.view.SetListView(ListViewMode::List); }),
     Entry(IDM_mnuViewColorDetails, "mnuViewColorDetails", "Details",
           [](Commands c) { c.view.SetListView(ListViewMode::Details); }),
+    Separator(IDM_mnuViewHR3, "mnuViewHR3"),
+    Entry(IDM_mnuViewColorsInList, "mnuViewColorsInList", "Farben in der Liste",
+          [](Commands c) { c.view.Toggle(IDM_mnuViewColorsInList); }),
 
     Title(IDM_mnuSWX, "mnuSWX", "SolidWorks"),
     Operation(IDM_mnuSWXGetColor, "mnuSWXGetColor", "Farbe aus SolidWorks holen",

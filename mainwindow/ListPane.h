@@ -1,5 +1,8 @@
 #pragma once
 
+#include "common/ColorRecord.h"
+
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +35,8 @@ public:
     // An open edit of a label ends and reports its text.
     virtual void FinishLabelEdit() = 0;
     virtual void SetListViewMode(ListViewMode mode) = 0;
+    // Each row's picture is painted from its color (ListRows::RowValues), or is common to all.
+    virtual void ShowRowColors(bool shown) = 0;
 };
 
 // What the list shows, in which order.
@@ -40,6 +45,7 @@ public:
     virtual ~ListRows() = default;
 
     [[nodiscard]] virtual std::string CellText(int row, int column) const = 0;
+    [[nodiscard]] virtual std::optional<ColorValueArray> RowValues(int row) const = 0; // none: gone
     // First row from start (wrapping at the end) whose name begins with the text, letter case
     // ignored; -1: none.
     [[nodiscard]] virtual int FindRow(const std::string& text, int start) const = 0;

@@ -22,6 +22,7 @@ constexpr std::array kSwitches = {
     Switch{IDM_mnuViewBarColor, &Settings::viewBarColor, true},
     Switch{IDM_mnuViewBarListview, &Settings::viewBarListview, true},
     Switch{IDM_mnuViewBarSolidWorks, &Settings::viewBarSolidWorks, true},
+    Switch{IDM_mnuViewColorsInList, &Settings::viewColorsInList, false},
 };
 
 struct ListView {
@@ -94,6 +95,8 @@ void ViewCommands::Show(int command, bool visible) {
         bars_.SetStatusBarVisible(visible);
     if (command == IDM_mnuViewHugeColorDialog)
         layout_.SetHugeFrame(visible);
+    if (command == IDM_mnuViewColorsInList)
+        list_.ShowRowColors(visible);
     for (const GroupSwitch& row : kGroupSwitches)
         if (row.command == command)
             ShowGroup(bars_, row.group, visible);

@@ -1,8 +1,10 @@
 #include "platform/IconStrip.h"
 
+#include "platform/PixelBitmap.h"
 #include "platform/Utf16.h"
 
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -31,27 +33,13 @@ const BITMAPINFOHEADER* FindPicture(const std::string& name, int size) {
     return fits ? header : nullptr;
 }
 
-BitmapHandle MakeStrip(int width, int height, DWORD*& pixels) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = kBitsPerPixel;
-    void* bits = nullptr;
-    BitmapHandle strip(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-    pixels = static_cast<DWORD*>(bits);
-    return strip;
-}
-
 } // namespace
 
 BitmapHandle LoadIconStrip(const std::vector<std::string>& names, int size) {
     const auto side = static_cast<std::size_t>(size);
     const std::size_t stripWidth = side * names.size();
-    DWORD* pixels = nullptr;
-    BitmapHandle strip = MakeStrip(static_cast<int>(stripWidth), size, pixels);
-    if (!strip)
+    PixelBitmap strip = MakePixelBitmap(static_cast<int>(stripWidth), size);
+    if (!strip.handle)
         return {};
     for (std::size_t index = 0; index < names.size(); ++index) {
         const BITMAPINFOHEADER* picture = FindPicture(names[index], size);
@@ -59,8 +47,8 @@ BitmapHandle LoadIconStrip(const std::vector<std::string>& names, int size) {
             return {};
         const auto* source = reinterpret_cast<const DWORD*>(picture + 1);
         for (std::size_t line = 0; line < side; ++line)
-            std::memcpy(pixels + line * stripWidth + index * side, source + line * side,
+            std::memcpy(strip.pixels + line * stripWidth + index * side, source + line * side,
                         side * sizeof(DWORD));
     }
-    return strip;
+    return std::move(strip.handle);
 }

@@ -147,6 +147,8 @@
 #define IDM_mnuFileImport 2074
 #define IDM_mnuFileImportGroups 2075
 #define IDM_mnuFileExport 2076
+#define IDM_mnuViewColorsInList 2077
+#define IDM_mnuViewHR3 2078
 #define IDM_mnuEditHR1 2079
 #define IDM_mnuEditFind 2080
 #define IDM_mnuEditFindNext 2081

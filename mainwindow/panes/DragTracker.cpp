@@ -11,6 +11,11 @@ constexpr UINT kTick = 100; // milliseconds
 // Design pixels.
 constexpr int kCursorSize = 32;
 
+// Where the dragged color stands behind the pointer, on the grid that its icon is drawn on.
+constexpr int kCursorGrid = 24;
+constexpr int kBallStart = 7;
+constexpr int kBallSize = 15;
+
 HeldKeys KeysHeld() {
     const auto isHeld = [](int virtualKey) { return GetKeyState(virtualKey) < 0; };
     return {isHeld(VK_SHIFT), isHeld(VK_CONTROL), isHeld(VK_MENU)};
@@ -41,8 +46,18 @@ void DragTracker::Tick() {
 
 void DragTracker::LoadCursors() {
     const int size = form_.Scale().FromDesign(kCursorSize);
-    move_ = LoadNamedCursor("DragMove", size);
-    copy_ = LoadNamedCursor("DragCopy", size);
+    if (!controls_.list.HasOwnPictures()) {
+        move_ = LoadNamedCursor("DragMove", size);
+        copy_ = LoadNamedCursor("DragCopy", size);
+        return;
+    }
+    const auto paintColor = [this, size](HDC device) {
+        const int ball = MulDiv(size, kBallSize, kCursorGrid);
+        const int start = MulDiv(size, kBallStart, kCursorGrid);
+        controls_.list.PaintSelected(device, {start, start, start + ball, start + ball});
+    };
+    move_ = LoadNamedCursor("DragMoveColor", size, paintColor);
+    copy_ = LoadNamedCursor("DragCopyColor", size, paintColor);
 }
 
 void DragTracker::ShowDrag(float left, float top, DragMode picture) {

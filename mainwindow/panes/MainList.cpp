@@ -3,6 +3,7 @@
 #include "platform/WindowGeometry.h"
 
 void MainList::Attach(ListRows& rows, ListEvents& events) {
+    rows_ = &rows;
     control_.cellText = [&rows](int row, int column) { return rows.CellText(row, column); };
     control_.findRow = [&rows](const std::string& text, int start) {
         return rows.FindRow(text, start);
@@ -63,4 +64,15 @@ void MainList::FinishLabelEdit() {
 
 void MainList::SetListViewMode(ListViewMode mode) {
     control_.SetMode(static_cast<int>(mode));
+}
+
+void MainList::ShowRowColors(bool shown) {
+    if (!shown) {
+        control_.PaintPictures({});
+        return;
+    }
+    control_.PaintPictures([this](const ListView::PicturePlace& place) {
+        if (const auto values = rows_ != nullptr ? rows_->RowValues(place.row) : std::nullopt)
+            pictures_.Paint(place.device, place.square, *values, place.isLarge);
+    });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mainwindow/ListPane.h"
+#include "mainwindow/panes/ColorPictures.h"
 #include "platform/DpiScale.h"
 #include "platform/controls/ListView.h"
 
@@ -24,8 +25,11 @@ public:
     void EditRowLabel(int row) override;
     void FinishLabelEdit() override;
     void SetListViewMode(ListViewMode mode) override;
+    void ShowRowColors(bool shown) override;
 
 private:
     ListView& control_;
     const DpiScale& scale_;
+    const ListRows* rows_ = nullptr; // until it is attached, there is nothing to show
+    ColorPictures pictures_;
 };

@@ -57,6 +57,16 @@ void ListView::FitColumns() {
     }
 }
 
+void ListView::PaintPictures(PicturePainter painter) {
+    painter_ = std::move(painter);
+    InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+void ListView::PaintSelected(HDC device, const RECT& square) const {
+    if (painter_ && selected_ >= 0)
+        painter_({device, selected_, square, true});
+}
+
 LONG_PTR ListView::View() const noexcept {
     return GetWindowLongPtrW(Handle(), GWL_STYLE) & LONG_PTR{LVS_TYPEMASK};
 }
@@ -202,8 +212,7 @@ MessageResult ListView::OnNotify(NMHDR& header) {
         FillItem(reinterpret_cast<NMLVDISPINFOW&>(header).item);
         return 0;
     case NM_CUSTOMDRAW:
-        return rowColor ? DrawRow(reinterpret_cast<const NMLVCUSTOMDRAW&>(header))
-                        : MessageResult();
+        return FollowPainting(reinterpret_cast<const NMCUSTOMDRAW&>(header));
     case LVN_ODFINDITEMW:
         return FindText(reinterpret_cast<const NMLVFINDITEMW&>(header));
     case LVN_ITEMCHANGED:
@@ -257,24 +266,64 @@ void ListView::FillItem(LVITEMW& item) const {
         lstrcpynW(item.pszText, ToUtf16(text).c_str(), item.cchTextMax);
     }
     if ((item.mask & LVIF_IMAGE) != 0)
-        item.iImage = item.iSubItem == 0 ? ShownImages().IndexOf(images_.key) : -1;
+        item.iImage = item.iSubItem == 0 ? ImageOfRows() : -1;
 }
 
-// The platform draws a row with its picture, which the swatch covers then.
-MessageResult ListView::DrawRow(const NMLVCUSTOMDRAW& draw) const {
-    switch (draw.nmcd.dwDrawStage) {
+// A picture of a row's own has the place of one that the list of pictures does not hold, so that
+// the control paints none.
+int ListView::ImageOfRows() const {
+    const IconList& shown = ShownImages();
+    return painter_ ? ImageList_GetImageCount(shown.Handle()) : shown.IndexOf(images_.key);
+}
+
+// The picture comes last: the control would blend that of a selected row with the selection.
+MessageResult ListView::FollowPainting(const NMCUSTOMDRAW& stage) const {
+    if (!painter_ && !rowColor)
+        return {};
+    switch (stage.dwDrawStage) {
     case CDDS_PREPAINT:
         return CDRF_NOTIFYITEMDRAW;
     case CDDS_ITEMPREPAINT:
         return CDRF_NOTIFYPOSTPAINT;
     case CDDS_ITEMPOSTPAINT:
-        DrawSwatch(draw.nmcd.hdc, static_cast<int>(draw.nmcd.dwItemSpec));
+        if (painter_)
+            PaintPicture(stage.hdc, static_cast<int>(stage.dwItemSpec));
+        else
+            DrawSwatch(stage.hdc, static_cast<int>(stage.dwItemSpec));
         return CDRF_DODEFAULT;
     default:
         return CDRF_DODEFAULT;
     }
 }
 
+// A column that is narrower than the picture cuts it off.
+void ListView::PaintPicture(HDC device, int row) const {
+    RECT place{LVIR_ICON, 0, 0, 0};
+    if (Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), &place) == 0)
+        return;
+    const auto width = static_cast<LONG>(View() == LVS_REPORT ? Send(LVM_GETCOLUMNWIDTH) : 0);
+    if (View() != LVS_REPORT || width > 2 * Scale().FromDesign(kSmallIcon)) {
+        PaintPictureIn(place, device, row);
+        return;
+    }
+    RECT bounds{LVIR_BOUNDS, 0, 0, 0};
+    Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), &bounds);
+    const int before = SaveDC(device);
+    IntersectClipRect(device, bounds.left, bounds.top, bounds.left + width, bounds.bottom);
+    PaintPictureIn(place, device, row);
+    RestoreDC(device, before);
+}
+
+// In the middle of the place, which may be larger.
+void ListView::PaintPictureIn(const RECT& place, HDC device, int row) const {
+    const bool isLarge = View() == LVS_ICON;
+    const int size = Scale().FromDesign(isLarge ? kLargeIcon : kSmallIcon);
+    const LONG left = (place.left + place.right - size) / 2;
+    const LONG top = (place.top + place.bottom - size) / 2;
+    painter_({device, row, {left, top, left + size, top + size}, isLarge});
+}
+
+// The platform draws a row with its picture, which the swatch covers then.
 void ListView::DrawSwatch(HDC device, int row) const {
     RECT area{LVIR_ICON, 0, 0, 0};
     if (Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), &area) == 0)

@@ -19,7 +19,22 @@ public:
         const char* key; // the picture of every row
     };
 
+    // A row's own picture is painted into a square as large as the list's pictures are.
+    struct PicturePlace {
+        HDC device;
+        int row;
+        RECT square;
+        bool isLarge; // that of large icons
+    };
+    using PicturePainter = std::function<void(const PicturePlace& place)>;
+
     ListView(ControlHost& host, const ControlPlace& place, const Images& images);
+
+    // Each row has a picture of its own, painted whenever the row is; none: the common picture.
+    void PaintPictures(PicturePainter painter);
+    [[nodiscard]] bool HasOwnPictures() const noexcept { return painter_ != nullptr; }
+    // The large one of the selected row, where rows have pictures of their own.
+    void PaintSelected(HDC device, const RECT& square) const;
 
     void AddColumn(const std::string& caption, int width); // pixels
     void SetColumnCaption(int column, const std::string& caption);
@@ -68,7 +83,10 @@ private:
     };
 
     void FillItem(LVITEMW& item) const;
-    [[nodiscard]] MessageResult DrawRow(const NMLVCUSTOMDRAW& draw) const;
+    [[nodiscard]] int ImageOfRows() const;
+    MessageResult FollowPainting(const NMCUSTOMDRAW& stage) const;
+    void PaintPicture(HDC device, int row) const;
+    void PaintPictureIn(const RECT& place, HDC device, int row) const;
     void DrawSwatch(HDC device, int row) const;
     [[nodiscard]] const IconList& ShownImages() const;
     void FitColumns();
@@ -89,6 +107,7 @@ private:
     void StartDrag(const NMLISTVIEW& start);
 
     Images images_;
+    PicturePainter painter_;
     int dpi_ = 0; // that the column widths are made for
     int columns_ = 0;
     int selected_ = -1;

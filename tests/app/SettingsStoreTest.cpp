@@ -36,19 +36,39 @@ TEST_F(SettingsStoreTest, EmptyRegistryKeepsTheDefaults) {
     EXPECT_TRUE(settings.alwaysOnTop && settings.confirmDel && settings.createBackups);
     EXPECT_TRUE(settings.viewToolbar && settings.viewBarColor && settings.viewBarSolidWorks);
     EXPECT_FALSE(settings.viewBarStandards || settings.viewBarListview || settings.viewStatusBar ||
-                 settings.viewHugeColorDialog);
+                 settings.viewHugeColorDialog || settings.viewColorsInList);
     EXPECT_EQ(settings.defaultColorFile, "");
 }
 
 // The names under which the settings of every user lie in the registry, with the defaults.
 TEST_F(SettingsStoreTest, SettingsAreReadAndWrittenInOneOrderUnderTheirNames) {
     store.Load(settings);
+    std::vector<std::string> read = registry.queries;
+    EXPECT_EQ(read.back(), kKey + "ViewColorsInList");
+    read.pop_back(); // not stored before it is used
     store.Save(settings);
-    EXPECT_EQ(registry.written, registry.queries);
+    EXPECT_EQ(registry.written, read);
     std::string lines;
     for (const std::string& path : registry.written)
         lines += path + " = " + registry.Text(path) + "\n";
     ExpectTranscript(lines);
+}
+
+// Who never paints the colors in the list has the values that there were before it could be done.
+TEST_F(SettingsStoreTest, ColorsInTheListAreNotStoredUntilTheyHaveBeenSwitchedOn) {
+    const std::string path = kKey + "ViewColorsInList";
+    const std::size_t settingsInAll = Names().size();
+    store.Save(settings);
+    EXPECT_EQ(registry.written.size(), settingsInAll - 1);
+    EXPECT_FALSE(registry.values.contains(path));
+    settings.viewColorsInList = true;
+    store.Save(settings);
+    EXPECT_EQ(registry.Text(path), "True");
+    settings.viewColorsInList = false;
+    store.Save(settings);
+    EXPECT_EQ(registry.Text(path), "False");
+    store.Save(settings);
+    EXPECT_EQ(registry.Text(path), "False");
 }
 
 TEST_F(SettingsStoreTest, ValuesAreStoredAsStrings) {
@@ -71,7 +91,7 @@ TEST_F(SettingsStoreTest, WhatIsSavedIsLoaded) {
     other.alwaysOnTop = other.confirmDel = other.createBackups = other.viewToolbar = false;
     other.viewBarColor = other.viewBarSolidWorks = false;
     other.viewBarStandards = other.viewBarListview = other.viewStatusBar = true;
-    other.viewHugeColorDialog = true;
+    other.viewHugeColorDialog = other.viewColorsInList = true;
     other.defaultColorFile = "C:\\a.tnt";
     store.Save(other);
     store.Load(settings);

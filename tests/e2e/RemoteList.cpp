@@ -97,13 +97,28 @@ void RemoteList::ClickRow(const std::string& name) const {
 }
 
 POINT RemoteList::PointOfRow(const std::string& name) const {
+    const RECT bounds = BoundsOfRow(name, LVIR_LABEL);
+    return window_.ToScreen({bounds.left + 8, (bounds.top + bounds.bottom) / 2});
+}
+
+RECT RemoteList::BoundsOfRow(const std::string& name, LONG part) const {
     const auto row = static_cast<WPARAM>(FindRow(name));
     SendMessageW(window_.Handle(), LVM_ENSUREVISIBLE, row, FALSE);
     const RemoteMemory memory(window_.Handle());
     RECT bounds{};
-    bounds.left = LVIR_LABEL; // which part: the message takes it there
+    bounds.left = part; // the message takes it there
     memory.Send(LVM_GETITEMRECT, row, bounds);
-    return window_.ToScreen({bounds.left + 8, (bounds.top + bounds.bottom) / 2});
+    return bounds;
+}
+
+COLORREF RemoteList::PictureColor(const std::string& name) const {
+    const RECT bounds = BoundsOfRow(name, LVIR_ICON);
+    const POINT middle =
+        window_.ToScreen({(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2});
+    const HDC screen = GetDC(nullptr);
+    const COLORREF color = GetPixel(screen, middle.x, middle.y);
+    ReleaseDC(nullptr, screen);
+    return color;
 }
 
 std::vector<std::string> RemoteList::Names() const {

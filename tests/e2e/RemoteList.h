@@ -28,9 +28,12 @@ public:
     [[nodiscard]] POINT Centre() const { return window_.Centre(); }
     // Of the screen, on the text of column 0; the row is scrolled into view.
     [[nodiscard]] POINT PointOfRow(const std::string& name) const;
+    // What the screen shows in the middle of the picture of the row.
+    [[nodiscard]] COLORREF PictureColor(const std::string& name) const;
     [[nodiscard]] std::vector<std::string> Names() const; // column 0 of every row
 
 private:
+    [[nodiscard]] RECT BoundsOfRow(const std::string& name, LONG part) const; // LVIR_...
     [[nodiscard]] std::string Cell(int row, int column) const;
     [[nodiscard]] HWND Header() const;
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <commctrl.h>
+#include <string>
 
 namespace {
 
@@ -24,6 +25,12 @@ void ViewsJob::Work() {
     Report().Step("large editor", [this] { ShowEditor(true); });
     Report().Step("large editor in German", [this] { SpeakGerman(); });
     Report().Step("small swatch in German", [this] { ShowEditor(false); });
+    Report().Step("colors in large icons", [this] { SwitchColorsOn(); });
+    Report().Step("colors in small icons",
+                  [this] { ShowColors(IDM_mnuViewColorSmallIcons, LVS_SMALLICON); });
+    Report().Step("colors in the list", [this] { ShowColors(IDM_mnuViewColorList, LVS_LIST); });
+    Report().Step("colors in the details",
+                  [this] { ShowColors(IDM_mnuViewColorDetails, LVS_REPORT); });
     Report().Step("end the program", [this] { EndMain(); });
 }
 
@@ -60,4 +67,24 @@ void ViewsJob::SpeakGerman() {
     Report().CheckBecomes(
         "caption of the editor", [this] { return Main().Window().Child(IDC_fraShowColor).Text(); },
         std::string("Aktive Farbe"));
+}
+
+// The ball of large icons is lit, so that its middle has no known color.
+void ViewsJob::SwitchColorsOn() {
+    const RemoteList list = Main().List();
+    const RemoteList::Row row = list.ReadRow(list.FindRow("Gold"));
+    gold_ = RGB(std::stoi(row.at(1)), std::stoi(row.at(2)), std::stoi(row.at(3)));
+    ShowMode(IDM_mnuViewColorLargeIcons, LVS_ICON);
+    const COLORREF common = list.PictureColor("Gold");
+    PostMessageW(Main().Window().Handle(), WM_COMMAND, IDM_mnuViewColorsInList, 0);
+    Report().CheckBecomes(
+        "another picture than the common one", [&] { return list.PictureColor("Gold") != common; },
+        true);
+}
+
+// A field has the plain color of its row.
+void ViewsJob::ShowColors(int command, DWORD style) {
+    ShowMode(command, style);
+    Report().CheckBecomes(
+        "color on the screen", [this] { return Main().List().PictureColor("Gold"); }, gold_);
 }

@@ -17,4 +17,8 @@ private:
     void ShowMode(int command, DWORD style);
     void ShowEditor(bool large);
     void SpeakGerman();
+    void SwitchColorsOn();
+    void ShowColors(int command, DWORD style);
+
+    COLORREF gold_ = CLR_INVALID; // as its row says
 };

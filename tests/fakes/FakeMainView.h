@@ -77,6 +77,7 @@ public:
             finish();
     }
     void SetListViewMode(ListViewMode mode) override { listMode = mode; }
+    void ShowRowColors(bool shown) override { rowColorsShown = shown; }
 
     std::function<void()> openEdit; // reports its text when it ends
 
@@ -168,6 +169,7 @@ public:
     int firstRow = 0; // in sight
     int editedRow = -1;
     ListViewMode listMode = ListViewMode::LargeIcons;
+    bool rowColorsShown = false;
     std::string colorName;
     std::array<std::string, 9> valueTexts;
     std::array<bool, 9> selectedWhole{};

@@ -59,6 +59,17 @@ TEST_F(LibraryPanesTest, RowsShowNameAndNineValues) {
     EXPECT_EQ(cells, (Names{"A", "100", "1", "2", "3", "4", "5", "6", "7", "8", ""}));
 }
 
+TEST_F(LibraryPanesTest, RowsHaveTheValuesOfTheirColorsUntilTheseAreGone) {
+    panes.NodeClicked("0DG1");
+    EXPECT_EQ(list.RowValues(1), (ColorValueArray{100, 1, 2, 3, 4, 5, 6, 7, 8}));
+    EXPECT_EQ(list.RowValues(-1), std::nullopt);
+    EXPECT_EQ(list.RowValues(3), std::nullopt);
+    library.Colors().SetValues(2, {9, 8, 7, 6, 5, 4, 3, 2, 1});
+    EXPECT_EQ(list.RowValues(1), (ColorValueArray{9, 8, 7, 6, 5, 4, 3, 2, 1}));
+    library.Colors().Erase(2);
+    EXPECT_EQ(list.RowValues(1), std::nullopt);
+}
+
 TEST_F(LibraryPanesTest, ClickedColorIsRememberedAndSelectedWhenTheGroupIsShownAgain) {
     panes.NodeClicked("0DG1");
     panes.RowClicked(2);

@@ -87,7 +87,8 @@ TEST_F(ViewCommandsTest, EverySwitchRunsTheLayoutPassAndItsSettingFollowsTheMark
         {IDM_mnuViewBarColor, &Settings::viewBarColor},
         {IDM_mnuViewBarListview, &Settings::viewBarListview},
         {IDM_mnuViewBarSolidWorks, &Settings::viewBarSolidWorks},
-        {IDM_mnuViewHugeColorDialog, &Settings::viewHugeColorDialog}};
+        {IDM_mnuViewHugeColorDialog, &Settings::viewHugeColorDialog},
+        {IDM_mnuViewColorsInList, &Settings::viewColorsInList}};
     for (const auto& [command, setting] : settingOfSwitch)
         for (int time = 0; time < 2; ++time) {
             const bool before = view.checks.at(command);
@@ -116,6 +117,20 @@ TEST_F(ViewCommandsTest, LargeEditorTakesItsHeightFromThePanes) {
     EXPECT_LT(view.layout.tree.height, before);
     views.Toggle(IDM_mnuViewHugeColorDialog);
     EXPECT_EQ(view.layout.tree.height, before);
+}
+
+TEST_F(ViewCommandsTest, ColorsInTheListAreOffUntilTheirSwitchShowsThem) {
+    EXPECT_FALSE(view.checks.at(IDM_mnuViewColorsInList));
+    views.ApplySettings();
+    EXPECT_FALSE(view.rowColorsShown);
+    for (const bool shown : {true, false}) {
+        views.Toggle(IDM_mnuViewColorsInList);
+        EXPECT_EQ(view.rowColorsShown, shown);
+    }
+    settings.viewColorsInList = true;
+    views.ApplySettings();
+    EXPECT_TRUE(view.rowColorsShown);
+    EXPECT_TRUE(view.checks.at(IDM_mnuViewColorsInList));
 }
 
 // The buttons of the views stand in the order of the views.

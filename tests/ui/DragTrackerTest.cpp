@@ -262,8 +262,44 @@ TEST_F(MainDragging, TreeScrollsByALineEachWay) {
     EXPECT_EQ(Next(TVGN_FIRSTVISIBLE), top);
 }
 
+// The pointer's picture at a share of its width and height.
+COLORREF OfPointer(double share) {
+    ICONINFO parts{};
+    if (GetIconInfo(GetCursor(), &parts) == FALSE)
+        return CLR_INVALID;
+    const BitmapHandle mask(parts.hbmMask);
+    const BitmapHandle color(parts.hbmColor);
+    BITMAP described{};
+    GetObjectW(color.Get(), sizeof described, &described);
+    const auto at = static_cast<int>(share * described.bmWidth);
+    const MemoryDevice memory(CreateCompatibleDC(nullptr));
+    const HGDIOBJ before = SelectObject(memory.Get(), color.Get());
+    const COLORREF pixel = GetPixel(memory.Get(), at, at);
+    SelectObject(memory.Get(), before);
+    return pixel;
+}
+
+TEST_F(MainDragging, PointerCarriesTheColorWhereTheListShowsColors) {
+    constexpr double kOnTheColor = 0.5;
+    events.rowValues = {{2, {250, 10, 10, 100, 100, 0, 0, 0, 50}}};
+    for (const bool shown : {false, true}) {
+        view.list.ShowRowColors(shown);
+        StartDrag();
+        view.drag.ShowDrag(0, 0, DragMode::Move);
+        const COLORREF pixel = OfPointer(kOnTheColor);
+        EXPECT_EQ(GetRValue(pixel) > 200 && GetGValue(pixel) < 30, shown) << std::hex << pixel;
+        EXPECT_NE(OfPointer(0.1), CLR_INVALID);
+        view.drag.EndDrag();
+        PumpMessages();
+    }
+    events.lines.clear();
+}
+
 TEST(NamedCursor, UnknownPictureIsNone) {
     EXPECT_FALSE(LoadNamedCursor("NoSuchPicture", 32));
+    EXPECT_FALSE(LoadNamedCursor("NoSuchPicture", 32, [](HDC) {}));
+    EXPECT_TRUE(LoadNamedCursor("DragMoveColor", 48, [](HDC) {}));
+    EXPECT_TRUE(LoadNamedCursor("DragCopyColor", 32, [](HDC) {}));
     EXPECT_TRUE(LoadNamedCursor("DragMove", 48));
 }
 

@@ -4,6 +4,8 @@
 #include "mainwindow/MainView.h"
 
 #include <functional>
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -48,6 +50,11 @@ public:
         if (!longCell.empty())
             return longCell;
         return "cell " + std::to_string(row) + "," + std::to_string(column);
+    }
+    [[nodiscard]] std::optional<ColorValueArray> RowValues(int row) const override {
+        ++valuesAsked;
+        const auto found = rowValues.find(row);
+        return found != rowValues.end() ? std::optional(found->second) : std::nullopt;
     }
     [[nodiscard]] int FindRow(const std::string& text, int) const override {
         ++searches;
@@ -119,6 +126,8 @@ public:
     int presses = 0;
     std::vector<std::string> ticks;
     mutable int cellsAsked = 0;
+    mutable int valuesAsked = 0;
+    std::map<int, ColorValueArray> rowValues; // of rows
     mutable int searches = 0;
     std::string longCell; // of every cell; empty: "cell row,column"
     bool mayEdit = true;
