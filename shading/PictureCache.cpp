@@ -11,7 +11,7 @@ constexpr int kSizeOfOne = 16; // pixels of a field with a border of one pixel
 std::vector<std::uint32_t> PictureCache::Made(const ColorPicture& picture) {
     if (picture.isBall) {
         if (ball_.Size() != picture.size)
-            ball_ = BallShape(picture.size);
+            ball_ = BallShape(picture.size, Lighting::TwoLamps);
         return BallPicture(picture.values, ball_);
     }
     const int one = std::max(picture.size / kSizeOfOne, 1);

@@ -33,6 +33,6 @@ public:
 private:
     [[nodiscard]] std::vector<std::uint32_t> Made(const ColorPicture& picture);
 
-    BallShape ball_{0}; // of the size that was asked for last
+    BallShape ball_{0, Lighting::TwoLamps}; // of the size that was asked for last
     std::map<ColorPicture, std::vector<std::uint32_t>> pictures_;
 };

@@ -82,17 +82,27 @@ double Ground(int x, int y, int square) noexcept {
     return (x / square + y / square) % 2 == 0 ? 0.93 : 0.72;
 }
 
-// The light comes from the upper left, the eye is in front.
-BallShape::Spot SpotOfBall(int size, int column, int row) noexcept {
-    constexpr std::array<double, 3> light{-0.48, -0.60, 0.64};
+using Direction = std::array<double, 3>; // to the right, down, towards the eye; of length 1
+
+// How much of a lamp's light falls on the surface with this normal.
+double Facing(const Direction& normal, const Direction& lamp) noexcept {
+    return std::max(0.0, normal[0] * lamp[0] + normal[1] * lamp[1] + normal[2] * lamp[2]);
+}
+
+// The lamp is at the upper left, the one that lightens the shade at the lower right, the eye in
+// front.
+BallShape::Spot SpotOfBall(int size, Lighting lighting, int column, int row) noexcept {
+    constexpr Direction lamp{-0.48, -0.60, 0.64};
+    constexpr Direction fill{0.48, 0.36, 0.80};
     const double radius = size / 2.0;
     const double x = (column + 0.5 - radius) / radius;
     const double y = (row + 0.5 - radius) / radius;
     const double distance = std::hypot(x, y);
     const double z = std::sqrt(std::max(0.0, 1 - distance * distance));
-    const double facing = std::max(0.0, x * light[0] + y * light[1] + z * light[2]);
-    const double reflected = std::max(0.0, 2 * facing * z - light[2]);
-    return {.facing = facing,
+    const double facing = Facing({x, y, z}, lamp);
+    const double reflected = std::max(0.0, 2 * facing * z - lamp[2]);
+    const bool isOne = lighting == Lighting::OneLamp;
+    return {.facing = isOne ? facing : (4 * facing + 2 * Facing({x, y, z}, fill)) / 3,
             .reflection = std::log2(reflected),
             .ground = Ground(column, row, std::max(size / 8, 1)),
             .covered = std::clamp((1 - distance) * radius, 0.0, 1.0)};
@@ -127,17 +137,17 @@ RedGreenBlue PlainColor(const SurfaceShares& values) noexcept {
     return {ToByte(values[0]), ToByte(values[1]), ToByte(values[2])};
 }
 
-BallShape::BallShape(int size) : size_(size) {
+BallShape::BallShape(int size, Lighting lighting) : size_(size) {
     spots_.reserve(static_cast<std::size_t>(size) * static_cast<std::size_t>(size));
     for (int row = 0; row < size; ++row)
         for (int column = 0; column < size; ++column)
-            spots_.push_back(SpotOfBall(size, column, row));
+            spots_.push_back(SpotOfBall(size, lighting, column, row));
 }
 
 Pixels ShadedBall(const SurfaceShares& values, int size, std::uint32_t background) {
     const Color behind = Unpack(background);
     const Material material(values);
-    return PaintedBall(BallShape(size), [&](const BallShape::Spot& spot) {
+    return PaintedBall(BallShape(size, Lighting::OneLamp), [&](const BallShape::Spot& spot) {
         return Pack(Mix(behind, Shown(material, spot), spot.covered));
     });
 }

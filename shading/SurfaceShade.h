@@ -18,23 +18,28 @@ using SurfaceShares = std::array<double, kColorValueCount>;
 // The plain color of the values, without any light.
 [[nodiscard]] RedGreenBlue PlainColor(const SurfaceShares& values) noexcept;
 
-// A lit ball of this material on a chequered ground that shows through when it is transparent.
-// size * size pixels, row after row from the top, each 0x00RRGGBB; background likewise.
+// A ball of this material under one lamp, on a chequered ground that shows through when it is
+// transparent. size * size pixels, row after row from the top, each 0x00RRGGBB; background
+// likewise.
 [[nodiscard]] std::vector<std::uint32_t> ShadedBall(const SurfaceShares& values, int size,
                                                     std::uint32_t background);
+
+// One lamp at the upper left; in small pictures a second one lightens the shade, so that each color
+// is told from the next.
+enum class Lighting { OneLamp, TwoLamps };
 
 // What all balls of a size have in common, whatever their material is.
 class BallShape {
 public:
     // A pixel of the picture.
     struct Spot {
-        double facing;     // cosine between the surface and the way to the lamp; 0: in the shade
+        double facing;     // light of the lamps that falls on it; 0: in the shade
         double reflection; // binary logarithm of the cosine between the reflected ray and the eye
         double ground;     // shade of the checkerboard
         double covered;    // how much of the pixel the ball covers
     };
 
-    explicit BallShape(int size); // pixels
+    BallShape(int size, Lighting lighting); // pixels
 
     [[nodiscard]] int Size() const noexcept { return size_; }
     [[nodiscard]] const std::vector<Spot>& Spots() const noexcept { return spots_; }
@@ -44,7 +49,7 @@ private:
     std::vector<Spot> spots_; // row after row from the top
 };
 
-// The same ball without a background: pixels row after row from the top, each 0xAARRGGBB with the
+// A ball without a background: pixels row after row from the top, each 0xAARRGGBB with the
 // alpha multiplied in.
 [[nodiscard]] std::vector<std::uint32_t> BallPicture(const ColorValueArray& values,
                                                      const BallShape& shape);

@@ -29,7 +29,7 @@ std::uint32_t OfField(const ColorValueArray& values, int column, int row) {
 // All bytes of all pixels together.
 std::uint64_t Light(const ColorValueArray& values) {
     std::uint64_t sum = 0;
-    for (const std::uint32_t pixel : BallPicture(values, BallShape(kSize)))
+    for (const std::uint32_t pixel : BallPicture(values, BallShape(kSize, Lighting::TwoLamps)))
         sum += (pixel >> 16 & 0xFF) + (pixel >> 8 & 0xFF) + (pixel & 0xFF);
     return sum;
 }
@@ -56,14 +56,15 @@ TEST(ColorPicture, EachEndOfEachValueGivesAPictureOfItsSize) {
             for (const int size : {1, 2, 16, 24, 32, 64}) {
                 const ColorValueArray values = With(kWhite, static_cast<ColorValue>(i), value);
                 const auto pixels = static_cast<std::size_t>(size) * static_cast<std::size_t>(size);
-                EXPECT_EQ(BallPicture(values, BallShape(size)).size(), pixels);
+                EXPECT_EQ(BallPicture(values, BallShape(size, Lighting::TwoLamps)).size(), pixels);
                 EXPECT_EQ(FieldPicture(values, {size, 1, 1, 0}).size(), pixels);
             }
 }
 
 TEST(ColorPicture, WhiteIsWhite) {
     EXPECT_EQ(OfField(kWhite, 8, 8), 0xFFFFFFFFU);
-    EXPECT_EQ(At(BallPicture(kWhite, BallShape(kSize)), kSize, 9, 8), 0xFFFFFFFFU)
+    EXPECT_EQ(At(BallPicture(kWhite, BallShape(kSize, Lighting::TwoLamps)), kSize, 9, 8),
+              0xFFFFFFFFU)
         << "towards the light";
 }
 
@@ -86,8 +87,10 @@ TEST(ColorPicture, WhatIsTransparentShowsTheCheckerboard) {
     EXPECT_EQ(OfField(kGlass, 2, 2), 0xFFEDEDEDU);
     EXPECT_EQ(OfField(kGlass, 6, 2), 0xFFB8B8B8U);
     EXPECT_EQ(OfField(kGlass, 6, 6), 0xFFEDEDEDU);
-    EXPECT_EQ(At(BallPicture(kGlass, BallShape(kSize)), kSize, 16, 16), 0xFFEDEDEDU);
-    EXPECT_EQ(At(BallPicture(kGlass, BallShape(kSize)), kSize, 20, 16), 0xFFB8B8B8U);
+    EXPECT_EQ(At(BallPicture(kGlass, BallShape(kSize, Lighting::TwoLamps)), kSize, 16, 16),
+              0xFFEDEDEDU);
+    EXPECT_EQ(At(BallPicture(kGlass, BallShape(kSize, Lighting::TwoLamps)), kSize, 20, 16),
+              0xFFB8B8B8U);
 }
 
 TEST(ColorPicture, HalfTransparentIsHalfOfBoth) {
@@ -96,7 +99,7 @@ TEST(ColorPicture, HalfTransparentIsHalfOfBoth) {
 }
 
 TEST(ColorPicture, BallHasNothingInItsCorners) {
-    const auto pixels = BallPicture(kWhite, BallShape(kSize));
+    const auto pixels = BallPicture(kWhite, BallShape(kSize, Lighting::TwoLamps));
     for (const int column : {0, kSize - 1})
         for (const int row : {0, kSize - 1})
             EXPECT_EQ(At(pixels, kSize, column, row), 0U);
@@ -104,7 +107,7 @@ TEST(ColorPicture, BallHasNothingInItsCorners) {
 
 TEST(ColorPicture, EdgeOfTheBallIsMultipliedWithItsAlpha) {
     int partly = 0;
-    for (const std::uint32_t pixel : BallPicture(kWhite, BallShape(kSize))) {
+    for (const std::uint32_t pixel : BallPicture(kWhite, BallShape(kSize, Lighting::TwoLamps))) {
         const std::uint32_t alpha = pixel >> 24;
         partly += alpha > 0 && alpha < 255 ? 1 : 0;
         for (const int shift : {0, 8, 16})
@@ -115,9 +118,17 @@ TEST(ColorPicture, EdgeOfTheBallIsMultipliedWithItsAlpha) {
 
 TEST(ColorPicture, BallOverABackgroundIsThatOfTheSameShares) {
     const auto over = ShadedBall(SharesOf(kWhite), kSize, 0);
-    const auto alone = BallPicture(kWhite, BallShape(kSize));
+    const auto alone = BallPicture(kWhite, BallShape(kSize, Lighting::OneLamp));
     for (std::size_t i = 0; i < alone.size(); ++i)
         EXPECT_EQ(alone[i] & 0xFFFFFF, over[i]);
+}
+
+TEST(ColorPicture, SecondLampLightensTheShade) {
+    const auto one = BallPicture(kWhite, BallShape(kSize, Lighting::OneLamp));
+    const auto two = BallPicture(kWhite, BallShape(kSize, Lighting::TwoLamps));
+    EXPECT_GT(At(two, kSize, 24, 24), At(one, kSize, 24, 24));
+    for (std::size_t i = 0; i < one.size(); ++i)
+        EXPECT_GE(two[i], one[i]);
 }
 
 // More of each kind of light is never darker.

@@ -18,7 +18,7 @@ std::vector<std::uint32_t> PixelsOf(PictureCache& cache, const ColorPicture& pic
 TEST(PictureCache, LargePicturesAreBallsAndSmallOnesFieldsWithABorderThatFits) {
     PictureCache cache;
     EXPECT_EQ(PixelsOf(cache, {.values = kRed, .size = 48, .isBall = true}),
-              BallPicture(kRed, BallShape(48)));
+              BallPicture(kRed, BallShape(48, Lighting::TwoLamps)));
     for (const auto& [size, one] : {std::pair{8, 1}, {16, 1}, {24, 1}, {32, 2}, {48, 3}})
         EXPECT_EQ(PixelsOf(cache, {.values = kRed, .size = size, .border = 7}),
                   FieldPicture(kRed, {.size = size, .margin = one, .border = one, .color = 7}));

@@ -69,7 +69,7 @@ protected:
     [[nodiscard]] std::vector<std::uint32_t> Expected(const ColorValueArray& values,
                                                       bool isLarge) const {
         if (isLarge)
-            return BallPicture(values, BallShape(form.Scale().FromDesign(32)));
+            return BallPicture(values, BallShape(form.Scale().FromDesign(32), Lighting::TwoLamps));
         const int one = form.Scale().FromDesign(16) / 16;
         const RedGreenBlue border = SplitColorNumber(GetSysColor(COLOR_3DSHADOW));
         return FieldPicture(values, {form.Scale().FromDesign(16), one, one,
