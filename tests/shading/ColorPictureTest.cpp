@@ -95,7 +95,7 @@ TEST(ColorPicture, WhatIsTransparentShowsTheCheckerboard) {
 
 TEST(ColorPicture, HalfTransparentIsHalfOfBoth) {
     const ColorValueArray half = With({255, 0, 0}, ColorValue::Transparency, 50);
-    EXPECT_EQ(OfField(half, 2, 2), 0xFFF67676U);
+    EXPECT_EQ(OfField(half, 2, 2), 0xFFF67777U);
 }
 
 TEST(ColorPicture, BallHasNothingInItsCorners) {
