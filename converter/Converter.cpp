@@ -56,8 +56,7 @@ ExitCode Converter::Describe() {
     std::optional<ReadColors> colors = Read();
     if (!colors)
         return ExitCode::Unreadable;
-    if (asked_.values)
-        FillIn(colors->palette, *asked_.values);
+    FillIn(colors->palette, asked_.values);
     Notes notes;
     NoteChangedColors(notes, *colors);
     Tell(asked_.in, notes);

@@ -97,8 +97,8 @@ private:
         app_.add_option_function<std::string>(
                 "--values", [this](const std::string& text) { line_.values = ParseValues(text); },
                 "Ambient, diffuse, specular, shininess, transparency,\n"
-                "emission of colors that have none, 0 to 100 each; in a\n"
-                "library these are 100,100,100,30,0,0 otherwise")
+                "emission of colors that have none, 0 to 100 each;\n"
+                "otherwise 100,100,100,30,0,0")
             ->type_name("A,D,S,SH,T,E");
         app_.add_option("--code-page", line_.codePage,
                         "Of libraries, and of texts that are not in Unicode;\n"

@@ -13,12 +13,12 @@ struct ConverterArguments {
     enum class Task { Convert, List, Check };
 
     Task task = Task::Convert;
-    std::string in;                      // path
-    std::string out;                     // path; empty: the task writes no file
-    std::optional<std::string> name;     // of the library or palette
-    std::optional<ColorMaterial> values; // of colors that have none
-    std::optional<unsigned> codePage;    // nothing: the usual one
-    bool force = false;                  // an existing file is replaced
+    std::string in;                        // path
+    std::string out;                       // path; empty: the task writes no file
+    std::optional<std::string> name;       // of the library or palette
+    ColorMaterial values = kUsualMaterial; // of colors that have none
+    std::optional<unsigned> codePage;      // nothing: the usual one
+    bool force = false;                    // an existing file is replaced
 };
 
 // What is answered without looking at any file: help, version, what is wrong with the arguments.

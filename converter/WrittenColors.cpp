@@ -13,10 +13,9 @@ constexpr const char* kFirstGroup = "Colors"; // of colors without a group
 ColorLibrary& LibraryOf(ReadColors& colors, const WritingWishes& wishes) {
     if (!colors.library) {
         colors.library = std::make_unique<ColorLibrary>();
-        colors.mainKey = AddPalette(*colors.library, colors.palette,
-                                    {.name = wishes.name,
-                                     .firstGroup = kFirstGroup,
-                                     .material = wishes.values.value_or(kUsualMaterial)});
+        colors.mainKey =
+            AddPalette(*colors.library, colors.palette,
+                       {.name = wishes.name, .firstGroup = kFirstGroup, .material = wishes.values});
     }
     colors.library->Tree().SetText(colors.mainKey, wishes.name);
     return *colors.library;
@@ -27,8 +26,8 @@ ColorLibrary& LibraryOf(ReadColors& colors, const WritingWishes& wishes) {
 WrittenColors WriteAsPalette(ReadColors& colors, PaletteFormat format,
                              const WritingWishes& wishes) {
     colors.palette.name = wishes.name;
-    if (wishes.values)
-        FillIn(colors.palette, *wishes.values);
+    if (format == PaletteFormat::Table)
+        FillIn(colors.palette, wishes.values);
     PaletteWriting writing = WritePalette(colors.palette, format);
     return {std::move(writing.bytes), NotesOf(writing.losses)};
 }

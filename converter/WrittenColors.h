@@ -3,13 +3,12 @@
 #include "convert/LibraryPalette.h"
 #include "converter/ReadColors.h"
 
-#include <optional>
 #include <string>
 
 // What a file is to be written with.
 struct WritingWishes {
-    std::string name;                    // of the library or palette
-    std::optional<ColorMaterial> values; // of colors that have none; nothing: what is usual
+    std::string name;     // of the library or palette
+    ColorMaterial values; // of colors that have none
 };
 
 // A file as it will be.
@@ -18,8 +17,7 @@ struct WrittenColors {
     Notes notes; // what it does not hold
 };
 
-// Colors without values are without them in a table too, unless there are wishes.  colors: taken
-// apart.
+// Of the formats a table alone has a place for the values.  colors: taken apart.
 [[nodiscard]] WrittenColors WriteAsPalette(ReadColors& colors, PaletteFormat format,
                                            const WritingWishes& wishes);
 

@@ -28,7 +28,7 @@ TEST(ConverterArgumentsTest, TwoFilesAreConverted) {
     EXPECT_EQ(line.out, "b.csv");
     EXPECT_FALSE(line.force);
     EXPECT_FALSE(line.name.has_value());
-    EXPECT_FALSE(line.values.has_value());
+    EXPECT_EQ(line.values, (ColorMaterial{100, 100, 100, 30, 0, 0}));
     EXPECT_FALSE(line.codePage.has_value());
 }
 

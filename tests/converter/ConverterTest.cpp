@@ -61,8 +61,8 @@ TEST_F(ConverterTest, FileIsWrittenAsItsEndingSaysAndReadByItsContent) {
     files.contents["misnamed.ase"] = kGpl;
     EXPECT_EQ(Run({"misnamed.ase", "b.CSV", "--name", ""}), 0);
     EXPECT_EQ(console.told, "");
-    EXPECT_EQ(Table("b.CSV"),
-              kHead + std::string(",Sonne,255,204,77,,,,,,\r\n,Nacht,0,0,0,,,,,,\r\n"));
+    EXPECT_EQ(Table("b.CSV"), kHead + std::string(",Sonne,255,204,77,100,100,100,30,0,0\r\n"
+                                                  ",Nacht,0,0,0,100,100,100,30,0,0\r\n"));
 }
 
 TEST_F(ConverterTest, PaletteBecomesALibraryWithItsNameAndTheUsualValues) {
@@ -191,6 +191,9 @@ TEST_F(ConverterTest, ValuesBeyondTheirRangeAreToldOfPalettesAlone) {
 TEST_F(ConverterTest, ListGoesToStandardOutput) {
     EXPECT_EQ(Run({"--list", "a.tnt"}), 0);
     EXPECT_EQ(console.out, "g\ta\t1\t2\t3\t4\t5\t6\t7\t8\t9\n");
+    EXPECT_EQ(Run({"--list", "a.gpl"}), 0);
+    EXPECT_EQ(console.out, "\tSonne\t255\t204\t77\t100\t100\t100\t30\t0\t0\n"
+                           "\tNacht\t0\t0\t0\t100\t100\t100\t30\t0\t0\n");
     EXPECT_EQ(Run({"--list", "a.gpl", "--values", "1,2,3,4,5,6"}), 0);
     EXPECT_EQ(console.out, "\tSonne\t255\t204\t77\t1\t2\t3\t4\t5\t6\n"
                            "\tNacht\t0\t0\t0\t1\t2\t3\t4\t5\t6\n");
