@@ -10,9 +10,11 @@
 #include "tests/faults/RealLibrary.h"
 #include "tests/platform/PollUntil.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
 #include <string_view>
 #include <windows.h>
 
@@ -62,15 +64,23 @@ int Hold(const std::string& path) {
     return 1;
 }
 
-// Each save is that of a program that has just begun: it holds nothing of what the file has in it.
-bool SaveAsANewcomer(Files& files, const std::string& path, const std::string& content) {
-    const Win32AnsiCodePage codePage(1252);
-    const Win32CalendarClock clock;
-    ColorLibrary library;
-    LibraryFiles libraryFiles(library, {.files = files, .codePage = codePage, .clock = clock});
-    const std::string key = library.NewMainNode(content);
-    return libraryFiles.Write({path, key, false}, content).isWritten;
-}
+// A program with a library that has not read the file: it holds nothing of what it has in it.
+class Newcomer {
+public:
+    explicit Newcomer(Files& files) : files_(files) {}
+
+    bool Save(const std::string& path, const std::string& content) {
+        return libraryFiles_.Write({path, key_, false}, content).isWritten;
+    }
+
+private:
+    Files& files_;
+    Win32AnsiCodePage codePage_{1252};
+    Win32CalendarClock clock_;
+    ColorLibrary library_;
+    LibraryFiles libraryFiles_{library_, {.files = files_, .codePage = codePage_, .clock = clock_}};
+    std::string key_ = library_.NewMainNode("Lib");
+};
 
 // The contents that were written stand in FILE.NAME, one a line.
 int SaveOften(const std::string& name, int count, const std::string& path) {
@@ -80,8 +90,34 @@ int SaveOften(const std::string& name, int count, const std::string& path) {
         return 1;
     for (int number = 1; number <= count; ++number) {
         const std::string content = name + " " + std::to_string(number);
-        if (SaveAsANewcomer(files, path, content))
+        if (Newcomer(files).Save(path, content))
             written << content << '\n';
+    }
+    return 0;
+}
+
+// Of a file that another process still writes.
+std::size_t LinesIn(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return static_cast<std::size_t>(
+        std::count(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>(), '\n'));
+}
+
+// One program from its start to its end, which saves after each save of the other one.
+int SaveInTurn(const std::string& name, const std::string& other, int count,
+               const std::string& path) {
+    Win32Files files;
+    Newcomer program(files);
+    std::ofstream written(path + "." + name, std::ios::binary);
+    const int ahead = name < other ? 1 : 0; // who begins
+    for (int number = 1; number <= count; ++number) {
+        const auto awaited = static_cast<std::size_t>(number - ahead);
+        if (!PollUntil([&] { return LinesIn(path + "." + other) >= awaited; }))
+            return 1;
+        const std::string content = name + " " + std::to_string(number);
+        if (!program.Save(path, content))
+            return 1;
+        written << content << std::endl;
     }
     return 0;
 }
@@ -106,6 +142,8 @@ std::optional<int> RunAsSecondProcess(int count, char** arguments) {
         return SaveOnSignal(arguments[2]);
     if (task == "--save-often" && count == 5)
         return SaveOften(arguments[2], std::atoi(arguments[3]), arguments[4]);
+    if (task == "--save-in-turn" && count == 6)
+        return SaveInTurn(arguments[2], arguments[3], std::atoi(arguments[4]), arguments[5]);
     if (task == "--hold" && count == 3)
         return Hold(arguments[2]);
     return {};
