@@ -26,10 +26,6 @@ constexpr std::array<NumberedText, kPaletteFaultCount> kFaults = {{
     {InfoTextNumber::PaletteLimit, "über den Grenzen des Programms"},
 }};
 
-std::string Joined(const std::string& one, const char* between, const std::string& other) {
-    return one.empty() || other.empty() ? one + other : one + between + other;
-}
-
 } // namespace
 
 std::string PaletteTexts::ImportFilter() const {
@@ -51,11 +47,13 @@ std::string PaletteTexts::Told(const PaletteFaults& faults, PaletteFormat format
     std::string told;
     for (std::size_t kind = 0; kind < kPaletteFaultCount; ++kind) {
         const PaletteFaults::Met& met = faults.Of(static_cast<PaletteFault>(kind));
-        if (met.count > 0)
-            told = Joined(told, ", ",
-                          Text(kFaults[kind].number, kFaults[kind].builtIn) + ": " +
-                              std::to_string(met.count) + " (" + first + " " +
-                              std::to_string(met.first) + ")");
+        if (met.count == 0)
+            continue;
+        told.append(told.empty() ? "" : ", ")
+            .append(Text(kFaults[kind].number, kFaults[kind].builtIn))
+            .append(": ")
+            .append(std::to_string(met.count));
+        told.append(" (").append(first).append(" ").append(std::to_string(met.first)).append(")");
     }
     return told;
 }

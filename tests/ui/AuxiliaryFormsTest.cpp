@@ -534,8 +534,10 @@ protected:
 };
 
 TEST_F(OpenedAndClosed, FiftyTimesLeavesNoHandleBehind) {
-    for (int warmUp = 0; warmUp < 2; ++warmUp) // what the system makes once and keeps
+    for (int warmUp = 0; warmUp < 2; ++warmUp) { // what the system makes once and keeps
         ShowAll();
+        static_cast<void>(CountGuiObjects()); // takes its time, in which some of it comes
+    }
     const GuiObjects before = CountGuiObjects();
     for (int time = 0; time < 50; ++time)
         ShowAll();
