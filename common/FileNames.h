@@ -10,6 +10,12 @@
     return path.substr(path.rfind('\\') + 1); // npos + 1 is 0
 }
 
+// The name of a file without its folder and its extension.
+[[nodiscard]] inline std::string FileNameStem(const std::string& path) {
+    const std::string name = FileNamePart(path);
+    return name.substr(0, name.rfind('.'));
+}
+
 // Letters of A to Z count in either case.  extension: lower case, with its dot.
 [[nodiscard]] inline bool HasExtension(const std::string& path, std::string_view extension) {
     const auto lower = [](char character) {
@@ -25,8 +31,7 @@
 // The number that ends a file's name before its extension: 12 for "banner12.bmp"; 0 when it ends
 // with none, or with one of more than nine digits.
 [[nodiscard]] inline int NumberOfFile(const std::string& path) {
-    const std::string name = FileNamePart(path);
-    const std::string stem = name.substr(0, name.rfind('.'));
+    const std::string stem = FileNameStem(path);
     const std::string digits = stem.substr(stem.find_last_not_of("0123456789") + 1);
     constexpr std::size_t kMostDigits = 9; // of an int
     return digits.empty() || digits.size() > kMostDigits ? 0 : std::stoi(digits);

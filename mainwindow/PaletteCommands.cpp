@@ -15,11 +15,6 @@ namespace {
 
 constexpr const char* kTextExtension = ".txt";
 
-std::string NameOf(const std::string& path) {
-    const std::string name = FileNamePart(path);
-    return name.substr(0, name.rfind('.'));
-}
-
 void AddLine(std::string& report, const std::string& path, const std::string& what) {
     report += kLineBreak + FileNamePart(path) + ": " + what;
 }
@@ -104,7 +99,7 @@ std::optional<Palette> PaletteCommands::Read(const std::string& path, std::strin
         return {};
     }
     if (reading.palette.name.empty())
-        reading.palette.name = NameOf(path);
+        reading.palette.name = FileNameStem(path);
     return std::move(reading.palette);
 }
 
@@ -128,12 +123,15 @@ void PaletteCommands::CheckRoomForGroups(const std::vector<ReadFile>& files,
 
 std::string PaletteCommands::Add(const ReadFile& file, const std::string& mainKey,
                                  const ColorMaterial& material) {
+    if (!mainKey.empty())
+        return AddPaletteGroups(parts_.library, mainKey, file.palette,
+                                {.firstGroup = file.palette.name, .material = material});
     const std::string library =
-        mainKey.empty() ? parts_.library.NewMainNode(file.palette.name) : mainKey;
-    const std::string groupName =
-        mainKey.empty() ? texts_.Text(InfoTextNumber::ImportedGroup, "Farben") : file.palette.name;
-    return AddPaletteGroups(parts_.library, library, file.palette,
-                            {.firstGroup = groupName, .material = material});
+        AddPalette(parts_.library, file.palette,
+                   {.name = file.palette.name,
+                    .firstGroup = texts_.Text(InfoTextNumber::ImportedGroup, "Farben"),
+                    .material = material});
+    return parts_.library.Tree().At(library).children.front();
 }
 
 void PaletteCommands::ShowImported(const std::vector<ReadFile>& files,
@@ -193,7 +191,7 @@ void PaletteCommands::Export(const std::string& path) {
         const WaitingShown waiting(parts_.frame);
         const LibraryAsPalette made = SelectedPalette();
         writing = WritePalette(made.palette, *format);
-        if (NameOf(path) == made.palette.name) // an import takes it from there
+        if (FileNameStem(path) == made.palette.name) // an import takes it from there
             writing.losses.paletteNames = 0;
         question = texts_.QuestionAbout(writing.losses, made.changedColors);
     }

@@ -2,6 +2,7 @@
 
 #include "mainwindow/panes/MainBars.h"
 #include "mainwindow/panes/NodeImages.h"
+#include "platform/Canvas.h"
 #include "platform/Utf16.h"
 #include "resources/controls.h"
 
@@ -82,7 +83,11 @@ void frmFind::Attach(FindEvents& events) {
         events.LikeActiveColorChosen(isChecked);
     };
     lvFind_.cellText = [&events](int row, int column) { return events.CellText(row, column); };
-    lvFind_.rowColor = [&events](int row) { return events.ColorOfRow(row); };
+    lvFind_.PaintPictures([this, &events](const ListView::PicturePlace& place) {
+        const Canvas canvas(place.device, Font());
+        canvas.Fill(place.square, events.ColorOfRow(place.row));
+        canvas.Frame(place.square, GetSysColor(COLOR_3DSHADOW), 1);
+    });
     lvFind_.onClick = [&events](int row) { events.RowSelected(row); };
 }
 

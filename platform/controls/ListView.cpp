@@ -1,6 +1,5 @@
 #include "platform/controls/ListView.h"
 
-#include "platform/Canvas.h"
 #include "platform/DpiScale.h"
 #include "platform/ExplorerTheme.h"
 #include "platform/Fonts.h"
@@ -278,7 +277,7 @@ int ListView::ImageOfRows() const {
 
 // The picture comes last: the control would blend that of a selected row with the selection.
 MessageResult ListView::FollowPainting(const NMCUSTOMDRAW& stage) const {
-    if (!painter_ && !rowColor)
+    if (!painter_)
         return {};
     switch (stage.dwDrawStage) {
     case CDDS_PREPAINT:
@@ -286,10 +285,7 @@ MessageResult ListView::FollowPainting(const NMCUSTOMDRAW& stage) const {
     case CDDS_ITEMPREPAINT:
         return CDRF_NOTIFYPOSTPAINT;
     case CDDS_ITEMPOSTPAINT:
-        if (painter_)
-            PaintPicture(stage.hdc, static_cast<int>(stage.dwItemSpec));
-        else
-            DrawSwatch(stage.hdc, static_cast<int>(stage.dwItemSpec));
+        PaintPicture(stage.hdc, static_cast<int>(stage.dwItemSpec));
         return CDRF_DODEFAULT;
     default:
         return CDRF_DODEFAULT;
@@ -321,16 +317,6 @@ void ListView::PaintPictureIn(const RECT& place, HDC device, int row) const {
     const LONG left = (place.left + place.right - size) / 2;
     const LONG top = (place.top + place.bottom - size) / 2;
     painter_({device, row, {left, top, left + size, top + size}, isLarge});
-}
-
-// The platform draws a row with its picture, which the swatch covers then.
-void ListView::DrawSwatch(HDC device, int row) const {
-    RECT area{LVIR_ICON, 0, 0, 0};
-    if (Send(LVM_GETITEMRECT, static_cast<WPARAM>(row), &area) == 0)
-        return;
-    const Canvas canvas(device, Host().Font());
-    canvas.Fill(area, rowColor(row));
-    canvas.Frame(area, GetSysColor(COLOR_3DSHADOW), 1);
 }
 
 const IconList& ListView::ShownImages() const {

@@ -58,10 +58,9 @@ public:
 
     std::function<std::string(int row, int column)> cellText;
     std::function<int(const std::string& text, int start)> findRow;
-    std::function<ColorNumber(int row)> rowColor; // set: what stands in the picture's stead
-    std::function<void(int row)> onClick;         // a row was selected or clicked again
-    std::function<void()> onDoubleClick;          // on a row
-    std::function<void()> onEditRequested;        // F2
+    std::function<void(int row)> onClick;  // a row was selected or clicked again
+    std::function<void()> onDoubleClick;   // on a row
+    std::function<void()> onEditRequested; // F2
     std::function<bool()> mayEdit;
     std::function<void(int row, const std::string& text)> onLabelEdited;
     std::function<void(int column)> onColumnClick;
@@ -87,7 +86,6 @@ private:
     MessageResult FollowPainting(const NMCUSTOMDRAW& stage) const;
     void PaintPicture(HDC device, int row) const;
     void PaintPictureIn(const RECT& place, HDC device, int row) const;
-    void DrawSwatch(HDC device, int row) const;
     [[nodiscard]] const IconList& ShownImages() const;
     void FitColumns();
     [[nodiscard]] LONG_PTR View() const noexcept; // LVS_ICON ... LVS_REPORT

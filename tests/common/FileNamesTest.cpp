@@ -17,6 +17,12 @@ TEST(NumberOfFile, IsZeroWithoutOne) {
         EXPECT_EQ(NumberOfFile(name), 0) << name;
 }
 
+TEST(FileNameStem, IsTheNameWithoutFolderAndExtension) {
+    EXPECT_EQ(FileNameStem("C:\\a.b\\web.colors.gpl"), "web.colors");
+    EXPECT_EQ(FileNameStem("web"), "web");
+    EXPECT_EQ(FileNameStem(""), "");
+}
+
 TEST(AsFileName, HasNoCharacterThatMayNotBeInOneAndNoDot) {
     EXPECT_EQ(AsFileName("RAL 1.5: \"matt\"/<glanz>|?*\\"), "RAL 1-5- -matt---glanz-----");
     EXPECT_EQ(AsFileName("a\r\nb"), "a--b");
