@@ -23,4 +23,21 @@ public:
     // WritePrivateProfileStringA: true when the platform reports success.
     virtual bool WriteString(const std::string& section, const std::string& key,
                              const std::string& value, const std::string& file) = 0;
+
+    // Between the two the caller reads many texts, all of them as the files are at the first: what
+    // was read of a file may be used again.
+    virtual void BeginWalk() {}
+    virtual void EndWalk() {}
+};
+
+// A walk for as long as this object is there.
+class ProfileWalk {
+public:
+    explicit ProfileWalk(PrivateProfile& profile) : profile_(profile) { profile_.BeginWalk(); }
+    ProfileWalk(const ProfileWalk&) = delete;
+    ProfileWalk& operator=(const ProfileWalk&) = delete;
+    ~ProfileWalk() { profile_.EndWalk(); }
+
+private:
+    PrivateProfile& profile_;
 };

@@ -118,6 +118,7 @@ std::string clsMultiLanguage::GetInfoTextOr(std::int32_t number, const std::stri
 void clsMultiLanguage::SetAllControlText(LocalizableForm& form) {
     if (!FileExists(iniFile_))
         return;
+    const ProfileWalk walk(profile_);
     for (FormControl* control : form.Controls())
         LoadControl(form.Name(), *control);
 }

@@ -11,7 +11,8 @@
 
 // The texts of the active language: a language file in the format of the private-profile functions,
 // with one section for each form (keys made of control name, property and ".") and the section
-// "Info" for the numbered message texts.  Nothing is cached: every text is one read of the file.
+// "Info" for the numbered message texts.  Nothing is kept from one walk over a form, or from one
+// message text, to the next: an edited file holds at once.
 class clsMultiLanguage : public InfoTexts {
 public:
     clsMultiLanguage(PrivateProfile& profile, Files& files, const AnsiCodePage& codePage)

@@ -1,0 +1,172 @@
+// Rules: Language files and control texts
+// A walk that reads a section once gives what the platform gives text by text, whatever the file.
+#include "platform/Win32PrivateProfile.h"
+#include "tests/platform/ScratchFolder.h"
+#include "tests/platform/SourceFile.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr std::uint32_t kBufferSize = 256; // as the language files are read
+
+struct Question {
+    std::string section;
+    std::string key;
+    std::string fallback;
+};
+
+class ProfileWalkTest : public testing::Test {
+protected:
+    // As one text after the other, and as in a walk.
+    void ExpectSame(const std::string& file, const std::vector<Question>& questions) {
+        std::vector<std::string> single;
+        for (const Question& asked : questions)
+            single.push_back(Ask(asked, file));
+        const ProfileWalk walk(profile);
+        for (std::size_t index = 0; index < questions.size(); ++index) {
+            const Question& asked = questions[index];
+            ASSERT_EQ(Ask(asked, file), single[index])
+                << "[" << asked.section << "] " << asked.key << " or \"" << asked.fallback << "\"";
+            ++compared;
+        }
+    }
+    std::string Ask(const Question& asked, const std::string& file) {
+        return profile.GetString(asked.section, asked.key, asked.fallback, file, kBufferSize);
+    }
+
+    ScratchFolder folder;
+    Win32PrivateProfile profile;
+    int compared = 0;
+};
+
+std::string BytesOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+// Every key of the file, in its own section and in the two others.
+std::vector<Question> QuestionsAbout(const std::string& content) {
+    std::vector<Question> questions;
+    for (std::size_t start = 0; start < content.size();) {
+        const std::size_t end = std::min(content.find('\n', start), content.size());
+        const std::string line = content.substr(start, end - start);
+        if (const std::size_t equals = line.find('='); equals != std::string::npos)
+            for (const char* section : {"frmMain", "frmAbout", "Info"})
+                questions.push_back({section, line.substr(0, equals), "otherwise"});
+        start = end + 1;
+    }
+    return questions;
+}
+
+TEST_F(ProfileWalkTest, ShippedLanguageFiles) {
+    for (const char* code : {"de", "us"}) {
+        const std::string path =
+            SourceFile(std::string("resources/language/tntlng_") + code + ".ini");
+        ExpectSame(path, QuestionsAbout(BytesOf(path)));
+    }
+    EXPECT_GT(compared, 1000);
+}
+
+// Files of odd parts in any order: quotes, blanks, comments, keys and sections that are there
+// twice, lines without an end, bytes beyond ASCII, long values.
+TEST_F(ProfileWalkTest, OddFiles) {
+    const std::vector<std::string> parts = {"[frmMain]",
+                                            "[FRMMAIN]",
+                                            "[ frmMain ]",
+                                            "[frmMain",
+                                            "frmMain]",
+                                            "[Info]",
+                                            "[]",
+                                            "[frmMain] ; x",
+                                            "\r\n",
+                                            "\r\n",
+                                            "\r\n",
+                                            "\r\n",
+                                            "\n",
+                                            "\r",
+                                            "\t",
+                                            " ",
+                                            "a",
+                                            "b",
+                                            "A",
+                                            "a.Caption",
+                                            "=",
+                                            "=",
+                                            "=",
+                                            "==",
+                                            ";",
+                                            "#",
+                                            "\"",
+                                            "'",
+                                            "\"x\"",
+                                            "'x'",
+                                            " x ",
+                                            "&Datei ...",
+                                            "Gr\xFCn",
+                                            "\xDF",
+                                            "\x80",
+                                            "%s",
+                                            "\\",
+                                            "0",
+                                            "-1",
+                                            "\x1A",
+                                            "a=1\r\n",
+                                            "b=2\r\n",
+                                            "a=\"1\r\n",
+                                            "a= 3 \r\n",
+                                            "a =4\r\n",
+                                            ";a=5\r\n",
+                                            std::string(254, 'y'),
+                                            std::string(256, 'z'),
+                                            "[frmMain]\r\na=1\r\n",
+                                            "[Info]\r\nb=2\r\n"};
+    std::vector<Question> questions;
+    for (const char* section : {"frmMain", "Info", "none", ""})
+        for (const char* key :
+             {"a", "b", "A", "a.Caption", "a ", " a", "none", ";a", "x", "0", "="})
+            for (const char* fallback : {"", "otherwise", "blank at the end ", "\"quoted\""})
+                questions.push_back({section, key, fallback});
+    std::mt19937 random(20'261'122);
+    for (int round = 0; round < 300; ++round) {
+        std::string content;
+        for (std::size_t count = random() % 40; count > 0; --count)
+            content += parts[random() % parts.size()];
+        const std::string name = std::to_string(round) + ".ini";
+        folder.Write(name, content);
+        SCOPED_TRACE(testing::Message() << "file: " << testing::PrintToString(content));
+        ExpectSame(folder.File(name), questions);
+        if (HasFatalFailure())
+            return;
+    }
+    EXPECT_EQ(compared, 300 * static_cast<int>(questions.size()));
+}
+
+TEST_F(ProfileWalkTest, SectionThatIsTooLongForOneReadingIsReadTextByText) {
+    std::string content = "[frmMain]\r\n";
+    for (int key = 0; key < 4000; ++key)
+        content += "key" + std::to_string(key) + "=value " + std::to_string(key) + "\r\n";
+    folder.Write("long.ini", content);
+    ExpectSame(folder.File("long.ini"), {{"frmMain", "key0", ""}, {"frmMain", "key3999", ""}});
+    EXPECT_EQ(compared, 2);
+}
+
+TEST_F(ProfileWalkTest, EditedFileHoldsAtTheNextWalk) {
+    folder.Write("a.ini", "[frmMain]\r\na=1\r\n");
+    const Question asked{"frmMain", "a", ""};
+    const auto walked = [&] {
+        const ProfileWalk walk(profile);
+        return Ask(asked, folder.File("a.ini"));
+    };
+    EXPECT_EQ(walked(), "1");
+    folder.Write("a.ini", "[frmMain]\r\na=other\r\n");
+    EXPECT_EQ(walked(), "other");
+}
+
+} // namespace
