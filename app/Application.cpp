@@ -49,8 +49,11 @@ Application::Application(const Platform& platform, const Windows& windows, const
                                                       .bars = windows.mainView.bars,
                                                       .texts = language_}),
       recover_(PartsOfRecover(platform)), palettes_(PartsOfPalettes(platform)),
-      find_(PartsOfFind(data)), solidWorksCommands_(PartsOfSolidWorks(platform)),
-      mainWindow_(PartsOfMainWindow(platform)) {
+      find_(PartsOfFind(data)), emptyListHint_({.library = library_,
+                                                .texts = language_,
+                                                .folders = platform.folders,
+                                                .sampleFolder = data.programFolder + "\\samples"}),
+      solidWorksCommands_(PartsOfSolidWorks(platform)), mainWindow_(PartsOfMainWindow(platform)) {
     library_.History().SetMostBytes(data.historyBytes);
 }
 
@@ -211,6 +214,7 @@ MainEvents Application::MainWindowEvents() noexcept {
             .tree = panes_.library,
             .rows = panes_.list,
             .list = panes_.library,
+            .hints = emptyListHint_,
             .editor = panes_.editor,
             .layout = panes_.layout,
             .drag = drag_,

@@ -25,6 +25,7 @@
 #include "library/LibraryFiles.h"
 #include "library/RecoveryFolder.h"
 #include "library/RecoveryKeeper.h"
+#include "mainwindow/EmptyListHint.h"
 #include "mainwindow/MainView.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/ShownLibraryFiles.h"
@@ -165,6 +166,7 @@ private:
     RecoverCommands recover_;
     PaletteCommands palettes_;
     FindCommands find_;
+    EmptyListHint emptyListHint_;
     SolidWorksCommands solidWorksCommands_;
     MainWindow mainWindow_;
 };

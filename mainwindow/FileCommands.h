@@ -37,6 +37,8 @@ public:
     // Files dropped onto the window: each library file opens as with Open, one that was dropped
     // alone also with the question about every start; files with another extension are left alone.
     void OpenDropped(const std::vector<std::string>& paths);
+    // A library to try the program with; never one for every start.
+    void OpenSample(const std::string& path) { OpenLibrary(path); }
     void mnuFileSave_Click();
     void mnuFileSaveAs_Click();
     void mnuFileClose_Click();

@@ -16,6 +16,16 @@ struct ListColumn {
     float width = 0;
 };
 
+// A line of what the list says while it has no rows: a text, or a link that runs a command or opens
+// a library's file.
+struct HintLine {
+    std::string text;
+    int command = 0; // IDM_ number
+    std::string file{};
+
+    [[nodiscard]] bool IsLink() const noexcept { return command != 0 || !file.empty(); }
+};
+
 class ListPane {
 public:
     virtual ~ListPane() = default;
@@ -37,6 +47,8 @@ public:
     virtual void SetListViewMode(ListViewMode mode) = 0;
     // Each row's picture is painted from its color (ListRows::RowValues), or is common to all.
     virtual void ShowRowColors(bool shown) = 0;
+    // What it says without rows (ListHints) may be something else now.
+    virtual void HintChanged() = 0;
 };
 
 // What the list shows, in which order.
@@ -49,6 +61,14 @@ public:
     // First row from start (wrapping at the end) whose name begins with the text, letter case
     // ignored; -1: none.
     [[nodiscard]] virtual int FindRow(const std::string& text, int start) const = 0;
+};
+
+// What the list says while it has no rows; asked whenever they have changed.
+class ListHints {
+public:
+    virtual ~ListHints() = default;
+
+    [[nodiscard]] virtual std::vector<HintLine> HintLines() const = 0; // the first is the title
 };
 
 // What the user did in the list.

@@ -31,6 +31,7 @@ public:
     virtual void RunCommand(int command) = 0; // IDM_ number: menu, toolbar, button menu, shortcut
     virtual void EscapePressed() = 0;
     virtual void FilesDropped(const std::vector<std::string>& paths) = 0;
+    virtual void SampleChosen(const std::string& path) = 0; // offered by the list's hint
     virtual void WindowClosing() = 0; // close box
     virtual void SessionEnding() = 0; // the user's session ends, and with it the process
     virtual void SecondPassed() = 0;
@@ -53,6 +54,7 @@ struct MainEvents {
     TreeEvents& tree;
     ListRows& rows;
     ListEvents& list;
+    const ListHints& hints;
     EditorEvents& editor;
     LayoutEvents& layout;
     DragEvents& drag;

@@ -34,6 +34,7 @@ void MainWindow::SetFormDefaults() {
     parts_.commands.view.SetListView(ListViewMode::Details);
     parts_.commands.history.ShowEntries();
     parts_.commands.file.Autoload();
+    parts_.view.list.HintChanged();
 }
 
 void MainWindow::PlaceWindow() {
@@ -68,7 +69,13 @@ void MainWindow::Run(const MenuRow& row) {
         RunOperation(row);
     else
         RunStep(row);
-    parts_.commands.history.ShowEntries(); // the language may be another one
+    ShowWhatFollows();
+}
+
+// Texts that depend on the libraries, and on the language, which may be another one.
+void MainWindow::ShowWhatFollows() {
+    parts_.commands.history.ShowEntries();
+    parts_.view.list.HintChanged();
 }
 
 void MainWindow::RunStep(const MenuRow& row) {
@@ -128,8 +135,16 @@ void MainWindow::FilesDropped(const std::vector<std::string>& paths) {
                                StepName{.command = IDM_mnuFileImport});
         parts_.commands.palettes.ImportDropped(paths);
     });
-    parts_.commands.history.ShowEntries();
+    ShowWhatFollows();
     error.Rethrow();
+}
+
+void MainWindow::SampleChosen(const std::string& path) {
+    if (Activity().operationRuns)
+        return;
+    ForgetStatus();
+    parts_.commands.file.OpenSample(path);
+    ShowWhatFollows();
 }
 
 // The position is stored only here: Quit in the file menu does not pass, on purpose.

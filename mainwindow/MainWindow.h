@@ -45,6 +45,7 @@ public:
     // Stops an operation that runs, also before its progress window is shown.
     void EscapePressed() override;
     void FilesDropped(const std::vector<std::string>& paths) override;
+    void SampleChosen(const std::string& path) override;
     void WindowClosing() override;
     void SessionEnding() override;
     void SecondPassed() override { parts_.keeper.Look(); }
@@ -56,6 +57,7 @@ private:
     void RunWatched(const MenuRow& row);
     void ShowStatus(const std::string& text);
     void ForgetStatus();
+    void ShowWhatFollows();
     void EndAfterOperation();
     void PlaceWindow();
     [[nodiscard]] MainActivity& Activity() noexcept { return parts_.panes.activity; }

@@ -2,8 +2,9 @@
 
 #include "platform/WindowGeometry.h"
 
-void MainList::Attach(ListRows& rows, ListEvents& events) {
+void MainList::Attach(ListRows& rows, ListEvents& events, const ListHints& hints) {
     rows_ = &rows;
+    hints_ = &hints;
     control_.cellText = [&rows](int row, int column) { return rows.CellText(row, column); };
     control_.findRow = [&rows](const std::string& text, int start) {
         return rows.FindRow(text, start);
@@ -14,6 +15,10 @@ void MainList::Attach(ListRows& rows, ListEvents& events) {
     control_.mayEdit = [&events] { return events.MayEditRow(); };
     control_.onLabelEdited = [&events](int row, const std::string& text) {
         events.RowLabelEdited(row, text);
+    };
+    control_.onHintLink = [this](int line) {
+        const HintLine chosen = hintLines_.at(static_cast<std::size_t>(line)); // others come
+        Raise(onHintLink, chosen);
     };
 }
 
@@ -32,6 +37,17 @@ void MainList::ShowSortOrder(int column, bool descending) {
 
 void MainList::RowsChanged(int rowCount) {
     control_.SetRowCount(rowCount);
+    rowCount_ = rowCount;
+    HintChanged();
+}
+
+void MainList::HintChanged() {
+    hintLines_ =
+        rowCount_ == 0 && hints_ != nullptr ? hints_->HintLines() : std::vector<HintLine>();
+    std::vector<ListHint::Line> lines;
+    for (const HintLine& line : hintLines_)
+        lines.push_back({line.text, line.IsLink()});
+    control_.ShowHint(lines);
 }
 
 void MainList::SelectRow(int row) {

@@ -5,13 +5,18 @@
 #include "platform/DpiScale.h"
 #include "platform/controls/ListView.h"
 
+#include <functional>
+#include <vector>
+
 // lvColor on frmMain.
 class MainList : public ListPane {
 public:
     // scale: the form's.
     MainList(ListView& control, const DpiScale& scale) : control_(control), scale_(scale) {}
 
-    void Attach(ListRows& rows, ListEvents& events);
+    void Attach(ListRows& rows, ListEvents& events, const ListHints& hints);
+
+    std::function<void(const HintLine& line)> onHintLink; // was clicked
 
     [[nodiscard]] float ListWidth() const override;
     void AddColumns(const std::vector<ListColumn>& columns) override;
@@ -26,10 +31,14 @@ public:
     void FinishLabelEdit() override;
     void SetListViewMode(ListViewMode mode) override;
     void ShowRowColors(bool shown) override;
+    void HintChanged() override;
 
 private:
     ListView& control_;
     const DpiScale& scale_;
+    const ListHints* hints_ = nullptr;
+    std::vector<HintLine> hintLines_; // that are shown
+    int rowCount_ = 0;
     const ListRows* rows_ = nullptr; // until it is attached, there is nothing to show
     ColorPictures pictures_;
 };

@@ -18,12 +18,13 @@ int Brightness(COLORREF color) {
     return (GetRValue(color) * 3 + GetGValue(color) * 6 + GetBValue(color)) / 10;
 }
 
-// The system's link color; some themes leave it as light as the form.
-COLORREF LinkColor() {
+// The system's link color; some themes leave it as light as the ground.
+COLORREF LinkColor(int ground) {
     constexpr int kSmallestContrast = 80;
     const COLORREF link = GetSysColor(COLOR_HOTLIGHT);
-    const int contrast = Brightness(GetSysColor(COLOR_3DFACE)) - Brightness(link);
-    return std::abs(contrast) >= kSmallestContrast ? link : GetSysColor(COLOR_BTNTEXT);
+    const int contrast = Brightness(GetSysColor(ground)) - Brightness(link);
+    const int text = ground == COLOR_WINDOW ? COLOR_WINDOWTEXT : COLOR_BTNTEXT;
+    return std::abs(contrast) >= kSmallestContrast ? link : GetSysColor(text);
 }
 
 // A key that is held down repeats its message.
@@ -72,8 +73,8 @@ bool NameLabel::IsTextCut() const {
     return TextSize().cx > WidthOf(Bounds());
 }
 
-LinkLabel::LinkLabel(ControlHost& host, const ControlPlace& place)
-    : Painted(host, place, LabelText::Plain) {
+LinkLabel::LinkLabel(ControlHost& host, const ControlPlace& place, int ground)
+    : Painted(host, place, LabelText::Plain), ground_(ground) {
     SetWindowLongPtrW(Handle(), GWL_STYLE,
                       GetWindowLongPtrW(Handle(), GWL_STYLE) | static_cast<LONG_PTR>(WS_TABSTOP));
 }
@@ -110,8 +111,9 @@ MessageResult LinkLabel::OnMessage(const WindowMessage& message) {
 
 void LinkLabel::Paint(const Canvas& canvas, const RECT& area) const {
     const FontHandle font = UnderlinedFont(Host().Font());
-    canvas.Fill(area, GetSysColor(COLOR_3DFACE));
-    canvas.WithFont(font.Get()).Text(Text(), area, LinkColor(), DT_WORDBREAK | DT_EDITCONTROL);
+    canvas.Fill(area, GetSysColor(ground_));
+    canvas.WithFont(font.Get())
+        .Text(Text(), area, LinkColor(ground_), DT_WORDBREAK | DT_EDITCONTROL);
     if (GetFocus() == Handle())
         canvas.FocusFrame(area);
 }

@@ -37,7 +37,8 @@ protected:
 // A text that is clicked like a link: by mouse, Space or Enter.
 class LinkLabel : public Painted<Label> {
 public:
-    LinkLabel(ControlHost& host, const ControlPlace& place);
+    // ground: the system color (COLOR_...) that it stands on.
+    LinkLabel(ControlHost& host, const ControlPlace& place, int ground = COLOR_3DFACE);
 
     std::function<void()> onClick;
 
@@ -46,4 +47,7 @@ public:
 protected:
     MessageResult OnMessage(const WindowMessage& message) override;
     void Paint(const Canvas& canvas, const RECT& area) const override;
+
+private:
+    int ground_;
 };

@@ -15,7 +15,7 @@ constexpr ControlKind kListView{"ListView", WC_LISTVIEWW, ""};
 
 constexpr DWORD kListStyle = WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
                              LVS_EDITLABELS | LVS_SHOWSELALWAYS | LVS_AUTOARRANGE |
-                             LVS_SHAREIMAGELISTS;
+                             LVS_SHAREIMAGELISTS | WS_CLIPCHILDREN;
 
 constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
 
@@ -29,11 +29,12 @@ constexpr UINT kSelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
 
 ListView::ListView(ControlHost& host, const ControlPlace& place, const Images& images)
     : Control(host, kListView, place, kListStyle, WS_EX_CLIENTEDGE), images_(images),
-      dpi_(host.Scale().Dpi()) {
+      dpi_(host.Scale().Dpi()), hint_(host, *this) {
     UseExplorerTheme(Handle());
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kExtendedStyle, LPARAM{kExtendedStyle});
     ListView::ApplyScale();
     TipShowsCutText();
+    hint_.onLink = [this](int line) { Raise(onHintLink, line); };
 }
 
 void ListView::ApplyScale() {
@@ -43,6 +44,8 @@ void ListView::ApplyScale() {
     Send(LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.large.Handle()));
     Send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images_.small.Handle()));
     FitColumns();
+    hint_.ApplyScale();
+    ArrangeHint();
 }
 
 // Only the details know the widths of the columns; the other views wait until these are shown.
@@ -59,6 +62,25 @@ void ListView::FitColumns() {
 void ListView::PaintPictures(PicturePainter painter) {
     painter_ = std::move(painter);
     InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+void ListView::ShowHint(const std::vector<ListHint::Line>& lines) {
+    if (hint_.Show(lines))
+        ArrangeHint();
+}
+
+void ListView::ArrangeHint() {
+    hint_.Arrange(AreaOfRows());
+}
+
+RECT ListView::AreaOfRows() const {
+    RECT area{};
+    GetClientRect(Handle(), &area);
+    RECT header{};
+    if (View() == LVS_REPORT &&
+        GetWindowRect(reinterpret_cast<HWND>(Send(LVM_GETHEADER)), &header) != FALSE)
+        area.top += HeightOf(header);
+    return area;
 }
 
 void ListView::PaintSelected(HDC device, const RECT& square) const {
@@ -202,6 +224,7 @@ void ListView::SetMode(int mode) {
     Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(rows), LPARAM{0});
     FitColumns();
     Arrange();
+    ArrangeHint();
     ShowSelection(selected);
 }
 
@@ -354,7 +377,14 @@ void ListView::EndLabelEdit(const NMLVDISPINFOW& info) {
 MessageResult ListView::OnMessage(const WindowMessage& message) {
     if (const MessageResult result = drag_.OnMessage(message))
         return result;
+    if (const MessageResult result = hint_.OnMessage(message))
+        return result;
     switch (message.id) {
+    case WM_SIZE: {
+        const LRESULT result = Default(message);
+        ArrangeHint();
+        return result;
+    }
     case WM_MOUSEMOVE: {
         const Cell cell = CellAt(PointOf(message));
         TipIsFor(MAKELPARAM(cell.row, cell.column));

@@ -3,11 +3,13 @@
 #include "common/ColorNumber.h"
 #include "platform/controls/Control.h"
 #include "platform/controls/LabelEdit.h"
+#include "platform/controls/ListHint.h"
 #include "platform/controls/MouseDrag.h"
 #include "platform/IconList.h"
 
 #include <functional>
 #include <string>
+#include <vector>
 
 // A list whose rows are kept elsewhere: it asks for what it shows (LVS_OWNERDATA).  Rows count from
 // 0, columns from 1.  What the program changes is not reported back, what the user does is.
@@ -35,6 +37,9 @@ public:
     [[nodiscard]] bool HasOwnPictures() const noexcept { return painter_ != nullptr; }
     // The large one of the selected row, where rows have pictures of their own.
     void PaintSelected(HDC device, const RECT& square) const;
+
+    // What it says while it has no rows; none: nothing.
+    void ShowHint(const std::vector<ListHint::Line>& lines);
 
     void AddColumn(const std::string& caption, int width); // pixels
     void SetColumnCaption(int column, const std::string& caption);
@@ -64,6 +69,7 @@ public:
     std::function<bool()> mayEdit;
     std::function<void(int row, const std::string& text)> onLabelEdited;
     std::function<void(int column)> onColumnClick;
+    std::function<void(int line)> onHintLink;        // of ShowHint's lines, from 0
     std::function<void(POINT screen)> onContextMenu; // the row under it is selected
     std::function<void()> onPress;                   // a mouse button, beside the rows too
     std::function<bool(POINT screen)> onDragStart;   // of the selected row; true: Drag() begins
@@ -88,6 +94,8 @@ private:
     void PaintPictureIn(const RECT& place, HDC device, int row) const;
     [[nodiscard]] const IconList& ShownImages() const;
     void FitColumns();
+    void ArrangeHint();
+    [[nodiscard]] RECT AreaOfRows() const;
     [[nodiscard]] LONG_PTR View() const noexcept; // LVS_ICON ... LVS_REPORT
     void Arrange();
     void SelectionChanged(const NMLISTVIEW& change);
@@ -110,6 +118,7 @@ private:
     int columns_ = 0;
     int selected_ = -1;
     LabelEdit label_;
+    ListHint hint_;
     bool silent_ = false; // the program itself changes the selection
     MouseDrag drag_{Handle()};
 };

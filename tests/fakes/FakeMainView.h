@@ -78,7 +78,9 @@ public:
     }
     void SetListViewMode(ListViewMode mode) override { listMode = mode; }
     void ShowRowColors(bool shown) override { rowColorsShown = shown; }
+    void HintChanged() override { ++hintChanges; }
 
+    int hintChanges = 0;
     std::function<void()> openEdit; // reports its text when it ends
 
     // Editor

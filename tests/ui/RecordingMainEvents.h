@@ -14,6 +14,7 @@ class RecordingMainEvents : public MainFrameEvents,
                             public TreeEvents,
                             public ListRows,
                             public ListEvents,
+                            public ListHints,
                             public EditorEvents,
                             public LayoutEvents,
                             public DragEvents,
@@ -24,6 +25,7 @@ public:
                 .tree = *this,
                 .rows = *this,
                 .list = *this,
+                .hints = *this,
                 .editor = *this,
                 .layout = *this,
                 .drag = *this,
@@ -92,6 +94,8 @@ public:
         Note("slider " + std::to_string(index) + "=" + std::to_string(position));
     }
 
+    [[nodiscard]] std::vector<HintLine> HintLines() const override { return hintLines; }
+    void SampleChosen(const std::string& path) override { Note("sample " + path); }
     void FilesDropped(const std::vector<std::string>& paths) override {
         for (const std::string& path : paths)
             Note("dropped " + path);
@@ -129,7 +133,8 @@ public:
     mutable int valuesAsked = 0;
     std::map<int, ColorValueArray> rowValues; // of rows
     mutable int searches = 0;
-    std::string longCell; // of every cell; empty: "cell row,column"
+    std::vector<HintLine> hintLines; // while there are no rows
+    std::string longCell;            // of every cell; empty: "cell row,column"
     bool mayEdit = true;
     bool mayDrag = true;
     std::function<void(int)> onCommand;

@@ -1,0 +1,62 @@
+#include "mainwindow/EmptyListHint.h"
+
+#include "common/ErrorText.h"
+#include "common/FileNames.h"
+#include "common/InfoTextNumber.h"
+#include "resources/controls.h"
+
+#include <algorithm>
+
+std::vector<HintLine> EmptyListHint::HintLines() const {
+    const LibraryTree& tree = parts_.library.Tree();
+    if (tree.MainNodes().empty())
+        return LinesWithoutLibrary();
+    if (tree.Selected().empty())
+        return {};
+    return parts_.library.SelectedGroup().empty() ? LinesOfLibrary() : LinesOfGroup();
+}
+
+std::vector<HintLine> EmptyListHint::LinesWithoutLibrary() const {
+    std::vector<HintLine> lines = {
+        {.text = Text(InfoTextNumber::NoLibraryOpen, "Es ist keine Bibliothek offen.")},
+        {.text = Text(InfoTextNumber::HintOpen, "Bibliothek öffnen ..."),
+         .command = IDM_mnuFileOpen},
+        {.text = Text(InfoTextNumber::HintNewLibrary, "Neue Bibliothek anlegen ..."),
+         .command = IDM_mnuFileNew},
+        {.text = Text(InfoTextNumber::HintImport, "Farbpalette importieren ..."),
+         .command = IDM_mnuFileImport}};
+    AddSamples(lines);
+    lines.push_back(
+        {.text = Text(InfoTextNumber::HintDropFiles, "Dateien lassen sich auch hierher ziehen.")});
+    return lines;
+}
+
+void EmptyListHint::AddSamples(std::vector<HintLine>& lines) const {
+    std::vector<std::string> names = parts_.folders.FileNamesIn(parts_.sampleFolder);
+    std::erase_if(names, [](const std::string& name) { return !HasExtension(name, ".tnt"); });
+    std::ranges::sort(names);
+    names.resize(std::min(names.size(), kMostSamples));
+    const std::string text = Text(InfoTextNumber::HintSample, "Beispiel öffnen: %1");
+    for (const std::string& name : names)
+        lines.push_back({.text = WithArguments(text, {FileNameStem(name)}),
+                         .file = parts_.sampleFolder + "\\" + name});
+}
+
+std::vector<HintLine> EmptyListHint::LinesOfLibrary() const {
+    return {{.text = Text(InfoTextNumber::LibraryIsEmpty, "Diese Bibliothek hat keine Gruppen.")},
+            {.text = Text(InfoTextNumber::HintNewGroup, "Neue Gruppe anlegen ..."),
+             .command = IDM_mnuColorNewGroup},
+            {.text = Text(InfoTextNumber::HintImportGroups, "Farbpalette importieren ..."),
+             .command = IDM_mnuFileImportGroups}};
+}
+
+std::vector<HintLine> EmptyListHint::LinesOfGroup() const {
+    return {{.text = Text(InfoTextNumber::GroupIsEmpty, "Diese Gruppe hat noch keine Farben.")},
+            {.text = Text(InfoTextNumber::HintNewColor, "Neue Farbe anlegen ..."),
+             .command = IDM_mnuColorNewColor},
+            {.text = Text(InfoTextNumber::HintPickUp, "Neue Farbe aus SolidWorks übernehmen"),
+             .command = IDM_mnuSWXNewColorUpdate},
+            {.text = Text(InfoTextNumber::HintPaste,
+                          "Kopierte Farben lassen sich einfügen (Strg+V); gezogene Farben "
+                          "nimmt die Gruppe im Baum auf.")}};
+}

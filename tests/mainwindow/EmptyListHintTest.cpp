@@ -1,0 +1,124 @@
+// Rules: Empty list
+// The whole program on fakes: what the list says while it has no rows, and what its links do.
+#include "mainwindow/EmptyListHint.h"
+
+#include "resources/controls.h"
+#include "tests/fakes/FakeProgram.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class EmptyListHintTest : public testing::Test {
+protected:
+    EmptyListHintTest() {
+        program.files.contents["C:\\prog\\samples\\web.tnt"] = "\"D#Web=0D:1\"\r\n\"G#A=0DG1\"\r\n";
+        program.files.contents["C:\\prog\\samples\\materials.TNT"] = "\"D#Materials=0D:1\"\r\n";
+        program.files.contents["C:\\prog\\samples\\coats.gpl"] = "";
+        program.application.Start();
+    }
+
+    void Run(int command) { program.Main().frame.RunCommand(command); }
+    // A library with one group that has no colors.
+    void OpenEmptyGroup() {
+        program.files.contents["C:\\a.tnt"] = "\"D#A=0D:1\"\r\n\"G#Gruppe=0DG1\"\r\n";
+        program.Main().frame.FilesDropped({"C:\\a.tnt"});
+        program.Main().tree.NodeClicked("0DG1");
+    }
+    std::vector<HintLine> Lines() { return program.Main().hints.HintLines(); }
+    std::string Title() { return Lines().empty() ? "" : Lines().front().text; }
+    // Of the links; 0: a sample.
+    std::vector<int> Commands() {
+        std::vector<int> commands;
+        for (const HintLine& line : Lines())
+            if (line.IsLink())
+                commands.push_back(line.command);
+        return commands;
+    }
+    Texts Samples() {
+        Texts files;
+        for (const HintLine& line : Lines())
+            if (!line.file.empty())
+                files.push_back(line.text + "|" + line.file);
+        return files;
+    }
+
+    FakeProgram program;
+};
+
+TEST_F(EmptyListHintTest, WithoutALibraryOneIsOpenedMadeOrImportedAndSamplesAreOffered) {
+    EXPECT_EQ(Title(), "<280>");
+    EXPECT_EQ(Commands(),
+              (std::vector<int>{IDM_mnuFileOpen, IDM_mnuFileNew, IDM_mnuFileImport, 0, 0}));
+    EXPECT_EQ(Samples(), (Texts{"Beispiel öffnen: materials|C:\\prog\\samples\\materials.TNT",
+                                "Beispiel öffnen: web|C:\\prog\\samples\\web.tnt"}));
+    EXPECT_EQ(Lines().back().text, "<285>");
+    EXPECT_FALSE(Lines().back().IsLink());
+}
+
+TEST_F(EmptyListHintTest, NoMoreThanThreeSamplesAreOfferedAndNoneIsNeeded) {
+    for (const char* name : {"a", "b", "c", "d"})
+        program.files.contents[std::string("C:\\prog\\samples\\") + name + ".tnt"] = "";
+    EXPECT_EQ(Samples().size(), EmptyListHint::kMostSamples);
+    EXPECT_EQ(Samples().front(), "Beispiel öffnen: a|C:\\prog\\samples\\a.tnt");
+    std::erase_if(program.files.contents,
+                  [](const auto& file) { return file.first.starts_with("C:\\prog\\samples"); });
+    EXPECT_EQ(Commands(), (std::vector<int>{IDM_mnuFileOpen, IDM_mnuFileNew, IDM_mnuFileImport}));
+}
+
+TEST_F(EmptyListHintTest, SampleOpensWithoutAQuestionAndIsToldInTheStatusPanel) {
+    program.Main().frame.SampleChosen("C:\\prog\\samples\\web.tnt");
+    EXPECT_EQ(program.view.nodes.at("0D"), "Web");
+    EXPECT_EQ(program.view.infoPanel, "Okay web.tnt");
+    EXPECT_TRUE(program.prompts.messages.empty());
+    EXPECT_EQ(program.registry.values.count(FakeProgram::Setting("DefaultColorFile")), 0U);
+    EXPECT_EQ(Title(), "<289>") << "its first group has no colors";
+}
+
+TEST_F(EmptyListHintTest, SampleThatIsGoneIsToldAsEveryFileThatDoesNotOpen) {
+    program.Main().frame.SampleChosen("C:\\prog\\samples\\gone.tnt");
+    ASSERT_EQ(program.prompts.messages.size(), 1U);
+    EXPECT_EQ(program.prompts.messages.front().prompt, "<6>C:\\prog\\samples\\gone.tnt");
+    EXPECT_EQ(Title(), "<280>");
+}
+
+TEST_F(EmptyListHintTest, EmptyGroupSaysHowColorsComeIntoIt) {
+    OpenEmptyGroup();
+    EXPECT_EQ(Title(), "<289>");
+    EXPECT_EQ(Commands(), (std::vector<int>{IDM_mnuColorNewColor, IDM_mnuSWXNewColorUpdate}));
+    EXPECT_EQ(Lines().back().text, "<292>");
+}
+
+TEST_F(EmptyListHintTest, LibraryWithoutGroupsOffersOne) {
+    program.Main().frame.SampleChosen("C:\\prog\\samples\\materials.TNT");
+    program.Main().tree.NodeClicked("0D");
+    EXPECT_EQ(Title(), "<286>");
+    EXPECT_EQ(Commands(), (std::vector<int>{IDM_mnuColorNewGroup, IDM_mnuFileImportGroups}));
+}
+
+// The list asks whenever its rows have changed, and after each command: language and libraries may
+// be others with the same number of rows, none.
+TEST_F(EmptyListHintTest, ListIsToldAfterEachCommand) {
+    const auto changes = [this] { return std::exchange(program.view.hintChanges, 0); };
+    EXPECT_GT(changes(), 0) << "at the start";
+    Run(IDM_mnuOptionsLngGerman);
+    EXPECT_GT(changes(), 0);
+    OpenEmptyGroup();
+    EXPECT_GT(changes(), 0);
+    program.Main().frame.SampleChosen("C:\\prog\\samples\\web.tnt");
+    EXPECT_GT(changes(), 0);
+}
+
+TEST_F(EmptyListHintTest, NoSampleIsOpenedWhileAnOperationRuns) {
+    OpenEmptyGroup();
+    program.events.onEvents = [this] {
+        program.Main().frame.SampleChosen("C:\\prog\\samples\\web.tnt");
+    };
+    Run(IDM_mnuSWXClearColorPart);
+    EXPECT_GT(program.events.count, 0);
+    EXPECT_EQ(program.view.nodes.count("1D"), 0U);
+}
+
+} // namespace
