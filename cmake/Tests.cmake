@@ -84,7 +84,7 @@ endif()
 
 if(WIN32)
     tnt_test_program(windows_tests FOLDERS tests/platform tests/ui
-        LIBRARIES standin_com standin_model tnt_forms tnt_version gmock gtest gtest_main)
+        LIBRARIES standin_com standin_model tnt_forms tnt_version oleacc gmock gtest gtest_main)
     # The forms' icons, and the manifest that gives the program its common controls.
     target_sources(windows_tests PRIVATE resources/tnt4swx.rc)
     # Started as processes of their own, by the tests of the server and of the program's start.

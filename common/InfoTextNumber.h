@@ -118,6 +118,25 @@ inline constexpr std::int32_t ChangedColors = 242;
 inline constexpr std::int32_t AskExportAllTheSame = 243;
 inline constexpr std::int32_t ExportFailed = 244; // the path follows
 
+// What the list says while it has no rows.  %1: the name of a sample.
+inline constexpr std::int32_t NoLibraryOpen = 280;
+inline constexpr std::int32_t HintOpen = 281;
+inline constexpr std::int32_t HintNewLibrary = 282;
+inline constexpr std::int32_t HintImport = 283;
+inline constexpr std::int32_t HintSample = 284;
+inline constexpr std::int32_t HintDropFiles = 285;
+inline constexpr std::int32_t LibraryIsEmpty = 286;
+inline constexpr std::int32_t HintNewGroup = 287;
+inline constexpr std::int32_t HintImportGroups = 288;
+inline constexpr std::int32_t GroupIsEmpty = 289;
+inline constexpr std::int32_t HintNewColor = 290;
+inline constexpr std::int32_t HintPickUp = 291;
+inline constexpr std::int32_t HintPaste = 292;
+
+// By which the controls of the text viewer are announced.
+inline constexpr std::int32_t ViewedDocument = 293;
+inline constexpr std::int32_t ViewedText = 294;
+
 // Of a failed automation call, where the system has no words; ErrorText.h has the built-in ones.
 inline constexpr std::int32_t ServerRejectsCall = 163;
 inline constexpr std::int32_t ObjectIsGone = 164;

@@ -67,6 +67,7 @@ private:
     CommandButton& cmdClose_;
     StatusBar& stbarFind_;
     HiddenCaption nameFound_;
+    HiddenCaption nameActiveColor_;
 };
 
 using FindOnDemand = FormOnDemand<frmFind, FindView, FindEvents>;

@@ -24,6 +24,8 @@ constexpr UINT kBannerInterval = 5000; // milliseconds
 constexpr UINT_PTR kSecondTimer = 3;
 constexpr UINT kSecond = 1000;
 
+constexpr const char* kBannerName = "Banner"; // in every language
+
 } // namespace
 
 frmMain::frmMain(ErrorSink& errors, const BannerPictures& banners)
@@ -59,6 +61,7 @@ frmMain::frmMain(ErrorSink& errors, const BannerPictures& banners)
         AddDesigned(*component);
     for (HiddenCaption& name : accessibleNames_)
         AddDesigned(name);
+    picSponsor_.SetText(kBannerName);
     lblDrag_.Show(false);
     bars_.onArranged = [this] { PlaceBanner(); };
     bars_.ArrangeBars();
@@ -83,7 +86,7 @@ MainView frmMain::View() {
 void frmMain::Attach(const MainEvents& events) {
     events_.emplace(events);
     tree_.Attach(events.tree);
-    list_.Attach(events.rows, events.list);
+    list_.Attach(events.rows, events.list, events.hints);
     editor_.Attach(events.editor);
     area_.Attach(events.layout);
     drag_.Attach(events.drag);
@@ -97,6 +100,12 @@ void frmMain::ConnectCommands(MainFrameEvents& events) {
     tvColor_.onEditRequested = [&events] { events.RunCommand(IDM_mnuColorRenameNode); };
     editor_.OnSwatchDoubleClick([&events] { events.RunCommand(IDM_mnuColorChange); });
     tvColor_.onContextMenu = [this](POINT at) { OpenColorMenu(at); };
+    list_.onHintLink = [&events](const HintLine& line) {
+        if (line.command != 0)
+            events.RunCommand(line.command);
+        else
+            events.SampleChosen(line.file);
+    };
     lvColor_.onContextMenu = [this](POINT at) { OpenColorMenu(at); };
 }
 

@@ -87,9 +87,10 @@ private:
     MainArea area_;
     DragTracker drag_;
     std::optional<WaitCursor> waiting_;
-    std::array<HiddenCaption, 3> accessibleNames_ = {
+    std::array<HiddenCaption, 4> accessibleNames_ = {
         Announce(tlbarMain_, "nameToolbar", "Symbolleiste"),
         Announce(tvColor_, "nameTree", "Bibliotheken und Gruppen"),
         Announce(lvColor_, "nameList", "Farben"),
+        Announce(imgSplitter_, "nameSplitter", "Teiler zwischen Baum und Liste"),
     };
 };

@@ -46,6 +46,8 @@
 #define IDC_rtbShowtext 1302
 #define IDC_cmdOkay 1303
 #define IDC_picSponsorTxtView 1304
+#define IDC_lblChoice 1305
+#define IDC_lblText 1306
 
 // frmProgress
 #define IDC_prbMain 1401

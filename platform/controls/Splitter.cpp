@@ -10,7 +10,11 @@ constexpr ControlKind kSplitter{"Image", WC_STATICW, ""};
 } // namespace
 
 Splitter::Splitter(ControlHost& host, const ControlPlace& place)
-    : Control(host, kSplitter, place, WS_VISIBLE | SS_NOTIFY) {}
+    : Painted(host, kSplitter, place, WS_VISIBLE | SS_NOTIFY) {}
+
+void Splitter::Paint(const Canvas& canvas, const RECT& area) const {
+    canvas.Fill(area, GetSysColor(COLOR_3DFACE));
+}
 
 MessageResult Splitter::OnMessage(const WindowMessage& message) {
     switch (message.id) {
@@ -34,6 +38,6 @@ MessageResult Splitter::OnMessage(const WindowMessage& message) {
             Raise(onRelease);
         return 0;
     default:
-        return {};
+        return Painted::OnMessage(message);
     }
 }

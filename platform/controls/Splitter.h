@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/controls/Control.h"
+#include "platform/controls/Painted.h"
 
 #include <functional>
 
 // The strip between two panes that takes the mouse.
-class Splitter : public Control {
+class Splitter : public Painted<> {
 public:
     Splitter(ControlHost& host, const ControlPlace& place);
 
@@ -15,6 +15,7 @@ public:
 
 protected:
     MessageResult OnMessage(const WindowMessage& message) override;
+    void Paint(const Canvas& canvas, const RECT& area) const override;
 
 private:
     bool pressed_ = false;

@@ -71,6 +71,7 @@ frmStandIn::frmStandIn(StandInModel& model, const ServedObjects& objects, ErrorS
     LoadStandInIcons();
     documentLabel_.SetText("&Document");
     callsLabel_.SetText("Last &calls received");
+    picture_.SetText("Picture of the document");
     for (const DocumentEntry& entry : kDocuments)
         documentChoice_.Add(entry.caption);
     ShowDocument();

@@ -1,5 +1,6 @@
 #include "support/windows/TextViewer.h"
 
+#include "common/InfoTextNumber.h"
 #include "support/language/Languages.h"
 
 #include <algorithm>
@@ -19,6 +20,8 @@ const std::vector<std::string>& Entries() {
 void TextViewer::Show(const std::string& entry) {
     TextViewerView& view = parts_.window.Get();
     view.SetEntries(Entries());
+    view.SetNames(parts_.language.GetInfoTextOr(InfoTextNumber::ViewedDocument, "Dokument"),
+                  parts_.language.GetInfoTextOr(InfoTextNumber::ViewedText, "Text des Dokuments"));
     view.SetBanner(parts_.banner.Index());
     view.SetTopmost(parts_.settings.alwaysOnTop);
     const auto found = std::ranges::find(Entries(), entry);

@@ -12,6 +12,8 @@ public:
 
     // Fills cmbTxtView; nothing is selected afterwards.
     virtual void SetEntries(const std::vector<std::string>& entries) = 0;
+    // By which cmbTxtView and rtbShowtext are announced.
+    virtual void SetNames(const std::string& choice, const std::string& text) = 0;
     virtual void SelectEntry(int index) = 0;           // from 0; reports EntryChosen
     virtual void SetText(const std::string& text) = 0; // rtbShowtext, replacing what it showed
     virtual void SetBanner(int index) = 0;             // from 1; 0: none

@@ -41,6 +41,7 @@ frmAbout::frmAbout(HWND owner, ErrorSink& errors, const BannerPictures& banners)
     lblMail_.SetText("E-Mail an den Support");
     cmdSysInfo_.SetText("Systeminfo ...");
     cmdOK_.SetText("OK");
+    picSponsor_.SetText("Banner"); // in every language
     cmdOK_.onClick = [this] { done_ = true; };
     SetDefaultButton(IDC_cmdOK);
     frmAbout::OnScaleChanged();

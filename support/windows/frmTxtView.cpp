@@ -24,11 +24,14 @@ FormDesign DesignFor(HWND owner) {
 
 frmTxtView::frmTxtView(HWND owner, ErrorSink& errors, const BannerPictures& banners)
     : Form(DesignFor(owner), errors), banners_(banners),
+      lblChoice_(Add<Label>(At("lblChoice", IDC_lblChoice))),
       cmbTxtView_(Add<ComboBox>(At("cmbTxtView", IDC_cmbTxtView))),
+      lblText_(Add<Label>(At("lblText", IDC_lblText))),
       rtbShowtext_(Add<RichEdit>(At("rtbShowtext", IDC_rtbShowtext))),
       cmdOkay_(Add<CommandButton>(At("cmdOkay", IDC_cmdOkay), ButtonRole::Default)),
       picSponsor_(Add<PictureBox>(At("picSponsor", IDC_picSponsorTxtView))) {
     cmdOkay_.SetText("OK");
+    picSponsor_.SetText("Banner"); // in every language
     cmdOkay_.onClick = [this] { OnCloseBox(); };
     SetDefaultButton(IDC_cmdOkay);
     CentreOnOwner(Handle());
@@ -46,6 +49,12 @@ void frmTxtView::SetEntries(const std::vector<std::string>& entries) {
     cmbTxtView_.Clear();
     for (const std::string& entry : entries)
         cmbTxtView_.Add(entry);
+}
+
+// The labels have no size: they name the controls behind them for programs that read the screen.
+void frmTxtView::SetNames(const std::string& choice, const std::string& text) {
+    lblChoice_.SetText(choice);
+    lblText_.SetText(text);
 }
 
 void frmTxtView::SelectEntry(int index) {

@@ -2,6 +2,7 @@
 
 #include "platform/controls/ComboBox.h"
 #include "platform/controls/CommandButton.h"
+#include "platform/controls/Label.h"
 #include "platform/controls/PictureBox.h"
 #include "platform/controls/RichEdit.h"
 #include "platform/Form.h"
@@ -18,6 +19,7 @@ public:
     void Attach(TextViewerEvents& events);
 
     void SetEntries(const std::vector<std::string>& entries) override;
+    void SetNames(const std::string& choice, const std::string& text) override;
     void SelectEntry(int index) override;
     void SetText(const std::string& text) override;
     void SetBanner(int index) override;
@@ -37,7 +39,9 @@ private:
     TextViewerEvents* events_ = nullptr;
 
     // In the order of the Tab key.
+    Label& lblChoice_;
     ComboBox& cmbTxtView_;
+    Label& lblText_;
     RichEdit& rtbShowtext_;
     CommandButton& cmdOkay_;
     PictureBox& picSponsor_;

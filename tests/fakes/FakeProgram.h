@@ -66,6 +66,9 @@ public:
 class FakeTextViewer : public TextViewerView {
 public:
     void SetEntries(const std::vector<std::string>& newEntries) override { entries = newEntries; }
+    void SetNames(const std::string& choice, const std::string& ofText) override {
+        names = {choice, ofText};
+    }
     void SelectEntry(int index) override {
         selected = index;
         if (events)
@@ -77,6 +80,7 @@ public:
     void ShowModeless() override { ++shown; }
 
     TextViewerEvents* events = nullptr;
+    std::vector<std::string> names;
     std::vector<std::string> entries;
     int selected = -1;
     std::string text;
@@ -145,7 +149,8 @@ public:
         for (int number = 0; number < 300; ++number) {
             const bool hasArguments = (number >= 110 && number < 150) ||
                                       (number >= 170 && number < 174) || number == 181 ||
-                                      number == 189 || (number >= 205 && number < 209);
+                                      number == 189 || (number >= 205 && number < 209) ||
+                                      number == 284;
             if (hasArguments)
                 continue;
             for (const char* code : {"de", "us"})

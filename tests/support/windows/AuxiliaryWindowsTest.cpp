@@ -205,6 +205,7 @@ TEST_F(AuxiliaryWindowsTest, ViewerHasItsFiveEntriesAndShowsTheOneAskedFor) {
     program.Main().frame.RunCommand(IDM_mnuHlpShowReadme);
     EXPECT_EQ(program.textViewer.entries,
               (std::vector<std::string>{"readme", "lizenz", "changes", "todo", "limitations"}));
+    EXPECT_EQ(program.textViewer.names, (std::vector<std::string>{"<293>", "<294>"}));
     EXPECT_EQ(program.textViewer.selected, 0);
     EXPECT_EQ(program.textViewer.text, "Read über");
     EXPECT_EQ(program.textViewer.shown, 1);
