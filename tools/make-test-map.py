@@ -22,7 +22,7 @@ SUBJECTS = (
     "Start-up and shut-down", "Settings store", "Language files and control texts",
     "Window positions", "Options", "Auxiliary windows", "The program as a whole",
     "Library model", "Library files", "File commands", "Undo and redo", "Recovery",
-    "Tree and list views",
+    "Tree and list views", "Empty list", "Names for screen readers",
     "Active-color editor", "Editing commands", "Layout, bars and views", "SolidWorks session",
     "Color from and to the selection", "Clearing colors", "Standard color table",
     "Color mathematics", "Foreign palettes", "Console program", "Finding colors",
