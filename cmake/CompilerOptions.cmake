@@ -6,7 +6,9 @@ set(CMAKE_MSVC_RUNTIME_LIBRARY "MultiThreaded$<$<CONFIG:Debug>:Debug>")
 function(tnt_target_options target)
     if(MSVC)
         target_compile_options(${target} PRIVATE /W4 /WX /permissive- /utf-8 /EHsc
-            /Zc:__cplusplus /guard:cf /guard:ehcont /GS)
+            /Zc:__cplusplus /guard:cf /guard:ehcont /GS
+            # The system's headers and those of test libraries have warnings of their own.
+            /external:anglebrackets /external:W0)
     else()
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion
             -Wshadow -Werror

@@ -120,6 +120,12 @@ if(WIN32)
             target_link_options(${bench} PRIVATE -static)
         endif()
     endforeach()
+    # The resource script holds the manifest.
+    if(MSVC)
+        foreach(program windows_tests walk_bench groups_bench list_bench)
+            target_link_options(${program} PRIVATE /MANIFEST:NO)
+        endforeach()
+    endif()
     # A program of its own: its processes are killed, and it wants mounted places around it.
     tnt_test_program(file_faults FOLDERS tests/faults LIBRARIES tnt_platform gtest)
     target_sources(file_faults PRIVATE tests/e2e/RunningProgram.cpp

@@ -1,5 +1,6 @@
 #include "common/WorkerThread.h"
 
+#include <exception>
 #include <system_error>
 
 WorkerThread::~WorkerThread() {
@@ -11,7 +12,9 @@ void WorkerThread::Start(std::function<void()> work) {
     Wait();
     busy_ = true;
     try {
-        thread_ = std::thread([this, work]() noexcept {
+        // Some run-time libraries keep the handler for each thread.
+        thread_ = std::thread([this, work, onTerminate = std::get_terminate()]() noexcept {
+            std::set_terminate(onTerminate);
             work();
             busy_ = false;
         });

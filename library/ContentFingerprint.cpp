@@ -44,22 +44,22 @@ std::uint64_t Spread(std::uint64_t word) noexcept {
 } // namespace
 
 ContentFingerprint ContentFingerprint::Of(std::string_view content) noexcept {
-    std::uint64_t low = 0;
-    std::uint64_t high = 0;
+    std::uint64_t lower = 0;
+    std::uint64_t upper = 0;
     std::size_t place = 0;
     for (; content.size() - place >= kBlockSize; place += kBlockSize) {
-        low ^= Mixed1(WordAt(content, place));
-        low = (std::rotl(low, 27) + high) * 5 + 0x52DCE729;
-        high ^= Mixed2(WordAt(content, place + kWordSize));
-        high = (std::rotl(high, 31) + low) * 5 + 0x38495AB5;
+        lower ^= Mixed1(WordAt(content, place));
+        lower = (std::rotl(lower, 27) + upper) * 5 + 0x52DCE729;
+        upper ^= Mixed2(WordAt(content, place + kWordSize));
+        upper = (std::rotl(upper, 31) + lower) * 5 + 0x38495AB5;
     }
-    high ^= Mixed2(LastWordAt(content, place + kWordSize)) ^ content.size();
-    low ^= Mixed1(LastWordAt(content, place)) ^ content.size();
-    low += high;
-    high += low;
-    low = Spread(low);
-    high = Spread(high);
-    low += high;
-    high += low;
-    return {content.size(), low, high};
+    upper ^= Mixed2(LastWordAt(content, place + kWordSize)) ^ content.size();
+    lower ^= Mixed1(LastWordAt(content, place)) ^ content.size();
+    lower += upper;
+    upper += lower;
+    lower = Spread(lower);
+    upper = Spread(upper);
+    lower += upper;
+    upper += lower;
+    return {content.size(), lower, upper};
 }

@@ -26,11 +26,11 @@ struct LeadingDigits {
         // A byte is 0 where it is a digit; bytes behind the first that is none may be anything.
         const std::uint32_t above9 = (characters + 0x06060606U) & 0xF0F0F0F0U;
         const std::uint32_t others = ((characters & 0xF0F0F0F0U) | (above9 >> 4U)) ^ 0x33333333U;
-        const auto count = static_cast<std::size_t>(std::countr_zero(others)) / 8;
-        if (count == 0)
+        const auto found = static_cast<std::size_t>(std::countr_zero(others)) / 8;
+        if (found == 0)
             return {};
-        const std::uint32_t digits = (characters << (8 * (kMost - count))) & 0x0F0F0F0FU;
+        const std::uint32_t digits = (characters << (8 * (kMost - found))) & 0x0F0F0F0FU;
         const std::uint32_t pairs = (digits * 10 + (digits >> 8U)) & 0x00FF00FFU;
-        return {(pairs * 100 + (pairs >> 16U)) & 0xFFFFU, count};
+        return {(pairs * 100 + (pairs >> 16U)) & 0xFFFFU, found};
     }
 };

@@ -70,9 +70,9 @@ private:
 } // namespace
 
 LibraryContent LibraryContent::Of(const ColorLibrary& library, const std::string& mainKey,
-                                  std::shared_ptr<const ColorSnapshot> colors) {
+                                  std::shared_ptr<const ColorSnapshot> snapshot) {
     LibraryContent content;
-    content.colors = std::move(colors);
+    content.colors = std::move(snapshot);
     content.name = library.Tree().At(mainKey).text;
     content.key = mainKey;
     for (const std::string& group : library.GetGroupInMainnode(mainKey)) {

@@ -29,9 +29,9 @@ struct LibraryContent {
     int colorCount = 0;                            // in its groups
     std::shared_ptr<const ColorSnapshot> colors{}; // of all open libraries
 
-    // colors: of this moment.
+    // snapshot: of this moment.
     [[nodiscard]] static LibraryContent Of(const ColorLibrary& library, const std::string& mainKey,
-                                           std::shared_ptr<const ColorSnapshot> colors);
+                                           std::shared_ptr<const ColorSnapshot> snapshot);
 
     struct Composed {
         AnsiCodePage::Encoded encoded; // the bytes of a file

@@ -8,6 +8,7 @@
 #include "mainwindow/WaitingShown.h"
 #include "palettes/PaletteFormat.h"
 
+#include <iterator>
 #include <algorithm>
 #include <tuple>
 

@@ -39,10 +39,10 @@ ListView::ListView(ControlHost& host, const ControlPlace& place, const Images& i
 
 void ListView::ApplyScale() {
     Control::ApplyScale();
-    images_.large.Fit(Scale().FromDesign(kLargeIcon));
-    images_.small.Fit(Scale().FromDesign(kSmallIcon));
-    Send(LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.large.Handle()));
-    Send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images_.small.Handle()));
+    images_.largeIcons.Fit(Scale().FromDesign(kLargeIcon));
+    images_.smallIcons.Fit(Scale().FromDesign(kSmallIcon));
+    Send(LVM_SETIMAGELIST, LVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.largeIcons.Handle()));
+    Send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images_.smallIcons.Handle()));
     FitColumns();
     hint_.ApplyScale();
     ArrangeHint();
@@ -343,7 +343,7 @@ void ListView::PaintPictureIn(const RECT& place, HDC device, int row) const {
 }
 
 const IconList& ListView::ShownImages() const {
-    return View() == LVS_ICON ? images_.large : images_.small;
+    return View() == LVS_ICON ? images_.largeIcons : images_.smallIcons;
 }
 
 void ListView::SelectionChanged(const NMLISTVIEW& change) {

@@ -16,8 +16,8 @@
 class ListView : public Control {
 public:
     struct Images {
-        IconList& large; // both kept by the caller and fitted by this list
-        IconList& small;
+        IconList& largeIcons; // both kept by the caller and fitted by this list
+        IconList& smallIcons;
         const char* key; // the picture of every row
     };
 

@@ -4,6 +4,8 @@
 
 #include "resources/controls.h"
 
+#include <array>
+
 void FilesJob::CheckFileDialog(const RemoteDialogs::FileDialog& dialog, const std::string& folder,
                                const std::string& fileName) {
     Report().CheckEqual("title", dialog.title, std::string("Color library"));

@@ -6,7 +6,7 @@
 #include <stdexcept>
 
 namespace {
-constexpr DWORD kLimit = std::chrono::milliseconds(kPatience).count();
+constexpr auto kLimit = static_cast<DWORD>(std::chrono::milliseconds(kPatience).count());
 
 // What came of it, as the system's number; 0: it runs.
 DWORD Start(std::wstring line, PROCESS_INFORMATION& started) {

@@ -13,11 +13,11 @@
 
 namespace {
 
-constexpr DWORD kLimit = std::chrono::milliseconds(kPatience).count();
+constexpr auto kLimit = static_cast<DWORD>(std::chrono::milliseconds(kPatience).count());
 
 // Where no process has anything.
 LPTHREAD_START_ROUTINE NowhereInMemory() {
-    return reinterpret_cast<LPTHREAD_START_ROUTINE>(0x10);
+    return reinterpret_cast<LPTHREAD_START_ROUTINE>(UINT_PTR{0x10});
 }
 
 } // namespace

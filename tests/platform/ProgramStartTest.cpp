@@ -43,7 +43,8 @@ public:
         DWORD_PTR answer = 0;
         return IsWindowEnabled(window) != FALSE &&
                SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL,
-                                   std::chrono::milliseconds(kPatience).count(), &answer) != 0;
+                                   static_cast<UINT>(std::chrono::milliseconds(kPatience).count()),
+                                   &answer) != 0;
     }
     [[nodiscard]] LRESULT NodeCount() const {
         return SendMessageW(Main().Child(IDC_tvColor).Handle(), TVM_GETCOUNT, 0, 0);

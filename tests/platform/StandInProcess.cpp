@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr DWORD kLimit = std::chrono::milliseconds(kPatience).count();
+constexpr auto kLimit = static_cast<DWORD>(std::chrono::milliseconds(kPatience).count());
 
 std::wstring Quoted(const std::wstring& text) {
     return L"\"" + text + L"\"";

@@ -63,7 +63,7 @@ const AutomationArray& Elements(const AutomationValue& value) {
 } // namespace
 
 TEST(FromVariant, EmptyNullAndErrorAreTheEmptyValue) {
-    for (const VARTYPE type : {VT_EMPTY, VT_NULL, VT_ERROR})
+    for (const VARTYPE type : std::initializer_list<VARTYPE>{VT_EMPTY, VT_NULL, VT_ERROR})
         EXPECT_TRUE(FromVariant(Typed(type), Wrap).IsEmpty()) << type;
 }
 

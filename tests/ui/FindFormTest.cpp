@@ -6,6 +6,7 @@
 #include "tests/ui/MainFormTest.h"
 #include "tests/ui/WindowPicture.h"
 
+#include <algorithm>
 #include <array>
 #include <commctrl.h>
 #include <string>
