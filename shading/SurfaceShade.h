@@ -1,22 +1,12 @@
 #pragma once
 
-#include "common/ColorNumber.h"
 #include "common/ColorRecord.h"
+#include "shading/LitSurface.h"
 
-#include <array>
 #include <cstdint>
 #include <vector>
 
-// How a surface looks that has the nine values of a color: docs/shading.md describes the model.
-
-// The nine values in their order, 0..1 each; what is beyond counts as that end.
-using SurfaceShares = std::array<double, kColorValueCount>;
-
-// values: 0..255 and 0..100; what is beyond counts as that end.
-[[nodiscard]] SurfaceShares SharesOf(const ColorValueArray& values) noexcept;
-
-// The plain color of the values, without any light.
-[[nodiscard]] RedGreenBlue PlainColor(const SurfaceShares& values) noexcept;
+// Pictures of a surface that has the nine values of a color: docs/shading.md describes the model.
 
 // A ball of this material under one lamp, on a chequered ground that shows through when it is
 // transparent. size * size pixels, row after row from the top, each 0x00RRGGBB; background
@@ -24,19 +14,14 @@ using SurfaceShares = std::array<double, kColorValueCount>;
 [[nodiscard]] std::vector<std::uint32_t> ShadedBall(const SurfaceShares& values, int size,
                                                     std::uint32_t background);
 
-// One lamp at the upper left; in small pictures a second one lightens the shade, so that each color
-// is told from the next.
-enum class Lighting { OneLamp, TwoLamps };
-
 // What all balls of a size have in common, whatever their material is.
 class BallShape {
 public:
     // A pixel of the picture.
     struct Spot {
-        double facing;     // light of the lamps that falls on it; 0: in the shade
-        double reflection; // binary logarithm of the cosine between the reflected ray and the eye
-        double ground;     // shade of the checkerboard
-        double covered;    // how much of the pixel the ball covers
+        SurfaceLight light;
+        double ground;  // shade of the checkerboard
+        double covered; // how much of the pixel the ball covers
     };
 
     BallShape(int size, Lighting lighting); // pixels
