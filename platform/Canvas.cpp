@@ -48,13 +48,16 @@ void Canvas::Picture(HBITMAP picture, const RECT& area) const {
     SelectObject(source.Get(), before);
 }
 
-void Canvas::Pixels(int left, int top, int size, const std::uint32_t* pixels) const {
+void Canvas::Pixels(const RECT& area, const std::uint32_t* pixels) const {
+    const int width = WidthOf(area);
+    const int height = HeightOf(area);
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = size;
-    info.bmiHeader.biHeight = -size; // rows from the top
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height; // rows from the top
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
-    SetDIBitsToDevice(device_, left, top, static_cast<DWORD>(size), static_cast<DWORD>(size), 0, 0,
-                      0, static_cast<UINT>(size), pixels, &info, DIB_RGB_COLORS);
+    SetDIBitsToDevice(device_, area.left, area.top, static_cast<DWORD>(width),
+                      static_cast<DWORD>(height), 0, 0, 0, static_cast<UINT>(height), pixels, &info,
+                      DIB_RGB_COLORS);
 }

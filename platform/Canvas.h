@@ -29,8 +29,8 @@ public:
     void FocusFrame(const RECT& area) const { DrawFocusRect(device_, &area); }
     // The whole picture, as large as the area.
     void Picture(HBITMAP picture, const RECT& area) const;
-    // pixels: size * size values 0x00RRGGBB.
-    void Pixels(int left, int top, int size, const std::uint32_t* pixels) const;
+    // pixels: as many values 0x00RRGGBB as the area has, row after row from the top.
+    void Pixels(const RECT& area, const std::uint32_t* pixels) const;
 
 private:
     HDC device_;

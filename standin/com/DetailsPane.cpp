@@ -111,7 +111,8 @@ void DetailsPane::PaintBall(const Canvas& canvas, const RECT& area,
     const auto background =
         static_cast<std::uint32_t>(ground.red << 16 | ground.green << 8 | ground.blue);
     const int size = std::max(HeightOf(area), 1);
-    canvas.Pixels(area.left, area.top, size, ShadedBall(values, size, background).data());
+    canvas.Pixels({area.left, area.top, area.left + size, area.top + size},
+                  ShadedBall(values, size, background).data());
 }
 
 // Three columns of three.
