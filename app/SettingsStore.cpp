@@ -34,6 +34,7 @@ constexpr std::array kSettings = {
     SettingRow{"ViewHugeColorDialog", &Settings::viewHugeColorDialog},
     SettingRow{"DefaultColorFile", &Settings::defaultColorFile},
     SettingRow{"ViewColorsInList", &Settings::viewColorsInList, true},
+    SettingRow{"ViewMaterialPreview", &Settings::viewMaterialPreview, true},
 };
 
 constexpr const char* kLastSponsorShown = "LastSponsorShown";

@@ -17,8 +17,9 @@ struct Settings {
     bool viewBarSolidWorks = true;
     bool viewStatusBar = false;
     bool viewHugeColorDialog = false;
-    bool viewColorsInList = false; // each row's picture is painted from its color
-    std::string defaultColorFile;  // loaded at start-up; empty: none
+    bool viewColorsInList = false;    // each row's picture is painted from its color
+    bool viewMaterialPreview = false; // the large color field shows all nine values
+    std::string defaultColorFile;     // loaded at start-up; empty: none
 
     bool operator==(const Settings&) const = default;
 };

@@ -99,6 +99,7 @@ void ColorEditor::ValueTextChanged(std::size_t index, const std::string& text) {
     const int value = text.empty() ? 0 : std::clamp(TextToInt32(text), 0, maximum);
     const std::string written = std::to_string(value);
     texts_[index] = written;
+    material_[index] = static_cast<std::int16_t>(value);
     if (written != text)
         pane_.SetValueText(index, written);
     if (value == 0 || value == maximum)
@@ -138,6 +139,7 @@ void ColorEditor::PaintSwatches() {
     swatch_ =
         MakeColorNumber(TextToInt32(texts_[0]), TextToInt32(texts_[1]), TextToInt32(texts_[2]));
     pane_.SetLargeSwatch(swatch_);
+    pane_.SetMaterial(material_);
     ShowSmallSwatch(kFullComplementMask);
 }
 

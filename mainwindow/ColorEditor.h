@@ -79,6 +79,7 @@ private:
     InfoTexts& infoTexts_;
     std::string name_;
     Texts texts_;
+    ColorValueArray material_{};  // what the texts were last when they were numbers
     ColorNumber swatch_ = 0;      // background of both swatches
     bool captionHasName_ = false; // of the small swatch
     bool isNameOfLibrary_ = false;

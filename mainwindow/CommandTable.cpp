@@ -190,6 +190,8 @@ constexpr std::array kMenuRows = {
     Separator(IDM_mnuViewHR3, "mnuViewHR3"),
     Entry(IDM_mnuViewColorsInList, "mnuViewColorsInList", "Farben in der Liste",
           [](Commands c) { c.view.Toggle(IDM_mnuViewColorsInList); }),
+    Entry(IDM_mnuViewMaterialPreview, "mnuViewMaterialPreview", "Materialvorschau",
+          [](Commands c) { c.view.Toggle(IDM_mnuViewMaterialPreview); }),
 
     Title(IDM_mnuSWX, "mnuSWX", "SolidWorks"),
     Operation(IDM_mnuSWXGetColor, "mnuSWXGetColor", "Farbe aus SolidWorks holen",

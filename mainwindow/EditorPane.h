@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/ColorNumber.h"
+#include "common/ColorRecord.h"
 
 #include <cstddef>
 #include <string>
@@ -16,6 +17,10 @@ public:
     virtual void SelectWholeValueText(std::size_t index) = 0;
     virtual void SetSlider(std::size_t index, int position) = 0;
     virtual void SetLargeSwatch(ColorNumber background) = 0;
+    // For the preview of the material; 0..255 and 0..100.
+    virtual void SetMaterial(const ColorValueArray& values) = 0;
+    // The large swatch shows the material, or the color alone.
+    virtual void ShowMaterial(bool shown) = 0;
     virtual void SetSmallSwatch(ColorNumber background, ColorNumber text) = 0;
     virtual void SetSmallSwatchCaption(const std::string& caption) = 0;
 };

@@ -23,6 +23,7 @@ constexpr std::array kSwitches = {
     Switch{IDM_mnuViewBarListview, &Settings::viewBarListview, true},
     Switch{IDM_mnuViewBarSolidWorks, &Settings::viewBarSolidWorks, true},
     Switch{IDM_mnuViewColorsInList, &Settings::viewColorsInList, false},
+    Switch{IDM_mnuViewMaterialPreview, &Settings::viewMaterialPreview, false},
 };
 
 struct ListView {
@@ -97,6 +98,8 @@ void ViewCommands::Show(int command, bool visible) {
         layout_.SetHugeFrame(visible);
     if (command == IDM_mnuViewColorsInList)
         list_.ShowRowColors(visible);
+    if (command == IDM_mnuViewMaterialPreview)
+        editor_.ShowMaterial(visible);
     for (const GroupSwitch& row : kGroupSwitches)
         if (row.command == command)
             ShowGroup(bars_, row.group, visible);

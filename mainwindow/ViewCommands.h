@@ -2,17 +2,20 @@
 
 #include "common/Settings.h"
 #include "mainwindow/BarsPane.h"
+#include "mainwindow/EditorPane.h"
 #include "mainwindow/LayoutController.h"
 #include "mainwindow/ListPane.h"
 
 #include <map>
 
-// The view menu: which bars are shown, which editor, and how the list shows its colors.  A switch
+// The view menu: which bars are shown, which editor, and how list
+// and editor show colors.  A switch
 // flips its entry's check mark first; the window and the setting follow the mark.
 class ViewCommands {
 public:
-    ViewCommands(BarsPane& bars, ListPane& list, LayoutController& layout, Settings& settings)
-        : bars_(bars), list_(list), layout_(layout), settings_(settings) {}
+    ViewCommands(BarsPane& bars, ListPane& list, EditorPane& editor, LayoutController& layout,
+                 Settings& settings)
+        : bars_(bars), list_(list), editor_(editor), layout_(layout), settings_(settings) {}
 
     // The window as it is designed: everything shown, the small swatch.
     void ShowDesignedState();
@@ -37,6 +40,7 @@ private:
 
     BarsPane& bars_;
     ListPane& list_;
+    EditorPane& editor_;
     LayoutController& layout_;
     Settings& settings_;
     std::map<int, bool> marks_;

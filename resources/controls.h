@@ -155,6 +155,7 @@
 #define IDM_mnuEditFind 2080
 #define IDM_mnuEditFindNext 2081
 #define IDM_mnuEditFindPrevious 2082
+#define IDM_mnuViewMaterialPreview 2083
 
 // Icons and pictures
 #define IDI_tnt4swx 1

@@ -71,7 +71,7 @@ WINDOWS_HALF = re.compile(
     r"platform/|mainwindow/(frm|panes/)|"
     r"support/windows/(frm(About|TxtView|Progress)|BannerPictures\.|FormOnDemand\.)|"
     r"app/main\.cpp$|standin/com/|converter/windows/|"
-    r"tests/(platform|ui|e2e|faults)/|tests/bench/(Groups|List|Start|Walk|Sort)Bench\.cpp$|"
+    r"tests/(platform|ui|e2e|faults)/|tests/bench/(Groups|List|Preview|Start|Walk|Sort)Bench\.cpp$|"
     r"tests/bench/library/(BenchPlatformWindows|HeapUse)\.cpp$|"
     r"resources/(?!controls\.h$)")
 

@@ -62,6 +62,8 @@ def native_steps():
         # Whether it runs, at a small size; nothing is timed here.
         check("library-bench", "build/native/library_bench", "10000", "1",
               needs=("build-native",), targets=("library_bench",)),
+        check("shading-bench", "build/native/shading_bench", "9",
+              needs=("build-native",), targets=("shading_bench",)),
         check("cppcheck", "tools/check-cppcheck.sh", limit=900),
         Step("tool-tests", (sys.executable, "-m", "unittest", "discover", "-s", "tests/tools"),
              300, counts=True, filter="-k"),
@@ -119,6 +121,8 @@ def windows_steps(shards, doses):
               *programs, needs=("build-windows",), targets=PROGRAMS),
         check("library-bench-wine", *session, "build/windows/library_bench.exe", "1000", "1",
               needs=("build-windows",), targets=("library_bench",)),
+        check("preview-bench", *session, "build/windows/preview_bench.exe", "5", "1",
+              needs=("build-windows",), targets=("preview_bench",)),
         # Whether the walks make no call more than a bare loop.
         check("walk-bench", *session, "build/windows/walk_bench.exe", "300",
               needs=("build-windows",), targets=("walk_bench",)),

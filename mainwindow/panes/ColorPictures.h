@@ -3,9 +3,6 @@
 #include "platform/AlphaPainter.h"
 #include "shading/PictureCache.h"
 
-// The border of a field: that of swatches, or the color of texts where contrast matters most.
-[[nodiscard]] COLORREF FieldBorderColor(bool isHighContrast) noexcept;
-
 // Paints what the rows of the list have for a picture: a ball where pictures are large, a field
 // where they are small.
 class ColorPictures {

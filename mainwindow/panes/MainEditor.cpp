@@ -117,6 +117,20 @@ void MainEditor::SetLargeSwatch(ColorNumber background) {
     largeSwatch_->SetColors(background, 0);
 }
 
+void MainEditor::SetMaterial(const ColorValueArray& values) {
+    if (preview_.SetValues(values) && largeSwatch_->HasPicture())
+        largeSwatch_->Repaint();
+}
+
+void MainEditor::ShowMaterial(bool shown) {
+    if (shown)
+        largeSwatch_->PaintPicture([this](const Canvas& canvas, const RECT& area) {
+            preview_.Paint(canvas, area, form_.Scale().Dpi());
+        });
+    else
+        largeSwatch_->PaintPicture({});
+}
+
 void MainEditor::SetSmallSwatch(ColorNumber background, ColorNumber text) {
     smallSwatch_->SetColors(background, text);
 }

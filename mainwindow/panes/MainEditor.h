@@ -2,6 +2,7 @@
 
 #include "common/ColorRecord.h"
 #include "mainwindow/EditorPane.h"
+#include "mainwindow/panes/MaterialPreview.h"
 #include "platform/controls/Frame.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/Slider.h"
@@ -36,6 +37,8 @@ public:
     void SelectWholeValueText(std::size_t index) override;
     void SetSlider(std::size_t index, int position) override;
     void SetLargeSwatch(ColorNumber background) override;
+    void SetMaterial(const ColorValueArray& values) override;
+    void ShowMaterial(bool shown) override;
     void SetSmallSwatch(ColorNumber background, ColorNumber text) override;
     void SetSmallSwatchCaption(const std::string& caption) override;
 
@@ -70,4 +73,5 @@ private:
     Swatch* largeSwatch_;
     Swatch* smallSwatch_ = nullptr;
     std::array<Row, kColorValueCount> rows_{};
+    MaterialPreview preview_;
 };

@@ -38,9 +38,21 @@ void Swatch::OnCommand(WPARAM wParam) {
         Raise(onDoubleClick);
 }
 
-void Swatch::Paint(const Canvas& canvas, const RECT& area) const {
+void Swatch::PaintPicture(PicturePainter painter) {
+    painter_ = std::move(painter);
+    Repaint();
+}
+
+void Swatch::PaintColor(const Canvas& canvas, const RECT& area) const {
     canvas.Fill(area, background_);
     canvas.Frame(area, GetSysColor(COLOR_3DSHADOW), 1);
+}
+
+void Swatch::Paint(const Canvas& canvas, const RECT& area) const {
+    if (painter_)
+        painter_(canvas, area);
+    else
+        PaintColor(canvas, area);
     RECT inside = area;
     InflateRect(&inside, -Scale().FromDesign(kMargin), 0);
     canvas.Text(Text(), inside, text_, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);

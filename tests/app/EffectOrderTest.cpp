@@ -11,11 +11,22 @@ std::string Mark(int command, bool checked) {
 }
 
 const Effects kReading = {
-    "read Language",         "read AlwaysOnTop",         "read ConfirmDel",
-    "read CreateBackups",    "read ViewToolbar",         "read ViewBarStandards",
-    "read ViewBarColor",     "read ViewBarListview",     "read ViewBarSolidWorks",
-    "read ViewStatusBar",    "read ViewHugeColorDialog", "read DefaultColorFile",
-    "read ViewColorsInList", "read LastSponsorShown",    "banner 1",
+    "read Language",
+    "read AlwaysOnTop",
+    "read ConfirmDel",
+    "read CreateBackups",
+    "read ViewToolbar",
+    "read ViewBarStandards",
+    "read ViewBarColor",
+    "read ViewBarListview",
+    "read ViewBarSolidWorks",
+    "read ViewStatusBar",
+    "read ViewHugeColorDialog",
+    "read DefaultColorFile",
+    "read ViewColorsInList",
+    "read ViewMaterialPreview",
+    "read LastSponsorShown",
+    "banner 1",
 };
 
 const Effects kAfterTheViews = {"columns",
@@ -68,23 +79,24 @@ TEST_F(EffectOrder,
     Store("ConfirmDel", "False");
     Store("ViewHugeColorDialog", "True");
     Store("ViewColorsInList", "True");
+    Store("ViewMaterialPreview", "True");
     for (const char* name : {"ViewToolbar", "ViewBarColor", "ViewBarSolidWorks"})
         Store(name, "False");
     Store("DefaultColorFile", "C:\\a.tnt");
     program.files.contents["C:\\a.tnt"] = "\"D#Lib=0D:1\"\r\n\"G#g=0DG1\"\r\n";
     program.application.Start();
-    EXPECT_EQ(
-        program.effects,
-        Joined({kReading,
-                {"read frmMain", "move window", Mark(IDM_mnuOptionsLngEnglish, false),
-                 Mark(IDM_mnuOptionsLngGerman, true), "texts of the window",
-                 Mark(IDM_mnuOptionsConfirmDel, false), Mark(IDM_mnuOptionsCreateBackups, true),
-                 Mark(IDM_mnuViewStatusBar, false), Mark(IDM_mnuViewHugeColorDialog, true),
-                 Mark(IDM_mnuViewToolbar, false), Mark(IDM_mnuViewBarStandards, false),
-                 Mark(IDM_mnuViewBarColor, false), Mark(IDM_mnuViewBarListview, false),
-                 Mark(IDM_mnuViewBarSolidWorks, false), Mark(IDM_mnuViewColorsInList, true)},
-                kAfterTheViews,
-                {"load C:\\a.tnt", "node Lib", "node g", "show window"}}));
+    EXPECT_EQ(program.effects,
+              Joined({kReading,
+                      {"read frmMain", "move window", Mark(IDM_mnuOptionsLngEnglish, false),
+                       Mark(IDM_mnuOptionsLngGerman, true), "texts of the window",
+                       Mark(IDM_mnuOptionsConfirmDel, false),
+                       Mark(IDM_mnuOptionsCreateBackups, true), Mark(IDM_mnuViewStatusBar, false),
+                       Mark(IDM_mnuViewHugeColorDialog, true), Mark(IDM_mnuViewToolbar, false),
+                       Mark(IDM_mnuViewBarStandards, false), Mark(IDM_mnuViewBarColor, false),
+                       Mark(IDM_mnuViewBarListview, false), Mark(IDM_mnuViewBarSolidWorks, false),
+                       Mark(IDM_mnuViewColorsInList, true), Mark(IDM_mnuViewMaterialPreview, true)},
+                      kAfterTheViews,
+                      {"load C:\\a.tnt", "node Lib", "node g", "show window"}}));
 }
 
 TEST_F(EffectOrder, QuitStopsTheBannerThenStoresItsIndexThenEnds) {

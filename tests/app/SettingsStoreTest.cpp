@@ -36,7 +36,8 @@ TEST_F(SettingsStoreTest, EmptyRegistryKeepsTheDefaults) {
     EXPECT_TRUE(settings.alwaysOnTop && settings.confirmDel && settings.createBackups);
     EXPECT_TRUE(settings.viewToolbar && settings.viewBarColor && settings.viewBarSolidWorks);
     EXPECT_FALSE(settings.viewBarStandards || settings.viewBarListview || settings.viewStatusBar ||
-                 settings.viewHugeColorDialog || settings.viewColorsInList);
+                 settings.viewHugeColorDialog || settings.viewColorsInList ||
+                 settings.viewMaterialPreview);
     EXPECT_EQ(settings.defaultColorFile, "");
 }
 
@@ -44,8 +45,10 @@ TEST_F(SettingsStoreTest, EmptyRegistryKeepsTheDefaults) {
 TEST_F(SettingsStoreTest, SettingsAreReadAndWrittenInOneOrderUnderTheirNames) {
     store.Load(settings);
     std::vector<std::string> read = registry.queries;
-    EXPECT_EQ(read.back(), kKey + "ViewColorsInList");
-    read.pop_back(); // not stored before it is used
+    for (const char* name : {"ViewMaterialPreview", "ViewColorsInList"}) {
+        EXPECT_EQ(read.back(), kKey + name);
+        read.pop_back(); // not stored before it is used
+    }
     store.Save(settings);
     EXPECT_EQ(registry.written, read);
     std::string lines;
@@ -54,21 +57,25 @@ TEST_F(SettingsStoreTest, SettingsAreReadAndWrittenInOneOrderUnderTheirNames) {
     ExpectTranscript(lines);
 }
 
-// Who never paints the colors in the list has the values that there were before it could be done.
-TEST_F(SettingsStoreTest, ColorsInTheListAreNotStoredUntilTheyHaveBeenSwitchedOn) {
-    const std::string path = kKey + "ViewColorsInList";
+// Who never uses them has the values that there were before it could be done.
+TEST_F(SettingsStoreTest, ColorsInTheListAndPreviewAreNotStoredUntilTheyHaveBeenSwitchedOn) {
     const std::size_t settingsInAll = Names().size();
     store.Save(settings);
-    EXPECT_EQ(registry.written.size(), settingsInAll - 1);
-    EXPECT_FALSE(registry.values.contains(path));
-    settings.viewColorsInList = true;
-    store.Save(settings);
-    EXPECT_EQ(registry.Text(path), "True");
-    settings.viewColorsInList = false;
-    store.Save(settings);
-    EXPECT_EQ(registry.Text(path), "False");
-    store.Save(settings);
-    EXPECT_EQ(registry.Text(path), "False");
+    EXPECT_EQ(registry.written.size(), settingsInAll - 2);
+    for (const auto& [name, setting] :
+         {std::pair{"ViewColorsInList", &Settings::viewColorsInList},
+          std::pair{"ViewMaterialPreview", &Settings::viewMaterialPreview}}) {
+        const std::string path = kKey + name;
+        EXPECT_FALSE(registry.values.contains(path));
+        settings.*setting = true;
+        store.Save(settings);
+        EXPECT_EQ(registry.Text(path), "True");
+        settings.*setting = false;
+        store.Save(settings);
+        EXPECT_EQ(registry.Text(path), "False");
+        store.Save(settings);
+        EXPECT_EQ(registry.Text(path), "False");
+    }
 }
 
 TEST_F(SettingsStoreTest, ValuesAreStoredAsStrings) {
@@ -91,7 +98,7 @@ TEST_F(SettingsStoreTest, WhatIsSavedIsLoaded) {
     other.alwaysOnTop = other.confirmDel = other.createBackups = other.viewToolbar = false;
     other.viewBarColor = other.viewBarSolidWorks = false;
     other.viewBarStandards = other.viewBarListview = other.viewStatusBar = true;
-    other.viewHugeColorDialog = other.viewColorsInList = true;
+    other.viewHugeColorDialog = other.viewColorsInList = other.viewMaterialPreview = true;
     other.defaultColorFile = "C:\\a.tnt";
     store.Save(other);
     store.Load(settings);

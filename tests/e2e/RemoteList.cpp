@@ -113,12 +113,7 @@ RECT RemoteList::BoundsOfRow(const std::string& name, LONG part) const {
 
 COLORREF RemoteList::PictureColor(const std::string& name) const {
     const RECT bounds = BoundsOfRow(name, LVIR_ICON);
-    const POINT middle =
-        window_.ToScreen({(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2});
-    const HDC screen = GetDC(nullptr);
-    const COLORREF color = GetPixel(screen, middle.x, middle.y);
-    ReleaseDC(nullptr, screen);
-    return color;
+    return window_.ColorAt({(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2});
 }
 
 std::vector<std::string> RemoteList::Names() const {

@@ -115,6 +115,14 @@ POINT RemoteWindow::Centre() const {
     return CentreOf(Bounds());
 }
 
+COLORREF RemoteWindow::ColorAt(POINT client) const {
+    const POINT at = ToScreen(client);
+    const HDC screen = GetDC(nullptr);
+    const COLORREF color = GetPixel(screen, at.x, at.y);
+    ReleaseDC(nullptr, screen);
+    return color;
+}
+
 void RemoteWindow::Click() const {
     RealInput::Click(Centre());
 }

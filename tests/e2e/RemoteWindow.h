@@ -30,9 +30,10 @@ public:
     void Restore() const;
     [[nodiscard]] bool IsMaximised() const { return IsZoomed(handle_) != FALSE; }
     [[nodiscard]] POINT ToScreen(POINT client) const;
-    [[nodiscard]] POINT Centre() const; // on the screen
-    void Click() const;                 // into the middle, with the mouse
-    void Close() const;                 // as the close box does; returns at once
+    [[nodiscard]] POINT Centre() const;                 // on the screen
+    [[nodiscard]] COLORREF ColorAt(POINT client) const; // that the screen shows there
+    void Click() const;                                 // into the middle, with the mouse
+    void Close() const;                                 // as the close box does; returns at once
 
     // The window that the window's thread shows on top of it; the window itself when there is none.
     [[nodiscard]] RemoteWindow ActivePopup() const;

@@ -31,6 +31,8 @@ void ViewsJob::Work() {
     Report().Step("colors in the list", [this] { ShowColors(IDM_mnuViewColorList, LVS_LIST); });
     Report().Step("colors in the details",
                   [this] { ShowColors(IDM_mnuViewColorDetails, LVS_REPORT); });
+    Report().Step("material preview", [this] { PreviewMaterial(); });
+    Report().Step("transparent material", [this] { PreviewGlass(); });
     Report().Step("end the program", [this] { EndMain(); });
 }
 
@@ -87,4 +89,39 @@ void ViewsJob::ShowColors(int command, DWORD style) {
     ShowMode(command, style);
     Report().CheckBecomes(
         "color on the screen", [this] { return Main().List().PictureColor("Gold"); }, gold_);
+}
+
+RemoteWindow ViewsJob::Field() const {
+    return Main().Control(IDC_lblActiveColor);
+}
+
+POINT ViewsJob::PointOfBall() const {
+    const RECT bounds = Field().Bounds();
+    return {(bounds.right - bounds.left) / 4, (bounds.bottom - bounds.top) * 2 / 5};
+}
+
+// The ball is lit, so that its color is not known; the band below it has the plain one.
+void ViewsJob::PreviewMaterial() {
+    ShowEditor(true);
+    Report().CheckBecomes(
+        "plain color", [this] { return Field().ColorAt(PointOfBall()); }, gold_);
+    Main().ChooseFromMenu("mnuView", "mnuViewMaterialPreview");
+    Report().CheckBecomes(
+        "ball instead of the plain color",
+        [this] { return Field().ColorAt(PointOfBall()) != gold_; }, true);
+    const RECT bounds = Field().Bounds();
+    Report().CheckBecomes(
+        "plain color below",
+        [&] {
+            return Field().ColorAt({PointOfBall().x, bounds.bottom - bounds.top - 5});
+        },
+        gold_);
+}
+
+void ViewsJob::PreviewGlass() {
+    constexpr std::size_t kTransparency = 7;
+    const COLORREF before = Field().ColorAt(PointOfBall());
+    Main().DragSlider(kTransparency, 40);
+    Report().CheckBecomes(
+        "board behind the ball", [&] { return Field().ColorAt(PointOfBall()) != before; }, true);
 }

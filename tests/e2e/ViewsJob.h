@@ -19,6 +19,10 @@ private:
     void SpeakGerman();
     void SwitchColorsOn();
     void ShowColors(int command, DWORD style);
+    void PreviewMaterial();
+    void PreviewGlass();
+    [[nodiscard]] RemoteWindow Field() const;
+    [[nodiscard]] POINT PointOfBall() const; // in the field
 
     COLORREF gold_ = CLR_INVALID; // as its row says
 };

@@ -92,6 +92,8 @@ public:
     void SelectWholeValueText(std::size_t index) override { selectedWhole.at(index) = true; }
     void SetSlider(std::size_t index, int position) override { sliders.at(index) = position; }
     void SetLargeSwatch(ColorNumber background) override { largeSwatch = background; }
+    void SetMaterial(const ColorValueArray& values) override { material = values; }
+    void ShowMaterial(bool shown) override { materialShown = shown; }
     void SetSmallSwatch(ColorNumber background, ColorNumber text) override {
         smallSwatch = background;
         smallSwatchText = text;
@@ -177,6 +179,8 @@ public:
     std::array<bool, 9> selectedWhole{};
     std::array<int, 9> sliders{};
     ColorNumber largeSwatch = 0;
+    ColorValueArray material{};
+    bool materialShown = false;
     ColorNumber smallSwatch = 0;
     ColorNumber smallSwatchText = 0;
     std::string smallCaption;

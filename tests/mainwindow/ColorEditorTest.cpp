@@ -191,6 +191,33 @@ TEST_F(ColorEditorTest, ColorIsShownWholeAlsoOverATextThatIsNoNumber) {
     EXPECT_EQ(editor.Values(), (ColorValueArray{64, 128, 255, 10, 20, 30, 40, 50, 60}));
 }
 
+TEST_F(ColorEditorTest, MaterialFollowsLoadedColorsTypedValuesSlidersAndTheDialog) {
+    EXPECT_EQ(view.material, (ColorValueArray{255, 255, 255, 100, 100, 100, 30, 0, 0}));
+    editor.ShowColor(kBlue);
+    EXPECT_EQ(view.material, kBlue.values);
+    editor.ValueTextChanged(7, "12");
+    EXPECT_EQ(view.material, (ColorValueArray{0, 0, 255, 10, 20, 30, 40, 12, 60}));
+    editor.SliderMoved(8, 99);
+    EXPECT_EQ(view.material, (ColorValueArray{0, 0, 255, 10, 20, 30, 40, 12, 99}));
+    prompts.chosenColors = {ColorNumber{0x030201}};
+    editor.PickActiveColorFromDialog();
+    EXPECT_EQ(view.material, (ColorValueArray{1, 2, 3, 10, 20, 30, 40, 12, 99}));
+    editor.ShowColorFromSolidWorks(kBlue);
+    EXPECT_EQ(view.material, kBlue.values);
+}
+
+TEST_F(ColorEditorTest, MaterialHasTheValuesWithinTheirRangesAndKeepsThemOverAnError) {
+    ColorRecord color = kBlue;
+    color.values = {300, -5, 32767, 101, 20, 30, 40, 50, 60};
+    editor.ShowColor(color);
+    const ColorValueArray shown{255, 0, 255, 100, 20, 30, 40, 50, 60};
+    EXPECT_EQ(view.material, shown);
+    EXPECT_THROW(editor.ValueTextChanged(4, "."), RuntimeError);
+    EXPECT_EQ(view.material, shown);
+    editor.ValueTextChanged(5, "31");
+    EXPECT_EQ(view.material, (ColorValueArray{255, 0, 255, 100, 20, 31, 40, 50, 60}));
+}
+
 TEST_F(ColorEditorTest, SmallSwatchFollowsARenameWhileItCarriesTheName) {
     editor.ShowColor(kBlue);
     editor.Rename("Azure");

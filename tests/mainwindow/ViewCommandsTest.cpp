@@ -44,7 +44,7 @@ protected:
     FakeMainView view;
     Settings settings;
     LayoutController layout{view};
-    ViewCommands views{view, view, layout, settings};
+    ViewCommands views{view, view, view, layout, settings};
 };
 
 constexpr std::array kBars = {IDM_mnuViewBarStandards, IDM_mnuViewBarColor, IDM_mnuViewBarListview,
@@ -88,7 +88,8 @@ TEST_F(ViewCommandsTest, EverySwitchRunsTheLayoutPassAndItsSettingFollowsTheMark
         {IDM_mnuViewBarListview, &Settings::viewBarListview},
         {IDM_mnuViewBarSolidWorks, &Settings::viewBarSolidWorks},
         {IDM_mnuViewHugeColorDialog, &Settings::viewHugeColorDialog},
-        {IDM_mnuViewColorsInList, &Settings::viewColorsInList}};
+        {IDM_mnuViewColorsInList, &Settings::viewColorsInList},
+        {IDM_mnuViewMaterialPreview, &Settings::viewMaterialPreview}};
     for (const auto& [command, setting] : settingOfSwitch)
         for (int time = 0; time < 2; ++time) {
             const bool before = view.checks.at(command);
@@ -131,6 +132,21 @@ TEST_F(ViewCommandsTest, ColorsInTheListAreOffUntilTheirSwitchShowsThem) {
     views.ApplySettings();
     EXPECT_TRUE(view.rowColorsShown);
     EXPECT_TRUE(view.checks.at(IDM_mnuViewColorsInList));
+}
+
+TEST_F(ViewCommandsTest, MaterialPreviewIsOffUntilItsSwitchShowsItWhicheverSwatchIsShown) {
+    EXPECT_FALSE(view.checks.at(IDM_mnuViewMaterialPreview));
+    views.ApplySettings();
+    EXPECT_FALSE(view.materialShown);
+    for (const bool shown : {true, false}) {
+        views.Toggle(IDM_mnuViewMaterialPreview);
+        EXPECT_EQ(view.materialShown, shown);
+        EXPECT_FALSE(view.layout.hugeFrameShown) << "it is a setting and opens nothing";
+    }
+    settings.viewMaterialPreview = true;
+    views.ApplySettings();
+    EXPECT_TRUE(view.materialShown);
+    EXPECT_TRUE(view.checks.at(IDM_mnuViewMaterialPreview));
 }
 
 // The buttons of the views stand in the order of the views.

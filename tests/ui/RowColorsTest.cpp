@@ -1,5 +1,5 @@
 // Rules: Tree and list views
-#include "mainwindow/panes/ColorPictures.h"
+#include "mainwindow/panes/FieldBorder.h"
 #include "shading/SurfaceShade.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/ScratchRegistry.h"
