@@ -32,7 +32,7 @@ double LightOfLamps(double lamp, double fill, Lighting lighting) noexcept {
     case Lighting::TwoLamps:
         return (4 * lamp + 2 * fill) / 3;
     case Lighting::SoftLamps:
-        return lamp + 0.4 * fill;
+        return (18 * lamp + 4 * fill) / 15;
     default:
         return lamp;
     }

@@ -22,7 +22,7 @@ constexpr double kFarthest = 1.62;    // how far a corner is from the middle, of
 constexpr double kNearEnough = 0.002; // of half an edge
 
 double Length(const Direction& vector) noexcept {
-    return std::hypot(vector[0], vector[1], vector[2]);
+    return std::sqrt(ScalarProduct(vector, vector));
 }
 
 // Along the cube's axes, how far a point is beyond the cube that has no rounding around it.
@@ -52,7 +52,7 @@ RoundedCube::RoundedCube(double radius) noexcept : half_(radius / kFarthest) {}
 // (sphere tracing: J. C. Hart, The Visual Computer 12, 1996).
 std::optional<Direction> RoundedCube::NormalAt(double x, double y) const noexcept {
     const double reach = half_ * kFarthest;
-    double z = std::hypot(x, y) < reach ? reach : -reach;
+    double z = x * x + y * y < reach * reach ? reach : -reach;
     while (z > -reach) {
         const Direction beyond = BeyondCore({x, y, z}, half_ * (1 - kRounded));
         const double distance = Length(beyond) - half_ * kRounded;

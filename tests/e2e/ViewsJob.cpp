@@ -105,7 +105,7 @@ void ViewsJob::PreviewMaterial() {
     ShowEditor(true);
     Report().CheckBecomes(
         "plain color", [this] { return Field().ColorAt(PointOfBall()); }, gold_);
-    Main().ChooseFromMenu("mnuView", "mnuViewMaterialPreview");
+    PostMessageW(Main().Window().Handle(), WM_COMMAND, IDM_mnuViewMaterialPreview, 0);
     Report().CheckBecomes(
         "ball instead of the plain color",
         [this] { return Field().ColorAt(PointOfBall()) != gold_; }, true);
