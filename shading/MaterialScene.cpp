@@ -78,6 +78,16 @@ SurfaceColor ColorOf(const SurfaceMaterial& material, std::span<const Spot> spot
     return color;
 }
 
+// corner: the upper left one of the pixel; parts: on its width.
+void AddSpots(std::vector<Spot>& spots, const SceneGeometry& scene,
+              const SceneGeometry::Point& corner, int parts) {
+    const double size = 1.0 / parts;
+    for (int row = 0; row < parts; ++row)
+        for (int column = 0; column < parts; ++column)
+            spots.push_back(
+                SpotAt(scene, {corner.x + (column + 0.5) * size, corner.y + (row + 0.5) * size}));
+}
+
 } // namespace
 
 SceneShape::SceneShape(int width, int height) : width_(width), height_(height) {
@@ -85,10 +95,8 @@ SceneShape::SceneShape(int width, int height) : width_(width), height_(height) {
     const Corners corners(scene, width, height);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) {
-            const int parts = corners.AreAlike(x, y) ? 1 : kParts;
-            for (int part = 0; part < parts * parts; ++part)
-                spots_.push_back(SpotAt(
-                    scene, {x + (part % parts + 0.5) / parts, y + (part / parts + 0.5) / parts}));
+            AddSpots(spots_, scene, {static_cast<double>(x), static_cast<double>(y)},
+                     corners.AreAlike(x, y) ? 1 : kParts);
             first_.push_back(spots_.size());
         }
 }
