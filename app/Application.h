@@ -26,6 +26,7 @@
 #include "library/RecoveryFolder.h"
 #include "library/RecoveryKeeper.h"
 #include "mainwindow/EmptyListHint.h"
+#include "mainwindow/LibraryTips.h"
 #include "mainwindow/MainView.h"
 #include "mainwindow/MainWindow.h"
 #include "mainwindow/ShownLibraryFiles.h"
@@ -158,6 +159,7 @@ private:
     MainPanes panes_;
     NewNodes newNodes_;
     ShownLibraryFiles shownFiles_;
+    LibraryTips tips_;
     ViewCommands viewCommands_;
     EditingCommands editing_;
     FileCommands fileCommands_;

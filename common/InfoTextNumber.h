@@ -116,7 +116,9 @@ inline constexpr std::int32_t LostNames = 240;
 inline constexpr std::int32_t LostPaletteName = 241;
 inline constexpr std::int32_t ChangedColors = 242;
 inline constexpr std::int32_t AskExportAllTheSame = 243;
-inline constexpr std::int32_t ExportFailed = 244; // the path follows
+inline constexpr std::int32_t ExportFailed = 244;   // the path follows
+inline constexpr std::int32_t OneColorOfNode = 245; // %1: name
+inline constexpr std::int32_t ColorsOfNode = 246;   // %1: name, %2: number of its colors
 
 // What the list says while it has no rows.  %1: the name of a sample.
 inline constexpr std::int32_t NoLibraryOpen = 280;

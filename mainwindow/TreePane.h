@@ -1,6 +1,7 @@
 #pragma once
 
 #include "library/LibraryTreeObserver.h"
+#include "mainwindow/NodeTip.h"
 
 #include <string>
 
@@ -10,6 +11,9 @@ public:
     virtual void EditNodeLabel(const std::string& key) = 0;
     // An open edit of a label ends and reports its text.
     virtual void FinishLabelEdit() = 0;
+    // The tip of a node shows its first colors; null: only its name, where that is cut off.  The
+    // tips are kept by the caller.
+    virtual void ShowNodeTips(const NodeTips* tips) = 0;
 };
 
 // What the user did in the tree.

@@ -97,12 +97,17 @@ void ViewCommands::Show(int command, bool visible) {
     if (command == IDM_mnuViewHugeColorDialog)
         layout_.SetHugeFrame(visible);
     if (command == IDM_mnuViewColorsInList)
-        list_.ShowRowColors(visible);
+        ShowColors(visible);
     if (command == IDM_mnuViewMaterialPreview)
         editor_.ShowMaterial(visible);
     for (const GroupSwitch& row : kGroupSwitches)
         if (row.command == command)
             ShowGroup(bars_, row.group, visible);
+}
+
+void ViewCommands::ShowColors(bool shown) {
+    list_.ShowRowColors(shown);
+    tree_.ShowNodeTips(shown ? &tips_ : nullptr);
 }
 
 void ViewCommands::SetListView(ListViewMode mode) {

@@ -5,6 +5,7 @@
 #include "mainwindow/EditorPane.h"
 #include "mainwindow/LayoutController.h"
 #include "mainwindow/ListPane.h"
+#include "mainwindow/TreePane.h"
 
 #include <map>
 
@@ -13,9 +14,17 @@
 // flips its entry's check mark first; the window and the setting follow the mark.
 class ViewCommands {
 public:
-    ViewCommands(BarsPane& bars, ListPane& list, EditorPane& editor, LayoutController& layout,
+    struct Panes {
+        BarsPane& bars;
+        TreePane& tree;
+        ListPane& list;
+        EditorPane& editor;
+    };
+
+    ViewCommands(const Panes& panes, const NodeTips& tips, LayoutController& layout,
                  Settings& settings)
-        : bars_(bars), list_(list), editor_(editor), layout_(layout), settings_(settings) {}
+        : bars_(panes.bars), tree_(panes.tree), list_(panes.list), editor_(panes.editor),
+          tips_(tips), layout_(layout), settings_(settings) {}
 
     // The window as it is designed: everything shown, the small swatch.
     void ShowDesignedState();
@@ -36,11 +45,14 @@ private:
     void SetMark(int command, bool checked);
     void Turn(int command);
     void Show(int command, bool visible);
+    void ShowColors(bool shown);
     void ArrangeWindow();
 
     BarsPane& bars_;
+    TreePane& tree_;
     ListPane& list_;
     EditorPane& editor_;
+    const NodeTips& tips_;
     LayoutController& layout_;
     Settings& settings_;
     std::map<int, bool> marks_;

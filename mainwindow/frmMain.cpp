@@ -42,14 +42,14 @@ frmMain::frmMain(ErrorSink& errors, const BannerPictures& banners)
       picSponsor_(Add<PictureBox>(At("picSponsor", IDC_picSponsor))),
       picSplitter_(Add<SolidBar>(At("picSplitter", IDC_picSplitter))),
       lblDrag_(Add<Label>(At("lblDrag", IDC_lblDrag))),
-      bars_({.menu = menu_, .toolbar = tlbarMain_, .statusBar = stbarMain_}), tree_(tvColor_),
-      list_(lvColor_, Scale()), area_(*this, {.toolbar = tlbarMain_,
-                                              .tree = tvColor_,
-                                              .splitter = imgSplitter_,
-                                              .list = lvColor_,
-                                              .editor = editor_,
-                                              .statusBar = stbarMain_,
-                                              .splitterBar = picSplitter_}),
+      bars_({.menu = menu_, .toolbar = tlbarMain_, .statusBar = stbarMain_}),
+      tree_(tvColor_, *this), list_(lvColor_, Scale()), area_(*this, {.toolbar = tlbarMain_,
+                                                                      .tree = tvColor_,
+                                                                      .splitter = imgSplitter_,
+                                                                      .list = lvColor_,
+                                                                      .editor = editor_,
+                                                                      .statusBar = stbarMain_,
+                                                                      .splitterBar = picSplitter_}),
       drag_(*this, {.list = lvColor_, .tree = tvColor_, .label = lblDrag_}) {
     MainBars::BuildMenu(menu_);
     menu_.AttachTo(Handle());

@@ -185,18 +185,36 @@ MessageResult Form::OfferCommand(const WindowMessage& message) {
 
 MessageResult Form::OfferNotification(const WindowMessage& message) {
     auto& header = *reinterpret_cast<NMHDR*>(message.lParam);
-    if (header.hwndFrom == tips_.Window() && header.code == TTN_GETDISPINFOW) {
-        GiveTip(reinterpret_cast<NMTTDISPINFOW&>(header));
-        return 0;
-    }
+    if (header.hwndFrom == tips_.Window())
+        return AnswerTips(header);
     Control* control = FindControl(header.hwndFrom);
     return control != nullptr ? control->OnNotify(header) : MessageResult();
 }
 
+MessageResult Form::AnswerTips(NMHDR& header) {
+    if (header.code == TTN_GETDISPINFOW)
+        GiveTip(reinterpret_cast<NMTTDISPINFOW&>(header));
+    else if (header.code == NM_CUSTOMDRAW)
+        return PaintTip(reinterpret_cast<const NMTTCUSTOMDRAW&>(header));
+    return 0;
+}
+
 void Form::GiveTip(NMTTDISPINFOW& request) {
     const Control* control = FindControl(reinterpret_cast<HWND>(request.hdr.idFrom));
-    tipText_ = control != nullptr ? ToUtf16(control->TipText()) : std::wstring();
+    tip_ = control != nullptr ? control->Tip() : ControlTip();
+    tipText_ = ToUtf16(tip_.text);
     request.lpszText = tipText_.data();
+    tips_.MakeRoomAbove(tipText_, tip_.picture);
+}
+
+LRESULT Form::PaintTip(const NMTTCUSTOMDRAW& stage) const {
+    if (!tip_.paint)
+        return CDRF_DODEFAULT;
+    if (stage.nmcd.dwDrawStage == CDDS_PREPAINT)
+        return CDRF_NOTIFYPOSTPAINT;
+    if (stage.nmcd.dwDrawStage == CDDS_POSTPAINT)
+        tip_.paint(stage.nmcd.hdc, ToolTips::kPictureStart);
+    return CDRF_DODEFAULT;
 }
 
 MessageResult Form::OfferScroll(const WindowMessage& message) {

@@ -112,7 +112,9 @@ private:
     MessageResult OfferNotification(const WindowMessage& message);
     MessageResult OfferScroll(const WindowMessage& message);
     MessageResult OfferColor(const WindowMessage& message);
+    MessageResult AnswerTips(NMHDR& header);
     void GiveTip(NMTTDISPINFOW& request);
+    [[nodiscard]] LRESULT PaintTip(const NMTTCUSTOMDRAW& stage) const;
     void ChangeScale(unsigned dpi, const RECT* suggested);
     void ApplyScale();
     void RemoveSizeCommands() const noexcept;
@@ -138,7 +140,8 @@ private:
     bool moving_ = false; // the size is the program's own, not the system's suggestion
     bool layoutRequested_ = false;
     ToolTips tips_;
-    std::wstring tipText_; // that is shown
+    ControlTip tip_; // that is shown
+    std::wstring tipText_;
     std::vector<std::unique_ptr<Control>> controls_;
     std::vector<FormControl*> designed_;
 };

@@ -1,6 +1,20 @@
 #include "platform/ToolTips.h"
 
+#include "platform/Fonts.h"
+
+#include <algorithm>
 #include <commctrl.h>
+#include <utility>
+
+void ToolTips::MakeRoomAbove(const std::wstring& text, SIZE picture) {
+    const bool hadRoom = std::exchange(hasRoom_, picture.cy > 0);
+    if (!hadRoom && !hasRoom_)
+        return; // the margins are the platform's own
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(window_, WM_GETFONT, 0, 0));
+    const LONG width = picture.cx > 0 ? MeasureText(font, text).cx : 0;
+    const RECT margin{0, picture.cy, std::max(picture.cx - width, LONG{0}), 0};
+    SendMessageW(window_, TTM_SETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
+}
 
 void ToolTips::Set(HWND owner, HWND control, bool wanted) {
     if (window_ == nullptr)

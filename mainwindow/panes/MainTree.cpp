@@ -1,6 +1,9 @@
 #include "mainwindow/panes/MainTree.h"
 
 #include "mainwindow/panes/NodeImages.h"
+#include "platform/Form.h"
+
+#include <utility>
 
 void MainTree::Attach(TreeEvents& events) {
     control_.onClick = [&events](const std::string& key) { events.NodeClicked(key); };
@@ -40,4 +43,23 @@ void MainTree::EditNodeLabel(const std::string& key) {
 
 void MainTree::FinishLabelEdit() {
     control_.FinishEdit();
+}
+
+void MainTree::ShowNodeTips(const NodeTips* tips) {
+    if (tips == nullptr)
+        control_.tipOf = {};
+    else
+        control_.tipOf = [this, tips](const std::string& key) {
+            return TipWithColors(tips->TipOf(key));
+        };
+}
+
+ControlTip MainTree::TipWithColors(NodeTip tip) {
+    ControlTip shown{.text = tip.text,
+                     .picture = ColorStrip::SizeOf(tip, form_.Scale(), form_.Font())};
+    if (!tip.colors.empty())
+        shown.paint = [this, tip = std::move(tip)](HDC device, POINT at) {
+            strip_.Paint(device, at, tip, form_.Scale(), form_.Font());
+        };
+    return shown;
 }

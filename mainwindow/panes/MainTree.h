@@ -1,12 +1,15 @@
 #pragma once
 
 #include "mainwindow/TreePane.h"
+#include "mainwindow/panes/ColorStrip.h"
 #include "platform/controls/TreeView.h"
+
+class Form;
 
 // tvColor on frmMain.
 class MainTree : public TreePane {
 public:
-    explicit MainTree(TreeView& control) : control_(control) {}
+    MainTree(TreeView& control, const Form& form) : control_(control), form_(form) {}
 
     void Attach(TreeEvents& events);
 
@@ -17,7 +20,12 @@ public:
     void NodeSelected(const std::string& key) override;
     void EditNodeLabel(const std::string& key) override;
     void FinishLabelEdit() override;
+    void ShowNodeTips(const NodeTips* tips) override;
 
 private:
+    [[nodiscard]] ControlTip TipWithColors(NodeTip tip);
+
     TreeView& control_;
+    const Form& form_;
+    ColorStrip strip_;
 };

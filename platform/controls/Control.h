@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/ports/LocalizableForm.h"
+#include "platform/ToolTips.h"
 #include "platform/controls/ControlHost.h"
 #include "platform/WindowMessage.h"
 
@@ -38,6 +39,7 @@ public:
 
     // What its tool tip says just now; empty: nothing.
     [[nodiscard]] virtual std::string TipText() const { return IsTextCut() ? Text() : toolTip_; }
+    [[nodiscard]] virtual ControlTip Tip() const { return {.text = TipText()}; }
 
     [[nodiscard]] std::string Text() const;
     virtual void SetText(const std::string& text);

@@ -273,6 +273,11 @@ std::string TreeView::TipText() const {
     return name.left < area.left || name.right > area.right ? TextOf(item) : std::string();
 }
 
+ControlTip TreeView::Tip() const {
+    const std::string key = tipOf ? KeyOf(LineAt(Pointer())) : std::string();
+    return key.empty() ? Control::Tip() : tipOf(key);
+}
+
 MessageResult TreeView::OnMessage(const WindowMessage& message) {
     if (drawingPaused_ && !inserting_ && !MayComeBeforeDrawing(message.id))
         ResumeDrawing();

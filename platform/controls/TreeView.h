@@ -43,7 +43,11 @@ public:
     std::function<bool()> mayEdit;
     std::function<void(POINT screen)> onContextMenu; // the node under it is selected
 
+    // What the tip of a node shows; while there is none, only its name where that is cut off.
+    std::function<ControlTip(const std::string& key)> tipOf;
+
     [[nodiscard]] std::string TipText() const override;
+    [[nodiscard]] ControlTip Tip() const override;
     MessageResult OnNotify(NMHDR& header) override;
     void ApplyScale() override;
 

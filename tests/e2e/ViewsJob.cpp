@@ -1,6 +1,7 @@
 #include "tests/e2e/ViewsJob.h"
 
 #include "resources/controls.h"
+#include "tests/e2e/RealInput.h"
 
 #include <algorithm>
 #include <commctrl.h>
@@ -31,6 +32,7 @@ void ViewsJob::Work() {
     Report().Step("colors in the list", [this] { ShowColors(IDM_mnuViewColorList, LVS_LIST); });
     Report().Step("colors in the details",
                   [this] { ShowColors(IDM_mnuViewColorDetails, LVS_REPORT); });
+    Report().Step("colors in the tip of a group", [this] { ShowTip(); });
     Report().Step("material preview", [this] { PreviewMaterial(); });
     Report().Step("transparent material", [this] { PreviewGlass(); });
     Report().Step("end the program", [this] { EndMain(); });
@@ -89,6 +91,26 @@ void ViewsJob::ShowColors(int command, DWORD style) {
     ShowMode(command, style);
     Report().CheckBecomes(
         "color on the screen", [this] { return Main().List().PictureColor("Gold"); }, gold_);
+}
+
+// The color that the screen shows where the tip of a group has its first one; none: no tip is
+// there.
+COLORREF ViewsJob::FirstColorOfTip() const {
+    HWND tip = nullptr;
+    while ((tip = FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr)
+        if (IsWindowVisible(tip) != FALSE)
+            return RemoteWindow(tip).ColorAt({12, 11});
+    return CLR_INVALID;
+}
+
+void ViewsJob::ShowTip() {
+    const RemoteList::Row first = Main().List().ReadRow(0);
+    const COLORREF color =
+        RGB(std::stoi(first.at(1)), std::stoi(first.at(2)), std::stoi(first.at(3)));
+    const POINT group = Main().Tree().PointOfChild(0, "Metals");
+    RealInput::Glide({group.x - 9, group.y}, group); // a tip comes when the pointer moves on a node
+    Report().CheckBecomes(
+        "first color of the group", [this] { return FirstColorOfTip(); }, color);
 }
 
 RemoteWindow ViewsJob::Field() const {

@@ -19,6 +19,8 @@ private:
     void SpeakGerman();
     void SwitchColorsOn();
     void ShowColors(int command, DWORD style);
+    [[nodiscard]] COLORREF FirstColorOfTip() const;
+    void ShowTip();
     void PreviewMaterial();
     void PreviewGlass();
     [[nodiscard]] RemoteWindow Field() const;

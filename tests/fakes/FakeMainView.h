@@ -52,6 +52,7 @@ public:
     void NodeExpanded(const std::string& key) override { expanded[key] = true; }
     void NodeSelected(const std::string& key) override { selectedNode = key; }
     void EditNodeLabel(const std::string& key) override { editedNode = key; }
+    void ShowNodeTips(const NodeTips* tips) override { nodeTips = tips; }
 
     // List
     float ListWidth() const override { return listWidth; }
@@ -181,6 +182,7 @@ public:
     ColorNumber largeSwatch = 0;
     ColorValueArray material{};
     bool materialShown = false;
+    const NodeTips* nodeTips = nullptr;
     ColorNumber smallSwatch = 0;
     ColorNumber smallSwatchText = 0;
     std::string smallCaption;

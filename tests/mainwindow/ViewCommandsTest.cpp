@@ -4,7 +4,9 @@
 #include "mainwindow/CommandTable.h"
 #include "mainwindow/ToolbarTable.h"
 #include "resources/controls.h"
+#include "mainwindow/LibraryTips.h"
 #include "tests/fakes/FakeMainView.h"
+#include "tests/fakes/FakeTexts.h"
 #include "tests/fakes/Transcripts.h"
 
 #include <algorithm>
@@ -44,7 +46,11 @@ protected:
     FakeMainView view;
     Settings settings;
     LayoutController layout{view};
-    ViewCommands views{view, view, view, layout, settings};
+    ColorLibrary library;
+    FakeTexts texts;
+    LibraryTips tips{library, texts};
+    ViewCommands views{
+        {.bars = view, .tree = view, .list = view, .editor = view}, tips, layout, settings};
 };
 
 constexpr std::array kBars = {IDM_mnuViewBarStandards, IDM_mnuViewBarColor, IDM_mnuViewBarListview,
@@ -124,9 +130,11 @@ TEST_F(ViewCommandsTest, ColorsInTheListAreOffUntilTheirSwitchShowsThem) {
     EXPECT_FALSE(view.checks.at(IDM_mnuViewColorsInList));
     views.ApplySettings();
     EXPECT_FALSE(view.rowColorsShown);
+    EXPECT_EQ(view.nodeTips, nullptr);
     for (const bool shown : {true, false}) {
         views.Toggle(IDM_mnuViewColorsInList);
         EXPECT_EQ(view.rowColorsShown, shown);
+        EXPECT_EQ(view.nodeTips, shown ? &tips : nullptr) << "the tree's tips show them, too";
     }
     settings.viewColorsInList = true;
     views.ApplySettings();
