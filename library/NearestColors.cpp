@@ -79,9 +79,7 @@ bool NearestColors::Advance(std::size_t records) {
 }
 
 void NearestColors::Look(ColorId id, const StoredColor& stored) {
-    const auto inRange = [](std::int16_t value) { return std::clamp<int>(value, 0, 255); };
-    const RedGreenBlue color{inRange(stored.values[0]), inRange(stored.values[1]),
-                             inRange(stored.values[2])};
+    const RedGreenBlue color = PaintedColor(stored.values[0], stored.values[1], stored.values[2]);
     static const LuminanceTables& tables = Tables();
     const double luminance = tables.red[PlaceOf(color.red)] + tables.green[PlaceOf(color.green)] +
                              tables.blue[PlaceOf(color.blue)];

@@ -1,6 +1,7 @@
 #include "mainwindow/ColorList.h"
 
 #include "common/Numbers.h"
+#include "mainwindow/ValueColumns.h"
 
 #include <algorithm>
 #include <utility>
@@ -28,16 +29,10 @@ constexpr bool IsSamePlainLetter(char letter, char lowerCase) noexcept {
 void ColorList::AddColumns() {
     const double width = pane_.ListWidth();
     const float valueWidth = WholeWidth(width * 0.75 / 9);
-    pane_.AddColumns({{"Name", "Name", WholeWidth(width * 0.24)},
-                      {"R", "red", valueWidth},
-                      {"G", "green", valueWidth},
-                      {"B", "blue", valueWidth},
-                      {"Amb", "Ambient", valueWidth},
-                      {"Dif", "Diffuse", valueWidth},
-                      {"Spe", "Specular", valueWidth},
-                      {"Shi", "Shininess", valueWidth},
-                      {"Tra", "Transparency", valueWidth},
-                      {"Emi", "Emission", valueWidth}});
+    std::vector<ListColumn> columns{{"Name", "Name", WholeWidth(width * 0.24)}};
+    for (const ValueColumn& column : kValueColumns)
+        columns.push_back({column.caption, column.key, valueWidth});
+    pane_.AddColumns(columns);
 }
 
 void ColorList::Fill(const std::string& groupKey) {

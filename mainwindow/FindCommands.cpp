@@ -2,7 +2,6 @@
 
 #include "common/ErrorText.h"
 #include "common/InfoTextNumber.h"
-#include "common/ProgramNames.h"
 #include "common/ShownNumbers.h"
 #include "support/settings/modWindowsHandling.h"
 
@@ -20,19 +19,11 @@ constexpr int kDecimals = 2;
 constexpr int kWorking = 10;
 constexpr int kWatching = 100;
 
-// The value as it is painted.
-int Painted(std::int16_t value) {
-    return std::clamp<int>(value, 0, 255);
-}
-
 } // namespace
 
 FindCommands::FindCommands(const Parts& parts)
-    : parts_(parts), position_(parts.registry), hits_(parts.library, parts.slice) {
-    position_.SetRootKey(RegistryRoot::CurrentUser);
-    position_.SetRegistryPath(ProgramNames::RegistryPath);
-    position_.SetSubKey(ProgramNames::FormPositionsKey);
-}
+    : parts_(parts), windowPlace_(parts.registry, parts.mainWindow),
+      hits_(parts.library, parts.slice) {}
 
 std::string FindCommands::Text(std::int32_t number, const char* builtIn) const {
     return parts_.language.GetInfoTextOr(number, builtIn);
@@ -40,8 +31,7 @@ std::string FindCommands::Text(std::int32_t number, const char* builtIn) const {
 
 void FindCommands::mnuEditFind_Click() {
     FindView& view = parts_.window.Get();
-    if (!std::exchange(isOpen_, true))
-        PlaceWindow();
+    windowPlace_.Opening(view);
     SetFormOnTop(view, parts_.settings.alwaysOnTop);
     FollowLanguage();
     if (!FollowActiveColor())
@@ -49,32 +39,9 @@ void FindCommands::mnuEditFind_Click() {
     view.ShowModeless();
 }
 
-void FindCommands::PlaceWindow() {
-    position_.SetForm(parts_.window.Get());
-    if (!position_.RestoreForm(true))
-        PlaceBesideMainWindow();
-}
-
-// To the right of it, as far as the screen has room.
-void FindCommands::PlaceBesideMainWindow() {
-    FindView& view = parts_.window.Get();
-    const TwipsRect main = parts_.mainWindow.Bounds();
-    TwipsRect bounds = view.Bounds();
-    const float farthest = view.ScreenSize().width - bounds.width;
-    bounds.left = std::max(std::min(main.left + main.width, farthest), 0.0F);
-    bounds.top = std::max(main.top, 0.0F);
-    view.Move(bounds);
-}
-
 void FindCommands::FindClosing() {
-    position_.SaveForm();
-    isOpen_ = false;
+    windowPlace_.Closing();
     ShowState();
-}
-
-void FindCommands::ProgramEnding() {
-    if (isOpen_)
-        position_.SaveForm();
 }
 
 void FindCommands::TextChanged(const std::string& text) {
@@ -185,7 +152,7 @@ void FindCommands::ShowAllRows() {
 void FindCommands::ShowState() {
     FindView& view = parts_.window.Get();
     const bool isWorking = isChanging_ || !hits_.IsDone();
-    const int pace = isWorking ? kWorking : (isOpen_ ? kWatching : 0);
+    const int pace = isWorking ? kWorking : (windowPlace_.IsOpen() ? kWatching : 0);
     if (std::exchange(pace_, pace) != pace)
         view.TickEvery(pace);
     std::string status = StatusText();
@@ -275,5 +242,5 @@ ColorNumber FindCommands::ColorOfRow(int row) const {
     if (!color)
         return 0;
     const ColorValueArray& values = color->color.values;
-    return MakeColorNumber(Painted(values[0]), Painted(values[1]), Painted(values[2]));
+    return MakeColorNumber(PaintedColor(values[0], values[1], values[2]));
 }

@@ -9,8 +9,8 @@
 #include "mainwindow/LibraryPanes.h"
 #include "mainwindow/ListPane.h"
 #include "mainwindow/MainActivity.h"
+#include "mainwindow/PlaceBesideMain.h"
 #include "support/language/clsMultiLanguage.h"
-#include "support/settings/CFormPos.h"
 #include "support/windows/OnDemand.h"
 
 #include <chrono>
@@ -47,7 +47,7 @@ public:
     void mnuEditFindPrevious_Click() { GoOn(-1); }
 
     // The place of a window that is still open is kept.
-    void ProgramEnding();
+    void ProgramEnding() { windowPlace_.ProgramEnding(); }
 
     void TextChanged(const std::string& text) override;
     void LikeActiveColorChosen(bool isChosen) override;
@@ -60,8 +60,6 @@ public:
 
 private:
     [[nodiscard]] std::string Text(std::int32_t number, const char* builtIn) const;
-    void PlaceWindow();
-    void PlaceBesideMainWindow();
 
     void Begin();
     void Advance();
@@ -89,7 +87,7 @@ private:
     };
 
     Parts parts_;
-    CFormPos position_;
+    PlaceBesideMain windowPlace_;
     FindHits hits_;
     ColorQuery query_;
     bool likeActiveColor_ = false;
@@ -102,7 +100,6 @@ private:
     ColorId current_ = 0;           // that the user has selected or gone to; 0: none yet
     int place_ = 0;                 // its row, or where it was
     bool isCurrentMissing_ = false; // it has not been found again yet
-    bool isOpen_ = false;
-    int pace_ = 0; // milliseconds between ticks; 0: there are none
+    int pace_ = 0;                  // milliseconds between ticks; 0: there are none
     std::string status_;
 };

@@ -1,5 +1,6 @@
 #include "mainwindow/frmRecover.h"
 
+#include "platform/controls/ListLayout.h"
 #include "platform/ModalDisplay.h"
 #include "platform/Utf16.h"
 #include "resources/controls.h"
@@ -12,8 +13,6 @@ namespace {
 constexpr const char* kRowIcon = "Colfile";
 
 // Design pixels.
-constexpr int kMargin = 12;
-constexpr int kGap = 8;
 constexpr std::array kColumnWidths = {150, 250, 130, 70};
 
 FormDesign DesignFor(HWND owner) {
@@ -134,28 +133,6 @@ bool frmRecover::TranslateShortcut(MSG& message) {
 }
 
 void frmRecover::OnLayout() {
-    const int margin = Scale().FromDesign(kMargin);
-    const int gap = Scale().FromDesign(kGap);
-    const RECT area = ClientArea();
-    const int textBottom = margin + lblRecover_.TextSize(WidthOf(area) - 2 * margin).cy;
-    const int buttonTop = area.bottom - margin - cmdClose_.IdealSize().cy;
-    lblRecover_.Place({margin, margin, area.right - margin, textBottom});
-    lvRecover_.Place({margin, textBottom + gap, area.right - margin,
-                      std::max<int>(textBottom + gap, buttonTop - gap)});
-    PlaceButtons(area, buttonTop);
-}
-
-// Close on the right, the others on the left.
-void frmRecover::PlaceButtons(const RECT& area, int top) {
-    const int margin = Scale().FromDesign(kMargin);
-    const int gap = Scale().FromDesign(kGap);
-    int left = margin;
-    for (CommandButton* button : {&cmdOpen_, &cmdDelete_, &cmdEmpty_}) {
-        const SIZE size = button->IdealSize();
-        button->Place({left, top, left + size.cx, top + size.cy});
-        left += size.cx + gap;
-    }
-    const SIZE size = cmdClose_.IdealSize();
-    const int right = std::max<int>(area.right - margin, left + size.cx);
-    cmdClose_.Place({right - size.cx, top, right, top + size.cy});
+    ListLayout{lblRecover_, lvRecover_, {&cmdOpen_, &cmdDelete_, &cmdEmpty_, &cmdClose_}}.Place(
+        ClientArea(), Scale());
 }

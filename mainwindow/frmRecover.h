@@ -32,7 +32,6 @@ private:
     void Choose();
     void ReportDelete();
     void ShowWhatCanBeDone();
-    void PlaceButtons(const RECT& area, int top);
 
     RecoverEvents* events_ = nullptr;
     std::vector<RecoverRow> rows_;

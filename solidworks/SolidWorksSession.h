@@ -14,6 +14,11 @@ namespace SelectionType {
 inline constexpr std::int32_t Face = 2;
 inline constexpr std::int32_t Component = 20;
 inline constexpr std::int32_t BodyFeature = 22;
+
+// Nothing else does.
+[[nodiscard]] constexpr bool CarriesColor(std::int32_t type) noexcept {
+    return type == Face || type == Component || type == BodyFeature;
+}
 } // namespace SelectionType
 
 // Which documents an operation works on.

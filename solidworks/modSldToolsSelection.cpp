@@ -1,6 +1,6 @@
-#include "common/RuntimeError.h"
 #include "common/Text.h"
 #include "solidworks/ColorArray.h"
+#include "solidworks/ColorSources.h"
 #include "solidworks/ResultKey.h"
 #include "solidworks/SolidWorksSession.h"
 #include "solidworks/modSldTools.h"
@@ -11,36 +11,14 @@
 
 namespace {
 
-constexpr const char* kValues = "MaterialPropertyValues";
-
-// Always this name, whatever the user's language.
-constexpr const char* kNameOfReadColor = "Neuer Farbwert";
-
-// Asks one source of a color.  A call that fails is a source without a usable array, unless
-// SolidWorks itself is gone or the user has given up.
-AutomationAnswer Probe(const std::function<AutomationAnswer()>& source) {
-    try {
-        return source();
-    } catch (const RuntimeError& error) {
-        if (error.Number() == ErrorNumber::ConnectionLost ||
-            error.Number() == ErrorNumber::UserInterrupt)
-            throw;
-        return {};
-    }
-}
+using ColorSources::kValues;
+using ColorSources::Probe;
 
 AutomationAnswer ColorOfFeature(const AutomationObjectPtr& feature, AutomationObject& document) {
     AutomationAnswer array;
     if (feature)
-        array = Probe([&] { return feature->Get("GetMaterialPropertyValues"); });
+        array = Probe([&] { return feature->Get(ColorSources::kValuesOfFeature); });
     return ColorArray::IsUsable(array) ? array : Probe([&] { return document.Get(kValues); });
-}
-
-// Null when the face does not tell.
-AutomationObjectPtr FeatureOf(AutomationObject& face) {
-    const AutomationAnswer feature = Probe([&] { return face.Get("GetFeature"); });
-    const auto* object = std::get_if<AutomationObjectPtr>(&feature.data);
-    return object ? *object : nullptr;
 }
 
 AutomationAnswer ColorOfFace(const AutomationObjectPtr& face, AutomationObject& document) {
@@ -49,7 +27,7 @@ AutomationAnswer ColorOfFace(const AutomationObjectPtr& face, AutomationObject& 
     AutomationAnswer array = Probe([&] { return face->Get(kValues); });
     if (ColorArray::IsUsable(array))
         return array;
-    return ColorOfFeature(FeatureOf(*face), document);
+    return ColorOfFeature(ColorSources::ProbeObject(*face, "GetFeature"), document);
 }
 
 AutomationAnswer ColorOfComponent(const AutomationObjectPtr& component,
@@ -73,14 +51,9 @@ AutomationAnswer ColorOfSelected(std::int32_t type, const AutomationObjectPtr& o
     }
 }
 
-bool CarriesColor(std::int32_t type) {
-    return type == SelectionType::Face || type == SelectionType::Component ||
-           type == SelectionType::BodyFeature;
-}
-
 void Fill(ColorRecord& color, const AutomationAnswer& array) {
-    color.values = NamingMember(array.Member(), [&] { return ColorArray::ToValues(array); });
-    color.name = kNameOfReadColor;
+    color.values = ColorSources::Values(array);
+    color.name = ColorSources::kNameOfReadColor;
 }
 
 // Colors one selected object; an object of another kind is reported and left alone.
@@ -128,7 +101,7 @@ std::string modSldTools::SWXGetColor(ColorRecord& color) {
     // Only the first selected object counts, on purpose.
     const AutomationObjectPtr object = selection.ObjectAt(1);
     const std::int32_t type = selection.TypeAt(1);
-    if (!CarriesColor(type))
+    if (!SelectionType::CarriesColor(type))
         return ResultKey::NoValidSelection + std::to_string(type);
     const AutomationAnswer array = ColorOfSelected(type, object, session.Document());
     if (!ColorArray::IsUsable(array))
