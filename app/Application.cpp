@@ -57,7 +57,12 @@ Application::Application(const Platform& platform, const Windows& windows, const
                                                 .texts = language_,
                                                 .folders = platform.folders,
                                                 .sampleFolder = data.programFolder + "\\samples"}),
-      solidWorksCommands_(PartsOfSolidWorks(platform)), mainWindow_(PartsOfMainWindow(platform)) {
+      operationReport_({.bars = windows.mainView.bars,
+                        .prompts = platform.prompts,
+                        .texts = language_,
+                        .activity = panes_.activity}),
+      solidWorksCommands_(PartsOfSolidWorks()), levels_(PartsOfLevels()),
+      mainWindow_(PartsOfMainWindow(platform)) {
     library_.History().SetMostBytes(data.historyBytes);
 }
 
@@ -166,17 +171,29 @@ FindCommands::Parts Application::PartsOfFind(const Data& data) {
             .slice = data.findSlice};
 }
 
-SolidWorksCommands::Parts Application::PartsOfSolidWorks(const Platform& platform) {
+SolidWorksCommands::Parts Application::PartsOfSolidWorks() {
     return {.tools = solidWorks_,
             .library = library_,
             .newNodes = newNodes_,
             .list = panes_.list,
             .panes = panes_.library,
             .editor = panes_.editor,
-            .bars = windows_.mainView.bars,
-            .prompts = platform.prompts,
+            .report = operationReport_,
             .texts = language_,
             .activity = panes_.activity};
+}
+
+LevelsCommands::Parts Application::PartsOfLevels() {
+    return {.window = windows_.levels,
+            .tools = solidWorks_,
+            .editor = panes_.editor,
+            .report = operationReport_,
+            .activity = panes_.activity,
+            .language = language_,
+            .settings = settings_,
+            .registry = registry_,
+            .mainWindow = windows_.mainWindow,
+            .runCommand = [this](int command) { mainWindow_.RunCommand(command); }};
 }
 
 MainCommands Application::Commands() {
@@ -192,6 +209,7 @@ MainCommands Application::Commands() {
             .editor = panes_.editor,
             .view = viewCommands_,
             .solidWorks = solidWorksCommands_,
+            .levels = levels_,
             .options = options_,
             .about = about_,
             .textViewer = textViewer_,
@@ -250,6 +268,7 @@ void Application::Quit() {
     windows_.mainView.frame.StopBannerTimer();
     settingsStore_.SaveLastSponsorShown(banner_.IndexToStore());
     find_.ProgramEnding();
+    levels_.ProgramEnding();
     windows_.mainView.frame.EndProgram();
     recoveryKeeper_.KeepAll();
 }

@@ -80,6 +80,7 @@ public:
         LocalizableForm& progressForm;
         OnDemand<RecoverView>& recover;
         OnDemand<FindView>& find;
+        OnDemand<LevelsView>& levels;
     };
 
     struct Data {
@@ -114,6 +115,7 @@ public:
     [[nodiscard]] ProgressEvents& ProgressWindowEvents() noexcept { return progress_; }
     [[nodiscard]] RecoverEvents& RecoverWindowEvents() noexcept { return recover_; }
     [[nodiscard]] FindEvents& FindWindowEvents() noexcept { return find_; }
+    [[nodiscard]] LevelsEvents& LevelsWindowEvents() noexcept { return levels_; }
 
 private:
     void SetFormDefaults();
@@ -131,7 +133,8 @@ private:
     [[nodiscard]] PaletteCommands::Parts PartsOfPalettes(const Platform& platform);
     [[nodiscard]] RecoverCommands::Parts PartsOfRecover(const Platform& platform);
     [[nodiscard]] FindCommands::Parts PartsOfFind(const Data& data);
-    [[nodiscard]] SolidWorksCommands::Parts PartsOfSolidWorks(const Platform& platform);
+    [[nodiscard]] SolidWorksCommands::Parts PartsOfSolidWorks();
+    [[nodiscard]] LevelsCommands::Parts PartsOfLevels();
     [[nodiscard]] MainCommands Commands();
     [[nodiscard]] MainWindow::Parts PartsOfMainWindow(const Platform& platform);
 
@@ -169,6 +172,8 @@ private:
     PaletteCommands palettes_;
     FindCommands find_;
     EmptyListHint emptyListHint_;
+    OperationReport operationReport_;
     SolidWorksCommands solidWorksCommands_;
+    LevelsCommands levels_;
     MainWindow mainWindow_;
 };

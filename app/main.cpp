@@ -3,6 +3,7 @@
 #include "common/ProgramNames.h"
 #include "common/WorkerThread.h"
 #include "mainwindow/frmFind.h"
+#include "mainwindow/frmLevels.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/frmRecover.h"
 #include "platform/BusyMessageFilter.h"
@@ -79,13 +80,15 @@ struct AuxiliaryForms {
     AuxiliaryForms(HWND mainWindow, Ports& ports, const BannerPictures& banners)
         : about(mainWindow, ports.errors, banners), textViewer(mainWindow, ports.errors, banners),
           progress(mainWindow, ports.errors, ports.clock, kProgressPatience),
-          recover(mainWindow, ports.errors), find(mainWindow, ports.errors) {}
+          recover(mainWindow, ports.errors), find(mainWindow, ports.errors),
+          levels(mainWindow, ports.errors) {}
 
     AboutOnDemand about;
     TextViewerOnDemand textViewer;
     frmProgress progress;
     RecoverOnDemand recover;
     FindOnDemand find;
+    LevelsOnDemand levels;
 };
 
 Application::Platform PlatformOf(Ports& ports) {
@@ -117,7 +120,8 @@ Application::Windows WindowsOf(frmMain& main, AuxiliaryForms& auxiliary) {
             .progressWindow = auxiliary.progress,
             .progressForm = auxiliary.progress,
             .recover = auxiliary.recover,
-            .find = auxiliary.find};
+            .find = auxiliary.find,
+            .levels = auxiliary.levels};
 }
 
 void Attach(Application& application, frmMain& main, AuxiliaryForms& auxiliary) {
@@ -127,6 +131,7 @@ void Attach(Application& application, frmMain& main, AuxiliaryForms& auxiliary) 
     auxiliary.progress.Attach(application.ProgressWindowEvents());
     auxiliary.recover.Attach(application.RecoverWindowEvents());
     auxiliary.find.Attach(application.FindWindowEvents());
+    auxiliary.levels.Attach(application.LevelsWindowEvents());
 }
 
 // Joins the ports, the forms and the program, and runs it.

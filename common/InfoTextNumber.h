@@ -120,6 +120,36 @@ inline constexpr std::int32_t ExportFailed = 244;   // the path follows
 inline constexpr std::int32_t OneColorOfNode = 245; // %1: name
 inline constexpr std::int32_t ColorsOfNode = 246;   // %1: name, %2: number of its colors
 
+// The levels that can carry a color in SolidWorks.  Names stand in a row, and in a sentence in the
+// form that it needs.
+inline constexpr std::int32_t ColorLevels = 250;
+inline constexpr std::int32_t LevelColumn = 251;
+inline constexpr std::int32_t LevelStateColumn = 252;
+inline constexpr std::int32_t LevelIsSeen = 253;
+inline constexpr std::int32_t LevelIsCovered = 254;
+inline constexpr std::int32_t LevelHasNoColor = 255;
+inline constexpr std::int32_t LevelComponent = 256;
+inline constexpr std::int32_t LevelFace = 257;
+inline constexpr std::int32_t LevelFeature = 258;
+inline constexpr std::int32_t LevelBody = 259;
+inline constexpr std::int32_t LevelPart = 260;
+inline constexpr std::int32_t LevelAssembly = 261;
+inline constexpr std::int32_t OfComponent = 262;
+inline constexpr std::int32_t OfFace = 263;
+inline constexpr std::int32_t OfFeature = 264;
+inline constexpr std::int32_t OfBody = 265;
+inline constexpr std::int32_t OfPart = 266;
+inline constexpr std::int32_t OfAssembly = 267;
+inline constexpr std::int32_t OneColorIsSeen = 268;  // %1: of which level
+inline constexpr std::int32_t ColorCoversOne = 269;  // %1: that of which level; %2: that of which
+inline constexpr std::int32_t ColorCoversMore = 270; // %2: those of which, a list
+inline constexpr std::int32_t ListOfLevels = 271;    // %1: all but the last, with commas; %2: it
+inline constexpr std::int32_t NoLevelHasColor = 272;
+inline constexpr std::int32_t OthersInside = 273;
+inline constexpr std::int32_t ModelMissing = 274;
+inline constexpr std::int32_t LevelsChanged = 275;
+inline constexpr std::int32_t NoLevelsRead = 276;
+
 // What the list says while it has no rows.  %1: the name of a sample.
 inline constexpr std::int32_t NoLibraryOpen = 280;
 inline constexpr std::int32_t HintOpen = 281;

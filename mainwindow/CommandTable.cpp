@@ -67,6 +67,16 @@ constexpr MenuRow Operation(int command, const char* name, const char* caption,
     return row;
 }
 
+// Of a button in a window of its own, by the button's number.
+constexpr MenuRow OfButton(int command, CommandHandler run, CommandKind kind = CommandKind::Plain) {
+    return {.command = command,
+            .name = "",
+            .caption = "",
+            .place = MenuKind::Entry,
+            .run = run,
+            .kind = kind};
+}
+
 // What it changes in the libraries is one step.
 constexpr MenuRow Step(MenuRow row) {
     row.isStep = true;
@@ -222,6 +232,9 @@ constexpr std::array kMenuRows = {
                    [](Commands c) { c.solidWorks.mnuSWXGetStandardColor_Click(); })),
     Operation(IDM_mnuSWXSetStandardColor, "mnuSWXSetStandardColor", "Standardfarben setzen",
               [](Commands c) { c.solidWorks.mnuSWXSetStandardColor_Click(); }),
+    Separator(IDM_mnuSWXHR4, "mnuSWXHR4"),
+    Operation(IDM_mnuSWXColorLevels, "mnuSWXColorLevels", "Welche Farbe ist zu sehen ...",
+              [](Commands c) { c.levels.mnuSWXColorLevels_Click(); }),
 
     Title(IDM_mnuOptions, "mnuOptions", "Optionen"),
     Submenu(IDM_mnuOptionsLanguage, "mnuOptionsLanguage", "Sprache"),
@@ -248,6 +261,18 @@ constexpr std::array kMenuRows = {
           [](Commands c) { c.textViewer.Show("lizenz"); }),
 };
 
+constexpr std::array kButtonRows = {
+    OfButton(IDC_cmdTakeLevel, [](Commands c) { c.levels.TakeChosen(); }),
+    OfButton(
+        IDC_cmdClearLevel, [](Commands c) { c.levels.ClearChosen(); }, CommandKind::Operation),
+};
+
+template <typename Rows>
+const MenuRow* RowOf(const Rows& rows, int command) noexcept {
+    const auto row = std::ranges::find(rows, command, &MenuRow::command);
+    return row != rows.end() && row->run != nullptr ? &*row : nullptr;
+}
+
 } // namespace
 
 std::span<const MenuRow> MenuRows() noexcept {
@@ -255,6 +280,6 @@ std::span<const MenuRow> MenuRows() noexcept {
 }
 
 const MenuRow* FindCommand(int command) noexcept {
-    const auto row = std::ranges::find(kMenuRows, command, &MenuRow::command);
-    return row != kMenuRows.end() && row->run != nullptr ? &*row : nullptr;
+    const MenuRow* row = RowOf(kMenuRows, command);
+    return row != nullptr ? row : RowOf(kButtonRows, command);
 }

@@ -56,7 +56,7 @@ struct MenuRow {
 // Menu titles, each followed by its entries, in order.
 [[nodiscard]] std::span<const MenuRow> MenuRows() noexcept;
 
-// The row of an entry; null: the number is none's.
+// The row of an entry, or of a button that has a command and no entry; null: the number is none's.
 [[nodiscard]] const MenuRow* FindCommand(int command) noexcept;
 
 // The keys of the shortcuts that have a name in each language.

@@ -6,6 +6,7 @@
 #include "mainwindow/FileCommands.h"
 #include "mainwindow/FindCommands.h"
 #include "mainwindow/HistoryCommands.h"
+#include "mainwindow/LevelsCommands.h"
 #include "mainwindow/LibraryPanes.h"
 #include "mainwindow/NewNodes.h"
 #include "mainwindow/PaletteCommands.h"
@@ -32,6 +33,7 @@ struct MainCommands {
     ColorEditor& editor;
     ViewCommands& view;
     SolidWorksCommands& solidWorks;
+    LevelsCommands& levels;
     Options& options;
     About& about;
     TextViewer& textViewer;

@@ -76,6 +76,7 @@ void MainWindow::Run(const MenuRow& row) {
 void MainWindow::ShowWhatFollows() {
     parts_.commands.history.ShowEntries();
     parts_.view.list.HintChanged();
+    parts_.commands.levels.FollowLanguage();
 }
 
 void MainWindow::RunStep(const MenuRow& row) {

@@ -1,33 +1,14 @@
 #include "mainwindow/SolidWorksCommands.h"
 
 #include "common/InfoTextNumber.h"
-#include "common/ProgramNames.h"
 #include "solidworks/ResultKey.h"
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
-// In this wording whatever the user's language.
-constexpr const char* kStatusOkay = "Okay setzen in SolidWorks";
-
 constexpr int kFirstEmission = 10;
 constexpr std::ptrdiff_t kFirstMaterialValue = 3;
-
-struct RefusalText {
-    ResultKind kind;
-    std::int32_t textNumber;
-};
-
-constexpr std::array kRefusalTexts = {
-    RefusalText{ResultKind::NoSolidWorks, InfoTextNumber::NoSolidWorks},
-    RefusalText{ResultKind::NoActiveDocument, InfoTextNumber::NoActiveDocument},
-    RefusalText{ResultKind::NoPartOrAssembly, InfoTextNumber::NoPartOrAssembly},
-    RefusalText{ResultKind::RevisionTooLow, InfoTextNumber::RevisionTooLow},
-    RefusalText{ResultKind::NoPart, InfoTextNumber::NoPart},
-    RefusalText{ResultKind::NoAssembly, InfoTextNumber::NoAssembly},
-};
 
 // The material values come from the editor; the emission tells the place in the table, on purpose,
 // and ends where the editor's range does.
@@ -44,29 +25,6 @@ void CompleteStandardColors(std::vector<ColorRecord>& colors, const ColorValueAr
 
 } // namespace
 
-void SolidWorksCommands::ShowMessage(const std::string& text) {
-    if (parts_.activity.endRequested)
-        return;
-    parts_.prompts.ShowMessage(text, MessageStyle::Information,
-                               ProgramNames::SolidWorksMessageTitle);
-}
-
-bool SolidWorksCommands::ReportRefusal(const std::string& resultKey) {
-    const auto refusal =
-        std::ranges::find(kRefusalTexts, KindOfResult(resultKey), &RefusalText::kind);
-    if (refusal == kRefusalTexts.end())
-        return false;
-    ShowMessage(parts_.texts.GetInfoText(refusal->textNumber));
-    return true;
-}
-
-void SolidWorksCommands::Report(const std::string& resultKey) {
-    if (KindOfResult(resultKey) == ResultKind::Okay)
-        parts_.bars.SetInfoPanelText(kStatusOkay);
-    else if (!ReportRefusal(resultKey))
-        ShowMessage(resultKey);
-}
-
 ColorRecord SolidWorksCommands::ColorOfEditor() const {
     ColorRecord color;
     color.name = parts_.editor.Name();
@@ -81,7 +39,7 @@ void SolidWorksCommands::mnuSWXGetColor_Click() {
 bool SolidWorksCommands::ShowSelectedColor() {
     ColorRecord color;
     // No message for the detailed keys, on purpose: the editor then shows the record as handed in.
-    if (ReportRefusal(parts_.tools.SWXGetColor(color)))
+    if (parts_.report.ReportRefusal(parts_.tools.SWXGetColor(color)))
         return false;
     parts_.editor.ShowColorFromSolidWorks(color);
     return true;
@@ -96,27 +54,27 @@ void SolidWorksCommands::NewColorNodeFromSWX() {
 }
 
 void SolidWorksCommands::mnuSWXSetColor_Click() {
-    Report(parts_.tools.SWXSetColor(ColorOfEditor()));
+    parts_.report.Report(parts_.tools.SWXSetColor(ColorOfEditor()));
 }
 
 void SolidWorksCommands::mnuSWXSetColorComponent_Click() {
-    Report(parts_.tools.SWXSetColorComponent(ColorOfEditor()));
+    parts_.report.Report(parts_.tools.SWXSetColorComponent(ColorOfEditor()));
 }
 
 void SolidWorksCommands::mnuSWXClearColorFromSelection_Click() {
-    Report(parts_.tools.SWXClearColor());
+    parts_.report.Report(parts_.tools.SWXClearColor());
 }
 
 void SolidWorksCommands::mnuSWXClearComponentColorFromSelection_Click() {
-    Report(parts_.tools.SWXClearComponentColor());
+    parts_.report.Report(parts_.tools.SWXClearComponentColor());
 }
 
 void SolidWorksCommands::mnuSWXClearColorPart_Click() {
-    Report(parts_.tools.SWXClearColorPart());
+    parts_.report.Report(parts_.tools.SWXClearColorPart());
 }
 
 void SolidWorksCommands::mnuSWXClearColorAssembly_Click() {
-    Report(parts_.tools.SWXClearColorAssembly());
+    parts_.report.Report(parts_.tools.SWXClearColorAssembly());
 }
 
 // The table is read first; meanwhile the user may click on another node or type into the editor,
@@ -127,7 +85,7 @@ void SolidWorksCommands::mnuSWXGetStandardColor_Click() {
     const ColorEditor::Texts shown = parts_.editor.ValueTexts();
     std::vector<ColorRecord> colors;
     const std::string result = parts_.tools.SWXGetStandardColors(colors);
-    if (ReportRefusal(result) || parts_.activity.endRequested)
+    if (parts_.report.ReportRefusal(result) || parts_.activity.endRequested)
         return;
     const bool isStopped = KindOfResult(result) == ResultKind::Stopped;
     if (tree.Selected() != selected && tree.Find(selected)) {
@@ -137,7 +95,7 @@ void SolidWorksCommands::mnuSWXGetStandardColor_Click() {
     if (!isStopped || !colors.empty())
         ImportStandardColors(colors, shown);
     if (isStopped)
-        ShowMessage(result);
+        parts_.report.ShowMessage(result);
 }
 
 void SolidWorksCommands::ImportStandardColors(std::vector<ColorRecord>& colors,
@@ -167,5 +125,5 @@ void SolidWorksCommands::mnuSWXSetStandardColor_Click() {
     std::vector<ColorRecord> colors;
     for (const ColorId color : parts_.list.Rows())
         colors.push_back(table.At(table.IndexOfId(color)));
-    ReportRefusal(parts_.tools.SWXSetStandardColors(colors));
+    parts_.report.ReportRefusal(parts_.tools.SWXSetStandardColors(colors));
 }

@@ -2,14 +2,13 @@
 
 #include "common/ColorRecord.h"
 #include "common/ports/InfoTexts.h"
-#include "common/ports/Prompts.h"
 #include "library/ColorLibrary.h"
 #include "mainwindow/ColorEditor.h"
 #include "mainwindow/ColorList.h"
 #include "mainwindow/LibraryPanes.h"
 #include "mainwindow/NewNodes.h"
-#include "mainwindow/BarsPane.h"
 #include "mainwindow/MainActivity.h"
+#include "mainwindow/OperationReport.h"
 #include "solidworks/modSldTools.h"
 
 #include <string>
@@ -26,10 +25,9 @@ public:
         ColorList& list;
         LibraryPanes& panes;
         ColorEditor& editor;
-        BarsPane& bars;
-        Prompts& prompts;
+        const OperationReport& report;
         InfoTexts& texts;
-        const MainActivity& activity; // when the program is about to end, nothing is told any more
+        const MainActivity& activity;
     };
 
     explicit SolidWorksCommands(const Parts& parts) : parts_(parts) {}
@@ -51,9 +49,6 @@ public:
 
 private:
     bool ShowSelectedColor(); // in the editor; false: refused, and told so
-    void Report(const std::string& resultKey);
-    bool ReportRefusal(const std::string& resultKey);
-    void ShowMessage(const std::string& text);
     [[nodiscard]] ColorRecord ColorOfEditor() const;
     // colors: get the values that the table does not have from the texts of the editor.
     void ImportStandardColors(std::vector<ColorRecord>& colors, const ColorEditor::Texts& editor);

@@ -72,6 +72,14 @@
 #define IDC_cmdCloseFind 1607
 #define IDC_stbarFind 1608
 
+// frmLevels
+#define IDC_lblLevels 1701
+#define IDC_lvLevels 1702
+#define IDC_cmdTakeLevel 1703 // this one and the next are commands, too
+#define IDC_cmdClearLevel 1704
+#define IDC_cmdReadLevels 1705
+#define IDC_cmdCloseLevels 1706
+
 // Menu entries; the number of a command everywhere
 #define IDM_mnuFile 2001
 #define IDM_mnuFileNew 2002
@@ -156,6 +164,8 @@
 #define IDM_mnuEditFindNext 2081
 #define IDM_mnuEditFindPrevious 2082
 #define IDM_mnuViewMaterialPreview 2083
+#define IDM_mnuSWXColorLevels 2084
+#define IDM_mnuSWXHR4 2085
 
 // Icons and pictures
 #define IDI_tnt4swx 1

@@ -18,6 +18,7 @@ constexpr std::array kMeanings = {
     Meaning{ResultKey::NoRequiredSWAPI, ResultKind::RevisionTooLow},
     Meaning{ResultKey::NoPart, ResultKind::NoPart},
     Meaning{ResultKey::NoAssembly, ResultKind::NoAssembly},
+    Meaning{ResultKey::LevelsChanged, ResultKind::LevelsChanged},
     Meaning{ResultKey::ProgressStopped, ResultKind::Stopped},
 };
 

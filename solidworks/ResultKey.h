@@ -16,6 +16,7 @@ inline constexpr const char* NoPart = "NoPart";
 inline constexpr const char* NoPartBody = "NoPartBody";
 inline constexpr const char* NoRequiredSWAPI = "NoRequiredSWAPI";
 inline constexpr const char* ProgressStopped = "ProgressStopped";
+inline constexpr const char* LevelsChanged = "LevelsChanged"; // since the user has seen them
 inline constexpr const char* NoValidColorScheme = "NoValidColorScheme";
 inline constexpr const char* NoValidColorName = "NoValidColorName";
 // Followed by details.
@@ -33,6 +34,7 @@ enum class ResultKind {
     RevisionTooLow,
     NoPart,
     NoAssembly,
+    LevelsChanged,
     Stopped, // by the user
     Other,   // the success of an operation with a key of its own, or a report as it is
 };

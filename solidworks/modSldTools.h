@@ -7,6 +7,7 @@
 #include "common/ports/InfoTexts.h"
 #include "common/ports/ProgressView.h"
 #include "common/ports/Prompts.h"
+#include "solidworks/LevelColors.h"
 
 #include <functional>
 #include <string>
@@ -16,7 +17,7 @@ class SolidWorksSelection;
 class SolidWorksSession;
 class WalkProgress;
 
-// The nine operations on the running SolidWorks.  Each attaches anew, checks the active document,
+// The operations on the running SolidWorks.  Each attaches anew, checks the active document,
 // does its work and returns a result key (ResultKey).  Only the attachment is guarded: every later
 // call that fails throws RuntimeError.
 class modSldTools {
@@ -62,6 +63,15 @@ public:
 
     // Writes red, green and blue into the color table, entry by entry, where the names agree.
     std::string SWXSetStandardColors(const std::vector<ColorRecord>& colors);
+
+    // Reads the levels of the first selected object, or those of the document when nothing is
+    // selected; there are none unless the result is ResultKey::ColorRead.
+    std::string SWXReadLevels(LevelColors& colors);
+
+    // Takes the color off one level, which must be one that can be cleared.  colors: the levels as
+    // the user has seen them.  They are read anew before; when they are other ones by now, nothing
+    // is cleared (ResultKey::LevelsChanged).  At the end they are those that were read last.
+    std::string SWXClearLevel(LevelKind kind, LevelColors& colors);
 
 private:
     void ClearSelectedObject(const SolidWorksSession& session, const SolidWorksSelection& selection,

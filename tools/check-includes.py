@@ -56,6 +56,7 @@ ROOMS_BELOW = {
 # The form joins its panes and the toolkit.
 ROOMS_OF_FILES = {"mainwindow/frmMain": ("platform", "mainwindow/panes"),
                   "mainwindow/frmFind": ("platform", "mainwindow/panes"),
+                  "mainwindow/frmLevels": ("platform", "mainwindow/panes"),
                   "mainwindow/frmRecover": ("platform",)}
 # What a room must not know of the rooms that it may include.  The library asks nobody and shows
 # nothing: it takes what it needs and gives results.

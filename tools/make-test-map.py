@@ -25,7 +25,8 @@ SUBJECTS = (
     "Tree and list views", "Empty list", "Names for screen readers",
     "Active-color editor", "Editing commands", "Layout, bars and views", "SolidWorks session",
     "Color from and to the selection", "Clearing colors", "Standard color table",
-    "Color mathematics", "Foreign palettes", "Console program", "Finding colors",
+    "Which color is seen", "Color mathematics", "Foreign palettes", "Console program",
+    "Finding colors",
     "Stand-in for SolidWorks", "Toolkit", "Tools and packages",
 )
 SUBJECT = re.compile(r"^(?://|#) Rules: (.+)$", re.MULTILINE)

@@ -132,6 +132,25 @@ public:
     int shown = 0;
 };
 
+class FakeLevels : public FakeWindowOf<LevelsView> {
+public:
+    FakeLevels() : FakeWindowOf("frmLevels", {0, 0, 9000, 4000}) {}
+
+    void SetColumnCaptions(const LevelCells& texts) override { columns = texts; }
+    void ShowRows(const std::vector<LevelRow>& newRows, int row) override {
+        rows = newRows;
+        selectedRow = row;
+    }
+    void ShowSentence(const std::string& text) override { sentence = text; }
+    void ShowModeless() override { ++shown; }
+
+    LevelCells columns;
+    std::vector<LevelRow> rows;
+    int selectedRow = -1;
+    std::string sentence;
+    int shown = 0;
+};
+
 // The whole program on fakes, with the stand-in's model as the running SolidWorks.  The language
 // file of both languages is there: its message texts are their numbers in angle brackets; for the
 // descriptions of errors, which have arguments, it has none.
@@ -150,7 +169,7 @@ public:
             const bool hasArguments = (number >= 110 && number < 150) ||
                                       (number >= 170 && number < 174) || number == 181 ||
                                       number == 189 || (number >= 205 && number < 209) ||
-                                      number == 284;
+                                      (number >= 268 && number < 272) || number == 284;
             if (hasArguments)
                 continue;
             for (const char* code : {"de", "us"})
@@ -199,6 +218,8 @@ public:
     FakeOnDemand<RecoverView> recoverWindow{recover};
     FakeFind find;
     FakeOnDemand<FindView> findWindow{find};
+    FakeLevels levels;
+    FakeOnDemand<LevelsView> levelsWindow{levels};
     FakeRunningCopies copies;
     FakeBackgroundWork background;
     FakeFormWindow progressWindow{"frmProgress"};
@@ -209,7 +230,7 @@ public:
         {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
          language, errors, calendar, files, copies, background},
         {view.View(), mainWindow, mainForm, aboutWindow, textViewerWindow, progress, progressWindow,
-         progressForm, recoverWindow, findWindow},
+         progressForm, recoverWindow, findWindow, levelsWindow},
         {"C:\\prog",
          "1.2.7",
          {"https://www.example.org/1", "https://www.example.org/2", "https://www.example.org/3"},

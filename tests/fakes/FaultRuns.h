@@ -15,7 +15,8 @@ struct FaultyCommand {
     int number;                                            // of the command
     std::function<void(const StandInClient&)> select = {}; // what is selected in SolidWorks
     std::function<void(FakeProgram&)> prepare = {};        // what the user has done before
-    std::string typed = {}; // what the user answers when asked for a text
+    std::string typed = {};                     // what the user answers when asked for a text
+    std::function<void(FakeProgram&)> run = {}; // instead of the command alone
 };
 
 // The whole program on fakes with a library of one group, worked through its commands.  Errors are
@@ -39,14 +40,18 @@ public:
     }
 
     // Runs the command; what the user sees of its end: "status" (the text of success), a message
-    // as "note: TEXT", an error as "error: TEXT", or "nothing".
+    // as "note: TEXT", an error as "error: TEXT", the levels that the window for them shows as
+    // "levels: ...", or "nothing".
     std::string Run() {
         program.prompts.messages.clear();
         program.prompts.typed = {command_.typed};
         program.view.infoPanel.clear();
         program.progress.calls.clear();
         try {
-            program.Main().frame.RunCommand(command_.number);
+            if (command_.run)
+                command_.run(program);
+            else
+                program.Main().frame.RunCommand(command_.number);
         } catch (const RuntimeError& error) {
             program.errors.ReportError(error);
         }
@@ -70,15 +75,23 @@ public:
 
 private:
     [[nodiscard]] std::string Seen() const {
-        if (!program.view.infoPanel.empty())
-            return "status";
-        std::string seen;
+        std::string seen = program.view.infoPanel.empty() ? "" : "status";
         for (const FakePrompts::Message& message : program.prompts.messages) {
             const bool isError = message.style == 48;
             const std::string prefix = isError ? "<3>\r\n" : "";
             seen += (isError ? "error: " : "note: ") + message.prompt.substr(prefix.size());
         }
+        seen += SeenLevels();
         return seen.empty() ? "nothing" : seen;
+    }
+    [[nodiscard]] std::string SeenLevels() const {
+        std::string seen;
+        for (const LevelRow& row : program.levels.rows) {
+            seen += seen.empty() ? "levels:" : ",";
+            for (const std::string& cell : row.cells)
+                seen += cell.empty() ? "" : " " + cell;
+        }
+        return seen;
     }
 
     FaultyCommand command_;

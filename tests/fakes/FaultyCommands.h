@@ -22,6 +22,17 @@ inline void AComponent(const StandInClient& client) {
     client.Child(0)->Invoke("Select", {true});
 }
 
+inline void AFaceOfAComponent(const StandInClient& client) {
+    client.Child(0)
+        ->Get("GetModelDoc")
+        .AsObject()
+        ->Get("Body")
+        .AsObject()
+        ->Get("GetFirstFace")
+        .AsObject()
+        ->Invoke("Select", {true});
+}
+
 } // namespace FaultySelection
 
 // What the user has done before a command: the table as a group, as it is, and then changed.
@@ -42,11 +53,28 @@ inline void WithOneMore(FakeProgram& program) {
 
 } // namespace FaultyGroup
 
-// The ten commands, with what makes each of them do all that it does.
+// The window of levels: reads them, and then has the color of the first one cleared.  Each has a
+// color again before.
+namespace FaultyLevels {
+
+inline constexpr MaterialValues kColor{0.2, 0.4, 0.6, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6};
+
+inline void ReadAndClear(FakeProgram& program) {
+    program.solidWorks.Part().FaceAt(0)->SetColor(kColor);
+    program.solidWorks.Part().FeatureAt(0)->SetColor(kColor);
+    program.solidWorks.Assembly().Root()->Children().front()->SetColor(kColor);
+    program.Main().frame.RunCommand(IDM_mnuSWXColorLevels);
+    program.application.LevelsWindowEvents().ClearClicked(0);
+}
+
+} // namespace FaultyLevels
+
+// All commands, with what makes each of them do all that it does.
 [[nodiscard]] inline std::vector<FaultyCommand> FaultyCommands() {
     using namespace FaultySelection;
     using namespace FaultyGroup;
     const char* const table = "standard-colors=1";
+    const auto clear = FaultyLevels::ReadAndClear;
     return {
         {"GetColor", "default", IDM_mnuSWXGetColor, AFace},
         {"GetColorOfTheDocument", "default", IDM_mnuSWXGetColor},
@@ -69,6 +97,14 @@ inline void WithOneMore(FakeProgram& program) {
         {"SetStandardColor", table, IDM_mnuSWXSetStandardColor, {}, AsTheTable},
         {"SetStandardColorOfAnotherName", table, IDM_mnuSWXSetStandardColor, {}, WithAnotherName},
         {"SetStandardColorOfAnotherSize", table, IDM_mnuSWXSetStandardColor, {}, WithOneMore},
+        {"ColorLevels", "default", IDM_mnuSWXColorLevels, AFace},
+        {"ColorLevelsOfTheDocument", "default", IDM_mnuSWXColorLevels},
+        {"ColorLevelsOfAFeature", "default", IDM_mnuSWXColorLevels, AFeature},
+        {"ColorLevelsOfAComponent", "assembly", IDM_mnuSWXColorLevels, AComponent},
+        {"ColorLevelsOfAFaceOfAComponent", "assembly", IDM_mnuSWXColorLevels, AFaceOfAComponent},
+        {"ClearLevelOfAFace", "default", IDM_mnuSWXColorLevels, AFaceAndAFeature, {}, {}, clear},
+        {"ClearLevelOfAFeature", "default", IDM_mnuSWXColorLevels, AFeature, {}, {}, clear},
+        {"ClearLevelOfAComponent", "assembly", IDM_mnuSWXColorLevels, AComponent, {}, {}, clear},
     };
 }
 

@@ -3,6 +3,7 @@
 #include "platform/Win32Files.h"
 #include "platform/Win32PrivateProfile.h"
 #include "mainwindow/frmFind.h"
+#include "mainwindow/frmLevels.h"
 #include "mainwindow/frmRecover.h"
 #include "support/language/clsMultiLanguage.h"
 #include "support/windows/frmAbout.h"
@@ -105,7 +106,8 @@ protected:
     frmProgress progress{form.Handle(), errors, clock};
     frmRecover recover{form.Handle(), errors};
     frmFind find{form.Handle(), errors};
-    std::vector<LocalizableForm*> forms{&form, &about, &progress, &recover, &find};
+    frmLevels levels{form.Handle(), errors};
+    std::vector<LocalizableForm*> forms{&form, &about, &progress, &recover, &find, &levels};
 };
 
 Keys Without(const Keys& left, const Keys& right) {

@@ -3,6 +3,7 @@
 #include "app/Application.h"
 #include "common/WorkerThread.h"
 #include "mainwindow/frmFind.h"
+#include "mainwindow/frmLevels.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/frmRecover.h"
 #include "platform/SilenceAtScopeEnd.h"
@@ -51,6 +52,7 @@ public:
         progress.Attach(application.ProgressWindowEvents());
         recover.Attach(application.RecoverWindowEvents());
         find.Attach(application.FindWindowEvents());
+        levels.Attach(application.LevelsWindowEvents());
     }
 
     // The address of a banner picture, from 1.
@@ -98,6 +100,7 @@ public:
     frmRecover recover{main.Handle(), errors};
     FakeOnDemand<RecoverView> recoverWindow{recover};
     FindOnDemand find{main.Handle(), errors};
+    LevelsOnDemand levels{main.Handle(), errors};
     Win32Folders folders;
     FakeRunningCopies copies;
     WorkerThread background;
@@ -105,7 +108,7 @@ public:
                              automation, retry, language, errors, calendar, folders, copies,
                              background},
                             {main.View(), main, main, about, textViewerWindow, progress, progress,
-                             progress, recoverWindow, find},
+                             progress, recoverWindow, find, levels},
                             {folder, "1.0.0", BannerAddresses(banners.Count()), folder,
                              folder + "\\recovery", historyBytes}};
     SilenceAtScopeEnd silence{main};

@@ -1,5 +1,6 @@
 // Rules: Auxiliary windows
 #include "mainwindow/frmFind.h"
+#include "mainwindow/frmLevels.h"
 #include "mainwindow/frmRecover.h"
 #include "standin/com/frmStandIn.h"
 #include "standin/model/StandInContract.h"
@@ -171,6 +172,24 @@ TEST_F(Repaint, Find) {
         return PictureAfter(find.Handle(), sizes);
     };
     ExpectSameWayOrNot(show, {700, 400}, {{600, 300}, {1200, 900}, {440, 270}});
+}
+
+TEST_F(Repaint, Levels) {
+    const auto show = [this](const Sizes& sizes) {
+        frmLevels levels(nullptr, errors);
+        levels.SetColumnCaptions(
+            {"Level", "State", "R", "G", "B", "Amb", "Dif", "Spe", "Shi", "Tra", "Emi"});
+        levels.ShowSentence("The color of the component covers those of the face and the part.  "
+                            "What has a color of its own in it shows that one, wherever it is.");
+        levels.ShowRows({{{"Component", "seen", "192"}, 0x4080C0, true},
+                         {{"Face", "no color"}, {}, false},
+                         {{"Part", "covered", "1"}, 0x203040, false}},
+                        0);
+        Resize(levels.Handle(), sizes.front());
+        ShowWindow(levels.Handle(), SW_SHOW);
+        return PictureAfter(levels.Handle(), sizes);
+    };
+    ExpectSameWayOrNot(show, {700, 400}, {{640, 300}, {1200, 900}, {650, 270}});
 }
 
 TEST_F(Repaint, StandIn) {
