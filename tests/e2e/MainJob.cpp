@@ -26,6 +26,9 @@ void MainJob::Work() {
         Report().Step("make a new color from the face", [this] { MakeColorFromFace(); });
         Report().Step("set the color on two faces", [this] { SetColorOnTwoFaces(); });
         Report().Step("set the color on a component", [this] { SetColorOnComponent(); });
+        Report().Step("see which color is seen", [this] { SeeWhichColorIsSeen(); });
+        Report().Step("clear the color that is seen", [this] { ClearSeenColor(); });
+        Report().Step("read the levels of a face", [this] { ReadLevelsOfAFace(); });
         Report().Step("save the library", [this] { SaveLibrary(); });
         Report().Step("open the library again", [this] { ReopenLibrary(); });
         Report().Step("end both programs", [this] { EndPrograms(); });

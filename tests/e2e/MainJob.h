@@ -32,12 +32,16 @@ private:
     void MakeColorFromFace();
     void SetColorOnTwoFaces();
     void SetColorOnComponent();
+    void SeeWhichColorIsSeen();
+    void ClearSeenColor();
+    void ReadLevelsOfAFace();
     void SaveLibrary();
     void ReopenLibrary();
     void EndPrograms();
 
     static void ArrangeWindows(const RemoteWindow& main, const RemoteWindow& standIn);
     void CheckGroup(std::size_t root, const LibraryGroup& group);
+    void CheckLevels(const std::vector<Row>& levelsAndStates);
     void CheckValuesSent(const std::vector<std::string>& puts);
     [[nodiscard]] std::string ReadLibraryFile() const;
     [[nodiscard]] std::vector<double> ValuesAsSent() const;
@@ -45,6 +49,7 @@ private:
     std::string libraryPath_;
     std::string logPath_;
     CallLog log_;
+    RemoteWindow levels_;
     StandInReader reader_;
     std::vector<LibraryGroup> library_; // what the program must hold
 };

@@ -4,6 +4,7 @@
 
 #include "common/Numbers.h"
 #include "resources/controls.h"
+#include "tests/e2e/RealInput.h"
 #include "tests/e2e/RemoteDialogs.h"
 
 namespace {
@@ -122,4 +123,72 @@ void MainJob::SetColorOnComponent() {
     CheckValuesSent(puts);
     Report().CheckEqual("values of the component", reader_.ComponentValues("Cover-1"),
                         ValuesAsSent());
+}
+
+// The window lies over both programs: it goes to where nothing is clicked.
+void MainJob::SeeWhichColorIsSeen() {
+    PostMessageW(Main().Window().Handle(), WM_COMMAND, IDM_mnuSWXColorLevels, 0);
+    DWORD process = 0;
+    GetWindowThreadProcessId(Main().Window().Handle(), &process);
+    levels_ = RemoteWindow::WaitFor(L"frmLevels", process);
+    const RECT main = Main().Window().Bounds();
+    const RECT place = levels_.Bounds();
+    levels_.Place(main.right - (place.right - place.left), main.top, place.right - place.left,
+                  place.bottom - place.top);
+    CheckLevels({{"Component", "seen"}, {"Body", "no color"}, {"Part", "covered"}});
+    Report().CheckEqual("sentence", levels_.Child(IDC_lblLevels).Text(),
+                        std::string("The color of the component covers that of the part."));
+    Row shown = RemoteList(levels_.Child(IDC_lvLevels)).ReadRow(0);
+    shown.erase(shown.begin(), shown.begin() + 2);
+    Report().CheckEqual("values of the component", shown, Main().ValueTexts());
+}
+
+// By keyboard, from the list.
+void MainJob::ClearSeenColor() {
+    Report().CheckBecomes(
+        "the list has the focus",
+        [this] { return levels_.FocusedChild() == levels_.Child(IDC_lvLevels).Handle(); }, true);
+    log_.Mark();
+    RealInput::PressWithAlt('E');
+    CheckLevels({{"Component", "no color"}, {"Body", "no color"}, {"Part", "seen"}});
+    Report().CheckEqual("calls that clear", log_.NewLinesWith("RemoveMaterialProperty").size(),
+                        std::size_t{1});
+    Report().CheckEqual("values of the component", reader_.ComponentValues("Cover-1"),
+                        std::vector<double>());
+    Report().CheckEqual("status bar", Main().InfoText(), std::string(kStatusOkay));
+}
+
+// Another selection; the window reads it when it is told to.  Enter takes the color that is seen.
+void MainJob::ReadLevelsOfAFace() {
+    StandIn().ClickObject("Face 2 of Screw-2");
+    Report().CheckBecomes(
+        "selected in the stand-in", [this] { return StandIn().SelectedObjects(); },
+        std::vector<std::string>{"Face 2 of Screw-2"});
+    RealInput::Click(levels_.Child(IDC_cmdReadLevels).Centre());
+    CheckLevels({{"Component", "seen"},
+                 {"Face", "no color"},
+                 {"Feature", "no color"},
+                 {"Body", "no color"},
+                 {"Part", "covered"}});
+    RealInput::PressKey(VK_F5);
+    const std::vector<double> values = reader_.ComponentValues("Screw-2");
+    RealInput::Click(levels_.Child(IDC_cmdTakeLevel).Centre());
+    Report().CheckBecomes(
+        "values of the editor", [this] { return Main().ValueTexts(); }, TextsOf(values));
+    Report().CheckEqual("name in the editor", Main().ColorName(), std::string(kNameFromSolidWorks));
+    RealInput::PressKey(VK_ESCAPE);
+    Report().CheckBecomes(
+        "the window is gone", [this] { return levels_.IsVisible(); }, false);
+}
+
+void MainJob::CheckLevels(const std::vector<Row>& levelsAndStates) {
+    Report().CheckBecomes(
+        "levels",
+        [this] {
+            std::vector<Row> rows = RemoteList(levels_.Child(IDC_lvLevels)).ReadRows();
+            for (Row& row : rows)
+                row.resize(2);
+            return rows;
+        },
+        levelsAndStates);
 }

@@ -23,12 +23,20 @@ AutomationObjectPtr StandInReader::ActiveDocument() {
     return application->Get("ActiveDoc").AsObject();
 }
 
-std::vector<double> StandInReader::FaceValues(int face) {
+AutomationObjectPtr StandInReader::FaceAt(int face) {
     AutomationObjectPtr object =
         ActiveDocument()->Get("Body").AsObject()->Get("GetFirstFace").AsObject();
     for (int i = 1; i < face; ++i)
         object = object->Get("GetNextFace").AsObject();
-    return ValuesOf(*object);
+    return object;
+}
+
+std::vector<double> StandInReader::FaceValues(int face) {
+    return ValuesOf(*FaceAt(face));
+}
+
+void StandInReader::SelectFace(int face) {
+    FaceAt(face)->Invoke("Select", {false});
 }
 
 std::vector<double> StandInReader::ComponentValues(const std::string& name) {

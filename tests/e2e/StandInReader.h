@@ -13,6 +13,8 @@ class StandInReader {
 public:
     // face: from 1, in the order in which the part's body gives its faces.
     [[nodiscard]] std::vector<double> FaceValues(int face);
+    // The same face becomes what is selected.
+    void SelectFace(int face);
 
     // The values of a direct component of the active assembly; empty when it has none of its own.
     [[nodiscard]] std::vector<double> ComponentValues(const std::string& name);
@@ -22,6 +24,7 @@ public:
 
 private:
     [[nodiscard]] AutomationObjectPtr ActiveDocument();
+    [[nodiscard]] AutomationObjectPtr FaceAt(int face);
 
     ComApartment apartment_;
     Win32WaitingClock clock_;

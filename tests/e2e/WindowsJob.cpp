@@ -39,9 +39,17 @@ void WindowsJob::Work() {
     Report().Step("go to the next hit by F3", [this] { GoToNextHit(); });
     Report().Step("find like the active color", [this] { FindLikeActiveColor(); });
     Report().Step("a larger window that finds", [this] { GrowFind(); });
+    Report().Step("select a face", [this] { SelectFace(); });
+    Report().Step("which color is seen",
+                  [this] { SeeLevels("Which color is seen", "The color of the part is seen."); });
+    Report().Step("a larger window that tells it", [this] { GrowLevels(); });
     Report().Step("change over to German", [this] { SpeakGerman(); });
     Report().Step("find in German", [this] { FindInGerman(); });
     Report().Step("close it by Escape again", [this] { CloseFind(); });
+    Report().Step("which color is seen, in German", [this] {
+        SeeLevels("Welche Farbe ist zu sehen", "Zu sehen ist die Farbe des Teils.");
+    });
+    Report().Step("close it by Escape, too", [this] { CloseLevels(); });
     Report().Step("about in German", [this] { OpenAbout("&Systeminfo ..."); });
     Report().Step("close About by Escape again", [this] { CloseAbout(); });
     Report().Step("viewer in German",
@@ -238,6 +246,39 @@ void WindowsJob::CloseFind() {
         [this] { return find_.FocusedChild() == find_.Child(IDC_txtFind).Handle(); }, true);
     RealInput::PressKey(VK_ESCAPE);
     CheckGone(find_);
+}
+
+// Through automation: the window of the stand-in is covered.
+void WindowsJob::SelectFace() {
+    reader_.SelectFace(2);
+}
+
+void WindowsJob::SeeLevels(const std::string& caption, const std::string& sentence) {
+    Choose(IDM_mnuSWXColorLevels);
+    levels_ = Wait(L"frmLevels");
+    Report().CheckBecomes(
+        "caption", [this] { return levels_.Title(); }, caption);
+    Report().CheckBecomes(
+        "sentence", [this] { return levels_.Child(IDC_lblLevels).Text(); }, sentence);
+    Report().CheckEqual("levels", RemoteList(levels_.Child(IDC_lvLevels)).RowCount(), 4);
+    Report().CheckBecomes(
+        "it is painted", [this] { return levels_.IsPainted(); }, true);
+}
+
+void WindowsJob::GrowLevels() {
+    const RECT place = levels_.Bounds();
+    levels_.Place(kMargin, place.top, place.right - kMargin, GetSystemMetrics(SM_CYSCREEN) / 2);
+    Report().CheckBecomes(
+        "it is painted", [this] { return levels_.IsPainted(); }, true);
+}
+
+void WindowsJob::CloseLevels() {
+    Choose(IDM_mnuSWXColorLevels);
+    Report().CheckBecomes(
+        "the list has the focus",
+        [this] { return levels_.FocusedChild() == levels_.Child(IDC_lvLevels).Handle(); }, true);
+    RealInput::PressKey(VK_ESCAPE);
+    CheckGone(levels_);
 }
 
 void WindowsJob::Choose(int command) {

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "tests/e2e/Job.h"
+#include "tests/e2e/StandInReader.h"
 
 #include <string>
 #include <vector>
 
-// Opens About window, text viewer, progress window, the list of kept libraries and the window that
-// finds colors in both languages and works and closes them by keyboard alone, so that their
-// pictures can be looked at.
+// Opens About window, text viewer, progress window, the list of kept libraries, the window that
+// finds colors and the one that tells which is seen in both languages and works and closes them by
+// keyboard alone, so that their pictures can be looked at.
 class WindowsJob : public Job {
 public:
     using Job::Job;
@@ -37,6 +38,10 @@ private:
     void GrowFind();
     void FindInGerman();
     void CloseFind();
+    void SelectFace();
+    void SeeLevels(const std::string& caption, const std::string& sentence);
+    void GrowLevels();
+    void CloseLevels();
     void CheckHits(const std::vector<RemoteList::Row>& rows);
     void Choose(int command);
     [[nodiscard]] RemoteWindow Wait(const wchar_t* className) const; // of the program
@@ -47,5 +52,7 @@ private:
     RemoteWindow progress_;
     RemoteWindow recover_;
     RemoteWindow find_;
+    RemoteWindow levels_;
+    StandInReader reader_;
     LRESULT nodesBefore_ = 0; // the list of kept libraries was opened
 };
