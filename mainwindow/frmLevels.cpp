@@ -12,8 +12,11 @@ namespace {
 
 // Design pixels.
 constexpr int kBesideRows = 26; // scroll bar and edges of the list
-constexpr int kState = 100;     // width of its column
-constexpr int kValue = 42;      // width of the column of a value
+
+// Shares of the list's width, in percent: the state, and each value.
+constexpr int kStateShare = 16;
+constexpr int kValueShare = 7;
+constexpr int kWhole = 100;
 
 constexpr int kFirstValueColumn = 3;
 
@@ -144,11 +147,13 @@ void frmLevels::Read() {
         events_->ReadClicked();
 }
 
-// A level without a color has an empty frame.
+// A level without a color has none: an empty frame would look white.
 void frmLevels::PaintSwatch(const ListView::PicturePlace& place) const {
+    const auto color = rows_.at(static_cast<std::size_t>(place.row)).color;
+    if (!color)
+        return;
     const Canvas canvas(place.device, Font());
-    if (const auto color = rows_.at(static_cast<std::size_t>(place.row)).color)
-        canvas.Fill(place.square, *color);
+    canvas.Fill(place.square, *color);
     canvas.Frame(place.square, GetSysColor(COLOR_3DSHADOW), 1);
 }
 
@@ -179,13 +184,12 @@ void frmLevels::OnLayout() {
     FitColumns();
 }
 
-// The name of the level gets what the others leave.
+// All grow with the window; the name of the level gets what the others leave.
 void frmLevels::FitColumns() {
-    const int state = Scale().FromDesign(kState);
-    const int value = Scale().FromDesign(kValue);
-    const int rest = WidthOf(lvLevels_.Bounds()) - Scale().FromDesign(kBesideRows) - state -
-                     value * static_cast<int>(kColorValueCount);
-    lvLevels_.SetColumnWidth(1, std::max(value, rest));
+    const int width = std::max(0, WidthOf(lvLevels_.Bounds()) - Scale().FromDesign(kBesideRows));
+    const int state = width * kStateShare / kWhole;
+    const int value = width * kValueShare / kWhole;
+    lvLevels_.SetColumnWidth(1, width - state - value * static_cast<int>(kColorValueCount));
     lvLevels_.SetColumnWidth(2, state);
     for (int column = kFirstValueColumn; column <= static_cast<int>(kLevelColumns); ++column)
         lvLevels_.SetColumnWidth(column, value);

@@ -178,7 +178,7 @@ void MainJob::ReadLevelsOfAFace() {
     Report().CheckEqual("name in the editor", Main().ColorName(), std::string(kNameFromSolidWorks));
     RealInput::PressKey(VK_ESCAPE);
     Report().CheckBecomes(
-        "the window is gone", [this] { return levels_.IsVisible(); }, false);
+        "the window is shown", [this] { return levels_.IsVisible(); }, false);
 }
 
 void MainJob::CheckLevels(const std::vector<Row>& levelsAndStates) {
