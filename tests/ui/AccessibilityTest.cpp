@@ -1,6 +1,7 @@
 // Rules: Names for screen readers
 // Every control of every window has a name and a role in both languages.
 #include "mainwindow/frmFind.h"
+#include "mainwindow/frmLevels.h"
 #include "mainwindow/frmRecover.h"
 #include "platform/ComApartment.h"
 #include "platform/Utf16.h"
@@ -98,6 +99,12 @@ TEST_P(Accessibility, Find) {
     frmFind find(form.Handle(), errors);
     find.SetStatus("12 of 3,400 colors");
     ExpectNamesInLanguage(find);
+}
+
+TEST_P(Accessibility, Levels) {
+    frmLevels levels(form.Handle(), errors);
+    levels.ShowSentence("The color of the part is seen.");
+    ExpectNamesInLanguage(levels);
 }
 
 TEST_P(Accessibility, StandIn) {
