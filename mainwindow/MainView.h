@@ -32,7 +32,7 @@ public:
     virtual void EscapePressed() = 0;
     virtual void FilesDropped(const std::vector<std::string>& paths) = 0;
     virtual void SampleChosen(const std::string& path) = 0; // offered by the list's hint
-    virtual void WindowClosing() = 0; // close box
+    virtual void WindowClosing() = 0;                       // close box
     virtual void SessionEnding() = 0; // the user's session ends, and with it the process
     virtual void SecondPassed() = 0;
 };
