@@ -81,7 +81,8 @@ private:
             const std::string prefix = isError ? "<3>\r\n" : "";
             seen += (isError ? "error: " : "note: ") + message.prompt.substr(prefix.size());
         }
-        seen += SeenLevels();
+        const std::string levels = SeenLevels();
+        seen += (seen.empty() || levels.empty() ? "" : " ") + levels;
         return seen.empty() ? "nothing" : seen;
     }
     [[nodiscard]] std::string SeenLevels() const {
