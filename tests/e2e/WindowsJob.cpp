@@ -33,7 +33,7 @@ void WindowsJob::Work() {
     Report().Step("stop by Enter", [this] { Stop(); });
     Report().Step("recover", [this] { OpenRecover("&Delete ..."); });
     Report().Step("close it by Escape", [this] { CloseRecover(VK_ESCAPE, 0); });
-    Report().Step("open a sample", [this] { OpenSample(); });
+    Report().Step("open a sample from the empty list", [this] { OpenSample(); });
     Report().Step("find while typing", [this] { Find(); });
     Report().Step("go to a hit by Enter", [this] { GoToHit(); });
     Report().Step("go to the next hit by F3", [this] { GoToNextHit(); });
@@ -167,8 +167,18 @@ void WindowsJob::CloseRecover(WORD key, LRESULT newNodes) {
 }
 
 void WindowsJob::OpenSample() {
-    CopySample("materials.tnt");
-    OpenFromMenu(File("materials.tnt"));
+    constexpr int kTitle = 1; // numbers of the list's lines, from the top
+    constexpr int kFirstSample = 5;
+    const RemoteWindow list = Main().Window().Child(IDC_lvColor);
+    Report().CheckEqual("empty list", list.Child(kTitle).Text(),
+                        std::string("No library is open."));
+    const RemoteWindow link = list.Child(kFirstSample);
+    Report().CheckEqual("link", link.Text(), std::string("Open the sample: materials"));
+    link.Click();
+    Report().CheckBecomes(
+        "status bar", [this] { return Main().InfoText(); }, "Okay materials.tnt");
+    Report().CheckBecomes(
+        "the lines are gone", [link] { return link.IsVisible(); }, false);
 }
 
 void WindowsJob::Find() {
