@@ -46,7 +46,8 @@ std::vector<HintLine> EmptyListHint::LinesOfLibrary() const {
     return {{.text = Text(InfoTextNumber::LibraryIsEmpty, "Diese Bibliothek hat keine Gruppen.")},
             {.text = Text(InfoTextNumber::HintNewGroup, "Neue Gruppe anlegen ..."),
              .command = IDM_mnuColorNewGroup},
-            {.text = Text(InfoTextNumber::HintImportGroups, "Farbpalette importieren ..."),
+            {.text = Text(InfoTextNumber::HintImportGroups,
+                          "Farbpalette in die Bibliothek importieren ..."),
              .command = IDM_mnuFileImportGroups}};
 }
 
@@ -54,9 +55,9 @@ std::vector<HintLine> EmptyListHint::LinesOfGroup() const {
     return {{.text = Text(InfoTextNumber::GroupIsEmpty, "Diese Gruppe hat noch keine Farben.")},
             {.text = Text(InfoTextNumber::HintNewColor, "Neue Farbe anlegen ..."),
              .command = IDM_mnuColorNewColor},
-            {.text = Text(InfoTextNumber::HintPickUp, "Neue Farbe aus SolidWorks übernehmen"),
+            {.text = Text(InfoTextNumber::HintPickUp, "Neue Farbe aus SolidWorks holen"),
              .command = IDM_mnuSWXNewColorUpdate},
             {.text = Text(InfoTextNumber::HintPaste,
-                          "Kopierte Farben lassen sich einfügen (Strg+V); gezogene Farben "
+                          "Mit Strg+V lassen sich kopierte Farben einfügen. Gezogene Farben "
                           "nimmt die Gruppe im Baum auf.")}};
 }

@@ -6,6 +6,7 @@
 #include "solidworks/ResultKey.h"
 #include "support/settings/modWindowsHandling.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -91,7 +92,17 @@ void LevelsCommands::ShowLevels() {
     for (std::size_t index = 0; index < colors_.levels.size(); ++index)
         rows.push_back(RowOf(colors_.levels[index], texts_.CellsOf(colors_, index)));
     view->ShowSentence(texts_.SentenceOf(colors_));
-    view->ShowRows(rows, rows.empty() ? -1 : static_cast<int>(colors_.Seen().value_or(0)));
+    view->ShowRows(rows, rows.empty() ? -1 : static_cast<int>(RowToSelect().value_or(0)));
+}
+
+// The seen one; after a command of a row that row, so that the same key again clears no other one.
+std::optional<std::size_t> LevelsCommands::RowToSelect() const {
+    const auto chosen = std::ranges::find_if(colors_.levels, [this](const LevelColor& level) {
+        return chosen_ && level.kind == chosen_->kind;
+    });
+    if (chosen == colors_.levels.end())
+        return colors_.Seen();
+    return static_cast<std::size_t>(chosen - colors_.levels.begin());
 }
 
 void LevelsCommands::RunOn(int row, int command) {

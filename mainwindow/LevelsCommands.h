@@ -58,6 +58,7 @@ private:
     [[nodiscard]] std::string Run(const Operation& operation);
     void Open();
     void ShowLevels();
+    [[nodiscard]] std::optional<std::size_t> RowToSelect() const;
     void RunOn(int row, int command);
 
     Parts parts_;

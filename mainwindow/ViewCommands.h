@@ -9,8 +9,7 @@
 
 #include <map>
 
-// The view menu: which bars are shown, which editor, and how list
-// and editor show colors.  A switch
+// The view menu: which bars are shown, which editor, and how list and editor show colors.  A switch
 // flips its entry's check mark first; the window and the setting follow the mark.
 class ViewCommands {
 public:

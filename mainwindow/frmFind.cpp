@@ -1,5 +1,6 @@
 #include "mainwindow/frmFind.h"
 
+#include "mainwindow/panes/FieldBorder.h"
 #include "mainwindow/panes/MainBars.h"
 #include "mainwindow/panes/NodeImages.h"
 #include "platform/Canvas.h"
@@ -90,7 +91,7 @@ void frmFind::Attach(FindEvents& events) {
     lvFind_.PaintPictures([this, &events](const ListView::PicturePlace& place) {
         const Canvas canvas(place.device, Font());
         canvas.Fill(place.square, events.ColorOfRow(place.row));
-        canvas.Frame(place.square, GetSysColor(COLOR_3DSHADOW), 1);
+        canvas.Frame(place.square, FieldBorderColor(), 1);
     });
     lvFind_.onClick = [&events](int row) { events.RowSelected(row); };
 }

@@ -1,5 +1,6 @@
 #include "mainwindow/frmLevels.h"
 
+#include "mainwindow/panes/FieldBorder.h"
 #include "mainwindow/panes/NodeImages.h"
 #include "platform/Canvas.h"
 #include "platform/controls/ListLayout.h"
@@ -154,7 +155,7 @@ void frmLevels::PaintSwatch(const ListView::PicturePlace& place) const {
         return;
     const Canvas canvas(place.device, Font());
     canvas.Fill(place.square, *color);
-    canvas.Frame(place.square, GetSysColor(COLOR_3DSHADOW), 1);
+    canvas.Frame(place.square, FieldBorderColor(), 1);
 }
 
 void frmLevels::OnCloseBox() {

@@ -143,9 +143,7 @@ MessageResult ListHint::OnMessage(const WindowMessage& message) {
     const auto sender = reinterpret_cast<HWND>(message.lParam);
     switch (message.id) {
     case WM_COMMAND:
-        for (const auto& labels : labels_)
-            if (labels->link && labels->link->Handle() == sender)
-                labels->link->OnCommand(message.wParam);
+        Clicked(sender, message.wParam);
         return {};
     case WM_CTLCOLORSTATIC:
         return ColorsOf(sender, reinterpret_cast<HDC>(message.wParam));
@@ -160,11 +158,27 @@ MessageResult ListHint::OnMessage(const WindowMessage& message) {
     }
 }
 
-MessageResult ListHint::ColorsOf(HWND label, HDC device) const {
-    const bool isOwn = std::ranges::any_of(labels_, [label](const auto& labels) {
-        return labels->text && labels->text->Handle() == label;
+// A click on a link may be what brings other lines: nothing of it is looked at afterwards.  One on
+// a text is one on the list.
+void ListHint::Clicked(HWND label, WPARAM code) {
+    const auto link = std::ranges::find_if(labels_, [label](const auto& labels) {
+        return labels->link && labels->link->Handle() == label;
     });
-    if (!isOwn)
+    if (link != labels_.end())
+        (*link)->link->OnCommand(code);
+    else if (HIWORD(code) == STN_CLICKED && IsLabel(label))
+        list_.Focus();
+}
+
+bool ListHint::IsLabel(HWND window) const noexcept {
+    return std::ranges::any_of(labels_, [window](const auto& labels) {
+        return (labels->text && labels->text->Handle() == window) ||
+               (labels->link && labels->link->Handle() == window);
+    });
+}
+
+MessageResult ListHint::ColorsOf(HWND label, HDC device) const {
+    if (!IsLabel(label))
         return {};
     SetTextColor(device, GetSysColor(COLOR_WINDOWTEXT));
     SetBkColor(device, GetSysColor(COLOR_WINDOW));

@@ -37,6 +37,8 @@ public:
     // The list's messages that are the hint's: of its labels, and the arrow keys.
     MessageResult OnMessage(const WindowMessage& message);
 
+    [[nodiscard]] bool IsLabel(HWND window) const noexcept; // one of its lines
+
     std::function<void(int line)> onLink; // from 0; it was clicked
 
 private:
@@ -49,6 +51,7 @@ private:
     [[nodiscard]] Label& LabelOf(std::size_t line) const;
     [[nodiscard]] SIZE SizeOf(std::size_t line, int width) const;
     [[nodiscard]] int Gap(std::size_t line) const noexcept;
+    void Clicked(HWND label, WPARAM code);
     MessageResult ColorsOf(HWND label, HDC device) const;
     bool FocusLink(std::ptrdiff_t line, int step);
     void LeaveList() const;

@@ -408,6 +408,8 @@ MessageResult ListView::OnMessage(const WindowMessage& message) {
     case WM_CONTEXTMENU:
         if (message.lParam == -1) // the keyboard's menu key
             OpenContextMenu(message);
+        else if (hint_.IsLabel(reinterpret_cast<HWND>(message.wParam)))
+            Raise(onContextMenu, PointOf(message)); // of the screen
         return 0;
     default:
         return {};

@@ -176,7 +176,7 @@ void WindowsJob::OpenSample() {
     Report().CheckEqual("link", link.Text(), std::string("Open the sample: materials"));
     link.Click();
     Report().CheckBecomes(
-        "status bar", [this] { return Main().InfoText(); }, "Okay materials.tnt");
+        "status bar", [this] { return Main().InfoText(); }, std::string("Okay materials.tnt"));
     Report().CheckBecomes(
         "the lines are gone", [link] { return link.IsVisible(); }, false);
 }

@@ -4,8 +4,13 @@
 
 #include "resources/controls.h"
 #include "tests/fakes/FakeProgram.h"
+#include "tests/fakes/LibraryOnFakes.h"
+#include "tests/fakes/SourceFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
 
 namespace {
 
@@ -119,6 +124,36 @@ TEST_F(EmptyListHintTest, NoSampleIsOpenedWhileAnOperationRuns) {
     Run(IDM_mnuSWXClearColorPart);
     EXPECT_GT(program.events.count, 0);
     EXPECT_EQ(program.view.nodes.count("1D"), 0U);
+}
+
+class BuiltInTexts : public InfoTexts {
+public:
+    std::string GetInfoText(std::int32_t) override { return {}; }
+    std::string GetInfoTextOr(std::int32_t, const std::string& builtIn) override { return builtIn; }
+};
+
+// Without a language file the words are the German ones, and not others.
+TEST(EmptyListHintTexts, BuiltInWordsAreThoseOfTheGermanFile) {
+    std::ifstream file(SourceFolder() + "/resources/language/tntlng_de.ini", std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    std::string german = FakeCodePage::Western().Decode(bytes);
+    std::erase(german, '\r');
+    BuiltInTexts builtIn;
+    FakeFiles files;
+    files.contents["C:\\samples\\%1.tnt"] = "";
+    LibraryOnFakes onFakes;
+    ColorLibrary& library = onFakes.library;
+    const EmptyListHint hint({library, builtIn, files, "C:\\samples"});
+    const auto expectInFile = [&] {
+        for (const HintLine& line : hint.HintLines())
+            EXPECT_NE(german.find("=" + line.text + "\n"), std::string::npos) << line.text;
+    };
+    expectInFile();
+    const std::string key = library.NewMainNode("A");
+    library.Tree().Select(key);
+    expectInFile();
+    library.Tree().Select(library.NewGroupNode(key, "B"));
+    expectInFile();
 }
 
 } // namespace

@@ -176,10 +176,22 @@ TEST_F(LevelsCommandsTest, ClearedLevelIsShownWithoutAColorAndTheNextOneIsSeen) 
     Window().ClearClicked(0);
     EXPECT_FALSE(Part().FaceAt(0)->Color());
     EXPECT_EQ(States(), (Texts{kNoColor, kNoColor, kNoColor, kSeen}));
-    EXPECT_EQ(program.levels.selectedRow, 3);
+    EXPECT_EQ(program.levels.selectedRow, 0) << "the same key again clears no other level";
+    EXPECT_FALSE(program.levels.rows[0].canBeCleared);
     EXPECT_EQ(program.view.infoPanel, "Okay setzen in SolidWorks");
     EXPECT_EQ(program.prompts.messages, std::vector<Message>{});
     EXPECT_EQ(program.levels.shown, 1) << "the window is not brought to the front";
+}
+
+// The levels are all that can be compared.
+TEST_F(LevelsCommandsTest, OfTwoObjectsWithEqualLevelsTheOneThatIsSelectedNowIsCleared) {
+    const MaterialOverride color = Part().FaceAt(0)->Color();
+    Part().FaceAt(1)->SetColor(color);
+    Read();
+    Part().FaceAt(1)->Select(false);
+    Window().ClearClicked(0);
+    EXPECT_FALSE(Part().FaceAt(1)->Color());
+    EXPECT_EQ(Part().FaceAt(0)->Color(), color);
 }
 
 TEST_F(LevelsCommandsTest, NothingIsClearedWhenSomethingElseIsSelectedByNow) {

@@ -91,6 +91,48 @@ TEST_F(ListHintForm, ClickOnALinkRunsItsCommandOrOpensItsFile) {
     EXPECT_EQ(events.lines, Texts{"sample C:\\samples\\a.tnt"});
 }
 
+TEST_F(ListHintForm, ClickMayBringMoreLinesThanThereWere) {
+    events.hintLines.resize(2);
+    ShowHint();
+    events.onCommand = [this](int) {
+        for (int line = 0; line < 6; ++line)
+            events.hintLines.push_back({.text = "one more", .command = IDM_mnuFileNew});
+        view.list.HintChanged();
+    };
+    Click(Labels().at(1), {2, 2});
+    EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuFileOpen});
+    EXPECT_EQ(Shown().size(), 8U);
+}
+
+TEST_F(ListHintForm, ClickOnATextGivesTheListTheFocus) {
+    ShowHint();
+    SetFocus(Child(IDC_tvColor));
+    Click(Labels().front(), {2, 2});
+    EXPECT_EQ(GetFocus(), List());
+}
+
+TEST_F(ListHintForm, GrowsWithTheResolution) {
+    ShowHint();
+    const auto height = [this](std::size_t line) {
+        const RECT place = PlaceOf(Labels().at(line));
+        return place.bottom - place.top;
+    };
+    const LONG before = height(1);
+    RECT bounds{};
+    GetWindowRect(form.Handle(), &bounds);
+    bounds.right += (bounds.right - bounds.left) / 2;
+    SendMessageW(form.Handle(), WM_DPICHANGED, MAKEWPARAM(192, 192),
+                 reinterpret_cast<LPARAM>(&bounds));
+    PumpMessages();
+    EXPECT_NEAR(height(1), 2 * before, 3);
+    EXPECT_EQ(Shown().size(), 4U);
+    const RECT first = PlaceOf(Labels().front());
+    RECT client{};
+    GetClientRect(List(), &client);
+    EXPECT_GT(first.left, 0);
+    EXPECT_LT(PlaceOf(Labels().back()).bottom, client.bottom);
+}
+
 TEST_F(ListHintForm, ArrowKeysGoFromLinkToLinkAndEnterTakesOne) {
     ShowHint();
     SetFocus(List());
