@@ -8,6 +8,8 @@
 #include "support/windows/frmTxtView.h"
 #include "tests/fakes/FakeWaitingClock.h"
 #include "tests/ui/GuiObjects.h"
+#include "platform/ComApartment.h"
+#include "tests/ui/AccessibleNames.h"
 #include "tests/ui/MainFormTest.h"
 #include "tests/ui/MessageCounter.h"
 
@@ -582,6 +584,19 @@ TEST_F(InputBoxes, PresetIsSelectedAndThePromptIsShown) {
         EXPECT_EQ(end, 10U);
         EXPECT_EQ(GetFocus(), FindChild(box, InputBoxControls::Input));
         EXPECT_EQ(TextOf(FindChild(box, InputBoxControls::Prompt)), L"Name der neuen Farbe:");
+        PostMessageW(box, WM_CLOSE, 0, 0);
+    });
+}
+
+TEST_F(InputBoxes, ControlsAreAnnounced) {
+    const ComApartment apartment;
+    Ask([](HWND box) {
+        const std::vector<AccessibleControl> controls = AccessibleControlsOf(box);
+        EXPECT_GE(controls.size(), 4U);
+        for (const AccessibleControl& control : controls) {
+            EXPECT_NE(control.name, "") << control.id << " " << control.type;
+            EXPECT_NE(control.role, "") << control.id << " " << control.type;
+        }
         PostMessageW(box, WM_CLOSE, 0, 0);
     });
 }
