@@ -89,12 +89,10 @@ std::string LevelTexts::WhichIsSeen(const LevelColors& colors) const {
 // "the face, the feature and the part".  kinds: one at least.
 std::string LevelTexts::ListOf(const std::vector<LevelKind>& kinds) const {
     std::string list = Text(NamesOf(kinds.front()).inSentence);
-    for (std::size_t index = 1; index < kinds.size(); ++index) {
-        const std::string next = Text(NamesOf(kinds[index]).inSentence);
-        const bool isLast = index + 1 == kinds.size();
-        list = isLast
-                   ? WithArguments(Text({InfoTextNumber::ListOfLevels, "%1 und %2"}), {list, next})
-                   : list + ", " + next;
-    }
-    return list;
+    for (std::size_t index = 1; index + 1 < kinds.size(); ++index)
+        list.append(", ").append(Text(NamesOf(kinds[index]).inSentence));
+    if (kinds.size() == 1)
+        return list;
+    return WithArguments(Text({InfoTextNumber::ListOfLevels, "%1 und %2"}),
+                         {list, Text(NamesOf(kinds.back()).inSentence)});
 }

@@ -54,7 +54,7 @@ void LevelsCommands::ClearChosen() {
 std::string LevelsCommands::Run(const Operation& operation) {
     LevelColors colors = std::exchange(colors_, {});
     try {
-        const std::string result = operation(colors);
+        std::string result = operation(colors);
         colors_ = std::move(colors);
         ShowLevels();
         return result;
