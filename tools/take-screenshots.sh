@@ -47,6 +47,11 @@ if [[ $docs == yes ]]; then
     play 96 windows "$pictures"
     shrink "$pictures/14-find-like-the-active-color.png" docs/images/find-en.png \
         -gravity North -crop x420+0+0 +repage -resize '900x>'
+    shrink "$pictures/01-start-the-programs.png" docs/images/empty-en.png -resize '900x>'
+    shrink "$pictures"/*-which-color-is-seen.png docs/images/levels-en.png -resize '900x>'
+    views=build/screenshots/views-96
+    cp "$views"/*-colors-in-large-icons.png docs/images/colors-de.png
+    cp "$views"/*-material-preview.png docs/images/preview-de.png
     cp docs/images/views-96/06-large-editor.png docs/images/main-en.png
     cp docs/images/views-96/07-large-editor-in-German.png docs/images/main-de.png
 fi
