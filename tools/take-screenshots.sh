@@ -40,18 +40,18 @@ done
 if [[ $docs == yes ]]; then
     pictures=$PWD/build/screenshots/tour
     play 96 main "$pictures"
-    for step in 06:1-edit 07:2-get 09:3-set 10:4-component; do
+    for step in 06:1-edit 07:2-get 09:3-set 10:4-component 11:5-levels; do
         shrink "$pictures/${step%%:*}"-*.png "docs/images/tour-${step#*:}.png" -resize '900x>'
     done
     pictures=$PWD/build/screenshots/windows
     play 96 windows "$pictures"
     shrink "$pictures/14-find-like-the-active-color.png" docs/images/find-en.png \
         -gravity North -crop x420+0+0 +repage -resize '900x>'
-    shrink "$pictures/01-start-the-programs.png" docs/images/empty-en.png -resize '900x>'
-    shrink "$pictures"/*-which-color-is-seen.png docs/images/levels-en.png -resize '900x>'
+    shrink "$pictures/01-start-the-programs.png" docs/images/empty-en.png \
+        -gravity Center -crop 640x330+0+0 +repage
     views=build/screenshots/views-96
-    cp "$views"/*-colors-in-large-icons.png docs/images/colors-de.png
-    cp "$views"/*-material-preview.png docs/images/preview-de.png
+    cp "$views"/*-colors-in-large-icons.png docs/images/tour-6-colors-de.png
+    cp "$views"/*-material-preview.png docs/images/tour-7-preview-de.png
     cp docs/images/views-96/06-large-editor.png docs/images/main-en.png
     cp docs/images/views-96/07-large-editor-in-German.png docs/images/main-de.png
 fi

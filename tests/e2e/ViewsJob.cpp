@@ -125,6 +125,7 @@ POINT ViewsJob::PointOfBall() const {
 // The ball is lit, so that its color is not known; the band below it has the plain one.
 void ViewsJob::PreviewMaterial() {
     ShowEditor(true);
+    RealInput::MoveTo(Field().Centre()); // the tip of the tree goes
     Report().CheckBecomes(
         "plain color", [this] { return Field().ColorAt(PointOfBall()); }, gold_);
     PostMessageW(Main().Window().Handle(), WM_COMMAND, IDM_mnuViewMaterialPreview, 0);
