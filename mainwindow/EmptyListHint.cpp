@@ -6,6 +6,7 @@
 #include "resources/controls.h"
 
 #include <algorithm>
+#include <iterator>
 
 std::vector<HintLine> EmptyListHint::HintLines() const {
     const LibraryTree& tree = parts_.library.Tree();
@@ -25,21 +26,23 @@ std::vector<HintLine> EmptyListHint::LinesWithoutLibrary() const {
          .command = IDM_mnuFileNew},
         {.text = Text(InfoTextNumber::HintImport, "Farbpalette importieren ..."),
          .command = IDM_mnuFileImport}};
-    AddSamples(lines);
+    std::ranges::move(Samples(), std::back_inserter(lines));
     lines.push_back(
         {.text = Text(InfoTextNumber::HintDropFiles, "Dateien lassen sich auch hierher ziehen.")});
     return lines;
 }
 
-void EmptyListHint::AddSamples(std::vector<HintLine>& lines) const {
+std::vector<HintLine> EmptyListHint::Samples() const {
     std::vector<std::string> names = parts_.folders.FileNamesIn(parts_.sampleFolder);
     std::erase_if(names, [](const std::string& name) { return !HasExtension(name, ".tnt"); });
     std::ranges::sort(names);
     names.resize(std::min(names.size(), kMostSamples));
     const std::string text = Text(InfoTextNumber::HintSample, "Beispiel öffnen: %1");
+    std::vector<HintLine> lines;
     for (const std::string& name : names)
         lines.push_back({.text = WithArguments(text, {FileNameStem(name)}),
                          .file = parts_.sampleFolder + "\\" + name});
+    return lines;
 }
 
 std::vector<HintLine> EmptyListHint::LinesOfLibrary() const {

@@ -29,7 +29,7 @@ private:
     [[nodiscard]] std::vector<HintLine> LinesWithoutLibrary() const;
     [[nodiscard]] std::vector<HintLine> LinesOfLibrary() const;
     [[nodiscard]] std::vector<HintLine> LinesOfGroup() const;
-    void AddSamples(std::vector<HintLine>& lines) const;
+    [[nodiscard]] std::vector<HintLine> Samples() const;
     // builtIn: German words, for language files that do not have the text.
     [[nodiscard]] std::string Text(std::int32_t number, const char* builtIn) const {
         return parts_.texts.GetInfoTextOr(number, builtIn);

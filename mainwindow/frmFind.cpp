@@ -60,11 +60,8 @@ frmFind::frmFind(HWND owner, ErrorSink& errors)
       cmdClose_(Add<CommandButton>(At("cmdCloseFind", IDC_cmdCloseFind))),
       stbarFind_(Add<StatusBar>(At("stbarFind", IDC_stbarFind))),
       nameFound_("nameFound", "Gefundene Farben",
-                 [this](const std::string& text) { lvFind_.SetText(text); }),
-      nameActiveColor_("nameActiveColor", "Aktive Farbe",
-                       [this](const std::string& text) { lblLikeActive_.SetText(text); }) {
+                 [this](const std::string& text) { lvFind_.SetText(text); }) {
     AddDesigned(nameFound_);
-    AddDesigned(nameActiveColor_);
     lvFind_.SetText("Gefundene Farben");
     lblLikeActive_.SetText("Aktive Farbe"); // painted in its ground's color: announced, not seen
     lblFind_.SetText("&Suchen nach:");

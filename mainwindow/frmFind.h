@@ -67,7 +67,6 @@ private:
     CommandButton& cmdClose_;
     StatusBar& stbarFind_;
     HiddenCaption nameFound_;
-    HiddenCaption nameActiveColor_;
 };
 
 using FindOnDemand = FormOnDemand<frmFind, FindView, FindEvents>;

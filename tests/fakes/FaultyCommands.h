@@ -22,10 +22,14 @@ inline void AComponent(const StandInClient& client) {
     client.Child(0)->Invoke("Select", {true});
 }
 
+inline AutomationObjectPtr ModelOfAComponent(const StandInClient& client) {
+    return client.Child(0)->Get("GetModelDoc").AsObject();
+}
+inline void AFeatureOfAComponent(const StandInClient& client) {
+    ModelOfAComponent(client)->Get("FirstFeature").AsObject()->Invoke("Select", {true});
+}
 inline void AFaceOfAComponent(const StandInClient& client) {
-    client.Child(0)
-        ->Get("GetModelDoc")
-        .AsObject()
+    ModelOfAComponent(client)
         ->Get("Body")
         .AsObject()
         ->Get("GetFirstFace")
@@ -53,18 +57,22 @@ inline void WithOneMore(FakeProgram& program) {
 
 } // namespace FaultyGroup
 
-// The window of levels: reads them, and then has the color of the first one cleared.  Each has a
-// color again before.
+// The window of levels: reads them, and then has the color of a row's level cleared.  Each has a
+// color again before, and for the second row the user selects the face again: a clear of its
+// feature that fails may leave that one selected.
 namespace FaultyLevels {
 
 inline constexpr MaterialValues kColor{0.2, 0.4, 0.6, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6};
 
-inline void ReadAndClear(FakeProgram& program) {
+template <int Row>
+void ReadAndClear(FakeProgram& program) {
     program.solidWorks.Part().FaceAt(0)->SetColor(kColor);
+    if (Row == 1)
+        program.solidWorks.Part().FaceAt(0)->Select(false);
     program.solidWorks.Part().FeatureAt(0)->SetColor(kColor);
     program.solidWorks.Assembly().Root()->Children().front()->SetColor(kColor);
     program.Main().frame.RunCommand(IDM_mnuSWXColorLevels);
-    program.application.LevelsWindowEvents().ClearClicked(0);
+    program.application.LevelsWindowEvents().ClearClicked(Row);
 }
 
 } // namespace FaultyLevels
@@ -74,7 +82,8 @@ inline void ReadAndClear(FakeProgram& program) {
     using namespace FaultySelection;
     using namespace FaultyGroup;
     const char* const table = "standard-colors=1";
-    const auto clear = FaultyLevels::ReadAndClear;
+    const auto clear = FaultyLevels::ReadAndClear<0>;
+    const auto clearSecond = FaultyLevels::ReadAndClear<1>;
     return {
         {"GetColor", "default", IDM_mnuSWXGetColor, AFace},
         {"GetColorOfTheDocument", "default", IDM_mnuSWXGetColor},
@@ -103,6 +112,23 @@ inline void ReadAndClear(FakeProgram& program) {
         {"ColorLevelsOfAComponent", "assembly", IDM_mnuSWXColorLevels, AComponent},
         {"ColorLevelsOfAFaceOfAComponent", "assembly", IDM_mnuSWXColorLevels, AFaceOfAComponent},
         {"ClearLevelOfAFace", "default", IDM_mnuSWXColorLevels, AFaceAndAFeature, {}, {}, clear},
+        {"ColorLevelsOfAnAssembly", "assembly", IDM_mnuSWXColorLevels},
+        {"ColorLevelsOfAFeatureOfAComponent", "assembly", IDM_mnuSWXColorLevels,
+         AFeatureOfAComponent},
+        {"ClearLevelOfTheFeatureOfAFace",
+         "default",
+         IDM_mnuSWXColorLevels,
+         AFace,
+         {},
+         {},
+         clearSecond},
+        {"ClearLevelOfTheComponentOfAFace",
+         "assembly",
+         IDM_mnuSWXColorLevels,
+         AFaceOfAComponent,
+         {},
+         {},
+         clear},
         {"ClearLevelOfAFeature", "default", IDM_mnuSWXColorLevels, AFeature, {}, {}, clear},
         {"ClearLevelOfAComponent", "assembly", IDM_mnuSWXColorLevels, AComponent, {}, {}, clear},
     };
