@@ -39,6 +39,7 @@ std::vector<HintLine> EmptyListHint::Samples() const {
     names.resize(std::min(names.size(), kMostSamples));
     const std::string text = Text(InfoTextNumber::HintSample, "Beispiel öffnen: %1");
     std::vector<HintLine> lines;
+    lines.reserve(names.size());
     for (const std::string& name : names)
         lines.push_back({.text = WithArguments(text, {FileNameStem(name)}),
                          .file = parts_.sampleFolder + "\\" + name});

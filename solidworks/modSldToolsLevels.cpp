@@ -22,8 +22,8 @@ std::optional<ColorValueArray> ColorOf(AutomationObject* object, const char* mem
 
 void Add(LevelColors& colors, LevelKind kind, AutomationObject* object,
          const char* member = ColorSources::kValues) {
-    LevelColor level{.kind = kind, .values = ColorOf(object, member)};
-    colors.levels.push_back(std::move(level));
+    const LevelColor level{.kind = kind, .values = ColorOf(object, member)};
+    colors.levels.push_back(level);
 }
 
 void AddDocument(LevelColors& colors, AutomationObject& document, bool isAssembly) {

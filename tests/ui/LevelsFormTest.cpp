@@ -246,6 +246,31 @@ TEST_F(LevelsForm, ColumnsFillTheListAndShowTheirTexts) {
     }
 }
 
+// German captions and states are the longest; the smallest window is the narrowest one.
+TEST_F(LevelsForm, NoTextIsCutInTheSmallestWindowAtAnyResolution) {
+    window.SetColumnCaptions(
+        {"Ebene", "Zustand", "R", "G", "B", "Amb", "Dif", "Spe", "Shi", "Tra", "Emi"});
+    window.ShowRows({{{"Komponente", "keine Farbe", "255", "255", "255", "100", "100", "100", "100",
+                       "100", "100"},
+                      kRowColor,
+                      true}},
+                    0);
+    for (const int dpi : {96, 120, 144, 192}) {
+        RECT bounds{0, 0, 10, 10};
+        SendMessageW(window.Handle(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi),
+                     reinterpret_cast<LPARAM>(&bounds));
+        PumpMessages();
+        for (int column = 0; column < static_cast<int>(kLevelColumns); ++column) {
+            std::array<wchar_t, 64> text{};
+            ListView_GetItemText(List(), 0, column, text.data(), static_cast<int>(text.size()));
+            const int picture = column == 0 ? 20 * dpi / 96 : 0;
+            EXPECT_LE(ListView_GetStringWidth(List(), text.data()) + picture,
+                      ListView_GetColumnWidth(List(), column))
+                << ToUtf8(text.data()) << " at " << dpi;
+        }
+    }
+}
+
 TEST_F(LevelsForm, SmallestWindowHoldsAllItsFields) {
     Resize(10, 10);
     RECT area{};

@@ -68,8 +68,9 @@ struct MenuStay {
     bool wasLate = false; // it had to be closed, because the step did not
 };
 
-// Opens the menu of a control and takes a step, once, while it is open.
-MenuStay TakeStepInMenu(HWND control, std::function<void()> stepToTake) {
+// Opens the menu of a control, by its key or at a point of the screen, and takes a step, once,
+// while it is open.
+MenuStay TakeStepInMenu(HWND control, std::function<void()> stepToTake, LPARAM at = -1) {
     static std::function<void()> step;
     static std::chrono::steady_clock::time_point deadline;
     static MenuStay stay;
@@ -83,7 +84,7 @@ MenuStay TakeStepInMenu(HWND control, std::function<void()> stepToTake) {
         if (stay.wasLate)
             EndMenu();
     });
-    SendMessageW(control, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(control), -1);
+    SendMessageW(control, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(control), at);
     KillTimer(nullptr, timer);
     return stay;
 }
@@ -111,6 +112,21 @@ TEST_F(MainMenu, EndOfTheSessionAndTheCloseBoxAreReportedWhileAMenuIsOpen) {
     EXPECT_TRUE(stay.wasOpen);
     EXPECT_FALSE(stay.wasLate);
     EXPECT_EQ(reported, (std::vector<std::string>{"closing", "session ending"}));
+}
+
+TEST_F(MainMenu, RightClickOnALineOfTheEmptyListOpensTheMenuOfColors) {
+    events.hintLines = {{.text = "Nothing is open."}, {.text = "Open", .command = IDM_mnuFileOpen}};
+    form.ShowWindow();
+    view.list.RowsChanged(0);
+    for (const int line : {1, 2}) {
+        const HWND label = GetDlgItem(Child(IDC_lvColor), line);
+        ASSERT_NE(label, nullptr);
+        const MenuStay stay = TakeStepInMenu(
+            label, [] { EndMenu(); }, MAKELPARAM(200, 200));
+        EXPECT_TRUE(stay.wasOpen) << line;
+        EXPECT_FALSE(stay.wasLate) << line;
+    }
+    EXPECT_TRUE(events.commands.empty());
 }
 
 TEST_F(MainMenu, UnknownNumberRunsNothing) {
