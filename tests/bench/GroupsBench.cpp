@@ -1,3 +1,4 @@
+#include "tests/bench/Median.h"
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32EventPump.h"
 #include "resources/controls.h"
@@ -54,12 +55,6 @@ double LoadTime(const ScratchFolder& folder, const std::string& name, int groups
     if (nodes != groups + 1)
         throw std::runtime_error("The library was not read");
     return time;
-}
-
-double Median(std::vector<double> times) {
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
 }
 
 void Run(int groups, int repetitions) {

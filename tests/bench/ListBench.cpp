@@ -1,3 +1,4 @@
+#include "tests/bench/Median.h"
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32EventPump.h"
 #include "resources/controls.h"
@@ -43,12 +44,6 @@ std::string Library(int colors) {
         text += "\"\r\n";
     }
     return text;
-}
-
-double Median(std::vector<double> times) {
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
 }
 
 class Bench {

@@ -1,3 +1,4 @@
+#include "tests/bench/Median.h"
 #include "platform/Win32AnsiCodePage.h"
 #include "platform/Win32EventPump.h"
 #include "resources/controls.h"
@@ -23,12 +24,6 @@ using Clock = std::chrono::steady_clock;
 using Milliseconds = std::chrono::duration<double, std::milli>;
 
 constexpr int kMoved[] = {2, 4, 7}; // blue, diffuse, transparency
-
-double Median(std::vector<double> times) {
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
-}
 
 class Bench {
 public:

@@ -1,3 +1,4 @@
+#include "tests/bench/Median.h"
 #include "mainwindow/ColorList.h"
 #include "platform/Utf16.h"
 #include "platform/Win32TextCollation.h"
@@ -26,12 +27,6 @@ struct Row {
     const char* name;
     std::vector<double> times; // milliseconds, one for each repetition
 };
-
-double Median(std::vector<double> times) {
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
-}
 
 void Time(Row& row, const std::function<void()>& work) {
     const auto begin = Clock::now();

@@ -1,3 +1,4 @@
+#include "tests/bench/Median.h"
 #include "platform/Handles.h"
 #include "platform/KernelHandle.h"
 #include "platform/Utf16.h"
@@ -29,12 +30,6 @@ struct Phase {
     std::vector<double>
         times; // milliseconds since the process was started, one for each repetition
 };
-
-double Median(std::vector<double> times) {
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
-}
 
 // The screen as it was before the program was started.
 class ScreenPicture {

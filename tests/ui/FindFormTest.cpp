@@ -3,7 +3,7 @@
 
 #include "mainwindow/frmFind.h"
 #include "platform/Utf16.h"
-#include "tests/ui/MainFormTest.h"
+#include "tests/ui/ListFormTest.h"
 #include "tests/ui/WindowPicture.h"
 
 #include <algorithm>
@@ -39,7 +39,7 @@ public:
     mutable int cellsAsked = 0;
 };
 
-class FindForm : public MainFormTest {
+class FindForm : public ListFormTest<frmFind, IDC_lvFind> {
 protected:
     FindForm() {
         window.Attach(recorded);
@@ -48,38 +48,9 @@ protected:
         PumpMessages();
     }
 
-    // A key that goes the way of the program's message loop.
-    void Press(WPARAM key) {
-        MSG down{GetFocus(), WM_KEYDOWN, key, 0, 0, {}};
-        if (!window.TranslateKeys(down))
-            SendMessageW(down.hwnd, WM_KEYDOWN, key, 0);
-    }
     void Type(const wchar_t* text) {
         for (; *text != L'\0'; ++text)
             SendMessageW(Inside(IDC_txtFind), WM_CHAR, *text, 1);
-    }
-    void PressButton(int id) const { SendMessageW(Inside(id), BM_CLICK, 0, 0); }
-    void DoubleClick(int row) const {
-        NMITEMACTIVATE click{};
-        click.hdr = {List(), IDC_lvFind, static_cast<UINT>(NM_DBLCLK)};
-        click.iItem = row;
-        SendMessageW(window.Handle(), WM_NOTIFY, IDC_lvFind, reinterpret_cast<LPARAM>(&click));
-    }
-    [[nodiscard]] HWND Inside(int id) const { return FindChild(window.Handle(), id); }
-    [[nodiscard]] HWND List() const { return Inside(IDC_lvFind); }
-    [[nodiscard]] RECT PlaceOf(int id) const {
-        RECT place{};
-        GetWindowRect(Inside(id), &place);
-        MapWindowPoints(nullptr, window.Handle(), reinterpret_cast<POINT*>(&place), 2);
-        return place;
-    }
-    [[nodiscard]] std::string Cell(int row, int column) const {
-        std::array<wchar_t, 64> text{};
-        ListView_GetItemText(List(), row, column, text.data(), static_cast<int>(text.size()));
-        return ToUtf8(text.data());
-    }
-    [[nodiscard]] int SelectedRow() const {
-        return ListView_GetNextItem(List(), -1, LVNI_SELECTED);
     }
     [[nodiscard]] int ColumnCount() const {
         return static_cast<int>(SendMessageW(ListView_GetHeader(List()), HDM_GETITEMCOUNT, 0, 0));
@@ -90,13 +61,8 @@ protected:
             width += ListView_GetColumnWidth(List(), column);
         return width;
     }
-    void Resize(int width, int height) const {
-        SetWindowPos(window.Handle(), nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
-        PumpMessages();
-    }
 
     RecordingFindEvents recorded;
-    frmFind window{form.Handle(), errors};
 };
 
 TEST_F(FindForm, OpensWithTheFocusInTheTextAndAllOfItSelected) {

@@ -4,7 +4,7 @@
 #include "mainwindow/frmLevels.h"
 #include "platform/Utf16.h"
 #include "resources/controls.h"
-#include "tests/ui/MainFormTest.h"
+#include "tests/ui/ListFormTest.h"
 #include "tests/ui/WindowPicture.h"
 
 #include <algorithm>
@@ -39,7 +39,7 @@ const std::vector<LevelRow> kRows{RowWith("Component", "seen", true),
                                   {{"Face", "no color"}, {}, false},
                                   RowWith("Part", "covered", false)};
 
-class LevelsForm : public MainFormTest {
+class LevelsForm : public ListFormTest<frmLevels, IDC_lvLevels> {
 protected:
     LevelsForm() {
         window.Attach(recorded);
@@ -51,43 +51,7 @@ protected:
         PumpMessages();
     }
 
-    // A key that goes the way of the program's message loop.
-    void Press(WPARAM key) {
-        MSG down{GetFocus(), WM_KEYDOWN, key, 0, 0, {}};
-        if (!window.TranslateKeys(down))
-            SendMessageW(down.hwnd, WM_KEYDOWN, key, 0);
-    }
-    void PressButton(int id) const { SendMessageW(Inside(id), BM_CLICK, 0, 0); }
-    void DoubleClick(int row) const {
-        NMITEMACTIVATE click{};
-        click.hdr = {List(), IDC_lvLevels, static_cast<UINT>(NM_DBLCLK)};
-        click.iItem = row;
-        SendMessageW(window.Handle(), WM_NOTIFY, IDC_lvLevels, reinterpret_cast<LPARAM>(&click));
-    }
-    [[nodiscard]] HWND Inside(int id) const { return FindChild(window.Handle(), id); }
-    [[nodiscard]] HWND List() const { return Inside(IDC_lvLevels); }
-    [[nodiscard]] bool IsEnabled(int id) const { return IsWindowEnabled(Inside(id)) != FALSE; }
-    [[nodiscard]] RECT PlaceOf(int id) const {
-        RECT place{};
-        GetWindowRect(Inside(id), &place);
-        MapWindowPoints(nullptr, window.Handle(), reinterpret_cast<POINT*>(&place), 2);
-        return place;
-    }
-    [[nodiscard]] std::string Cell(int row, int column) const {
-        std::array<wchar_t, 64> text{};
-        ListView_GetItemText(List(), row, column, text.data(), static_cast<int>(text.size()));
-        return ToUtf8(text.data());
-    }
-    [[nodiscard]] int SelectedRow() const {
-        return ListView_GetNextItem(List(), -1, LVNI_SELECTED);
-    }
-    void Resize(int width, int height) const {
-        SetWindowPos(window.Handle(), nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
-        PumpMessages();
-    }
-
     RecordingLevelsEvents recorded;
-    frmLevels window{form.Handle(), errors};
 };
 
 TEST_F(LevelsForm, OpensWithTheFocusInTheListAndTheGivenRowSelected) {

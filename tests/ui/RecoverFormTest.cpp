@@ -3,7 +3,7 @@
 
 #include "mainwindow/frmRecover.h"
 #include "platform/Utf16.h"
-#include "tests/ui/MainFormTest.h"
+#include "tests/ui/ListFormTest.h"
 
 #include <array>
 #include <commctrl.h>
@@ -39,7 +39,7 @@ const Rows& TwoRows() {
     return rows;
 }
 
-class RecoverForm : public MainFormTest {
+class RecoverForm : public ListFormTest<frmRecover, IDC_lvRecover> {
 protected:
     RecoverForm() {
         form.ShowWindow();
@@ -61,27 +61,6 @@ protected:
         });
         return window.ShowModal();
     }
-    // A key that goes the way of the program's message loop.
-    void Press(WPARAM key) {
-        MSG down{GetFocus(), WM_KEYDOWN, key, 0, 0, {}};
-        if (!window.TranslateKeys(down))
-            SendMessageW(down.hwnd, WM_KEYDOWN, key, 0);
-    }
-    void PressButton(int id) const { SendMessageW(Inside(id), BM_CLICK, 0, 0); }
-    void DoubleClick(int row) const {
-        NMITEMACTIVATE click{};
-        click.hdr = {Inside(IDC_lvRecover), IDC_lvRecover, static_cast<UINT>(NM_DBLCLK)};
-        click.iItem = row;
-        SendMessageW(window.Handle(), WM_NOTIFY, IDC_lvRecover, reinterpret_cast<LPARAM>(&click));
-    }
-    [[nodiscard]] HWND Inside(int id) const { return FindChild(window.Handle(), id); }
-    [[nodiscard]] bool CanPress(int id) const { return IsWindowEnabled(Inside(id)) != FALSE; }
-    [[nodiscard]] std::string Cell(int row, int column) const {
-        std::array<wchar_t, 64> text{};
-        ListView_GetItemText(Inside(IDC_lvRecover), row, column, text.data(),
-                             static_cast<int>(text.size()));
-        return ToUtf8(text.data());
-    }
     // The controls that the Tab key visits, from the one with the focus on.
     [[nodiscard]] std::vector<int> TabOrder() {
         std::vector<int> order;
@@ -94,7 +73,6 @@ protected:
     }
 
     RecordingRecoverEvents recorded;
-    frmRecover window{form.Handle(), errors};
 };
 
 TEST_F(RecoverForm, RowsShowNameFileTimeAndNumberOfColors) {
@@ -118,8 +96,8 @@ TEST_F(RecoverForm, ButtonsAreGreyWithoutRowsAndNotWithThem) {
     for (const Rows& rows : {Rows(), TwoRows(), Rows()}) {
         window.SetRows(rows);
         for (const int button : {IDC_cmdOpen, IDC_cmdDelete, IDC_cmdEmpty})
-            EXPECT_EQ(CanPress(button), !rows.empty()) << button;
-        EXPECT_TRUE(CanPress(IDC_cmdClose));
+            EXPECT_EQ(IsEnabled(button), !rows.empty()) << button;
+        EXPECT_TRUE(IsEnabled(IDC_cmdClose));
     }
 }
 
