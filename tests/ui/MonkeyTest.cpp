@@ -3,15 +3,18 @@
 #include "mainwindow/CommandTable.h"
 #include "platform/Utf16.h"
 #include "resources/controls.h"
+#include "standin/model/ObjectRows.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/ScratchRegistry.h"
 #include "tests/platform/SourceFile.h"
 #include "tests/ui/GuiObjects.h"
 #include "tests/ui/MainFormTest.h"
+#include "tests/ui/OtherWindows.h"
 #include "tests/ui/RealProgram.h"
 
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <psapi.h>
 #include <random>
@@ -67,8 +70,8 @@ std::ostream& operator<<(std::ostream& out, const Holdings& held) {
                << held.bytes / 1024 << " KiB";
 }
 
-// Somebody who presses, types, clicks, turns and commands without a plan in the real main window.
-// Questions are answered at once, with any answer.
+// Somebody who presses, types, clicks, turns and commands without a plan in the real windows, and
+// selects anything in the stand-in.  Questions are answered at once, with any answer.
 class Monkey : public testing::Test {
 protected:
     // A library as its file has it; each color is its name and its nine values, in the order of
@@ -87,22 +90,21 @@ protected:
             folder.Write(name,
                          *files.ReadWhole(SourceFile(std::string("resources/language/") + name)));
         folder.Write("a.tnt", *files.ReadWhole(SourceFile("resources/samples/materials.tnt")));
+        std::filesystem::create_directory(folder.File("samples"));
+        folder.Write("samples\\materials.tnt", folder.Read("a.tnt"));
         folder.Write("palette.gpl", "GIMP Palette\n255 204 77 Sun\nrubbish\n0 0 0\n");
         registry.PutText(std::string(ProgramNames::RegistryPath), "DefaultColorFile",
                          folder.File("a.tnt"));
         program = std::make_unique<RealProgram>(registry, folder.Path(), codePage);
         program->application.Start();
         PumpMessages();
-        for (const MenuRow& row : MenuRows())
-            if (IsForMonkeys(row))
-                commands.push_back(row.command);
+        others = std::make_unique<OtherWindows>(program->main.Handle(), kSeed);
     }
 
-    // Not the end of the program, nor the windows that wait for a person.
+    // All but the end of the program.
     static bool IsForMonkeys(const MenuRow& row) {
         return (row.place == MenuKind::Entry || row.place == MenuKind::SubmenuEntry) &&
-               row.command != IDM_mnuQuit && row.command != IDM_mnuHlpAbout &&
-               row.command != IDM_mnuFileRecover;
+               row.command != IDM_mnuQuit;
     }
 
     [[nodiscard]] HWND Child(int id) const { return FindChild(program->main.Handle(), id); }
@@ -116,6 +118,7 @@ protected:
 
     HWND AnyPane();
     HWND AnyTarget();
+    static HWND WindowAt(HWND window, POINT& at);
     POINT AnyPointIn(HWND window);
 
     void Step();
@@ -128,7 +131,9 @@ protected:
     void DragSomething();
     void ClickHeader();
     void ClickToolbar();
+    [[nodiscard]] int NextCommand();
     void RunCommand();
+    void SelectInSolidWorks();
     void Resize();
     void Repaint();
     void PrepareAnswers();
@@ -151,7 +156,8 @@ protected:
     ScratchRegistry registry;
     Win32AnsiCodePage codePage{1252};
     std::unique_ptr<RealProgram> program;
-    std::vector<int> commands;
+    std::unique_ptr<OtherWindows> others;
+    std::vector<int> commands; // those that are due before any comes again
     int rowsCompared = 0;
 };
 
@@ -172,6 +178,14 @@ HWND Monkey::AnyTarget() {
     default:
         return Child(IDC_sldActiveColor + Below(9));
     }
+}
+
+// What stands at a point of a window, such as a link in the empty list, and the point in it.
+HWND Monkey::WindowAt(HWND window, POINT& at) {
+    const HWND child = RealChildWindowFromPoint(window, at);
+    if (child != nullptr)
+        MapWindowPoints(window, child, &at, 1);
+    return child != nullptr ? child : window;
 }
 
 POINT Monkey::AnyPointIn(HWND window) {
@@ -211,7 +225,9 @@ void Monkey::ClickSomewhere() {
     constexpr int kPlaces[] = {IDC_tvColor,        IDC_lvColor,        IDC_imgSplitter,
                                IDC_txtActiveColor, IDC_sldActiveColor, IDC_fraShowColor};
     const HWND target = Child(OneOf(kPlaces));
-    Click(target, AnyPointIn(target));
+    POINT at = AnyPointIn(target);
+    const HWND hit = WindowAt(target, at);
+    Click(hit, at);
     const int swatch = OneOf({IDC_lblActiveColor, IDC_lblActiveColorSmall});
     SendMessageW(Child(swatch), WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(2, 2));
 }
@@ -266,10 +282,22 @@ void Monkey::PrepareAnswers() {
     prompts.chosenFileSets.assign(1, {folder.File("palette.gpl"), folder.File("missing.csv")});
 }
 
+// Each once, in any order, before one of them comes again.
+int Monkey::NextCommand() {
+    if (commands.empty()) {
+        for (const MenuRow& row : MenuRows())
+            if (IsForMonkeys(row))
+                commands.push_back(row.command);
+        std::ranges::shuffle(commands, random);
+    }
+    const int command = commands.back();
+    commands.pop_back();
+    return command;
+}
+
 // A change of the language reads whole files: it comes seldom.
 void Monkey::RunCommand() {
-    const int command =
-        commands[static_cast<std::size_t>(Below(static_cast<int>(commands.size())))];
+    const int command = NextCommand();
     const bool isLanguage =
         command == IDM_mnuOptionsLngGerman || command == IDM_mnuOptionsLngEnglish;
     if (isLanguage && Below(20) != 0)
@@ -292,6 +320,21 @@ void Monkey::KeepSmall() {
     }
 }
 
+// One document or none is active, with one thing more or less selected.
+void Monkey::SelectInSolidWorks() {
+    StandInModel& model = program->solidWorks;
+    constexpr std::optional<DocumentType> kDocuments[] = {
+        DocumentType::Part, DocumentType::Assembly, DocumentType::Drawing, std::nullopt};
+    if (Below(4) == 0)
+        model.Activate(OneOf(kDocuments));
+    const DocumentPtr document = model.ActiveDocument();
+    const std::vector<SelectedItem> items = ObjectRows(document);
+    if (items.empty())
+        return;
+    document->SelectItem(items[static_cast<std::size_t>(Below(static_cast<int>(items.size())))],
+                         Below(3) == 0);
+}
+
 void Monkey::Resize() {
     SetWindowPos(program->main.Handle(), nullptr, 0, 0, 100 + Below(1000), 100 + Below(700),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -304,8 +347,12 @@ void Monkey::Repaint() {
 
 void Monkey::Step() {
     const int chance = Below(1000);
-    if (chance < 420)
+    if (chance < 370)
         TypeCharacter();
+    else if (chance < 400)
+        others->Step();
+    else if (chance < 420)
+        SelectInSolidWorks();
     else if (chance < 780)
         PressKey();
     else if (chance < 860)
@@ -475,4 +522,7 @@ TEST_F(Monkey, AnyInputLeavesTheProgramWholeAndTreeListAndLibraryInAgreement) {
     EXPECT_LE(after.bytes, before.bytes + 4 * 1024 * 1024);
     EXPECT_NE(IsWindowVisible(program->main.Handle()), FALSE);
     EXPECT_GT(rowsCompared, steps / 100) << "there was something to compare";
+    for (const wchar_t* form :
+         {L"frmAbout", L"frmFind", L"frmLevels", L"frmRecover", L"frmTxtView"})
+        EXPECT_GT(others->StepsIn(form), 0) << ToUtf8(form);
 }
