@@ -4,27 +4,16 @@
 import re
 import unittest
 
-import tool
-from language_codes import language_codes
-
-ROOT = tool.ROOT
-DOCUMENTS = ROOT / "resources" / "documents"
-ENTRIES = ("readme", "lizenz", "changes", "todo", "limitations")
-LANGUAGES = language_codes().values()
+from documents import DOCUMENTS, ENTRIES, LANGUAGES, content, document, words
 
 
-def words(text):
-    """The text on one line, so that it may be broken anywhere."""
-    return " ".join(text.split())
+def told(entry, language):
+    return words(document(entry, language))
 
 
-def document(entry, language):
-    return words((DOCUMENTS / f"{entry}_{language}.txt").read_bytes().decode("cp1252"))
-
-
-def section(page, heading):
-    text = (ROOT / page).read_text(encoding="utf-8")
-    return words(text.partition(f"\n## {heading}\n")[2].partition("\n## ")[0].replace("**", ""))
+def section(path, heading):
+    text = content(path).partition(f"\n## {heading}\n")[2].partition("\n## ")[0]
+    return words(text.replace("**", ""))
 
 
 class Documents(unittest.TestCase):
@@ -58,21 +47,21 @@ class Documents(unittest.TestCase):
 
     def test_readme_says_to_which_file_save_writes(self):
         self.assertIn("From then on its file is the one that was opened or saved last",
-                      document("readme", "us"))
+                      told("readme", "us"))
         self.assertIn("Danach ist ihre Datei diejenige, die zuletzt im Dateidialog geöffnet oder "
-                      "gespeichert wurde", document("readme", "de"))
+                      "gespeichert wurde", told("readme", "de"))
 
     def test_readme_says_that_a_library_without_groups_is_not_written(self):
-        self.assertIn("A library without groups is not written.", document("readme", "us"))
+        self.assertIn("A library without groups is not written.", told("readme", "us"))
         self.assertIn("Eine Bibliothek ohne Gruppen wird nicht geschrieben.",
-                      document("readme", "de"))
+                      told("readme", "de"))
 
     def test_readme_says_that_there_are_two_languages_and_none_plans_a_third(self):
-        self.assertIn("The program has these two languages.", document("readme", "us"))
-        self.assertIn("Das Programm hat diese zwei Sprachen.", document("readme", "de"))
+        self.assertIn("The program has these two languages.", told("readme", "us"))
+        self.assertIn("Das Programm hat diese zwei Sprachen.", told("readme", "de"))
         for language in LANGUAGES:
             with self.subTest(language):
-                self.assertNotRegex(document("todo", language), re.compile("language|sprache", re.I))
+                self.assertNotRegex(told("todo", language), re.compile("language|sprache", re.I))
 
 
 class Banners(unittest.TestCase):
@@ -93,13 +82,13 @@ class Banners(unittest.TestCase):
     )
 
     def test_page_says_their_rules(self):
-        page = section("docs/distributing.md", "Banners")
+        text = section("docs/distributing.md", "Banners")
         for rule in self.RULES:
             with self.subTest(rule):
-                self.assertIn(rule, page)
+                self.assertIn(rule, text)
 
     def test_page_names_folder_file_format_and_time_of_the_code(self):
-        page = section("docs/distributing.md", "Banners")
+        text = section("docs/distributing.md", "Banners")
         for source, constant, said in (
                 ("app/main.cpp", r'"\\\\banners"', "folder `banners`"),
                 ("app/main.cpp", r'"\\\\banners\.txt"', "`banners.txt`"),
@@ -107,8 +96,8 @@ class Banners(unittest.TestCase):
                 ("mainwindow/frmMain.cpp", r"kBannerInterval = 5000; // milliseconds",
                  "every five seconds")):
             with self.subTest(said):
-                self.assertRegex((ROOT / source).read_text(encoding="utf-8"), constant)
-                self.assertIn(said, page)
+                self.assertRegex(content(source), constant)
+                self.assertIn(said, text)
 
 
 if __name__ == "__main__":

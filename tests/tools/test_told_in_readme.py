@@ -1,34 +1,17 @@
-"""What the programs offer is told: commands, keys, options, files and settings, in both languages."""
+"""Commands, keys, options, files and settings of the programs are told, in both languages."""
 # Rules: Tools and packages
 
 import re
 import unittest
 
 import tool
-from language_codes import language_codes
+from documents import ENTRIES, LANGUAGES, ROOT, content, document, words
 
-ROOT = tool.ROOT
 LANGUAGE_CHECK = tool.load("check-language")
-LANGUAGES = language_codes().values()
-DOCUMENTS = ROOT / "resources" / "documents"
 COMMANDS = {"us": "All commands", "de": "Alle Befehle"}
 KEYS = {"us": "Keys and mouse", "de": "Tasten und Maus"}
 FILES = {"us": "Programs and files", "de": "Programme und Dateien"}
 ROOMS = ("app", "library", "mainwindow", "platform", "support")
-
-
-def source(path):
-    return (ROOT / path).read_text(encoding="utf-8")
-
-
-def words(text):
-    """The text on one line, so that it may be broken anywhere."""
-    return " ".join(text.split())
-
-
-def document(entry, language):
-    content = (DOCUMENTS / f"{entry}_{language}.txt").read_bytes().decode("cp1252")
-    return content.replace("\r\n", "\n")
 
 
 def bullets(headings, language):
@@ -48,7 +31,7 @@ def captions(language):
 def menus(language):
     """[title, entries] of each menu; an entry is its caption and those of its submenu."""
     caption, result = captions(language), []
-    for kind, name in LANGUAGE_CHECK.MENU_ROW.findall(source("mainwindow/CommandTable.cpp")):
+    for kind, name in LANGUAGE_CHECK.MENU_ROW.findall(content("mainwindow/CommandTable.cpp")):
         if kind == "Title":
             result.append([caption[name], []])
         elif kind == "SubmenuEntry":
@@ -76,14 +59,13 @@ class Ways(unittest.TestCase):
 
     # In the language of the text; a page of the project may name either.
     TEXTS = ([(f"resources/documents/{entry}_{language}.txt", "cp1252", (language,))
-              for entry in ("readme", "limitations", "changes", "todo", "lizenz")
-              for language in LANGUAGES] +
+              for entry in ENTRIES for language in LANGUAGES] +
              [(f"resources/language/tntlng_{language}.ini", "cp1252", (language,))
               for language in LANGUAGES] +
-             [(page.relative_to(ROOT).as_posix(), "utf-8", tuple(LANGUAGES))
-              for page in (*ROOT.glob("*.md"), *(ROOT / "docs").glob("*.md"),
+             [(file.relative_to(ROOT).as_posix(), "utf-8", LANGUAGES)
+              for file in (*ROOT.glob("*.md"), *(ROOT / "docs").glob("*.md"),
                            ROOT / "packaging" / "how-to.txt")])
-    BEGINNINGS = "Options > Language > German"  # the German readme's way out of English
+    FIRST_WAY = "Options > Language > German"  # the German readme's way out of English
 
     @staticmethod
     def leads_somewhere(way, entries):
@@ -98,7 +80,7 @@ class Ways(unittest.TestCase):
 
     def test_every_way_through_the_menus_that_a_text_names_is_there(self):
         for path, encoding, languages in self.TEXTS:
-            text = words((ROOT / path).read_bytes().decode(encoding)).replace(self.BEGINNINGS, "")
+            text = words((ROOT / path).read_bytes().decode(encoding)).replace(self.FIRST_WAY, "")
             known = {}
             for language in languages:
                 for title, entries in menus(language):
@@ -109,16 +91,16 @@ class Ways(unittest.TestCase):
                     with self.subTest(path, way=f"{title} > {way}"):
                         self.assertTrue(self.leads_somewhere(way, entries))
 
-    def test_the_way_out_of_english_is_the_one_in_the_english_menus(self):
-        title, *way = self.BEGINNINGS.split(" > ")
+    def test_way_out_of_the_first_language_is_in_its_menus(self):
+        title, *way = self.FIRST_WAY.split(" > ")
         self.assertTrue(self.leads_somewhere(" > ".join(way), dict(menus("us"))[title]))
-        self.assertIn(self.BEGINNINGS, words(document("readme", "de")))
+        self.assertIn(self.FIRST_WAY, words(document("readme", "de")))
 
 
 class Shortcuts(unittest.TestCase):
     """Keys of the command table."""
 
-    ROWS = source("mainwindow/CommandTable.cpp").partition("kMenuRows = {")[2].partition("};")[0]
+    ROWS = content("mainwindow/CommandTable.cpp").partition("kMenuRows = {")[2].partition("};")[0]
     KEY = r"(?:'(\w)'|Key::(\w+))"
     MADE = re.compile(rf"\b(Plain|Shifted|Ctrl|CtrlShift|OutsideText|InList)\({KEY}\)")
     BY_FIELDS = re.compile(rf"\{{((?:\.(?:ctrl|shift) = true, )*)\.key = {KEY}")
@@ -138,7 +120,8 @@ class Shortcuts(unittest.TestCase):
         self.assertEqual(len(list(self.shortcuts())), len(re.findall(self.KEY, self.ROWS)))
 
     def test_readme_lists_the_key_of_every_command(self):
-        named = dict(re.findall(r'KeyRow\{Key::(\w+), "(\w+)"', source("mainwindow/CommandTable.h")))
+        named = dict(re.findall(r'KeyRow\{Key::(\w+), "(\w+)"',
+                                content("mainwindow/CommandTable.h")))
         for language in LANGUAGES:
             caption = captions(language)
             told = {key for bullet in bullets(KEYS, language)
@@ -160,10 +143,11 @@ class OtherKeys(unittest.TestCase):
               "de": "Doppelklick auf das Farbfeld: Farbwert wählen"}
     DRAG_COPIES = {"us": "Ctrl while a drag begins: copy color",
                    "de": "Strg zu Beginn des Ziehens: Farbe kopieren"}
-    ESCAPE = {"us": "Escape: closes every window but the main one; gives up a renaming, a drag, or a "
-                    "SolidWorks that is busy; stops a long run",
-              "de": "Escape: schließt jedes Fenster außer dem Hauptfenster; bricht eine Umbenennung, "
-                    "ein Ziehen oder das Warten auf SolidWorks ab; hält einen langen Lauf an"}
+    ESCAPE = {"us": "Escape: closes every window but the main one; gives up a renaming, a drag, or "
+                    "a SolidWorks that is busy; stops a long run",
+              "de": "Escape: schließt jedes Fenster außer dem Hauptfenster; bricht eine "
+                    "Umbenennung, ein Ziehen oder das Warten auf SolidWorks ab; hält "
+                    "einen langen Lauf an"}
     RENAME = {"us": "F2: rename", "de": "F2: umbenennen"}
     HINT = {"us": "Arrow keys, Enter or Space: what the empty list offers; Tab leaves it",
             "de": "Pfeiltasten, Eingabetaste oder Leertaste: was die leere Liste anbietet; Tab "
@@ -233,8 +217,13 @@ class OtherKeys(unittest.TestCase):
 
 
 class Options(unittest.TestCase):
-    OF_CONVERTER = set(re.findall(r'"(--[a-z-]+)"', source("converter/ConverterArguments.cpp")))
-    OF_STANDIN = set(re.findall(r'\{"(--[a-z-]+)"', source("standin/model/CommandLine.cpp")))
+    OF_CONVERTER = set(re.findall(r'"(--[a-z-]+)"', content("converter/ConverterArguments.cpp")))
+    OF_STANDIN = set(re.findall(r'\{"(--[a-z-]+)"', content("standin/model/CommandLine.cpp")))
+
+    @staticmethod
+    def names_in(path, table):
+        rows = content(path).partition(table)[2].partition("}};")[0]
+        return re.findall(r'\{"([a-z-]+)",', rows)
 
     def test_options_are_found(self):
         self.assertIn("--help", self.OF_CONVERTER)
@@ -243,7 +232,8 @@ class Options(unittest.TestCase):
     def test_readme_names_every_program_and_all_options(self):
         for language in LANGUAGES:
             told = words(document("readme", language))
-            for name in (*tool.load("make-packages").PROGRAMS, *self.OF_CONVERTER, *self.OF_STANDIN):
+            programs = tool.load("make-packages").PROGRAMS
+            for name in (*programs, *self.OF_CONVERTER, *self.OF_STANDIN):
                 with self.subTest(language=language, name=name):
                     self.assertRegex(told, rf"(?<![\w-]){re.escape(name)}(?![\w-])")
 
@@ -251,16 +241,15 @@ class Options(unittest.TestCase):
         for page, options in (("docs/convert.md", self.OF_CONVERTER),
                               ("standin/README.md", self.OF_STANDIN)):
             with self.subTest(page):
-                rows = [line.split(" | ")[0] for line in source(page).splitlines()
+                rows = [line.split(" | ")[0] for line in content(page).splitlines()
                         if line.startswith("| `--")]
                 self.assertEqual({option for row in rows
                                   for option in re.findall(r"--[a-z-]+", row)}, options)
 
     def test_page_of_the_stand_in_names_every_scenario_and_every_kind_of_fault(self):
-        page = source("standin/README.md")
-        scenario, fault = source("standin/model/Scenario.cpp"), source("standin/model/Fault.cpp")
-        scenarios = re.findall(r'\{"([a-z-]+)",', scenario.partition("kWords")[2].partition("}};")[0])
-        faults = re.findall(r'\{"([a-z-]+)",', fault.partition("kKindNames")[2].partition("}};")[0])
+        page = content("standin/README.md")
+        scenarios = self.names_in("standin/model/Scenario.cpp", "kWords")
+        faults = self.names_in("standin/model/Fault.cpp", "kKindNames")
         self.assertTrue(scenarios and faults)
         for name in (*scenarios, *(f"N:{kind}" for kind in faults)):
             with self.subTest(name):
@@ -298,14 +287,15 @@ class Files(unittest.TestCase):
     def test_all_endings_that_the_sources_write_are_in_the_table_above(self):
         ending = re.compile(r'"( \(kept |\.[a-z]+)"')
         written = {(file.relative_to(ROOT).as_posix(), found)
-                   for room in ("app", "library", "platform") for file in (ROOT / room).rglob("*.cpp")
+                   for room in ("app", "library", "platform")
+                   for file in (ROOT / room).rglob("*.cpp")
                    for found in ending.findall(file.read_text(encoding="utf-8"))}
         self.assertEqual(written, set(self.TOLD))
 
     def test_page_and_readme_tell_each_of_them(self):
         for (file, ending), (page, phrase) in self.TOLD.items():
             with self.subTest(file, ending=ending):
-                self.assertIn(phrase, words(source(page)))
+                self.assertIn(phrase, words(content(page)))
         for language in LANGUAGES:
             told = " - ".join(bullets(FILES, language))
             for ending in self.IN_README:
@@ -313,12 +303,12 @@ class Files(unittest.TestCase):
                     self.assertIn(ending, told)
 
     def test_readme_and_pages_name_registry_key_and_recovery_folder_of_the_code(self):
-        names = source("common/ProgramNames.h")
+        names = content("common/ProgramNames.h")
         key = re.search(r'RegistryPath = "([^"]+)"', names).group(1).replace("\\\\", "\\")
         folder = re.search(r'RecoveryFolder = R"\((.+)\)"', names).group(1)
         texts = {f"readme_{language}": " - ".join(bullets(FILES, language))
                  for language in LANGUAGES}
-        texts |= {page: words(source(page)) for page in (self.RECOVERY, "packaging/how-to.txt")}
+        texts |= {page: words(content(page)) for page in (self.RECOVERY, "packaging/how-to.txt")}
         for name, text in texts.items():
             with self.subTest(name):
                 self.assertIn(f"HKEY_CURRENT_USER\\{key}", text)
@@ -326,16 +316,18 @@ class Files(unittest.TestCase):
 
 
 class Settings(unittest.TestCase):
+    HEADER = content("common/Settings.h")
+
+    def default_of(self, member):
+        default = re.search(rf"\b{member}(?: = (\w+))?;", self.HEADER).group(1)
+        return {"true": "on", "false": "off", None: "empty"}.get(default, f"`{default}`")
+
     def test_page_has_a_row_for_each_setting_with_its_default(self):
-        rows = re.findall(r'SettingRow\{"(\w+)", &Settings::(\w+)', source("app/SettingsStore.cpp"))
+        rows = re.findall(r'SettingRow\{"(\w+)", &Settings::(\w+)',
+                          content("app/SettingsStore.cpp"))
         self.assertGreater(len(rows), 10)
-        header = source("common/Settings.h")
-        words_of = {"true": "on", "false": "off", "1": "`1`", None: "empty"}
-        expected = []
-        for name, member in rows:
-            default = re.search(rf"\b{member}(?: = (\w+))?;", header).group(1)
-            expected.append((name, words_of[default]))
-        page = source("docs/distributing.md").partition("\n## Settings\n")[2].partition("\n## ")[0]
+        expected = [(name, self.default_of(member)) for name, member in rows]
+        page = content("docs/distributing.md").partition("\n## Settings\n")[2].partition("\n## ")[0]
         told = re.findall(r"^\| `(\w+)` \| (\S+) \|", page, re.M)
         self.assertEqual(told, expected)
 
