@@ -30,7 +30,8 @@ void RecoveryKeeper::Look() {
     try {
         LookOrThrow();
     } catch (...) { // no memory
-        NoteFailure();
+        looksToRest_ = kRestAfterFailure;
+        TellOfFailure();
     }
 }
 
@@ -44,12 +45,15 @@ void RecoveryKeeper::LookOrThrow() {
     }
     TakeUpChanges();
     BeginWork();
+    for (auto& [library, kept] : kept_)
+        kept.looksToRest = std::max(0, kept.looksToRest - 1);
 }
 
 void RecoveryKeeper::KeepAll() {
     if (!parts_.folder.IsUsable())
         return;
     Finish();
+    EndRests();
     TakeUpChanges();
     BeginWork();
     Finish();
@@ -70,6 +74,7 @@ void RecoveryKeeper::KeepBeforeItLeaves(const std::string& mainKey) {
         return;
     if (!parts_.work.IsBusy())
         Finish();
+    EndRests();
     Colors colors;
     TakeUp(mainKey, colors);
     if (!parts_.work.IsBusy())
@@ -95,7 +100,7 @@ void RecoveryKeeper::TakeUp(const std::string& mainKey, Colors& colors) {
     Kept& kept = kept_[parts_.library.Tree().At(mainKey).id];
     if (parts_.files.States().IsAsSaved(mainKey))
         RemoveEntries(kept);
-    if (!IsToBeKept(mainKey))
+    if (kept.looksToRest > 0 || !IsToBeKept(mainKey))
         return;
     if (kept.id.empty())
         kept.id = parts_.folder.NewId();
@@ -116,10 +121,23 @@ RecoveryKeeper::Job RecoveryKeeper::JobFor(const std::string& mainKey, Colors& c
     return job;
 }
 
+bool RecoveryKeeper::Rests(const Job& job) const {
+    const auto kept = kept_.find(job.library);
+    return kept != kept_.end() && kept->second.looksToRest > 0;
+}
+
+void RecoveryKeeper::EndRests() {
+    for (auto& [library, kept] : kept_)
+        kept.looksToRest = 0;
+}
+
 void RecoveryKeeper::BeginWork() {
-    if (waiting_.empty())
+    const auto resting =
+        std::ranges::stable_partition(waiting_, [this](const Job& job) { return !Rests(job); });
+    if (resting.begin() == waiting_.begin())
         return;
-    underWay_ = std::exchange(waiting_, {});
+    underWay_.assign(std::move_iterator(waiting_.begin()), std::move_iterator(resting.begin()));
+    waiting_.erase(waiting_.begin(), resting.begin());
     parts_.work.Start([this, open = IdsOfOpenLibraries()] {
         for (Job& job : underWay_)
             Carry(job);
@@ -162,7 +180,8 @@ void RecoveryKeeper::FinishJob(Job job) {
         kept.state = state;
     } else {
         kept.isFailing = true;
-        NoteFailure();
+        kept.looksToRest = kRestAfterFailure;
+        TellOfFailure();
         if (IsOpen(job.library))
             kept.state.reset();
         else
@@ -181,8 +200,7 @@ void RecoveryKeeper::FinishWritten(Kept& kept, const Job& job) {
         parts_.folder.Remove(std::exchange(kept.formerId, {}));
 }
 
-void RecoveryKeeper::NoteFailure() {
-    looksToRest_ = kRestAfterFailure;
+void RecoveryKeeper::TellOfFailure() {
     if (!std::exchange(hasFailed_, true) && onFailed)
         onFailed();
 }

@@ -62,6 +62,7 @@ private:
         std::string id{};                    // of its entry; empty: it has none
         std::string formerId{};              // of the entry that it was opened from
         bool isFailing = false;              // it could not be kept the last time
+        int looksToRest = 0;                 // before that is tried again
     };
     enum class Outcome { Written, AsSaved, Failed };
     struct Job {
@@ -79,11 +80,13 @@ private:
     void TakeUp(const std::string& mainKey, Colors& colors);
     [[nodiscard]] bool IsToBeKept(const std::string& mainKey) const;
     [[nodiscard]] Job JobFor(const std::string& mainKey, Colors& colors);
+    [[nodiscard]] bool Rests(const Job& job) const;
+    void EndRests();
     void BeginWork();
     void Finish();
     void FinishJob(Job job);
     void FinishWritten(Kept& kept, const Job& job);
-    void NoteFailure();
+    void TellOfFailure();
     [[nodiscard]] bool IsFormerOfSome(const std::string& id) const;
     [[nodiscard]] bool IsOpen(LibraryId library) const;
     void RemoveEntries(Kept& kept);
@@ -94,6 +97,6 @@ private:
     std::map<LibraryId, Kept> kept_;
     std::vector<Job> waiting_;
     std::vector<Job> underWay_; // or done, and to be finished
-    int looksToRest_ = 0;       // after a failure
+    int looksToRest_ = 0;       // when even a look fails
     bool hasFailed_ = false;
 };

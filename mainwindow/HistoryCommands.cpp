@@ -5,6 +5,22 @@
 #include "mainwindow/MenuCaption.h"
 #include "resources/controls.h"
 
+namespace {
+
+// Of the steps that are no command.
+const char* BuiltInName(std::int32_t textNumber) {
+    switch (textNumber) {
+    case InfoTextNumber::RenameColor:
+        return "Farbe umbenennen";
+    case InfoTextNumber::MoveColor:
+        return "Farbe verschieben";
+    default:
+        return "Farbe kopieren";
+    }
+}
+
+} // namespace
+
 HistoryCommands::HistoryCommands(const Parts& parts) : parts_(parts) {
     parts_.history.onChange = [this] { ShowEntries(); };
 }
@@ -52,5 +68,5 @@ std::string HistoryCommands::NameOf(StepLabel step) const {
     const StepName name = StepName::Of(step);
     if (name.command != 0)
         return PlainCaption(parts_.bars.MenuCaption(name.command));
-    return parts_.texts.GetInfoText(name.textNumber);
+    return parts_.texts.GetInfoTextOr(name.textNumber, BuiltInName(name.textNumber));
 }

@@ -65,11 +65,15 @@ void MainWindow::RunCommand(int command) {
 void MainWindow::Run(const MenuRow& row) {
     if (row.kind != CommandKind::Plain)
         ForgetStatus();
-    if (row.kind == CommandKind::Operation)
-        RunOperation(row);
-    else
-        RunStep(row);
+    FirstError error;
+    error.Watch([&] {
+        if (row.kind == CommandKind::Operation)
+            RunOperation(row);
+        else
+            RunStep(row);
+    });
     ShowWhatFollows();
+    error.Rethrow();
 }
 
 // Texts that depend on the libraries, and on the language, which may be another one.

@@ -111,8 +111,13 @@ void SolidWorksCommands::ImportStandardColors(std::vector<ColorRecord>& colors,
     tree.SetUnsaved(mainKey); // only now: where the group is refused nothing may change
     tree.Expand(mainKey);
     tree.Select(groupKey);
-    if (!colors.empty())
-        CompleteStandardColors(colors, ColorEditor::ValuesOf(editor));
+    try {
+        if (!colors.empty())
+            CompleteStandardColors(colors, ColorEditor::ValuesOf(editor));
+    } catch (...) { // the editor holds no number: the group stays empty, and the list shows it
+        parts_.panes.ShowColorNodes();
+        throw;
+    }
     const std::string lastKey = parts_.library.AppendColors(groupKey, colors);
     if (lastKey.empty())
         parts_.panes.ShowColorNodes();

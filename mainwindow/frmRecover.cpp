@@ -107,7 +107,7 @@ std::optional<int> frmRecover::ShowModal() {
     if (!rows_.empty())
         lvRecover_.SelectRow(0);
     {
-        const ModalDisplay display(Handle());
+        const ModalDisplay display(Handle(), TakeShowCommand());
         lvRecover_.Focus();
         ModalDisplay::Run([this] { return done_; });
         if (events_ != nullptr)

@@ -305,7 +305,11 @@ void Form::LayOut() {
 }
 
 void Form::Show() {
-    ShowWindow(window_, ShowCommand(hiddenState_));
+    ShowWindow(window_, TakeShowCommand());
+}
+
+int Form::TakeShowCommand() noexcept {
+    return ShowCommand(std::exchange(hiddenState_, WindowState::Normal));
 }
 
 void Form::Hide() {

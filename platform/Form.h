@@ -102,6 +102,9 @@ protected:
     void Show();
     void Hide();
 
+    // For ShowWindow: how the hidden window is to be shown now; the next time it is normal again.
+    [[nodiscard]] int TakeShowCommand() noexcept;
+
 private:
     static LRESULT CALLBACK WindowProcedure(HWND window, UINT id, WPARAM wParam,
                                             LPARAM lParam) noexcept;

@@ -2,10 +2,10 @@
 
 #include "platform/MessageLoop.h"
 
-ModalDisplay::ModalDisplay(HWND window)
+ModalDisplay::ModalDisplay(HWND window, int showCommand)
     : window_(window), owner_(GetWindow(window, GW_OWNER)),
       ownerWasEnabled_(owner_ != nullptr && EnableWindow(owner_, FALSE) == FALSE) {
-    ShowWindow(window_, SW_SHOW);
+    ShowWindow(window_, showCommand);
     SetForegroundWindow(window_);
 }
 

@@ -6,7 +6,7 @@
 // Shows a window modally over its owner, for as long as this object lives.
 class ModalDisplay {
 public:
-    explicit ModalDisplay(HWND window);
+    explicit ModalDisplay(HWND window, int showCommand = SW_SHOW);
     ModalDisplay(const ModalDisplay&) = delete;
     ModalDisplay& operator=(const ModalDisplay&) = delete;
     ~ModalDisplay(); // the owner takes the focus back

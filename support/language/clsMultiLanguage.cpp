@@ -101,6 +101,8 @@ std::string clsMultiLanguage::FileGetPathPart(const std::string& path) {
 
 void clsMultiLanguage::SetIniFile(const std::string& path) {
     iniFile_ = FileExists(path) ? path : std::string();
+    if (!iniFile_.empty())
+        shownFile_ = iniFile_;
 }
 
 std::string clsMultiLanguage::GetInfoText(std::int32_t number) {
@@ -110,9 +112,10 @@ std::string clsMultiLanguage::GetInfoText(std::int32_t number) {
 }
 
 std::string clsMultiLanguage::GetInfoTextOr(std::int32_t number, const std::string& builtIn) {
-    if (!FileExists(iniFile_))
+    const std::string& file = iniFile_.empty() ? shownFile_ : iniFile_;
+    if (!FileExists(file))
         return builtIn;
-    return INIGetSettingString(kInfoSection, "Text." + std::to_string(number), iniFile_, builtIn);
+    return INIGetSettingString(kInfoSection, "Text." + std::to_string(number), file, builtIn);
 }
 
 void clsMultiLanguage::SetAllControlText(LocalizableForm& form) {

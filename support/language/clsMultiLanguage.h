@@ -75,5 +75,6 @@ private:
     Files& files_;
     const AnsiCodePage& codePage_;
     std::string iniFile_;
+    std::string shownFile_; // whose texts the controls have: the last one that was active
     std::string templateFile_;
 };

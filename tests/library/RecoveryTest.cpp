@@ -326,8 +326,11 @@ TEST_F(RecoveryTest, FailureOfOneLibraryIsToldOnceWhileAnotherOneIsKept) {
     Rename("0D", "again");
     const std::string second = Open();
     for (int look = 0; look < 40; ++look) {
-        Rename(second, "second " + std::to_string(look));
+        const std::string name = "second " + std::to_string(look);
+        Rename(second, name);
         Look();
+        Look();
+        EXPECT_TRUE(KeptContent("own-2").starts_with("\"D#" + name)) << look;
     }
     EXPECT_EQ(told, 1);
     files.locked.clear();

@@ -137,7 +137,7 @@ TEST_F(LibraryPanesTest, RenamedColorLeavesTheNameOfAnotherColorInTheEditor) {
 
 TEST_F(LibraryPanesTest, SelectKeyIsNotRememberedInAGroupWithoutColors) {
     panes.ShowColorNodes("0DG2", "0DG2E1");
-    EXPECT_EQ(library.Tree().At("0DG2").file, std::nullopt);
+    EXPECT_EQ(library.Tree().At("0DG2").lastColor, "");
 }
 
 TEST_F(LibraryPanesTest, UpdateWithATextThatIsNoNumberChangesNothing) {

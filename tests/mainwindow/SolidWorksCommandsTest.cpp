@@ -801,6 +801,16 @@ TEST_F(SolidWorksCommandsTest, QuitDuringAnImportImportsNothing) {
     EXPECT_TRUE(program->prompts.messages.empty());
 }
 
+TEST_F(SolidWorksCommandsTest, ImportThatTheEditorRefusesLeavesAnEmptyGroupThatTheListShows) {
+    program->Main().tree.NodeClicked("0DG1");
+    program->prompts.typed = {"kept"};
+    Run(IDM_mnuColorNewColor);
+    EXPECT_THROW(TypeValue(4, "."), RuntimeError);
+    EXPECT_THROW(Run(IDM_mnuSWXGetStandardColor), RuntimeError);
+    EXPECT_EQ(program->view.selectedNode, "0DG2");
+    EXPECT_EQ(program->view.rowCount, 0);
+}
+
 TEST_F(SolidWorksCommandsTest, ImportFillsTheListOnceHoweverLongTheTableIs) {
     Start("standard-colors=500");
     const int before = program->view.rowChanges;

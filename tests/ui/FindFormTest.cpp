@@ -65,6 +65,17 @@ protected:
     RecordingFindEvents recorded;
 };
 
+TEST_F(FindForm, OpensInTheStateThatItWasGivenForThisOpening) {
+    SendMessageW(window.Handle(), WM_CLOSE, 0, 0);
+    window.SetState(WindowState::Maximised);
+    window.ShowModeless();
+    EXPECT_NE(IsZoomed(window.Handle()), FALSE);
+    ::ShowWindow(window.Handle(), SW_RESTORE);
+    SendMessageW(window.Handle(), WM_CLOSE, 0, 0);
+    window.ShowModeless();
+    EXPECT_EQ(IsZoomed(window.Handle()), FALSE);
+}
+
 TEST_F(FindForm, OpensWithTheFocusInTheTextAndAllOfItSelected) {
     EXPECT_EQ(GetFocus(), Inside(IDC_txtFind));
     Type(L"abc");

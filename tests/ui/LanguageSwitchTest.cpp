@@ -36,6 +36,13 @@ protected:
         return *program;
     }
 
+    void RenameAColor() {
+        program->prompts.typed = {"Paints", "Reds", "Signal"};
+        program->Run(IDM_mnuColorNewMainNode);
+        program->application.MainWindowEvents().list.RowLabelEdited(0, "Ruby");
+        program->application.MainWindowEvents().frame.RunCommand(IDM_mnuViewListRep);
+    }
+
     // The text of a key as it stands in the file of a language.
     [[nodiscard]] std::string InFile(const std::string& code, const std::string& section,
                                      const std::string& key) {
@@ -207,6 +214,8 @@ TEST_F(LanguageSwitch, LanguageNumberTwoLeavesTheBuiltInTexts) {
     EXPECT_FALSE(IsChecked(IDM_mnuOptionsLngGerman));
     EXPECT_FALSE(IsChecked(IDM_mnuOptionsLngEnglish));
     EXPECT_EQ(TextOf(FindChild(program->progress.Handle(), IDC_cmdCancel)), L"Stop");
+    RenameAColor();
+    EXPECT_EQ(MenuText(bar, IDM_mnuEditUndo), "&Rückgängig: Farbe umbenennen\tStrg+Z");
 }
 
 TEST_F(LanguageSwitch, MissingFileLeavesTheTextsOfTheLanguageBefore) {
@@ -214,6 +223,11 @@ TEST_F(LanguageSwitch, MissingFileLeavesTheTextsOfTheLanguageBefore) {
     DeleteFileW(ToUtf16(folder.File("tntlng_de.ini")).c_str());
     program->Run(IDM_mnuOptionsLngGerman);
     ExpectMenus("us");
+    EXPECT_EQ(program->application.MainWindowEvents().hints.HintLines().at(0).text,
+              "No library is open.");
+    RenameAColor();
+    EXPECT_EQ(MenuText(GetMenu(program->main.Handle()), IDM_mnuEditUndo),
+              "&Undo: Rename color\tCtrl+Z");
     EXPECT_EQ(program->language.GetInfoText(5), "INI file doesn't exists ");
     EXPECT_TRUE(IsChecked(IDM_mnuOptionsLngGerman));
 }

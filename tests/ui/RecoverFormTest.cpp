@@ -75,6 +75,11 @@ protected:
     RecordingRecoverEvents recorded;
 };
 
+TEST_F(RecoverForm, OpensMaximisedWhenItWasClosedSo) {
+    window.SetState(WindowState::Maximised);
+    Opened(TwoRows(), [this] { EXPECT_NE(IsZoomed(window.Handle()), FALSE); });
+}
+
 TEST_F(RecoverForm, RowsShowNameFileTimeAndNumberOfColors) {
     window.SetRows(TwoRows());
     const HWND list = Inside(IDC_lvRecover);
