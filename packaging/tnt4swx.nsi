@@ -17,7 +17,6 @@ RequestExecutionLevel user
 !define TITLE "TNT4SWX"
 !define PUBLISHER "Chromixs"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\${TITLE}"
-!define SETTINGS_KEY "SOFTWARE\Chromixs\TNT4SWX" ; the program's own; never translated
 
 Name "${TITLE}"
 OutFile "${OUTPUT}"
@@ -119,7 +118,8 @@ FunctionEnd
     Call ${PREFIX}WaitUntilClosed
 !macroend
 
-; An older version goes, with all that this one may no longer have; settings and libraries stay.
+; An older version goes, with all that this one may no longer have.  The uninstaller of 1.0.0 leaves
+; the settings only when it is told to.
 Function RemoveInstalledVersion
     ReadRegStr $0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
     ${If} $0 == ""
@@ -211,12 +211,6 @@ Section "Uninstall"
     Delete "$SMPROGRAMS\${TITLE}\${STAND_IN_GERMAN}.lnk"
     RMDir "$SMPROGRAMS\${TITLE}"
 
+    ; Settings and recovery copies are the user's, as libraries are.
     DeleteRegKey HKCU "${UNINSTALL_KEY}"
-    ${GetParameters} $0
-    ClearErrors
-    ${GetOptions} $0 "/KEEPSETTINGS" $1
-    ${If} ${Errors}
-        DeleteRegKey HKCU "${SETTINGS_KEY}"
-        DeleteRegKey /ifempty HKCU "SOFTWARE\Chromixs"
-    ${EndIf}
 SectionEnd

@@ -22,7 +22,7 @@ sys.path[:0] = [str(pathlib.Path(__file__).resolve().parent.parent / "tools")]
 import tool
 import windows_side as windows
 from language_codes import language_codes
-from windows_side import INSTALLED, ROOT, SETTINGS_KEY, UNINSTALL_KEY
+from windows_side import INSTALLED, RECOVERY, ROOT, SETTINGS_KEY, UNINSTALL_KEY
 
 make = tool.load("make-packages")
 pe = tool.load("check-hardening")
@@ -166,6 +166,7 @@ class Installer(PackageTest):
         if INSTALLED.exists():
             self.uninstall()
             shutil.rmtree(INSTALLED, ignore_errors=True)
+        windows.run("reg", "delete", SETTINGS_KEY, "/f")
 
     def install(self):
         self.assertEqual(windows.run(INSTALLER, "/S"), 0)
@@ -181,6 +182,24 @@ class Installer(PackageTest):
         entries = named_entries(windows.users_registry(self.folder))
         return (sorted(windows.users_files() - self.files_before) +
                 sorted(entries - named_entries(self.registry_before)))
+
+    @staticmethod
+    def is_kept(name):
+        """Whether an entry that was left behind is of the settings or of the recovery folder."""
+        return re.match(r"(hkey_current_user\\software|appdata/local)[\\/]chromixs([\\/]tnt4swx.*)?$",
+                        name, re.IGNORECASE) is not None
+
+    def write_mine(self, mine):
+        """Puts the user's own files where they are said to be, until the end of the test."""
+        for file, text in mine.items():
+            file.parent.mkdir(parents=True, exist_ok=True)
+            self.addCleanup(file.unlink, missing_ok=True)
+            file.write_bytes(text)
+
+    def settings(self):
+        registry = {key.lower(): values
+                    for key, values in windows.users_registry(self.folder).items()}
+        return registry[SETTINGS_KEY.lower()]
 
     @staticmethod
     def installed_path():
@@ -213,7 +232,7 @@ class Installer(PackageTest):
         self.assertAlmostEqual(int(entry['"EstimatedSize"'].removeprefix("dword:"), 16), size,
                                delta=len(program_files()))
 
-    def test_installed_program_does_the_main_job_and_leaves_nothing_when_it_is_removed(self):
+    def test_installed_program_does_the_main_job_and_leaves_only_settings_when_it_is_removed(self):
         self.install()
         before = windows.contents(INSTALLED)
         self.play_main_job(INSTALLED, PICTURES / "main-installed")
@@ -221,7 +240,9 @@ class Installer(PackageTest):
         self.assertIn(SETTINGS_KEY.lower(),
                       [key.lower() for key in windows.users_registry(self.folder)])
         self.uninstall()
-        self.assertEqual(self.left_behind(), [])
+        left = self.left_behind()
+        self.assertEqual(left, [name for name in left if self.is_kept(name)])
+        self.assertIn(SETTINGS_KEY.lower(), [name.lower() for name in left])
 
     def test_libraries_of_the_user_stay(self):
         self.install()
@@ -229,13 +250,13 @@ class Installer(PackageTest):
                 INSTALLED / "mine.tnt": b"beside the program",
                 INSTALLED / "samples" / "mine.tnt": b"among the samples",
                 INSTALLED / "samples" / "materials.tnt": b"a sample that was worked on",
-                INSTALLED / "samples" / "materials.tnt.bak": b"and what it was before"}
-        for file, text in mine.items():
-            self.addCleanup(file.unlink, missing_ok=True)
-            file.write_bytes(text)
+                INSTALLED / "samples" / "materials.tnt.bak": b"and what it was before",
+                RECOVERY / "1-1.tnt": b"never saved", RECOVERY / "1-1.txt": b"and its name"}
+        self.write_mine(mine)
         self.uninstall()
         self.assertEqual({file: file.read_bytes() for file in mine}, mine)
-        folders = {INSTALLED.parent, INSTALLED, INSTALLED / "samples"}
+        folders = {INSTALLED.parent, INSTALLED, INSTALLED / "samples", RECOVERY, *RECOVERY.parents}
+        folders = {folder for folder in folders if windows.USER in folder.parents}
         self.assertEqual({windows.USER / name for name in self.left_behind()},
                          mine.keys() | (folders - {windows.USER / f for f in self.files_before}))
 
@@ -249,9 +270,42 @@ class Installer(PackageTest):
         self.assertEqual(sample.read_bytes(), b"worked on")
         self.assertEqual(windows.contents(INSTALLED)["readme_us.txt"],
                          program_files()["readme_us.txt"])
-        registry = {key.lower(): values
-                    for key, values in windows.users_registry(self.folder).items()}
-        self.assertEqual(registry[SETTINGS_KEY.lower()]['"Language"'], '"0"')
+        self.assertEqual(self.settings()['"Language"'], '"0"')
+
+    def install_1_0_0(self):
+        """Version 1.0.0 as an upgrade meets it; no program of it runs."""
+        stage = self.folder / "1.0.0"
+        for name in ("tnt4swx.exe", "swx_standin.exe", "tntlng_us.ini", "readme_us.txt",
+                     "only-in-1.0.0.txt", "banners/banner1.bmp", "samples/materials.tnt"):
+            (stage / name).parent.mkdir(parents=True, exist_ok=True)
+            (stage / name).write_bytes(b"of 1.0.0")
+        installer = self.folder / "1.0.0.exe"
+        subprocess.run(["makensis", "-WX", "-V1", f"-DSTAGE={stage}", f"-DOUTPUT={installer}",
+                        pathlib.Path(__file__).with_name("version-1.0.0.nsi")], check=True)
+        self.assertEqual(windows.run(installer, "/S"), 0)
+        self.assertEqual((INSTALLED / "tnt4swx.exe").read_bytes(), b"of 1.0.0")
+
+    @unittest.skipIf(windows.ON_WINDOWS, "the older installer is made elsewhere")
+    def test_upgrade_from_1_0_0_keeps_libraries_settings_and_recovery_copies(self):
+        self.install_1_0_0()
+        mine = {windows.DOCUMENTS / "mine.tnt": b"in the documents",
+                INSTALLED / "mine.tnt": b"beside the program",
+                INSTALLED / "samples" / "materials.tnt": b"a sample that was worked on",
+                RECOVERY / "1-1.tnt": b"never saved", RECOVERY / "1-1.txt": b"and its name"}
+        self.write_mine(mine)
+        library = windows.path(windows.DOCUMENTS / "mine.tnt")
+        for name, value in (("Language", "0"), ("DefaultColorFile", library)):
+            windows.run("reg", "add", SETTINGS_KEY, "/v", name, "/d", value, "/f")
+        self.install()
+        self.assertEqual({file: file.read_bytes() for file in mine}, mine)
+        self.assertEqual(self.settings()['"Language"'], '"0"')
+        self.assertIn("mine.tnt", self.settings()['"DefaultColorFile"'])
+        installed = windows.contents(INSTALLED)
+        self.assertEqual({name: installed[name] for name in program_files()},
+                         program_files() | {"samples/materials.tnt": b"a sample that was worked on"})
+        self.assertEqual(installed.keys() - program_files().keys(), {"mine.tnt", "uninstall.exe"})
+        self.assertEqual(windows.users_registry(self.folder)[UNINSTALL_KEY]['"DisplayVersion"'],
+                         f'"{VERSION}"')
 
     def test_nothing_is_removed_while_the_program_runs(self):
         self.install()

@@ -16,6 +16,7 @@ USER = (pathlib.Path.home() if ON_WINDOWS else
 INSTALLED = USER / "AppData" / "Local" / "Programs" / "TNT4SWX"
 START_MENU = USER / "AppData" / "Roaming/Microsoft/Windows/Start Menu/Programs"
 DOCUMENTS = USER / "Documents"
+RECOVERY = USER / "AppData" / "Local" / "Chromixs" / "TNT4SWX" / "Recovery"
 UNINSTALL_KEY = r"HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Uninstall\TNT4SWX"
 SETTINGS_KEY = r"HKEY_CURRENT_USER\Software\Chromixs\TNT4SWX"
 

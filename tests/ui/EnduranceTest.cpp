@@ -71,6 +71,7 @@ protected:
         for (const char* name : {"tntlng_de.ini", "tntlng_us.ini"})
             CopyFromSources("language", name);
         CopyFromSources("samples", "materials.tnt");
+        folder.Write("palette.gpl", "GIMP Palette\nName: Suns\n255 204 77 Sun\n");
     }
     void CopyFromSources(const std::string& from, const std::string& name) {
         folder.Write(name, *files.ReadWhole(SourceFile("resources/" + from + "/" + name)));
@@ -84,14 +85,47 @@ protected:
     }
     [[nodiscard]] HWND Tree() const { return FindChild(program->main.Handle(), IDC_tvColor); }
     [[nodiscard]] LRESULT NodeCount() const { return SendMessageW(Tree(), TVM_GETCOUNT, 0, 0); }
+    void SelectLibrary() const {
+        SendMessageW(Tree(), TVM_SELECTITEM, TVGN_CARET,
+                     SendMessageW(Tree(), TVM_GETNEXTITEM, TVGN_ROOT, 0));
+    }
 
-    void OpenSaveAndClose() const {
+    void Open() const {
         program->prompts.chosenFiles.emplace_back(folder.File("materials.tnt"));
         program->prompts.answers.push_back(Answer::No); // not at every start
         program->Run(IDM_mnuFileOpen);
         ASSERT_GT(NodeCount(), 1);
-        SendMessageW(Tree(), TVM_SELECTITEM, TVGN_CARET,
-                     SendMessageW(Tree(), TVM_GETNEXTITEM, TVGN_ROOT, 0));
+    }
+
+    // "old" and "gold" are the ends of words in the sample.
+    void Find() const {
+        program->Run(IDM_mnuEditFind);
+        const HWND find = FindWindowW(L"frmFind", nullptr);
+        SetWindowTextW(FindChild(find, IDC_txtFind), L"old");
+        PumpMessages();
+        ASSERT_GT(SendMessageW(FindChild(find, IDC_lvFind), LVM_GETITEMCOUNT, 0, 0), 0);
+        SendMessageW(find, WM_CLOSE, 0, 0);
+    }
+
+    // A palette comes and a color is made; both are taken back.
+    void ImportEditAndUndo() const {
+        const LRESULT nodes = NodeCount();
+        program->prompts.chosenFileSets.assign(1, {folder.File("palette.gpl")});
+        program->Run(IDM_mnuFileImport);
+        ASSERT_GT(NodeCount(), nodes);
+        program->prompts.typed.assign(1, "Signal");
+        program->Run(IDM_mnuColorNewColor);
+        program->Run(IDM_mnuEditUndo);
+        program->Run(IDM_mnuEditUndo);
+        ASSERT_EQ(NodeCount(), nodes);
+        program->prompts.questions.clear();
+    }
+
+    void Round() const {
+        ASSERT_NO_FATAL_FAILURE(Open());
+        ASSERT_NO_FATAL_FAILURE(Find());
+        ASSERT_NO_FATAL_FAILURE(ImportEditAndUndo());
+        SelectLibrary();
         program->Run(IDM_mnuFileSave);
         program->Run(IDM_mnuFileClose);
         ASSERT_EQ(NodeCount(), 0);
@@ -129,14 +163,14 @@ protected:
     std::unique_ptr<RealProgram> program;
 };
 
-TEST_F(Endurance, LoadingSavingAndClosingHoldsNoMoreAfterManyRounds) {
+TEST_F(Endurance, OpenFindImportEditUndoSaveAndCloseHoldNoMoreAfterManyRounds) {
     Start();
-    ASSERT_NO_FATAL_FAILURE(WarmUp(kWarmUp, [this](int) { OpenSaveAndClose(); }));
-    FlatLine client("load, save, close");
+    ASSERT_NO_FATAL_FAILURE(WarmUp(kWarmUp, [this](int) { Round(); }));
+    FlatLine client("open, find, import, edit, undo, save, close");
     client.Add(0, HeldByThisProcess());
     const int rounds = Rounds();
     for (int round = 1; round <= rounds; ++round) {
-        ASSERT_NO_FATAL_FAILURE(OpenSaveAndClose());
+        ASSERT_NO_FATAL_FAILURE(Round());
         if (round % (rounds / kSamples) == 0)
             client.Add(round, HeldByThisProcess());
     }

@@ -24,7 +24,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr unsigned kSeed = 20;
+constexpr unsigned kUsualSeed = 20;
 constexpr int kStepsBetweenChecks = 1000;
 constexpr int kFewestSteps = 20 * kStepsBetweenChecks;
 
@@ -32,6 +32,12 @@ constexpr int kFewestSteps = 20 * kStepsBetweenChecks;
 int Steps() {
     const char* number = std::getenv("TNT_MONKEY");
     return std::max(kFewestSteps, number != nullptr ? std::atoi(number) : 0);
+}
+
+// What is done: TNT_MONKEY_SEED, else the same in every run of the tests.
+unsigned Seed() {
+    const char* number = std::getenv("TNT_MONKEY_SEED");
+    return number != nullptr ? static_cast<unsigned>(std::atoi(number)) : kUsualSeed;
 }
 
 // What is made when it is first wanted is there then.
@@ -98,7 +104,7 @@ protected:
         program = std::make_unique<RealProgram>(registry, folder.Path(), codePage);
         program->application.Start();
         PumpMessages();
-        others = std::make_unique<OtherWindows>(program->main.Handle(), kSeed);
+        others = std::make_unique<OtherWindows>(program->main.Handle(), Seed());
     }
 
     // All but the end of the program.
@@ -150,7 +156,7 @@ protected:
     [[nodiscard]] std::string CellText(int row, int subItem) const;
     [[nodiscard]] Saved SaveSelected();
 
-    std::mt19937 random{kSeed};
+    std::mt19937 random{Seed()};
     Win32Files files;
     ScratchFolder folder;
     ScratchRegistry registry;
@@ -377,8 +383,9 @@ void Monkey::Step() {
         Repaint();
 }
 
-// What is under way ends.
+// What is under way ends.  Time passes: what is kept beside a file has its time in its name.
 void Monkey::ComeToRest() {
+    ++program->calendar.now.year;
     SendMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 1);
     ReleaseCapture();
     SetFocus(Tree());
@@ -503,7 +510,7 @@ void Monkey::ExpectAgreement() {
 
 TEST_F(Monkey, AnyInputLeavesTheProgramWholeAndTreeListAndLibraryInAgreement) {
     const int steps = Steps();
-    std::cout << "seed " << kSeed << ", " << steps << " steps\n";
+    std::cout << "seed " << Seed() << ", " << steps << " steps\n";
     Holdings before;
     for (int step = 1; step <= steps; ++step) {
         Step();
