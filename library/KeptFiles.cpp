@@ -20,8 +20,8 @@ std::string KeptPath(const std::string& path, const CalendarTime& time, int numb
 
 } // namespace
 
-void KeptFiles::Remember(LibraryId library, std::string_view content) {
-    held_.insert_or_assign(library, ContentFingerprint::Of(content));
+void KeptFiles::Remember(const LibraryNode& library, std::string_view content) {
+    held_.Put(library, ContentFingerprint::Of(content));
 }
 
 bool KeptFiles::IsHeld(LibraryId library, std::string_view content) const {
@@ -29,8 +29,8 @@ bool KeptFiles::IsHeld(LibraryId library, std::string_view content) const {
 }
 
 std::optional<ContentFingerprint> KeptFiles::Held(LibraryId library) const {
-    const auto held = held_.find(library);
-    return held != held_.end() ? std::optional(held->second) : std::nullopt;
+    const ContentFingerprint* held = held_.Find(library);
+    return held != nullptr ? std::optional(*held) : std::nullopt;
 }
 
 std::optional<std::string> KeptFiles::KeepUnknown(const std::string& path, LibraryId library) {

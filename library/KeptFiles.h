@@ -2,10 +2,9 @@
 
 #include "common/ports/CalendarClock.h"
 #include "common/ports/Files.h"
+#include "library/ByLibrary.h"
 #include "library/ContentFingerprint.h"
-#include "library/LibraryNode.h"
 
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,10 +18,10 @@ public:
     KeptFiles(Files& files, const CalendarClock& clock) : files_(files), clock_(clock) {}
 
     // The library holds all of this content.
-    void Remember(LibraryId library, std::string_view content);
+    void Remember(const LibraryNode& library, std::string_view content);
 
     // The library holds none.
-    void Forget(LibraryId library) { held_.erase(library); }
+    void Forget(LibraryId library) { held_.Erase(library); }
 
     // Before a save of the library replaces the file: the path under which its content stays, empty
     // when there is nothing to keep.  Nothing when the content could not be read or kept: the file
@@ -38,5 +37,5 @@ private:
 
     Files& files_;
     const CalendarClock& clock_;
-    std::map<LibraryId, ContentFingerprint> held_;
+    ByLibrary<ContentFingerprint> held_;
 };

@@ -25,7 +25,7 @@ ReadOutcome LibraryFiles::Read(const std::string& fileName, WorkProgress& progre
     }
     outcome.mainKey = reader.MainKey();
     if (outcome.result == ReadResult::Complete && reader.IsHeldWhole())
-        keptFiles_.Remember(library_.Tree().At(outcome.mainKey).id, *bytes);
+        keptFiles_.Remember(library_.Tree().At(outcome.mainKey), *bytes);
     if (!outcome.mainKey.empty())
         savedStates_.Saved(outcome.mainKey);
     return outcome;
@@ -55,7 +55,7 @@ WriteResult LibraryFiles::Write(const SaveTarget& target, std::string_view bytes
     result.isWritten = outcome == Exchanged::Done;
     if (result.isWritten) {
         library_.Tree().SetSource(target.mainKey, target.fileName);
-        keptFiles_.Remember(library_.Tree().At(target.mainKey).id, bytes);
+        keptFiles_.Remember(library_.Tree().At(target.mainKey), bytes);
         savedStates_.Saved(target.mainKey);
     } else if (outcome == Exchanged::Unchanged) {
         RemoveCopy(result.keptPath, target.fileName);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,10 +20,11 @@ struct LibraryNode {
     std::vector<std::string> children; // keys, in order
     bool expanded = false;             // shows its first child as soon as it has one
 
-    LibraryId id = 0;                // of a library
-    std::optional<std::string> file; // path of a library's file; nothing: it was never saved
-    std::string source;              // path of what it was read from or written to last
-    std::string lastColor;           // key of a group's color that was selected last
+    LibraryId id = 0;                 // of a library
+    std::shared_ptr<const void> life; // of one that is open, or can come back by undo
+    std::optional<std::string> file;  // path of a library's file; nothing: it was never saved
+    std::string source;               // path of what it was read from or written to last
+    std::string lastColor;            // key of a group's color that was selected last
 
     std::uint64_t revision = 0; // greater after every change of its name and its groups
 };

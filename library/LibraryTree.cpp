@@ -10,6 +10,7 @@ void LibraryTree::AddMainNode(const std::string& key, const std::string& text) {
     LibraryNode node;
     node.kind = NodeKind::Library;
     node.id = ++lastId_;
+    node.life = std::make_shared<const LibraryId>(node.id);
     node.key = key;
     node.text = text;
     Add(node, mainNodes_);

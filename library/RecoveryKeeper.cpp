@@ -45,8 +45,21 @@ void RecoveryKeeper::LookOrThrow() {
     }
     TakeUpChanges();
     BeginWork();
+    ForgetTheGone();
     for (auto& [library, kept] : kept_)
         kept.looksToRest = std::max(0, kept.looksToRest - 1);
+}
+
+// Libraries that are closed and cannot come back by undo, unless their last copies are under way.
+void RecoveryKeeper::ForgetTheGone() {
+    if (waiting_.empty() && underWay_.empty())
+        std::erase_if(kept_, [](const auto& kept) { return kept.second.life.expired(); });
+}
+
+RecoveryKeeper::Kept& RecoveryKeeper::KeptOf(const LibraryNode& library) {
+    Kept& kept = kept_[library.id];
+    kept.life = library.life;
+    return kept;
 }
 
 void RecoveryKeeper::KeepAll() {
@@ -97,7 +110,7 @@ bool RecoveryKeeper::IsToBeKept(const std::string& mainKey) const {
 }
 
 void RecoveryKeeper::TakeUp(const std::string& mainKey, Colors& colors) {
-    Kept& kept = kept_[parts_.library.Tree().At(mainKey).id];
+    Kept& kept = KeptOf(parts_.library.Tree().At(mainKey));
     if (parts_.files.States().IsAsSaved(mainKey))
         RemoveEntries(kept);
     if (kept.looksToRest > 0 || !IsToBeKept(mainKey))
@@ -221,7 +234,7 @@ void RecoveryKeeper::RemoveEntries(Kept& kept) {
     for (const std::string& id : {kept.id, kept.formerId})
         if (!id.empty())
             parts_.folder.Remove(id);
-    kept = {};
+    kept = {.life = kept.life};
 }
 
 void RecoveryKeeper::IsOpenAgain(const std::string& mainKey, const std::string& entryId) {
@@ -229,7 +242,7 @@ void RecoveryKeeper::IsOpenAgain(const std::string& mainKey, const std::string& 
     for (auto& [library, kept] : kept_)
         if (kept.id == entryId) // a closed one, which may come back by undo
             kept = {};
-    kept_[parts_.library.Tree().At(mainKey).id].formerId = entryId;
+    KeptOf(parts_.library.Tree().At(mainKey)).formerId = entryId;
 }
 
 std::vector<std::string> RecoveryKeeper::IdsOfOpenLibraries() const {

@@ -58,6 +58,7 @@ private:
     using Colors = std::shared_ptr<const ColorSnapshot>;
 
     struct Kept {
+        std::weak_ptr<const void> life{};    // of the library
         std::optional<LibraryState> state{}; // that was taken up last
         std::string id{};                    // of its entry; empty: it has none
         std::string formerId{};              // of the entry that it was opened from
@@ -82,6 +83,8 @@ private:
     [[nodiscard]] Job JobFor(const std::string& mainKey, Colors& colors);
     [[nodiscard]] bool Rests(const Job& job) const;
     void EndRests();
+    [[nodiscard]] Kept& KeptOf(const LibraryNode& library);
+    void ForgetTheGone();
     void BeginWork();
     void Finish();
     void FinishJob(Job job);

@@ -3,11 +3,11 @@
 #include <algorithm>
 
 void SavedStates::Saved(const std::string& mainKey) {
-    saved_.insert_or_assign(library_.Tree().At(mainKey).id, StateOf(mainKey));
+    saved_.Put(library_.Tree().At(mainKey), StateOf(mainKey));
 }
 
 void SavedStates::Forget(const std::string& mainKey) {
-    saved_.erase(library_.Tree().At(mainKey).id);
+    saved_.Erase(library_.Tree().At(mainKey).id);
 }
 
 LibraryState SavedStates::StateOf(const std::string& mainKey) const {
@@ -21,6 +21,6 @@ LibraryState SavedStates::StateOf(const std::string& mainKey) const {
 }
 
 bool SavedStates::IsAsSaved(const std::string& mainKey) const {
-    const auto saved = saved_.find(library_.Tree().At(mainKey).id);
-    return saved != saved_.end() && saved->second == StateOf(mainKey);
+    const LibraryState* saved = saved_.Find(library_.Tree().At(mainKey).id);
+    return saved != nullptr && *saved == StateOf(mainKey);
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "library/ByLibrary.h"
 #include "library/ColorLibrary.h"
 
 #include <cstdint>
-#include <map>
 #include <string>
 
 // A state of a library: another one after every change of what its file is made of.
@@ -30,5 +30,5 @@ public:
 
 private:
     const ColorLibrary& library_;
-    std::map<LibraryId, LibraryState> saved_;
+    ByLibrary<LibraryState> saved_;
 };

@@ -40,7 +40,6 @@ protected:
         program->prompts.typed = {"Paints", "Reds", "Signal"};
         program->Run(IDM_mnuColorNewMainNode);
         program->application.MainWindowEvents().list.RowLabelEdited(0, "Ruby");
-        program->application.MainWindowEvents().frame.RunCommand(IDM_mnuViewListRep);
     }
 
     // The text of a key as it stands in the file of a language.
@@ -227,7 +226,7 @@ TEST_F(LanguageSwitch, MissingFileLeavesTheTextsOfTheLanguageBefore) {
               "No library is open.");
     RenameAColor();
     EXPECT_EQ(MenuText(GetMenu(program->main.Handle()), IDM_mnuEditUndo),
-              "&Undo: Rename color\tCtrl+Z");
+              "&Undo Rename color\tCtrl+Z");
     EXPECT_EQ(program->language.GetInfoText(5), "INI file doesn't exists ");
     EXPECT_TRUE(IsChecked(IDM_mnuOptionsLngGerman));
 }
