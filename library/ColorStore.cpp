@@ -8,18 +8,25 @@ void ColorStore::Clear() {
     gone_ = 0;
 }
 
-ColorId ColorStore::Add(StoredColor&& color) {
+const StoredColor* ColorStore::Find(ColorId id) const noexcept {
+    const std::size_t block = BlockOf(id);
+    if (block >= blocks_.size() || blocks_[block] == nullptr)
+        return nullptr;
+    const StoredColor& color = blocks_[block]->colors[id % kBlockSize];
+    return color.group == StoredColor::kNoGroup ? nullptr : &color;
+}
+
+ColorStore::Added ColorStore::Add() {
     const ColorId id = next_++;
     if (BlockOf(id) == blocks_.size())
         blocks_.push_back(nullptr);
-    Place(id, std::move(color));
-    return id;
+    return {id, Place(id)};
 }
 
-void ColorStore::Place(ColorId id, StoredColor&& color) {
+StoredColor& ColorStore::Place(ColorId id) {
     Block& block = OwnBlockOf(id);
-    block.colors[id % kBlockSize] = std::move(color);
     ++block.count;
+    return block.colors[id % kBlockSize];
 }
 
 ColorStore::Block& ColorStore::OwnBlockOf(ColorId id) {
@@ -34,7 +41,7 @@ ColorStore::Block& ColorStore::OwnBlockOf(ColorId id) {
 void ColorStore::PutBack(ColorId id, StoredColor&& color) {
     for (; gone_ > id / kBlockSize; --gone_)
         blocks_.push_front(nullptr);
-    Place(id, std::move(color));
+    Place(id) = std::move(color);
 }
 
 void ColorStore::Remove(ColorId id) {

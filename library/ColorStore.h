@@ -36,8 +36,10 @@ struct StoredColor {
     StoredColor& operator=(const StoredColor&) = delete;
     ~StoredColor() = default;
 
+    static constexpr std::uint32_t kNoGroup = 0xFFFFFFFF;
+
     std::unique_ptr<Seldom> seldom;
-    std::uint32_t group = 0; // number of its group
+    std::uint32_t group = kNoGroup; // number of its group
     std::uint32_t number = 0;
     ColorValueArray values{};
     bool isNew = false;
@@ -75,9 +77,17 @@ class ColorStore {
 public:
     void Clear();
 
-    ColorId Add(StoredColor&& color);
+    // A new color, for the caller to fill.
+    struct Added {
+        ColorId id = 0;
+        StoredColor& color;
+    };
+    [[nodiscard]] Added Add();
     void Remove(ColorId id);                       // of a color that is there
     void PutBack(ColorId id, StoredColor&& color); // that was removed, under its id
+
+    // Null: it is not there.
+    [[nodiscard]] const StoredColor* Find(ColorId id) const noexcept;
 
     // The color must be there.  One that can be changed does not move until the next copy is made.
     [[nodiscard]] const StoredColor& At(ColorId id) const noexcept {
@@ -94,7 +104,7 @@ private:
 
     [[nodiscard]] std::size_t BlockOf(ColorId id) const noexcept { return id / kBlockSize - gone_; }
 
-    void Place(ColorId id, StoredColor&& color);
+    [[nodiscard]] StoredColor& Place(ColorId id);
     [[nodiscard]] Block& OwnBlockOf(ColorId id); // shared with no copy from here on
 
     std::deque<std::shared_ptr<Block>> blocks_; // null: all of its colors have gone

@@ -124,8 +124,9 @@ ColorTable::GroupNumber ColorTable::NumberOfGroup(const std::string& groupKey) {
 }
 
 void ColorTable::Append(ColorRecord record) {
-    StoredColor color;
-    color.group = NumberOfGroup(record.groupKey);
+    const GroupNumber group = NumberOfGroup(record.groupKey);
+    const auto [id, color] = store_.Add();
+    color.group = group;
     const std::optional<LibraryKeys::ColorKey> parts = LibraryKeys::PartsOfColor(record.key);
     if (parts && parts->group == record.groupKey)
         color.number = parts->number;
@@ -135,32 +136,31 @@ void ColorTable::Append(ColorRecord record) {
     color.SetAltName(record.altName);
     color.values = record.values;
     color.isNew = record.isNew;
-    Insert(std::move(color));
+    Insert(id, color);
 }
 
 void ColorTable::Append(GroupNumber group, std::uint32_t number, std::string_view name,
                         std::string_view altName, const ColorValueArray& values) {
-    StoredColor color;
+    const auto [id, color] = store_.Add();
     color.group = group;
     color.number = number;
     color.name = CompactText(name);
     color.SetAltName(altName);
     color.values = values;
-    Insert(std::move(color));
+    Insert(id, color);
 }
 
-void ColorTable::Insert(StoredColor&& color) {
+void ColorTable::Insert(ColorId id, const StoredColor& color) {
     Group& group = groups_[color.group];
-    const std::uint32_t number = color.number;
-    const std::string* const otherKey = color.OtherKey(); // does not move
-    const ColorId id = store_.Add(std::move(color));
+    const Numbered numbered{color.number, id};
     NoteChange(group);
+    group.TakeStepOfFirst(numbered);
     order_.push_back(id);
     group.ids.push_back(id);
-    if (otherKey != nullptr)
+    if (const std::string* const otherKey = color.OtherKey())
         otherKeys_[*otherKey].push_back(id);
-    else
-        AddInOrder(group.numbered, Numbered{number, id});
+    else if (!group.IsInStep(numbered))
+        AddInOrder(group.outOfStep, numbered);
     if (journal_)
         journal_->ColorAdded(id, group.key);
 }
@@ -267,32 +267,30 @@ void ColorTable::PutIntoGroup(const std::string& groupKey, std::vector<RemovedCo
     Group& group = groups_[number];
     NoteChange(group);
     std::vector<ColorId> ids;
-    std::vector<Numbered> numbered;
+    std::vector<Numbered> outOfStep;
     for (auto& [id, color] : colors) {
+        const Numbered numbered{color.number, id};
+        if (ids.empty())
+            group.TakeStepOfFirst(numbered);
         color.group = number;
         ids.push_back(id);
         if (const std::string* const otherKey = color.OtherKey())
             AddInOrder(otherKeys_[*otherKey], id);
-        else
-            numbered.push_back({color.number, id});
+        else if (!group.IsInStep(numbered))
+            outOfStep.push_back(numbered);
         store_.PutBack(id, std::move(color));
     }
-    std::ranges::sort(numbered);
+    std::ranges::sort(outOfStep);
     MergeSorted(group.ids, ids);
-    MergeSorted(group.numbered, numbered);
+    MergeSorted(group.outOfStep, outOfStep);
 }
 
 void ColorTable::ForgetKeys(Group& group, const std::vector<ColorId>& ids) {
     for (const ColorId id : ids)
         if (const std::string* const otherKey = store_.At(id).OtherKey())
             ForgetOtherKey(id, *otherKey);
-    if (ids.size() != 1) {
-        std::erase_if(group.numbered, [&](const Numbered& color) {
-            return std::ranges::binary_search(ids, color.id);
-        });
-    } else if (const StoredColor& color = store_.At(ids.front()); color.OtherKey() == nullptr) {
-        group.numbered.erase(PlaceOf(group.numbered, {color.number, ids.front()}));
-    }
+    std::erase_if(group.outOfStep,
+                  [&](const Numbered& color) { return std::ranges::binary_search(ids, color.id); });
 }
 
 void ColorTable::ForgetOtherKey(ColorId id, const std::string& key) {
@@ -325,9 +323,19 @@ ColorId ColorTable::FirstOfNumber(const std::string& key) const {
     const Group* const group = parts ? FindGroup(std::string(parts->group)) : nullptr;
     if (group == nullptr)
         return 0;
+    const Numbered inStep{parts->number, parts->number + group->step};
     const auto found =
-        std::ranges::lower_bound(group->numbered, parts->number, {}, &Numbered::number);
-    return found != group->numbered.end() && found->number == parts->number ? found->id : 0;
+        std::ranges::lower_bound(group->outOfStep, parts->number, {}, &Numbered::number);
+    const bool isFound = found != group->outOfStep.end() && found->number == parts->number;
+    if (!HasColor(*group, inStep))
+        return isFound ? found->id : 0;
+    return isFound ? std::min(found->id, inStep.id) : inStep.id;
+}
+
+bool ColorTable::HasColor(const Group& group, const Numbered& color) const {
+    const StoredColor* const found = store_.Find(color.id);
+    return found != nullptr && &groups_[found->group] == &group && found->number == color.number &&
+           found->OtherKey() == nullptr;
 }
 
 ColorId ColorTable::FirstOfOtherKey(const std::string& key) const {

@@ -95,13 +95,25 @@ private:
     };
     struct Group {
         std::string key;
-        std::vector<ColorId> ids;       // ascending
-        std::vector<Numbered> numbered; // ascending; those with a key of group and number
+        std::vector<ColorId> ids; // ascending
+        // Colors that come one after the other, as from a file, are numbered as their ids are: the
+        // number leads to the id, and only the others are listed by their numbers.
+        ColorId step = 0;                // from number to id, may wrap around
+        std::vector<Numbered> outOfStep; // ascending; with a key of group and number
         std::uint64_t revision = 0;
+
+        [[nodiscard]] bool IsInStep(const Numbered& color) const noexcept {
+            return color.number + step == color.id;
+        }
+        // To be called before a color comes.
+        void TakeStepOfFirst(const Numbered& color) noexcept {
+            if (ids.empty())
+                step = color.id - color.number;
+        }
     };
 
     [[nodiscard]] StoredColor& ColorAt(int index);
-    void Insert(StoredColor&& color);
+    void Insert(ColorId id, const StoredColor& color);
     void BeginChange(ColorId id);
     void NoteChange(Group& group) noexcept { group.revision = ++revision_; }
     void LeaveOrder(std::vector<ColorId> ids);
@@ -113,6 +125,7 @@ private:
     void ForgetOtherKey(ColorId id, const std::string& key);
     [[nodiscard]] const Group* FindGroup(const std::string& groupKey) const;
     [[nodiscard]] ColorId FirstOfNumber(const std::string& key) const; // 0: none
+    [[nodiscard]] bool HasColor(const Group& group, const Numbered& color) const;
     [[nodiscard]] ColorId FirstOfOtherKey(const std::string& key) const;
 
     ColorStore store_;

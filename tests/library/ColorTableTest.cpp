@@ -253,4 +253,50 @@ TEST(ColorTable, KeyOfAColorThatHasGoneIsNotFound) {
     EXPECT_EQ(table.IndexOfKey("0DG1E4"), 0);
 }
 
+// Where colors are numbered as they come, the number leads to a color; it may be another one.
+TEST(ColorTable, ColorOfAnotherGroupIsNotTakenForOneWithTheNumber) {
+    ColorTable table;
+    table.Append(table.NumberOfGroup("0DG1"), 1, "a", "a", {});
+    table.Append(table.NumberOfGroup("0DG2"), 2, "b", "b", {});
+    EXPECT_EQ(table.IndexOfKey("0DG1E2"), 0);
+    EXPECT_EQ(table.IndexOfKey("0DG2E2"), 2);
+    EXPECT_EQ(table.IndexOfKey("0DG2E1"), 0);
+}
+
+TEST(ColorTable, ColorsWithNumbersInNoOrderAreFoundByThem) {
+    ColorTable table;
+    const auto group = table.NumberOfGroup("0DG1");
+    for (const std::uint32_t number : {1U, 9U, 3U, 4294967295U, 0U})
+        table.Append(group, number, "a", "a", {});
+    EXPECT_EQ(table.IndexOfKey("0DG1E2"), 0);
+    EXPECT_EQ(table.IndexOfKey("0DG1E9"), 2);
+    EXPECT_EQ(table.IndexOfKey("0DG1E3"), 3);
+    EXPECT_EQ(table.IndexOfKey("0DG1E4294967295"), 4);
+    EXPECT_EQ(table.IndexOfKey("0DG1E0"), 5);
+    table.Erase(2);
+    EXPECT_EQ(table.IndexOfKey("0DG1E9"), 0);
+    EXPECT_EQ(table.IndexOfKey("0DG1E3"), 2);
+}
+
+TEST(ColorTable, FirstOfEqualNumbersIsFound) {
+    ColorTable table;
+    const auto group = table.NumberOfGroup("0DG1");
+    for (const std::uint32_t number : {1U, 3U, 3U, 4U, 4U})
+        table.Append(group, number, "a", "a", {});
+    EXPECT_EQ(table.IndexOfKey("0DG1E3"), 2);
+    EXPECT_EQ(table.IndexOfKey("0DG1E4"), 4);
+    table.Erase(2);
+    EXPECT_EQ(table.IndexOfKey("0DG1E3"), 2);
+    EXPECT_EQ(table.IndexOfKey("0DG1E4"), 3);
+}
+
+TEST(ColorTable, ColorWithAKeyOfItsOwnHasNoNumber) {
+    ColorTable table;
+    table.Append(Color("a key", "0DG1"));
+    table.Append(Color("0DG1E1", "0DG1"));
+    EXPECT_EQ(table.IndexOfKey("0DG1E0"), 0);
+    EXPECT_EQ(table.IndexOfKey("0DG1E1"), 2);
+    EXPECT_EQ(table.IndexOfKey("a key"), 1);
+}
+
 } // namespace
