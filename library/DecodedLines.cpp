@@ -1,5 +1,8 @@
 #include "library/DecodedLines.h"
 
+#include "common/Text.h"
+#include "library/FindByte.h"
+
 #include <algorithm>
 
 namespace {
@@ -8,24 +11,15 @@ constexpr std::size_t kPieceSize = 1U << 16U; // stays in the processor's cache
 
 } // namespace
 
-std::size_t DecodedLines::Finder::From(std::size_t start, std::string_view text) {
-    if (!searched_ || place_ < start) {
-        place_ = std::min(text.find(character_, start), text.size());
-        searched_ = true;
-    }
-    return place_;
-}
-
 std::optional<std::string_view> DecodedLines::Next() {
     if (start_ >= text_.size())
         DecodePiece();
     if (start_ >= text_.size())
         return {};
-    const std::size_t carriageReturn = carriageReturn_.From(start_, text_);
-    const std::size_t lineFeed = lineFeed_.From(start_, text_);
-    const std::size_t end = std::min(carriageReturn, lineFeed);
-    const std::string_view line = std::string_view(text_).substr(start_, end - start_);
-    start_ = carriageReturn + 1 == lineFeed ? lineFeed + 1 : end + 1;
+    const std::string_view text = text_;
+    const std::size_t end = FindEither(text, '\r', '\n', start_);
+    const std::string_view line = text.substr(start_, end - start_);
+    start_ = end + (text.substr(end, 2) == kLineBreak ? 2 : 1);
     ++number_;
     return line;
 }
@@ -37,6 +31,4 @@ void DecodedLines::DecodePiece() {
     text_ = codePage_.Decode(bytes_.substr(0, size));
     bytes_.remove_prefix(size);
     start_ = 0;
-    carriageReturn_.Forget();
-    lineFeed_.Forget();
 }

@@ -23,20 +23,6 @@ public:
     [[nodiscard]] std::size_t Number() const noexcept { return number_; }
 
 private:
-    // Where the character is found next; looked for again only when the last place is passed, so
-    // that a character that is not there costs one pass over the text.
-    class Finder {
-    public:
-        explicit Finder(char character) : character_(character) {}
-        [[nodiscard]] std::size_t From(std::size_t start, std::string_view text);
-        void Forget() noexcept { searched_ = false; }
-
-    private:
-        char character_;
-        bool searched_ = false;
-        std::size_t place_ = 0;
-    };
-
     void DecodePiece();
 
     std::string_view bytes_; // not decoded yet
@@ -44,6 +30,4 @@ private:
     std::string text_;
     std::size_t start_ = 0; // of the next line in the text
     std::size_t number_ = 0;
-    Finder carriageReturn_{'\r'};
-    Finder lineFeed_{'\n'};
 };

@@ -2,6 +2,7 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "library/FindByte.h"
 #include "library/LeadingDigits.h"
 
 #include <algorithm>
@@ -24,7 +25,7 @@ constexpr std::string_view kGroupTag = "G#";
 constexpr std::string_view kColorTag = "E#";
 
 bool HasTag(std::string_view record, std::string_view tag) {
-    return record.substr(0, kTagLength) == tag;
+    return record.size() >= kTagLength && record[0] == tag[0] && record[1] == tag[1];
 }
 
 void AppendNumber(std::string& text, int number) {
@@ -46,25 +47,24 @@ bool StandsAt(std::string_view text, std::size_t place, std::string_view part) {
     return true;
 }
 
-// Values are short: a search that is quick to start beats one that is quick over a long way.
-std::size_t FindSeparator(std::string_view text, std::string_view separator) {
-    const char first = separator.front();
-    for (std::size_t place = 0; place < text.size(); ++place)
-        if (text[place] == first && StandsAt(text, place, separator))
-            return place;
-    return std::string_view::npos;
+// The place of a part that is not empty; the text's size: it is not there.
+std::size_t FindPart(std::string_view text, std::string_view part) {
+    std::size_t place = FindByte(text, part.front());
+    while (place < text.size() && !StandsAt(text, place, part))
+        place = FindByte(text, part.front(), place + 1);
+    return place;
 }
 
 // Where the nine values begin: at the first separator.  A letter that stands in for the division
 // sign may also stand in the name, so then it is the ninth from the end.
 std::size_t FindValues(std::string_view text, std::string_view separator) {
     if (separator == kDivisionSign)
-        return text.find(separator);
+        return FindPart(text, separator);
     std::size_t place = text.size();
     for (std::size_t value = 0; value < kColorValueCount; ++value) {
         place = place == 0 ? std::string_view::npos : text.rfind(separator, place - 1);
         if (place == std::string_view::npos)
-            break;
+            return text.size();
     }
     return place;
 }
@@ -75,7 +75,7 @@ std::string_view WithoutLast(std::string_view text) {
 
 bool IsInQuotesAndKnown(std::string_view line) {
     return line.size() > 1 && line.front() == '"' && line.back() == '"' &&
-           line.find(kUnknownCharacter) == std::string_view::npos;
+           FindPart(line, kUnknownCharacter) == line.size();
 }
 
 bool AreDigits(std::string_view text) {
@@ -95,9 +95,9 @@ public:
         : rest_(text), separator_(separator) {}
 
     std::string_view Next() {
-        const std::size_t end = FindSeparator(rest_, separator_);
+        const std::size_t end = FindPart(rest_, separator_);
         const std::string_view field = rest_.substr(0, end);
-        isAtEnd_ = end == std::string_view::npos;
+        isAtEnd_ = end == rest_.size();
         rest_.remove_prefix(isAtEnd_ ? rest_.size() : end + separator_.size());
         return field;
     }
@@ -126,7 +126,7 @@ bool ReadPlainValues(std::string_view text, std::string_view separator, ColorVal
             text.remove_prefix(separator.size());
         }
         const LeadingDigits digits = LeadingDigits::Of(text);
-        if (digits.count == 0 || (digits.count > 1 && text.front() == '0'))
+        if (digits.count == 0 || (text.front() == '0' && digits.count > 1))
             return false;
         value = static_cast<std::int16_t>(digits.number);
         text.remove_prefix(digits.count);
@@ -137,7 +137,7 @@ bool ReadPlainValues(std::string_view text, std::string_view separator, ColorVal
 // The fields behind the colon; false when there are not exactly ten of them.
 bool SplitColorFields(std::string_view text, std::string_view separator, Color& color) {
     const std::size_t nameEnd = FindValues(text, separator);
-    if (nameEnd == std::string_view::npos)
+    if (nameEnd == text.size())
         return false;
     color.altName = text.substr(0, nameEnd);
     color.values = text.substr(nameEnd + separator.size());
@@ -202,11 +202,11 @@ std::optional<Group> ParseGroup(std::string_view record) {
 
 std::optional<Color> ParseColor(std::string_view record, std::string_view separator) {
     std::optional<Color> color; // made where the caller has it: it is large, and there are many
-    const std::size_t equals = record.find('=');
-    if (!HasTag(record, kColorTag) || equals == std::string_view::npos)
+    const std::size_t equals = FindByte(record, '=');
+    if (!HasTag(record, kColorTag) || equals == record.size())
         return color;
-    const std::size_t colon = record.find(':', equals + 1);
-    if (colon == std::string_view::npos)
+    const std::size_t colon = FindByte(record, ':', equals + 1);
+    if (colon == record.size())
         return color;
     color.emplace();
     color->name = record.substr(kTagLength, equals - kTagLength);
