@@ -53,8 +53,7 @@ bool LibraryReader::ReadGroup(std::string_view line) {
         return false;
     NoteWhetherHeld(LibraryFileFormat::IsGroupTakenWhole(line));
     const std::string key = library_.NewGroupNode(mainKey_, group->name);
-    // The first group with a key keeps it, as the first match in a list would.
-    groups_.try_emplace(group->key, library_.Colors().NumberOfGroup(key));
+    groups_.Add(group->key, library_.Colors().NumberOfGroup(key));
     return true;
 }
 
@@ -64,10 +63,10 @@ bool LibraryReader::ReadColor(std::string_view line, std::string_view separator)
     const auto color = ParseColor(WithoutQuotes(line), separator);
     if (!color)
         return false;
-    const auto group = groups_.find(color->groupKey);
-    if (group == groups_.end())
+    const auto group = groups_.Find(color->groupKey);
+    if (!group)
         return false;
-    library_.Colors().Append(group->second, colorNumber_, color->name, color->altName,
+    library_.Colors().Append(*group, colorNumber_, color->name, color->altName,
                              ValuesOf(*color, separator));
     NoteWhetherHeld(IsColorTakenWhole(line, *color, separator));
     return true;

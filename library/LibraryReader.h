@@ -3,13 +3,13 @@
 #include "common/ports/AnsiCodePage.h"
 #include "library/ColorLibrary.h"
 #include "library/DecodedLines.h"
+#include "library/SavedGroups.h"
 #include "library/WorkProgress.h"
 
 #include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 
 // Reads the content of one library file into a new main node, which is selected and has that file.
@@ -35,18 +35,6 @@ public:
     [[nodiscard]] auto LineNumber() const noexcept { return lines_.Number(); }
 
 private:
-    struct TextHash {
-        using is_transparent = void;
-        // Not noexcept: the map keeps the hashes then, and need not make those of the keys it
-        // passes.
-        std::size_t operator()(std::string_view text) const {
-            return std::hash<std::string_view>()(text);
-        }
-    };
-    // The groups of a file by their keys as saved.
-    using SavedGroups =
-        std::unordered_map<std::string, ColorTable::GroupNumber, TextHash, std::equal_to<>>;
-
     bool ReadHeader(WorkProgress& progress);
     bool ReadRecord(std::string_view line, std::string_view separator);
     bool ReadGroup(std::string_view line);
