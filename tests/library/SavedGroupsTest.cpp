@@ -42,8 +42,11 @@ TEST(SavedGroups, FirstGroupWithAKeyKeepsIt) {
     groups.Add("0DG1", 1);
     groups.Add("0DG1", 2);
     groups.Add("0DG2", 3);
+    groups.Add("group", 4);
+    groups.Add("group", 5);
     EXPECT_EQ(groups.Find("0DG1"), 1U);
     EXPECT_EQ(groups.Find("0DG2"), 3U);
+    EXPECT_EQ(groups.Find("group"), 4U);
 }
 
 } // namespace
