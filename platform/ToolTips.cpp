@@ -16,6 +16,15 @@ void ToolTips::MakeRoomAbove(const std::wstring& text, SIZE picture) {
     SendMessageW(window_, TTM_SETMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
 }
 
+void ToolTips::Relay(const WindowMessage& message) const {
+    MSG relayed{};
+    relayed.hwnd = message.window;
+    relayed.message = message.id;
+    relayed.wParam = message.wParam;
+    relayed.lParam = message.lParam;
+    SendMessageW(window_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
+}
+
 void ToolTips::Set(HWND owner, HWND control, bool wanted) {
     if (window_ == nullptr)
         window_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/WindowMessage.h"
+
 #include <functional>
 #include <string>
 #include <windows.h>
@@ -17,6 +19,9 @@ public:
     // Whether the control may have a tool tip; its text is asked from the owner when it is to be
     // shown (TTN_GETDISPINFOW, idFrom: the control).
     void Set(HWND owner, HWND control, bool wanted);
+
+    // Tells it of a mouse message that came to a control before the first call for that control.
+    void Relay(const WindowMessage& message) const;
 
     // Makes room for a picture above a text, before the tip with them is shown (TTM_SETMARGIN).
     void MakeRoomAbove(const std::wstring& text, SIZE picture);

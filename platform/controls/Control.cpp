@@ -1,18 +1,13 @@
 #include "platform/controls/Control.h"
 
 #include "common/RuntimeError.h"
+#include "platform/ClassProcedure.h"
 #include "platform/controls/NoSuchMember.h"
 #include "platform/DpiScale.h"
 #include "platform/Guarded.h"
 #include "platform/Utf16.h"
 
 #include <utility>
-
-namespace {
-
-constexpr UINT_PTR kSubclass = 1;
-
-} // namespace
 
 Control::Control(ControlHost& host, const ControlKind& kind, const ControlPlace& place, DWORD style,
                  DWORD extendedStyle)
@@ -23,7 +18,11 @@ Control::Control(ControlHost& host, const ControlKind& kind, const ControlPlace&
                               GetModuleHandleW(nullptr), nullptr)) {
     if (window_ == nullptr)
         throw RuntimeError(ErrorNumber::Internal, ErrorTexts::NoWindow, {name_});
-    SetWindowSubclass(window_, SubclassProcedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+    // A procedure of its own instead of a subclass of the platform's: to find that takes two looks
+    // at the window's properties for each message, and those are a question to another process on
+    // some platforms.
+    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&WindowProcedure));
     SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(host.Font()), FALSE);
 }
 
@@ -31,20 +30,21 @@ Control::Control(ControlHost& host, const ControlKind& kind, const ControlPlace&
 Control::~Control() {
     if (window_ == nullptr)
         return;
-    RemoveWindowSubclass(window_, SubclassProcedure, kSubclass);
+    SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
     DestroyWindow(window_);
 }
 
-LRESULT CALLBACK Control::SubclassProcedure(HWND window, UINT id, WPARAM wParam, LPARAM lParam,
-                                            UINT_PTR subclass, DWORD_PTR reference) noexcept {
-    auto* control = reinterpret_cast<Control*>(reference);
-    if (id == WM_NCDESTROY) {
-        RemoveWindowSubclass(window, SubclassProcedure, subclass);
+LRESULT CALLBACK Control::WindowProcedure(HWND window, UINT id, WPARAM wParam,
+                                          LPARAM lParam) noexcept {
+    const WindowMessage message{window, id, wParam, lParam};
+    auto* control = reinterpret_cast<Control*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (control != nullptr && id == WM_NCDESTROY)
         control->window_ = nullptr; // the system gives the handle to other windows
-    }
-    if (id == WM_NCDESTROY || control->host_.IsClosing())
-        return DefSubclassProc(window, id, wParam, lParam);
-    const LRESULT result = control->Answer({window, id, wParam, lParam});
+    if (control == nullptr || id == WM_NCDESTROY || control->host_.IsClosing())
+        return AnswerOfClass(message);
+    if (id == WM_MOUSEMOVE)
+        control->MakeTip(message);
+    const LRESULT result = control->Answer(message);
     // Not every class paints the whole of a window that has another size: what it keeps is old.
     if (id == WM_SIZE)
         RedrawWindow(window, nullptr, nullptr,
@@ -103,8 +103,18 @@ POINT Control::Pointer() const noexcept {
     return at;
 }
 
+// Made when the pointer comes for the first time: most controls never see it.
+void Control::MakeTip(const WindowMessage& firstMove) {
+    if (hasTip_ || !MayHaveTip())
+        return;
+    hasTip_ = true;
+    UpdateTip();
+    host_.Tips().Relay(firstMove);
+}
+
 void Control::UpdateTip() {
-    host_.Tips().Set(host_.Handle(), window_, tipShowsCutText_ || !toolTip_.empty());
+    if (hasTip_)
+        host_.Tips().Set(host_.Handle(), window_, MayHaveTip());
 }
 
 std::string Control::Text() const {
@@ -158,5 +168,5 @@ LRESULT Control::Send(UINT message, WPARAM wParam, const void* structure) const 
 }
 
 LRESULT Control::Default(const WindowMessage& message) {
-    return DefSubclassProc(message.window, message.id, message.wParam, message.lParam);
+    return AnswerOfClass(message);
 }

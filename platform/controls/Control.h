@@ -82,17 +82,20 @@ protected:
     [[nodiscard]] static LRESULT Default(const WindowMessage& message);
 
 private:
-    static LRESULT CALLBACK SubclassProcedure(HWND window, UINT id, WPARAM wParam, LPARAM lParam,
-                                              UINT_PTR subclass, DWORD_PTR reference) noexcept;
+    static LRESULT CALLBACK WindowProcedure(HWND window, UINT id, WPARAM wParam,
+                                            LPARAM lParam) noexcept;
     LRESULT Answer(const WindowMessage& message) noexcept;
     [[nodiscard]] bool HasTextProperty(const std::string& property) const;
+
+    [[nodiscard]] bool MayHaveTip() const noexcept { return tipShowsCutText_ || !toolTip_.empty(); }
+    void MakeTip(const WindowMessage& firstMove);
+    void UpdateTip();
 
     ControlHost& host_;
     ControlKind kind_;
     std::string name_;
-    void UpdateTip();
-
     std::string toolTip_;
+    bool hasTip_ = false; // the form's tool tips know of this control
     bool tipShowsCutText_ = false;
     LPARAM tipPart_ = -1;
     HWND window_;

@@ -1,6 +1,6 @@
 #include "platform/controls/Painted.h"
 
-#include <commctrl.h>
+#include "platform/ClassProcedure.h"
 
 namespace {
 
@@ -20,8 +20,7 @@ MessageResult AnswerUnpainted(const WindowMessage& message) {
         return RepaintAfter(
             message, DefWindowProcW(message.window, message.id, message.wParam, message.lParam));
     case WM_SETFONT:
-        return RepaintAfter(message,
-                            DefSubclassProc(message.window, message.id, message.wParam, FALSE));
+        return RepaintAfter(message, AnswerOfClass({message.window, message.id, message.wParam, 0}));
     default:
         return {};
     }

@@ -1,6 +1,7 @@
 #include "platform/controls/TreeView.h"
 
 #include "common/ValueRestorer.h"
+#include "platform/ClassProcedure.h"
 #include "platform/DpiScale.h"
 #include "platform/Utf16.h"
 
@@ -67,9 +68,8 @@ void TreeView::AddNode(const Node& added) {
     node.item.lParam = reinterpret_cast<LPARAM>(&place->first);
     // Straight to the class: nothing else has to see it, and for thousands of nodes the way there
     // takes longer than all the rest.
-    const auto procedure = reinterpret_cast<WNDPROC>(GetClassLongPtrW(Handle(), GCLP_WNDPROC));
     place->second = reinterpret_cast<HTREEITEM>(
-        CallWindowProcW(procedure, Handle(), TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&node)));
+        AnswerOfClass({Handle(), TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&node)}));
 }
 
 // Nodes often come in thousands; to arrange and draw the tree after each would take longer than all
