@@ -19,10 +19,15 @@ constexpr bool IsControl(char character) noexcept {
     return static_cast<unsigned char>(character) < ' ';
 }
 
-// Of a key that is no comment and no line of another kind for any reader.
 constexpr bool IsKeyCharacter(char character) noexcept {
     return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z') ||
-           (character >= '0' && character <= '9') || character == '.' || character == '_';
+           (character >= '0' && character <= '9') || character == '.' || character == '_' ||
+           character == ' ';
+}
+
+// No comment and no line of another kind for any reader; blanks stand between its words only.
+bool IsPlainKey(std::string_view key) {
+    return !key.empty() && Trimmed(key) == key && std::ranges::all_of(key, IsKeyCharacter);
 }
 
 // No blanks or quotes at its ends, which some readers take off, and nothing that ends a line.
@@ -72,7 +77,7 @@ void ProfileSection::Add(std::string_view line) {
 
 std::optional<std::string> ProfileSection::Find(std::string_view key,
                                                 std::string_view fallback) const {
-    if (!isOnlyOne_ || key.empty() || !std::ranges::all_of(key, IsKeyCharacter))
+    if (!isOnlyOne_ || !IsPlainKey(key))
         return {};
     const auto found = entries_.find(ToLowerAscii(key));
     if (found != entries_.end())

@@ -26,6 +26,12 @@ TEST(ProfileSectionTest, FirstOfTwoKeysCounts) {
     EXPECT_EQ(Found("a=\"1\"\0a=2\0"s, "a"), "?");
 }
 
+TEST(ProfileSectionTest, KeyMayHaveSeveralWords) {
+    const std::string lines = "bar.View List.Caption=List\0bar.View=1\0"s;
+    EXPECT_EQ(Found(lines, "bar.View List.Caption"), "List");
+    EXPECT_EQ(Found(lines, "bar.View  List.Caption"), "-");
+}
+
 TEST(ProfileSectionTest, KeyThatIsNotThereIsMissing) {
     EXPECT_EQ(Found("a=1\0"s, "b"), "-");
     EXPECT_EQ(Found("", "b"), "-");
@@ -44,7 +50,8 @@ TEST(ProfileSectionTest, WhatReadersTakeDifferentlyIsLeftToThePlatform) {
         EXPECT_EQ(Found(line + "\0"s, "a"), "?") << line;
     EXPECT_EQ(Found("a=1\0"s, "\xE4"), "?");
     EXPECT_EQ(Found(";a=1\0"s, ";a"), "?") << "a comment for some";
-    EXPECT_EQ(Found("a=1\0"s, "a b"), "?");
+    for (const char* key : {" a", "a ", "a\tb", " "})
+        EXPECT_EQ(Found("a=1\0"s, key), "?") << "'" << key << "'";
     EXPECT_EQ(Found("a=1\0"s, ""), "?");
 }
 

@@ -123,14 +123,17 @@ TEST_F(ProfileWalkTest, OddFiles) {
                                             "a= 3 \r\n",
                                             "a =4\r\n",
                                             ";a=5\r\n",
+                                            "a b=6\r\n",
+                                            "a b",
+                                            "a B.c=\"7\r\n",
                                             std::string(254, 'y'),
                                             std::string(256, 'z'),
                                             "[frmMain]\r\na=1\r\n",
                                             "[Info]\r\nb=2\r\n"};
     std::vector<Question> questions;
     for (const char* section : {"frmMain", "Info", "none", ""})
-        for (const char* key :
-             {"a", "b", "A", "a.Caption", "a ", " a", "none", ";a", "x", "0", "="})
+        for (const char* key : {"a", "b", "A", "a.Caption", "a b", "a  b", "A b.c", "a ", " a",
+                                "none", ";a", "x", "0", "="})
             for (const char* fallback : {"", "otherwise", "blank at the end ", "\"quoted\""})
                 questions.push_back({section, key, fallback});
     std::mt19937 random(20'261'122);
