@@ -57,7 +57,6 @@ Form::Form(const FormDesign& design, ErrorSink& errors)
         throw RuntimeError(ErrorNumber::Internal, ErrorTexts::NoWindow, {name_});
     scale_ = DpiScale(DpiOfWindow(window_));
     font_ = MessageFont(static_cast<unsigned>(scale_.Dpi()));
-    LoadIcons();
     RemoveSizeCommands();
     SetWindowPos(window_, nullptr, 0, 0, scale_.FromDesign(design.size.cx),
                  scale_.FromDesign(design.size.cy), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -147,6 +146,10 @@ MessageResult Form::OnAppearanceMessage(const WindowMessage& message) {
         return {};
     case WM_SYSCOLORCHANGE:
         ForwardToControls(message);
+        return {};
+    case WM_SHOWWINDOW:
+        if (message.wParam != FALSE && !bigIcon_) // it is seen for the first time
+            LoadIcons();
         return {};
     case WM_GETMINMAXINFO:
         LimitSize(*reinterpret_cast<MINMAXINFO*>(message.lParam));
@@ -240,7 +243,8 @@ void Form::ChangeScale(unsigned dpi, const RECT* suggested) {
 
 void Form::ApplyScale() {
     FontHandle before = std::exchange(font_, MessageFont(static_cast<unsigned>(scale_.Dpi())));
-    LoadIcons();
+    if (bigIcon_)
+        LoadIcons();
     for (const auto& control : controls_)
         control->ApplyScale();
     OnScaleChanged();

@@ -33,6 +33,8 @@ void ResizeClientArea(HWND window, SIZE client) {
     RECT inner{};
     GetWindowRect(window, &outer);
     GetClientRect(window, &inner);
+    if (WidthOf(inner) == client.cx && HeightOf(inner) == client.cy)
+        return;
     SetWindowPos(window, nullptr, 0, 0, WidthOf(outer) - WidthOf(inner) + client.cx,
                  HeightOf(outer) - HeightOf(inner) + client.cy,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);

@@ -64,14 +64,19 @@ BitmapHandle LoadPicture(const std::wstring& path) {
 BannerPictures::BannerPictures(const std::string& folder) {
     for (const BitmapFile& bitmap : BitmapFiles(folder)) {
         numbers_.push_back(bitmap.number);
-        // One that cannot be loaded keeps its place, so that the others keep their addresses.
-        pictures_.push_back(LoadPicture(ToPlatformPath(folder + "\\" + ToUtf8(bitmap.name))));
+        paths_.push_back(ToPlatformPath(folder + "\\" + ToUtf8(bitmap.name)));
     }
+    pictures_.resize(paths_.size());
 }
 
-HBITMAP BannerPictures::Picture(int index) const noexcept {
-    return index >= 1 && index <= Count() ? pictures_[static_cast<std::size_t>(index) - 1].Get()
-                                          : nullptr;
+// One that cannot be loaded keeps its place, so that the others keep their addresses.
+HBITMAP BannerPictures::Picture(int index) const {
+    if (index < 1 || index > Count())
+        return nullptr;
+    const auto place = static_cast<std::size_t>(index) - 1;
+    if (!pictures_[place])
+        pictures_[place] = LoadPicture(paths_[place]);
+    return pictures_[place]->Get();
 }
 
 bool BannerPictures::IsLink(int index) const noexcept {

@@ -2,6 +2,7 @@
 
 #include "platform/Handles.h"
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -13,13 +14,14 @@ public:
     BannerPictures() = default;                         // none
     explicit BannerPictures(const std::string& folder); // UTF-8
 
-    [[nodiscard]] int Count() const noexcept { return static_cast<int>(pictures_.size()); }
+    [[nodiscard]] int Count() const noexcept { return static_cast<int>(numbers_.size()); }
 
     // The number of each picture in its order; 0: it has none.
     [[nodiscard]] const std::vector<int>& Numbers() const noexcept { return numbers_; }
 
-    // index: from 1; null for any other number.
-    [[nodiscard]] HBITMAP Picture(int index) const noexcept;
+    // Loaded when it is asked for the first time.  index: from 1; null for any other number, and for
+    // a file that holds no picture.
+    [[nodiscard]] HBITMAP Picture(int index) const;
 
     // Which pictures can be clicked, in their order; until it is told, all of them.
     void SetLinks(std::vector<bool> links) { links_ = std::move(links); }
@@ -28,5 +30,6 @@ public:
 private:
     std::vector<int> numbers_;
     std::vector<bool> links_;
-    std::vector<BitmapHandle> pictures_;
+    std::vector<std::wstring> paths_;
+    mutable std::vector<std::optional<BitmapHandle>> pictures_; // nothing: not asked for yet
 };
