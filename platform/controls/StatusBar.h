@@ -9,4 +9,7 @@ public:
 
     void SetPanelText(const std::string& text);
     void FollowForm(); // after the form's size or the own visibility changed
+
+protected:
+    [[nodiscard]] bool IsTextCut() const override;
 };
