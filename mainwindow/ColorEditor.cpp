@@ -71,14 +71,17 @@ void ColorEditor::SetName(const std::string& name) {
 // them, and what stood there before need not be a number.
 void ColorEditor::SetTexts(std::span<const std::string> texts) {
     std::ranges::copy(texts, texts_.begin());
-    for (std::size_t index = 0; index < texts.size(); ++index)
-        SetText(index, texts[index]);
+    for (std::size_t index = 0; index < texts.size(); ++index) {
+        pane_.SetValueText(index, texts[index]);
+        TakeText(index, texts[index]);
+    }
 }
 
 void ColorEditor::SetRedGreenBlue(const RedGreenBlue& color) {
     const std::array texts = {std::to_string(color.red), std::to_string(color.green),
                               std::to_string(color.blue)};
     SetTexts(texts);
+    ShowNumbers();
 }
 
 void ColorEditor::SetText(std::size_t index, const std::string& text) {
@@ -94,6 +97,11 @@ ColorValueArray ColorEditor::ValuesOf(const Texts& texts) {
 }
 
 void ColorEditor::ValueTextChanged(std::size_t index, const std::string& text) {
+    TakeText(index, text);
+    ShowNumbers();
+}
+
+void ColorEditor::TakeText(std::size_t index, const std::string& text) {
     texts_.at(index) = text;
     const int maximum = MaximumOfColorValue(index);
     const int value = text.empty() ? 0 : std::clamp(TextToInt32(text), 0, maximum);
@@ -106,7 +114,10 @@ void ColorEditor::ValueTextChanged(std::size_t index, const std::string& text) {
         pane_.SelectWholeValueText(index);
     pane_.SetSlider(index, value);
     PaintSwatches();
-    // Without the color's name on purpose: an edited color is not the named one any more.
+}
+
+// Without the color's name on purpose: an edited color is not the named one any more.
+void ColorEditor::ShowNumbers() {
     captionHasName_ = false;
     captionNumbers_ = ColorInNumbers(texts_);
     ShowCaption();

@@ -70,6 +70,8 @@ public:
 private:
     void Load(const ColorRecord& color, ColorNumber complementMask);
     void SetTexts(std::span<const std::string> texts);
+    void TakeText(std::size_t index, const std::string& text);
+    void ShowNumbers();
     void PaintSwatches();
     void ShowSmallSwatch(ColorNumber complementMask);
     void ShowCaption();

@@ -216,6 +216,7 @@ void frmMain::OnLayout() {
 
 // The visible part of the border is known only once the window is on the screen.
 void frmMain::ShowWindow() {
+    menu_.BringUpToDate();
     Show();
     LayOut();
     SetTimer(Handle(), kBannerTimer, kBannerInterval, nullptr);

@@ -27,8 +27,10 @@ float MainList::ListWidth() const {
 }
 
 void MainList::AddColumns(const std::vector<ListColumn>& columns) {
+    std::vector<ListView::Column> added;
     for (const ListColumn& column : columns)
-        control_.AddColumn(column.caption, scale_.ToPixels(column.width));
+        added.push_back({column.caption, scale_.ToPixels(column.width)});
+    control_.AddColumns(added);
 }
 
 void MainList::ShowSortOrder(int column, bool descending) {

@@ -103,6 +103,14 @@ void ListView::AddColumn(const std::string& caption, int width) {
     ++columns_;
 }
 
+void ListView::AddColumns(const std::vector<Column>& columns) {
+    Send(WM_SETREDRAW, FALSE);
+    for (const Column& column : columns)
+        AddColumn(column.caption, column.width);
+    Send(WM_SETREDRAW, TRUE);
+    InvalidateRect(Handle(), nullptr, TRUE);
+}
+
 void ListView::SetColumnCaption(int column, const std::string& caption) {
     std::wstring wide = ToUtf16(caption);
     LVCOLUMNW change{};

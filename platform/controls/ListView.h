@@ -21,6 +21,11 @@ public:
         const char* key; // the picture of every row
     };
 
+    struct Column {
+        std::string caption;
+        int width; // pixels
+    };
+
     // A row's own picture is painted into a square as large as the list's pictures are.
     struct PicturePlace {
         HDC device;
@@ -42,6 +47,7 @@ public:
     void ShowHint(const std::vector<ListHint::Line>& lines);
 
     void AddColumn(const std::string& caption, int width); // pixels
+    void AddColumns(const std::vector<Column>& columns);   // arranged once for all of them
     void SetColumnCaption(int column, const std::string& caption);
     void SetColumnWidth(int column, int width); // pixels
     void AlignRight(int column);                // its texts; not of the first one

@@ -95,13 +95,22 @@ MenuBar::MenuBar() : owned_(CreateMenu()), bar_(owned_.Get()) {}
 MenuEntry& MenuBar::NewEntry(HMENU menu, int command, const char* name) {
     std::function<void()> redrawBar;
     if (menu == bar_)
-        redrawBar = [this] {
-            if (form_ != nullptr)
-                DrawMenuBar(form_);
-        };
+        redrawBar = [this] { RedrawBar(); };
     entries_.push_back(std::make_unique<MenuEntry>(menu, command, name, std::move(redrawBar)));
     byCommand_[command] = entries_.back().get();
     return *entries_.back();
+}
+
+// Once for all changes that are made while nobody sees the bar.
+void MenuBar::RedrawBar() {
+    isBarOld_ = form_ != nullptr;
+    if (form_ != nullptr && IsWindowVisible(form_) != FALSE)
+        BringUpToDate();
+}
+
+void MenuBar::BringUpToDate() {
+    if (std::exchange(isBarOld_, false))
+        DrawMenuBar(form_);
 }
 
 void MenuBar::AddTitle(int command, const char* name, const char* caption) {

@@ -76,17 +76,22 @@ public:
     void ShowInstead(int command, const std::string& text);  // of its caption; empty: the caption
     [[nodiscard]] std::vector<FormControl*> Entries() const; // and the names of keys
 
+    // Call it before the form is shown: it has been hidden while titles were changed.
+    void BringUpToDate();
+
     // Opens the menu under a title at a point of the screen; the form that the bar is attached to
     // gets its command.
     void OpenPopup(int titleCommand, POINT at) const;
 
 private:
     MenuEntry& NewEntry(HMENU menu, int command, const char* name);
+    void RedrawBar();
     void NameKey(WORD virtualKey, const std::string& caption);
     [[nodiscard]] MenuEntry& Find(int command) const;
 
     HWND form_ = nullptr; // that shows it
-    MenuHandle owned_;    // until a window takes the menu over
+    bool isBarOld_ = false;
+    MenuHandle owned_; // until a window takes the menu over
     HMENU bar_;
     HMENU open_ = nullptr;    // menu of the last title
     HMENU submenu_ = nullptr; // the last submenu

@@ -5,11 +5,16 @@
 namespace {
 
 LRESULT RepaintAfter(const WindowMessage& message, LRESULT result) {
-    InvalidateRect(message.window, nullptr, FALSE);
+    RepaintIfShown(message.window);
     return result;
 }
 
 } // namespace
+
+void RepaintIfShown(HWND window) {
+    if (IsWindowVisible(window) != FALSE)
+        InvalidateRect(window, nullptr, FALSE);
+}
 
 MessageResult AnswerUnpainted(const WindowMessage& message) {
     switch (message.id) {
@@ -20,7 +25,8 @@ MessageResult AnswerUnpainted(const WindowMessage& message) {
         return RepaintAfter(
             message, DefWindowProcW(message.window, message.id, message.wParam, message.lParam));
     case WM_SETFONT:
-        return RepaintAfter(message, AnswerOfClass({message.window, message.id, message.wParam, 0}));
+        return RepaintAfter(message,
+                            AnswerOfClass({message.window, message.id, message.wParam, 0}));
     default:
         return {};
     }

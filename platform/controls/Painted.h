@@ -8,11 +8,15 @@
 // once, and in its own way.  None: the message is no such one.
 [[nodiscard]] MessageResult AnswerUnpainted(const WindowMessage& message);
 
+// Has the window painted again.  One that is hidden, alone or with its form, is painted as a whole
+// when it is shown.
+void RepaintIfShown(HWND window);
+
 // A control, or a kind of one, that draws itself; never the class of its window.
 template <typename Base = Control>
 class Painted : public Base {
 public:
-    void Repaint() const { InvalidateRect(Base::Handle(), nullptr, FALSE); }
+    void Repaint() const { RepaintIfShown(Base::Handle()); }
 
 protected:
     using Base::Base;

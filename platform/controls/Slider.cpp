@@ -23,7 +23,7 @@ Slider::Slider(ControlHost& host, const ControlPlace& place, int maximum)
 }
 
 void Slider::SetPosition(int position) {
-    Send(TBM_SETPOS, TRUE, position);
+    Send(TBM_SETPOS, static_cast<WPARAM>(IsWindowVisible(Handle())), position);
     known_ = Position();
 }
 
