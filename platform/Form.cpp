@@ -51,15 +51,19 @@ void ForwardToControls(const WindowMessage& message) {
 Form::Form(const FormDesign& design, ErrorSink& errors)
     : class_(design.name, WindowProcedure), name_(ToUtf8(design.name)), errors_(errors),
       minimumSize_(design.minimumSize) {
+    // Which screen it comes to is known when it is there; it seldom is one of another scale.
+    const DpiScale expected(DpiOfScreen());
     CreateWindowExW(design.extendedStyle, design.name, design.caption, design.style, CW_USEDEFAULT,
-                    CW_USEDEFAULT, 100, 100, design.owner, nullptr, Module(), this);
+                    CW_USEDEFAULT, expected.FromDesign(design.size.cx),
+                    expected.FromDesign(design.size.cy), design.owner, nullptr, Module(), this);
     if (window_ == nullptr)
         throw RuntimeError(ErrorNumber::Internal, ErrorTexts::NoWindow, {name_});
     scale_ = DpiScale(DpiOfWindow(window_));
     font_ = MessageFont(static_cast<unsigned>(scale_.Dpi()));
     RemoveSizeCommands();
-    SetWindowPos(window_, nullptr, 0, 0, scale_.FromDesign(design.size.cx),
-                 scale_.FromDesign(design.size.cy), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    if (scale_.Dpi() != expected.Dpi())
+        SetWindowPos(window_, nullptr, 0, 0, scale_.FromDesign(design.size.cx),
+                     scale_.FromDesign(design.size.cy), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 Form::~Form() {

@@ -9,6 +9,12 @@
 
 #include <utility>
 
+namespace {
+
+constexpr UINT_PTR kTipTimer = 0x54495053; // beside those of the window's class
+
+} // namespace
+
 Control::Control(ControlHost& host, const ControlKind& kind, const ControlPlace& place, DWORD style,
                  DWORD extendedStyle)
     : host_(host), kind_(kind), name_(place.name),
@@ -43,7 +49,11 @@ LRESULT CALLBACK Control::WindowProcedure(HWND window, UINT id, WPARAM wParam,
     if (control == nullptr || id == WM_NCDESTROY || control->host_.IsClosing())
         return AnswerOfClass(message);
     if (id == WM_MOUSEMOVE)
-        control->MakeTip(message);
+        control->RequestTip();
+    if (id == WM_TIMER && wParam == kTipTimer) {
+        control->MakeTip();
+        return 0;
+    }
     const LRESULT result = control->Answer(message);
     // Not every class paints the whole of a window that has another size: what it keeps is old.
     if (id == WM_SIZE)
@@ -103,13 +113,23 @@ POINT Control::Pointer() const noexcept {
     return at;
 }
 
-// Made when the pointer comes for the first time: most controls never see it.
-void Control::MakeTip(const WindowMessage& firstMove) {
-    if (hasTip_ || !MayHaveTip())
+// Made when the pointer rests here for the first time, which it does over few controls, and after
+// everything else that waits: a window that comes up below the pointer is painted first.
+void Control::RequestTip() const {
+    if (!hasTip_ && MayHaveTip())
+        SetTimer(window_, kTipTimer, USER_TIMER_MINIMUM, nullptr);
+}
+
+void Control::MakeTip() {
+    KillTimer(window_, kTipTimer);
+    POINT at{};
+    GetCursorPos(&at);
+    if (hasTip_ || WindowFromPoint(at) != window_)
         return;
     hasTip_ = true;
     UpdateTip();
-    host_.Tips().Relay(firstMove);
+    ScreenToClient(window_, &at);
+    host_.Tips().Relay({window_, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y)});
 }
 
 void Control::UpdateTip() {

@@ -88,7 +88,8 @@ private:
     [[nodiscard]] bool HasTextProperty(const std::string& property) const;
 
     [[nodiscard]] bool MayHaveTip() const noexcept { return tipShowsCutText_ || !toolTip_.empty(); }
-    void MakeTip(const WindowMessage& firstMove);
+    void RequestTip() const;
+    void MakeTip();
     void UpdateTip();
 
     ControlHost& host_;
