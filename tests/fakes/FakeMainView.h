@@ -99,7 +99,10 @@ public:
         smallSwatch = background;
         smallSwatchText = text;
     }
-    void SetSmallSwatchCaption(const std::string& caption) override { smallCaption = caption; }
+    void SetSmallSwatchCaption(const std::string& caption) override {
+        smallCaption = caption;
+        ++captionsShown;
+    }
 
     // Bars
     void SetMenuChecked(int command, bool checked) override { checks[command] = checked; }
@@ -186,6 +189,7 @@ public:
     ColorNumber smallSwatch = 0;
     ColorNumber smallSwatchText = 0;
     std::string smallCaption;
+    int captionsShown = 0; // on the small swatch
     std::map<int, bool> checks;
     std::map<int, std::string> menuTexts; // in the caption's stead
     std::map<int, bool> menuEnabled;

@@ -44,6 +44,12 @@ TEST_F(ColorEditorTest, SmallSwatchIsCaptionedWithNameAndNumbers) {
     EXPECT_EQ(view.smallCaption, "Blue (R:0 G:0 B:255)");
 }
 
+TEST_F(ColorEditorTest, SmallSwatchIsCaptionedOnceForAllNineValues) {
+    const int before = view.captionsShown;
+    editor.ShowColor(kBlue);
+    EXPECT_EQ(view.captionsShown, before + 1);
+}
+
 TEST_F(ColorEditorTest, ColorBeyondTheRangeIsClampedInBoxesAndSwatchesAndNamedByItsOwnNumbers) {
     ColorRecord color = kBlue;
     color.values = {300, -5, 32767, 101, 20, 30, 40, 50, 60};

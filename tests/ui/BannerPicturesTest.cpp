@@ -55,6 +55,17 @@ TEST(BannerPictures, OneThatCannotBeLoadedKeepsItsPlace) {
     EXPECT_NE(pictures.Picture(3), nullptr);
 }
 
+TEST(BannerPictures, IsLoadedWhenItIsAskedForTheFirstTimeAndThenStays) {
+    const ScratchFolder folder;
+    folder.Write("1.bmp", "no picture yet");
+    const BannerPictures pictures(folder.Path());
+    folder.Write("1.bmp", Bitmap());
+    const HBITMAP picture = pictures.Picture(1);
+    EXPECT_NE(picture, nullptr);
+    folder.Write("1.bmp", "no picture any more");
+    EXPECT_EQ(pictures.Picture(1), picture);
+}
+
 TEST(BannerPictures, FolderMayHaveAPathBeyondTheUsualLimit) {
     const ScratchFolder folder;
     std::string path = folder.Path();

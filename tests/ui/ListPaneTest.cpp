@@ -396,6 +396,16 @@ TEST_F(MainList, EveryModeHasThePictureOfARow) {
     }
 }
 
+TEST_F(MainList, ColumnsAreArrangedOnceForAllOfThem) {
+    const auto timesArrangedFor = [this](std::size_t columns) {
+        const MessageCounter counter(
+            reinterpret_cast<HWND>(SendMessageW(List(), LVM_GETHEADER, 0, 0)));
+        view.list.AddColumns(std::vector<ListColumn>(columns, {"N", "one more", 300}));
+        return counter.Count(WM_WINDOWPOSCHANGING);
+    };
+    EXPECT_EQ(timesArrangedFor(1), timesArrangedFor(8));
+}
+
 // Showing a group as the program does, until it is painted.
 TEST_F(MainList, RowsOfAnyNumberAreShownWithTheSameMessagesAndTextsOfTheVisibleRowsAlone) {
     form.ShowWindow();

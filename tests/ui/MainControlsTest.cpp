@@ -2,6 +2,7 @@
 #include "mainwindow/CommandTable.h"
 #include "platform/Utf16.h"
 #include "tests/ui/MainFormTest.h"
+#include "tests/ui/MessageCounter.h"
 
 #include <array>
 
@@ -84,6 +85,31 @@ TEST_F(MainControls, ListsAndBarsHaveOnlyAToolTip) {
         EXPECT_EQ(Control(name)->Property("ToolTipText"), "tip");
         EXPECT_THROW(static_cast<void>(Control(name)->Property("Caption")), RuntimeError);
     }
+}
+
+// To find it takes two looks at the window's properties for each of its messages.
+TEST_F(MainControls, NoPartOfTheWindowHangsInThePlatformsChainOfProcedures) {
+    const auto count = [](HWND part, LPARAM found) -> BOOL {
+        if (GetPropW(part, L"CC32SubclassInfo") != nullptr)
+            ++*reinterpret_cast<int*>(found);
+        return TRUE;
+    };
+    int hanging = 0;
+    EnumChildWindows(form.Handle(), count, reinterpret_cast<LPARAM>(&hanging));
+    EXPECT_EQ(hanging, 0);
+    const MessageCounter counter(Child(IDC_tvColor)); // does hang in it
+    EnumChildWindows(form.Handle(), count, reinterpret_cast<LPARAM>(&hanging));
+    EXPECT_EQ(hanging, 1);
+}
+
+TEST_F(MainControls, WindowHasItsIconsWhenItIsSeen) {
+    const auto icon = [this](WPARAM kind) {
+        return SendMessageW(form.Handle(), WM_GETICON, kind, 0);
+    };
+    EXPECT_EQ(icon(ICON_BIG), 0);
+    form.ShowWindow();
+    EXPECT_NE(icon(ICON_BIG), 0);
+    EXPECT_NE(icon(ICON_SMALL), 0);
 }
 
 TEST_F(MainControls, LongerLabelMovesItsBox) {

@@ -4,6 +4,7 @@
 #include "platform/Utf16.h"
 #include "resources/controls.h"
 #include "tests/ui/MainFormTest.h"
+#include "tests/ui/MessageCounter.h"
 
 #include <algorithm>
 #include <array>
@@ -43,6 +44,23 @@ TEST_F(MainMenu, HoldsEveryEntryOfTheTableInItsOrder) {
     for (const MenuRow& row : MenuRows())
         expected.push_back(row.command);
     EXPECT_EQ(found, expected);
+}
+
+// Each drawing of the bar calculates the window's frame.
+TEST_F(MainMenu, BarIsDrawnOnceForAllTitlesThatAreNamedBeforeTheWindowIsSeen) {
+    const MessageCounter counter(form.Handle());
+    const auto nameTitles = [this](const std::string& end) {
+        for (const char* title : {"mnuFile", "mnuColor", "mnuView", "mnuOptions"})
+            Control(title)->SetProperty("Caption", title + end);
+        return 4;
+    };
+    nameTitles(" one");
+    EXPECT_EQ(counter.Count(WM_NCCALCSIZE), 0);
+    form.ShowWindow();
+    const int whenSeen = counter.Count(WM_NCCALCSIZE);
+    EXPECT_GE(whenSeen, 1);
+    const int titles = nameTitles(" two");
+    EXPECT_GE(counter.Count(WM_NCCALCSIZE), whenSeen + titles) << "each is seen at once";
 }
 
 TEST_F(MainMenu, EveryCommandReachesRunCommand) {

@@ -202,20 +202,43 @@ TEST_F(PaneTips, ListShowsOnlyCutNamesOverItsRowsAndItsOwnTipBesideThem) {
 }
 
 TEST_F(PaneTips, TipGoesWhenThePointerComesToAnotherRow) {
-    const HWND tips = form.Tips().Window();
     constexpr int kLongerThanPatience = 32'000;
-    SendMessageW(tips, TTM_SETDELAYTIME, TTDT_AUTOPOP, kLongerThanPatience); // not by itself
     const auto moveTo = [this](POINT at) {
         ClientToScreen(Child(IDC_tvColor), &at);
         SetCursorPos(at.x, at.y);
     };
     const POINT empty = LineOfTree(5);
     moveTo(empty);
-    PumpMessages();
+    ASSERT_TRUE(PumpUntil([&] { return form.Tips().Window() != nullptr; }));
+    const HWND tips = form.Tips().Window();
+    SendMessageW(tips, TTM_SETDELAYTIME, TTDT_AUTOPOP, kLongerThanPatience); // not by itself
     moveTo({empty.x + 3, empty.y}); // a tip waits for the pointer to stand still
     EXPECT_TRUE(PumpUntil([&] { return IsWindowVisible(tips) != FALSE; }));
     moveTo(LineOfTree(0));
     EXPECT_TRUE(PumpUntil([&] { return IsWindowVisible(tips) == FALSE; }));
+}
+
+TEST_F(MainTips, TipsAreMadeWhenThePointerRestsOverAControlThatHasOne) {
+    SetCursorPos(0, 0);
+    form.ShowWindow();
+    Control("tvColor")->SetProperty("ToolTipText", "Bibliotheken und Gruppen");
+    PumpMessages();
+    EXPECT_EQ(form.Tips().Window(), nullptr);
+    RECT tree{};
+    GetWindowRect(Child(IDC_tvColor), &tree);
+    SetCursorPos((tree.left + tree.right) / 2, (tree.top + tree.bottom) / 2);
+    ASSERT_TRUE(PumpUntil([this] { return form.Tips().Window() != nullptr; }));
+    EXPECT_TRUE(PumpUntil([this] { return IsWindowVisible(form.Tips().Window()) != FALSE; }))
+        << "the pointer does not move again";
+}
+
+TEST_F(MainTips, StatusBarShowsACutTextInsteadOfItsToolTip) {
+    const std::string longText(300, 'W');
+    Control("stbarMain")->SetProperty("ToolTipText", "Status");
+    view.bars.SetInfoPanelText("okay");
+    EXPECT_EQ(TipOf(IDC_stbarMain), "Status");
+    view.bars.SetInfoPanelText(longText);
+    EXPECT_EQ(TipOf(IDC_stbarMain), longText);
 }
 
 TEST_F(MainTips, ControlShowsItsToolTipText) {
