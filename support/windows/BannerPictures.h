@@ -19,8 +19,8 @@ public:
     // The number of each picture in its order; 0: it has none.
     [[nodiscard]] const std::vector<int>& Numbers() const noexcept { return numbers_; }
 
-    // Loaded when it is asked for the first time.  index: from 1; null for any other number, and for
-    // a file that holds no picture.
+    // Loaded when it is asked for the first time.  index: from 1; null for any other number, and
+    // for a file that holds no picture.
     [[nodiscard]] HBITMAP Picture(int index) const;
 
     // Which pictures can be clicked, in their order; until it is told, all of them.
