@@ -29,6 +29,7 @@ function(tnt_test_program name)
         target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <array> <functional> <map>
             <memory> <string> <vector>)
     endif()
+    tnt_unity(${name} 8)
     if(NOT MSVC)
         # The tests' own code is built once and run once; the code under test is as it is shipped.
         target_compile_options(${name} PRIVATE -O0)
@@ -76,6 +77,7 @@ else()
     list(FILTER bench_sources EXCLUDE REGEX "Windows\\.cpp$")
 endif()
 add_executable(library_bench ${bench_sources})
+tnt_unity(library_bench 10)
 target_link_libraries(library_bench PRIVATE $<IF:$<BOOL:${WIN32}>,tnt_forms,tnt_portable>)
 # Measures the preview of a material.
 add_executable(shading_bench tests/bench/ShadingBench.cpp)
