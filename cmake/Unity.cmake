@@ -18,8 +18,12 @@ function(tnt_unity target most)
     execute_process(COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tools/sources_together.py
         ${most} ${sources} OUTPUT_VARIABLE groups COMMAND_ERROR_IS_FATAL ANY)
     foreach(source group IN ZIP_LISTS sources groups)
-        set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${group})
+        set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${target}_${group})
     endforeach()
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        # It takes a file that is compiled with others for a header, which has no names for itself.
+        target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
+    endif()
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${sources})
 endfunction()

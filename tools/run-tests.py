@@ -79,16 +79,18 @@ def native_steps(doses=()):
     ]
 
 
-def tidy_steps():
+def tidy_steps(with_paths=False):
     """They take what the others leave of the machine."""
-    return [check("tidy-portable", "tools/check-tidy.py", "native", limit=3600, background=True,
+    command = ("tools/check-tidy.py", *(["--paths"] if with_paths else []))
+    return [check("tidy-portable", *command, "native", limit=7200, background=True,
                   needs=("build-native",), targets=("tnt_portable",)),
-            check("tidy-windows", "tools/check-tidy.py", "windows", limit=3600, background=True,
+            check("tidy-windows", *command, "windows", limit=7200, background=True,
                   needs=("build-native", "build-windows"), targets=("tnt_portable",))]
 
 
 def windows_suites(shards, doses):
-    """The tests on real windows; each share of them has a session of its own."""
+    """The tests on real windows; each share of them has a session of its own.  More shares than run at
+    a time let no core wait for the longest."""
     command = (*WINE, "wine", "build/windows/windows_tests.exe")
     limit = 9000 if doses else 2400
     if shards == 1:
@@ -161,7 +163,7 @@ def whole_plan(native=False, with_long=False, shards=1):
     doses = LONG_DOSES if with_long else ()
     plan = native_steps(doses)
     if not native:
-        plan += windows_steps(shards, doses) + tidy_steps()
+        plan += windows_steps(shards, doses) + tidy_steps(with_long)
     return plan + (long_steps() if with_long else [])
 
 
@@ -210,11 +212,11 @@ def chosen_plan(arguments, cores):
     """The steps to run; None when the arguments make no sense."""
     match arguments:
         case []:
-            return whole_plan(shards=cores)
+            return whole_plan(shards=2 * cores)
         case ["native"]:
             return whole_plan(native=True)
         case ["--long"]:
-            return whole_plan(with_long=True, shards=cores)
+            return whole_plan(with_long=True, shards=2 * cores)
         case [name, *patterns] if not name.startswith("-"):
             return named_plan(name, patterns)
     return None

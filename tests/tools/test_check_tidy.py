@@ -67,6 +67,12 @@ class CheckTidy(unittest.TestCase):
         self.assertIn("clang-analyzer", found)
 
     @unittest.skipUnless(shutil.which("clang-tidy"), "clang-tidy is not there")
+    def test_paths_through_the_code_are_followed_when_that_is_asked_for(self):
+        file = self.write("a.cpp", "int First() {\n    int* none = nullptr;\n    return *none;\n}\n")
+        self.assertEqual(tidy.check([file], ["-std=c++20", tidy.WITHOUT_PATHS], "tool"), [""])
+        self.assertIn("clang-analyzer", tidy.check([file], ["-std=c++20"], "tool")[0])
+
+    @unittest.skipUnless(shutil.which("clang-tidy"), "clang-tidy is not there")
     def test_files_that_do_not_go_together_after_all_are_looked_at_in_halves(self):
         files = [self.write("a.cpp", USES_ONE), self.write("b.cpp", USES_ONE.replace("First", "B"))]
         self.assertEqual(tidy.check(files, ["-std=c++20"], "tool"), ["", ""])
