@@ -27,7 +27,7 @@ using Texts = std::vector<std::string>;
 
 constexpr unsigned kUsualSeed = 20;
 constexpr int kStepsBetweenChecks = 1000;
-constexpr int kFewestSteps = 8 * kStepsBetweenChecks;
+constexpr int kFewestSteps = 20 * kStepsBetweenChecks;
 
 // What is done: TNT_MONKEY_SEED, else the same in every run of the tests.
 unsigned Seed() {
