@@ -24,9 +24,9 @@ void* NowhereInMemory() {
 
 // A function that a thread may begin with: the system checks that it is one before it calls it, and
 // would end a program that began elsewhere before any of its handlers is asked.  This one writes
-// the time to where its argument says.
+// zero to where its argument says, and does nothing else.
 LPTHREAD_START_ROUTINE WritesToItsArgument() {
-    return SystemFunction<LPTHREAD_START_ROUTINE>(L"kernelbase.dll", "GetSystemTimeAsFileTime");
+    return SystemFunction<LPTHREAD_START_ROUTINE>(L"ntdll.dll", "RtlInitializeSRWLock");
 }
 
 ModuleRange ModuleOf(LPTHREAD_START_ROUTINE function) {
