@@ -27,6 +27,7 @@ target_include_directories(tnt_converter SYSTEM PRIVATE ${cli11_headers})
 target_link_libraries(tnt_converter PUBLIC $<IF:$<BOOL:${WIN32}>,tnt_platform,tnt_portable>)
 tnt_target_options(tnt_converter)
 target_precompile_headers(tnt_converter PRIVATE ${standard_headers})
+tnt_unity(tnt_converter 10)
 
 add_executable(tnt-convert ${converter_main})
 target_link_libraries(tnt-convert PRIVATE tnt_converter tnt_version)

@@ -29,6 +29,7 @@ function(tnt_test_program name)
         target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <array> <functional> <map>
             <memory> <string> <vector>)
     endif()
+    tnt_unity(${name} 8)
     if(NOT MSVC)
         # The tests' own code is built once and run once; the code under test is as it is shipped.
         target_compile_options(${name} PRIVATE -O0)
@@ -76,6 +77,7 @@ else()
     list(FILTER bench_sources EXCLUDE REGEX "Windows\\.cpp$")
 endif()
 add_executable(library_bench ${bench_sources})
+tnt_unity(library_bench 10)
 target_link_libraries(library_bench PRIVATE $<IF:$<BOOL:${WIN32}>,tnt_forms,tnt_portable>)
 # Measures the preview of a material.
 add_executable(shading_bench tests/bench/ShadingBench.cpp)
@@ -90,6 +92,8 @@ endforeach()
 if(WIN32)
     tnt_test_program(windows_tests FOLDERS tests/platform tests/ui
         LIBRARIES standin_com standin_model tnt_forms tnt_version oleacc gmock gtest gtest_main)
+    # Types of the shell have names that the stand-in's model uses, too.
+    set_source_files_properties(tests/ui/MainPanesTest.cpp PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     # The forms' icons, and the manifest that gives the program its common controls.
     target_sources(windows_tests PRIVATE resources/tnt4swx.rc)
     # Started as processes of their own, by the tests of the server and of the program's start.

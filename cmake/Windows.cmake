@@ -20,11 +20,13 @@ target_link_libraries(tnt_platform PUBLIC tnt_portable comctl32 comdlg32 gdi32 u
     oleaut32 uuid advapi32)
 tnt_target_options(tnt_platform)
 target_precompile_headers(tnt_platform PRIVATE ${standard_headers} <windows.h> <commctrl.h>)
+tnt_unity(tnt_platform 10)
 
 add_library(tnt_forms STATIC ${form_sources})
 target_link_libraries(tnt_forms PUBLIC tnt_platform)
 tnt_target_options(tnt_forms)
 target_precompile_headers(tnt_forms REUSE_FROM tnt_platform)
+tnt_unity(tnt_forms 10)
 
 configure_file(${CMAKE_SOURCE_DIR}/resources/tnt4swx.manifest.in
     ${CMAKE_BINARY_DIR}/generated/resources/tnt4swx.manifest @ONLY)
@@ -39,6 +41,7 @@ add_library(standin_com STATIC ${standin_sources})
 target_link_libraries(standin_com PUBLIC standin_model tnt_platform)
 tnt_target_options(standin_com)
 target_precompile_headers(standin_com REUSE_FROM tnt_platform)
+tnt_unity(standin_com 10)
 
 add_executable(swx_standin WIN32 standin/com/StandInMain.cpp resources/swx_standin.rc)
 target_link_libraries(swx_standin PRIVATE standin_com tnt_version)

@@ -3,12 +3,14 @@
 
   tools/check-tidy.py native     the portable half
   tools/check-tidy.py windows    the Windows half: what the native build does not compile
+  tools/check-tidy.py --paths HALF    also what follows the paths through the code (clang-analyzer):
+                                 four fifths of the time, so for the long run
 
 A file that was clean is not looked at again until it, a project header that it includes, the
 options or the checks change; what is known lies below build/tidy.
 
 Most of the time of clang-tidy goes into the headers that every file includes, so several files are
-looked at as if they were one, unless two of them have names of their own that are the same.  When
+looked at as if they were one, where they go together (sources_together.py).  When
 something is found there, or the files do not go together, halves of them are looked at, down to single
 files, and what is found then is what is told.
 
@@ -28,18 +30,16 @@ import subprocess
 import sys
 import tempfile
 
+from sources_together import groups, with_own_headers
+
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build"
 KNOWN = BUILD / "tidy"
 ROOMS = ("app", "common", "convert", "converter", "library", "mainwindow", "palettes", "platform",
          "shading", "solidworks", "standin", "support")
 TOGETHER = 24  # files that are looked at as one, at most
-OWN_PART = re.compile(r"^namespace \{$(.*?)^\} // namespace$", re.MULTILINE | re.DOTALL)
-OWN_NAME = re.compile(r"^(?:template <.*> )?(?:(?:class|struct|enum|enum class|using|namespace) (\w+)|"
-                      r"[^\s/#}][^(={;]*?(\w+)\s*[(={;\[])", re.MULTILINE)
-MAIN = re.compile(r"\bw?(?:Win)?[mM]ain(?=\()")
 INCLUDE = re.compile(r"\s*#\s*include\s+(\S+)")
-OWN_INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
+WITHOUT_PATHS = "--checks=-clang-analyzer-*"
 MINGW = "x86_64-w64-mingw32"
 
 
@@ -63,14 +63,22 @@ def kept_options(command):
     return kept
 
 
+def sources_of(compiled):
+    """The files that are compiled as one in this file of the build, or the file itself."""
+    if compiled.parent.name != "Unity":
+        return [compiled.resolve()]
+    lines = compiled.read_text(encoding="utf-8").splitlines()
+    return [pathlib.Path(match[1].strip('"')).resolve() for match in map(INCLUDE.match, lines) if match]
+
+
 def read_commands(preset):
     """Options by source file, for the project's own files."""
     entries = json.loads((BUILD / preset / "compile_commands.json").read_text(encoding="utf-8"))
     commands = {}
     for entry in entries:
-        file = (pathlib.Path(entry["directory"]) / entry["file"]).resolve()
-        if file.is_relative_to(ROOT) and file.relative_to(ROOT).parts[0] in ROOMS:
-            commands[file] = kept_options(entry["command"])
+        for file in sources_of(pathlib.Path(entry["directory"]) / entry["file"]):
+            if file.is_relative_to(ROOT) and file.relative_to(ROOT).parts[0] in ROOMS:
+                commands[file] = kept_options(entry["command"])
     return commands
 
 
@@ -84,20 +92,9 @@ def windows_commands():
             if file not in portable}
 
 
-def with_own_headers(file, seen):
-    """Adds the file and every project header that it reaches to the set."""
-    if file in seen or not file.is_file():
-        return
-    seen.add(file)
-    for name in OWN_INCLUDE.findall(file.read_text(encoding="utf-8")):
-        with_own_headers(ROOT / name, seen)
-
-
 def fingerprint(file, options, tool):
-    reached = set()
-    with_own_headers(file, reached)
     digest = hashlib.sha256("\0".join([tool, str(file), *options]).encode())
-    for path in sorted(reached):
+    for path in sorted(with_own_headers(file, set())):
         digest.update(path.as_posix().encode() + b"\0" + path.read_bytes())
     return digest.hexdigest()
 
@@ -110,8 +107,10 @@ def tool_fingerprint():
 
 def findings(file, options):
     """What clang-tidy says about one file; empty when it is clean."""
-    command = ["clang-tidy", "--quiet", f"--config-file={ROOT / '.clang-tidy'}", str(file), "--",
-               *options]
+    compiler_options = [option for option in options if option != WITHOUT_PATHS]
+    command = ["clang-tidy", "--quiet", f"--config-file={ROOT / '.clang-tidy'}",
+               *([WITHOUT_PATHS] if WITHOUT_PATHS in options else []), str(file), "--",
+               *compiler_options]
     result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
     if result.returncode == 0:
         return ""
@@ -159,29 +158,6 @@ def check(files, options, tool):
     return found
 
 
-def own_names(file):
-    """What the file declares for itself alone, or for its program; another file may mean something
-    else by it."""
-    text = file.read_text(encoding="utf-8")
-    return {first or second for part in OWN_PART.findall(text)
-            for first, second in OWN_NAME.findall(part)} | set(MAIN.findall(text))
-
-
-def groups(files, count):
-    """The files in so many groups at least, in each of which no own name stands twice."""
-    found = [([], set()) for _ in range(count)]
-    for file in files:
-        names = own_names(file)
-        fitting = [group for group in found if len(group[0]) < TOGETHER and not names & group[1]]
-        if not fitting:
-            fitting = [([], set())]
-            found += fitting
-        members, taken = min(fitting, key=lambda group: len(group[0]))
-        members.append(file)
-        taken |= names
-    return [members for members, _ in found if members]
-
-
 def batches(commands, tool):
     """The files that nothing is known of, with their options, as many together as go together."""
     unknown = {}
@@ -190,15 +166,18 @@ def batches(commands, tool):
             unknown.setdefault((tuple(options), "standin" in file.parts), []).append(file)
     # The stand-in and the program call different things by the same names.
     return [(files, options) for (options, _), members in unknown.items()
-            for files in groups(members, -(-len(members) // TOGETHER))]
+            for files in groups(members, TOGETHER)]
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("half", choices=("native", "windows"))
-    half = parser.parse_args().half
+    parser.add_argument("--paths", action="store_true")
+    chosen = parser.parse_args()
     KNOWN.mkdir(parents=True, exist_ok=True)
-    commands = portable_commands() if half == "native" else windows_commands()
+    commands = portable_commands() if chosen.half == "native" else windows_commands()
+    if not chosen.paths:
+        commands = {file: [*options, WITHOUT_PATHS] for file, options in commands.items()}
     tool = tool_fingerprint()
     with concurrent.futures.ThreadPoolExecutor(max_workers=os.cpu_count()) as pool:
         results = pool.map(lambda batch: check(*batch, tool), batches(commands, tool))

@@ -19,7 +19,8 @@ WINE = ("tools/wine-session.sh",)
 PROGRAMS = ("tnt4swx", "swx_standin", "tnt-convert")
 OWN_LIBRARIES = ("tnt_portable", "tnt_platform", "tnt_forms", "standin_model", "tnt_converter")
 LONG_DOSES = (("TNT_MONKEY", "100000"), ("TNT_ENDURANCE", "1000"), ("TNT_KILLS", "100"),
-              ("TNT_SAVES", "1000"))
+              ("TNT_SAVES", "1000"), ("TNT_CALLS", "1000"), ("TNT_FILES", "300"),
+              ("TNT_FRAMES", "20000"), ("TNT_PAGES", "10000"), ("TNT_HISTORY", "100"))
 
 USAGE = """usage: ./test                      everything that is for every hour
        ./test native               the portable half and the quick checks
@@ -54,10 +55,11 @@ def check(name, *command, limit=120, **options):
     return Step(name, command, limit, **options)
 
 
-def native_steps():
+def native_steps(doses=()):
     return [
         build("native", 1800),
-        suite("portable-tests", "native", ["build/native/portable_tests"], 300),
+        suite("portable-tests", "native", ["build/native/portable_tests"], 900,
+              environment=doses),
         convert_tests("convert-tests", "native"),
         # Whether it runs, at a small size; nothing is timed here.
         check("library-bench", "build/native/library_bench", "10000", "1",
@@ -77,20 +79,23 @@ def native_steps():
     ]
 
 
-def tidy_steps():
+def tidy_steps(with_paths=False):
     """They take what the others leave of the machine."""
-    return [check("tidy-portable", "tools/check-tidy.py", "native", limit=3600, background=True,
+    command = ("tools/check-tidy.py", *(["--paths"] if with_paths else []))
+    return [check("tidy-portable", *command, "native", limit=7200, background=True,
                   needs=("build-native",), targets=("tnt_portable",)),
-            check("tidy-windows", "tools/check-tidy.py", "windows", limit=3600, background=True,
+            check("tidy-windows", *command, "windows", limit=7200, background=True,
                   needs=("build-native", "build-windows"), targets=("tnt_portable",))]
 
 
 def windows_suites(shards, doses):
-    """The tests on real windows; each share of them has a session of its own."""
+    """The tests on real windows; each share of them has a session of its own.  More shares than run at
+    a time let no core wait for the longest."""
     command = (*WINE, "wine", "build/windows/windows_tests.exe")
+    limit = 9000 if doses else 2400
     if shards == 1:
-        return [suite("windows-tests", "windows", command, 2400, environment=doses)]
-    return [suite(f"windows-tests-{index + 1}", "windows", command, 1800,
+        return [suite("windows-tests", "windows", command, limit, environment=doses)]
+    return [suite(f"windows-tests-{index + 1}", "windows", command, limit,
                   environment=doses + (("GTEST_TOTAL_SHARDS", str(shards)),
                                        ("GTEST_SHARD_INDEX", str(index))))
             for index in range(shards)]
@@ -111,11 +116,12 @@ def windows_steps(shards, doses):
         build("windows", 3600, follows=("build-native",)),
         *windows_suites(shards, doses),
         suite("portable-tests-wine", "windows", (*session, "build/windows/portable_tests.exe"),
-              300),
+              900, environment=doses),
         convert_tests("convert-tests-wine", "windows", *WINE, "env",
                       "TNT_CONVERT=build/windows/bin/tnt-convert.exe"),
         suite("file-faults", "windows",
-              (*WINE, "tools/run-file-faults.sh", "build/windows/file_faults.exe"), 300),
+              (*WINE, "tools/run-file-faults.sh", "build/windows/file_faults.exe"), 900,
+              environment=doses),
         # What protects the programs and their user, and that nothing of this machine is in them.
         check("hardening", "tools/check-hardening.py", *own, f"--forbid={ROOT}", "--forbid=/usr/",
               *programs, needs=("build-windows",), targets=PROGRAMS),
@@ -140,7 +146,7 @@ def long_steps():
     """The same sources with the second compiler, the coverage by tests, and fuzzing."""
     return [
         build("native-clang", 1800, follows=("packages",)),
-        suite("portable-tests-clang", "native-clang", ["build/native-clang/portable_tests"], 300),
+        suite("portable-tests-clang", "native-clang", ["build/native-clang/portable_tests"], 900),
         build("windows-clang", 3600, follows=("build-native-clang",)),
         suite("windows-tests-clang", "windows-clang",
               (*WINE, "wine", "build/windows-clang/windows_tests.exe"), 2400),
@@ -154,10 +160,10 @@ def long_steps():
 
 
 def whole_plan(native=False, with_long=False, shards=1):
-    plan = native_steps()
+    doses = LONG_DOSES if with_long else ()
+    plan = native_steps(doses)
     if not native:
-        doses = LONG_DOSES if with_long else ()
-        plan += windows_steps(shards, doses) + tidy_steps()
+        plan += windows_steps(shards, doses) + tidy_steps(with_long)
     return plan + (long_steps() if with_long else [])
 
 
@@ -206,11 +212,11 @@ def chosen_plan(arguments, cores):
     """The steps to run; None when the arguments make no sense."""
     match arguments:
         case []:
-            return whole_plan(shards=cores)
+            return whole_plan(shards=2 * cores)
         case ["native"]:
             return whole_plan(native=True)
         case ["--long"]:
-            return whole_plan(with_long=True, shards=cores)
+            return whole_plan(with_long=True, shards=2 * cores)
         case [name, *patterns] if not name.startswith("-"):
             return named_plan(name, patterns)
     return None

@@ -52,7 +52,7 @@ clean_up() {
     [[ -z $command_pid ]] || kill "$command_pid" 2>/dev/null
     if [[ -d ${WINEPREFIX-} ]]; then
         wineserver -k
-        timeout 20 wineserver -w
+        timeout 60 wineserver -w
     fi
     [[ -z $display_pid ]] || kill "$display_pid" 2>/dev/null
     wait
@@ -66,6 +66,7 @@ trap 'exit 143' TERM
 # shellcheck disable=SC2030,SC2031 # the subshell's environment is meant to end with it
 make_template() {
     local template=$1 unfinished=$1.$$
+    echo "Making a Windows environment, once; this takes half a minute" >&2
     rm -rf "$folder"/template-*/ # of another Wine, or never finished
     mkdir -p "$unfinished/home"
     (
@@ -119,7 +120,7 @@ start_display() {
         3<>"$session/display" </dev/null >/dev/null 2>&1 &
     display_pid=$!
     local number
-    read -r -t 20 number <>"$session/display" || { echo "wine-session: no Xvfb" >&2; exit 1; }
+    read -r -t 60 number <>"$session/display" || { echo "wine-session: no Xvfb" >&2; exit 1; }
     export DISPLAY=:$number
     unset XAUTHORITY WAYLAND_DISPLAY
     openbox --sm-disable </dev/null >/dev/null 2>&1 &

@@ -3,6 +3,7 @@
 #include "common/Windows1252.h"
 #include "common/ports/AnsiCodePage.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <map>
 #include <string>
@@ -32,12 +33,16 @@ public:
     }
 
     std::string Decode(std::string_view bytes) const override {
+        const auto isAscii = [](char character) {
+            return static_cast<unsigned char>(character) < 0x80;
+        };
         std::string text;
-        for (const char character : bytes) {
-            const auto octet = static_cast<unsigned char>(character);
-            const auto found = characters_.find(octet);
-            text += octet < 0x80 ? std::string(1, character)
-                                 : Utf8(found == characters_.end() ? 0xFFFD : found->second);
+        for (auto rest = bytes.begin(); rest != bytes.end();) {
+            const auto upper = std::find_if_not(rest, bytes.end(), isAscii);
+            text.append(rest, upper);
+            rest = upper;
+            if (rest != bytes.end())
+                text += Upper(static_cast<unsigned char>(*rest++));
         }
         return text;
     }
@@ -63,6 +68,11 @@ private:
     void Add(unsigned char octet, std::uint32_t codePoint) {
         characters_[octet] = codePoint;
         bytes_[Utf8(codePoint)] = octet;
+    }
+    // A byte of the upper half, as text.
+    std::string Upper(unsigned char octet) const {
+        const auto found = characters_.find(octet);
+        return Utf8(found == characters_.end() ? 0xFFFD : found->second);
     }
     static void Refuse(Encoded& encoded, const std::string& character) {
         encoded.bytes += '?';

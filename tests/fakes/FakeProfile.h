@@ -11,6 +11,9 @@
 // Private-profile files in memory; the first value of a key wins, as on the platform.
 class FakeProfile : public PrivateProfile {
 public:
+    // By file, section and key.
+    using Values = std::map<std::tuple<std::string, std::string, std::string>, std::string>;
+
     std::int32_t GetInt(const std::string& section, const std::string& key, std::int32_t fallback,
                         const std::string& file) override {
         const auto found = values.find({file, section, key});
@@ -34,7 +37,7 @@ public:
         return true;
     }
 
-    std::map<std::tuple<std::string, std::string, std::string>, std::string> values;
+    Values values;
     std::vector<std::string> asked;
     std::vector<std::string> written;
     bool isReadOnly = false;

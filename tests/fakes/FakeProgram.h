@@ -154,31 +154,19 @@ public:
 // The whole program on fakes, with the stand-in's model as the running SolidWorks.  The language
 // file of both languages is there: its message texts are their numbers in angle brackets; for the
 // descriptions of errors, which have arguments, it has none.
+//
+// Made and taken down in a file of its own: what that needs, the whole program, is compiled once
+// and not for each file of tests.
 class FakeProgram {
 public:
     // running: gets the running SolidWorks instead of the model.  sliceOfSearch: how long a search
     // goes on in one go.
     explicit FakeProgram(const std::string& scenario = "default",
                          AutomationService* running = nullptr,
-                         std::chrono::milliseconds sliceOfSearch = FindHits::kSlice)
-        : solidWorks(scenario), automation(running ? *running : retryingService),
-          findSlice(sliceOfSearch) {
-        files.contents["C:\\prog\\tntlng_de.ini"] = "";
-        files.contents["C:\\prog\\tntlng_us.ini"] = "";
-        for (int number = 0; number < 300; ++number) {
-            const bool hasArguments = (number >= 110 && number < 150) ||
-                                      (number >= 170 && number < 174) || number == 181 ||
-                                      number == 189 || (number >= 205 && number < 209) ||
-                                      (number >= 268 && number < 272) || number == 284;
-            if (hasArguments)
-                continue;
-            for (const char* code : {"de", "us"})
-                profile.values[{std::string("C:\\prog\\tntlng_") + code + ".ini", "Info",
-                                "Text." + std::to_string(number)}] =
-                    "<" + std::to_string(number) + ">";
-        }
-        textViewer.events = &application.TextViewerWindowEvents();
-    }
+                         std::chrono::milliseconds sliceOfSearch = FindHits::kSlice);
+    ~FakeProgram();
+    FakeProgram(const FakeProgram&) = delete;
+    FakeProgram& operator=(const FakeProgram&) = delete;
 
     MainEvents Main() { return application.MainWindowEvents(); }
 

@@ -4,11 +4,11 @@
 #include "platform/Win32Files.h"
 #include "platform/Win32Folders.h"
 #include "tests/e2e/RunningProgram.h"
+#include "tests/fakes/Dose.h"
 #include "tests/faults/SecondProcess.h"
 #include "tests/platform/ScratchFolder.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <optional>
@@ -17,10 +17,9 @@
 
 namespace {
 
-// How many saves of each process: TNT_SAVES, else few enough for every run of the tests.
+// How many saves of each process.
 int Saves() {
-    const char* number = std::getenv("TNT_SAVES");
-    return number != nullptr ? std::max(1, std::atoi(number)) : 100;
+    return Dose("TNT_SAVES", 100);
 }
 
 // A hundred saves take far less than one wait is patient.

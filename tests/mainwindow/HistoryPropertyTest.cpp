@@ -2,6 +2,7 @@
 // Whatever a user did: taken back step by step it is as it was before each step, and done again it
 // is as it was at the end.
 
+#include "tests/fakes/Dose.h"
 #include "tests/fakes/RandomUser.h"
 
 #include <gtest/gtest.h>
@@ -9,9 +10,12 @@
 
 namespace {
 
-constexpr int kRuns = 100;
 constexpr int kStepsOfARun = 250; // tried; some are refused or find nothing to do
-constexpr std::size_t kStepsTakenBack = 100000;
+
+// So many users in a test, or thousand steps that are taken back.
+unsigned Runs() {
+    return static_cast<unsigned>(Dose("TNT_HISTORY", 15));
+}
 
 RandomUser::Choose Seeded(unsigned seed) {
     return [random = std::mt19937(seed)](unsigned bound) mutable {
@@ -82,8 +86,9 @@ private:
 };
 
 TEST(HistoryProperty, AllStepsTakenBackAreTheStartAndDoneAgainTheEnd) {
+    const std::size_t wanted = std::size_t{1000} * Runs();
     std::size_t steps = 0; // that changed something
-    for (unsigned seed = 1; steps < kStepsTakenBack && !testing::Test::HasFailure(); ++seed) {
+    for (unsigned seed = 1; steps < wanted && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         RememberedUser user(seed);
         for (int step = 0; step < kStepsOfARun; ++step) {
@@ -107,7 +112,7 @@ TEST(HistoryProperty, AllStepsTakenBackAreTheStartAndDoneAgainTheEnd) {
 
 // Some steps back, some again, and on from there.
 TEST(HistoryProperty, StepsAfterSomeThatWereTakenBackGoOnFromThere) {
-    for (unsigned seed = 1; seed <= kRuns && !testing::Test::HasFailure(); ++seed) {
+    for (unsigned seed = 1; seed <= Runs() && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         RememberedUser user(seed);
         auto choose = Seeded(seed + 10000);
@@ -144,7 +149,7 @@ std::map<LibraryId, std::string> ContentsById(const RandomUser& user) {
 
 // Opened libraries take the keys of closed ones, which get other keys when they come back.
 TEST(HistoryProperty, FilesThatAreOpenedAndSavedInBetweenDropNoStepAndAreNotTakenBack) {
-    for (unsigned seed = 1; seed <= kRuns && !testing::Test::HasFailure(); ++seed) {
+    for (unsigned seed = 1; seed <= Runs() && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         RememberedUser user(seed);
         std::vector<std::map<LibraryId, std::string>> before;

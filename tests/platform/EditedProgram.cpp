@@ -1,6 +1,7 @@
 #include "tests/platform/EditedProgram.h"
 
 #include "common/ProgramNames.h"
+#include "platform/SystemFunction.h"
 #include "platform/Utf16.h"
 #include "platform/Win32Files.h"
 #include "platform/Win32Folders.h"
@@ -9,15 +10,34 @@
 #include "tests/platform/PollUntil.h"
 
 #include <commctrl.h>
+#include <psapi.h>
 #include <stdexcept>
 
 namespace {
 
 constexpr auto kLimit = static_cast<DWORD>(std::chrono::milliseconds(kPatience).count());
 
-// Where no process has anything.
-LPTHREAD_START_ROUTINE NowhereInMemory() {
-    return reinterpret_cast<LPTHREAD_START_ROUTINE>(UINT_PTR{0x10});
+// A page where no process has anything.
+void* NowhereInMemory() {
+    return reinterpret_cast<void*>(UINT_PTR{0x10});
+}
+
+// A function that a thread may begin with: the system checks that it is one before it calls it, and
+// would end a program that began elsewhere before any of its handlers is asked.  This one writes
+// zero to where its argument says, and does nothing else.
+LPTHREAD_START_ROUTINE WritesToItsArgument() {
+    return SystemFunction<LPTHREAD_START_ROUTINE>(L"ntdll.dll", "RtlInitializeSRWLock");
+}
+
+ModuleRange ModuleOf(LPTHREAD_START_ROUTINE function) {
+    HMODULE module = nullptr;
+    MODULEINFO information{};
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                           GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<LPCWSTR>(function), &module);
+    GetModuleInformation(GetCurrentProcess(), module, &information, sizeof information);
+    const auto begin = reinterpret_cast<std::uintptr_t>(information.lpBaseOfDll);
+    return {begin, begin + information.SizeOfImage};
 }
 
 } // namespace
@@ -50,16 +70,18 @@ std::string EditedProgram::Status() const {
     return main_.Child(IDC_stbarMain).Text();
 }
 
-void EditedProgram::Crash() const {
+ModuleRange EditedProgram::Crash() const {
     constexpr DWORD kRights = PROCESS_CREATE_THREAD | PROCESS_QUERY_INFORMATION |
                               PROCESS_VM_OPERATION | PROCESS_VM_WRITE | PROCESS_VM_READ;
     HANDLE process = OpenProcess(kRights, FALSE, Id());
     const KernelHandle opened(process != nullptr ? process : KernelHandleTraits::None());
+    const LPTHREAD_START_ROUTINE function = WritesToItsArgument();
     HANDLE thread =
-        CreateRemoteThread(opened.Get(), nullptr, 0, NowhereInMemory(), nullptr, 0, nullptr);
+        CreateRemoteThread(opened.Get(), nullptr, 0, function, NowhereInMemory(), 0, nullptr);
     if (thread == nullptr)
         throw std::runtime_error("No thread could be started in the program");
     CloseHandle(thread);
+    return ModuleOf(function);
 }
 
 void EditedProgram::Kill() const {

@@ -4,9 +4,16 @@
 #include "tests/e2e/RemoteWindow.h"
 #include "tests/e2e/RunningProgram.h"
 
+#include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
+
+// Where a library lies, in every process of a session at the same place.
+struct ModuleRange {
+    std::uintptr_t begin;
+    std::uintptr_t end;
+};
 
 // The shipped program in a process of its own, with its window shown, worked by commands.
 class EditedProgram {
@@ -29,8 +36,9 @@ public:
     [[nodiscard]] int NodeCount() const; // of the tree
     [[nodiscard]] std::string Status() const;
 
-    // Starts a thread of the process at an address where no code is.
-    void Crash() const;
+    // Starts a thread of the process in a function of the system that writes to where nothing is.
+    // Gives the library of that function, which the crash happens in.
+    [[nodiscard]] ModuleRange Crash() const;
 
     // By force; returns when it is not there any more.
     void Kill() const;

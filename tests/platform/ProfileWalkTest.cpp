@@ -1,6 +1,7 @@
 // Rules: Language files and control texts
 // A walk that reads a section once gives what the platform gives text by text, whatever the file.
 #include "platform/Win32PrivateProfile.h"
+#include "tests/fakes/Dose.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/SourceFile.h"
 
@@ -137,18 +138,19 @@ TEST_F(ProfileWalkTest, OddFiles) {
             for (const char* fallback : {"", "otherwise", "blank at the end ", "\"quoted\""})
                 questions.push_back({section, key, fallback});
     std::mt19937 random(20'261'122);
-    for (int round = 0; round < 300; ++round) {
+    const int files = Dose("TNT_FILES", 50);
+    for (int number = 0; number < files; ++number) {
         std::string content;
         for (std::size_t count = random() % 40; count > 0; --count)
             content += parts[random() % parts.size()];
-        const std::string name = std::to_string(round) + ".ini";
+        const std::string name = std::to_string(number) + ".ini";
         folder.Write(name, content);
         SCOPED_TRACE(testing::Message() << "file: " << testing::PrintToString(content));
         ExpectSame(folder.File(name), questions);
         if (HasFatalFailure())
             return;
     }
-    EXPECT_EQ(compared, 300 * static_cast<int>(questions.size()));
+    EXPECT_EQ(compared, files * static_cast<int>(questions.size()));
 }
 
 TEST_F(ProfileWalkTest, SectionThatIsTooLongForOneReadingIsReadTextByText) {

@@ -14,8 +14,8 @@ TEST(Win32AnsiCodePage, WesternPageHoldsUmlautsAndTheDivisionSign) {
 TEST(Win32AnsiCodePage, EveryByteOfTheWesternPageComesBack) {
     const Win32AnsiCodePage page(1252);
     std::string bytes;
-    for (int byte = 0; byte < 256; ++byte)
-        bytes += static_cast<char>(byte);
+    for (int octet = 0; octet < 256; ++octet)
+        bytes += static_cast<char>(octet);
     const AnsiCodePage::Encoded encoded = page.Encode(page.Decode(bytes));
     EXPECT_EQ(encoded.bytes, bytes);
     EXPECT_EQ(encoded.unstored, "");

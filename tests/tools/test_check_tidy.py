@@ -42,20 +42,13 @@ class CheckTidy(unittest.TestCase):
         self.assertEqual(tidy.batches(commands, "tool"),
                          [(files[1:4], ("-std=c++20",)), (files[4:5], ("-DX",))])
 
-    def test_no_more_files_than_are_quick_go_together_and_they_are_spread_evenly(self):
-        files = [self.write(f"{index:02}.cpp", "") for index in range(tidy.TOGETHER + 2)]
-        self.assertEqual([len(group) for group in tidy.groups(files, 2)],
-                         [tidy.TOGETHER // 2 + 1] * 2)
-
-    def test_files_that_have_the_same_name_for_themselves_do_not_go_together(self):
-        for declared in ("int One() {", "constexpr int One = 1;", "struct One {", "class One : Two {",
-                         "enum class One {", "using One = int;", "const std::array<int, 2> One{1, 2};",
-                         "template <typename T> T One(T t) {", "int One[2];"):
-            with self.subTest(declared):
-                own = f"namespace {{\n\n{declared}\n    One();\n\n}} // namespace\n"
-                files = [self.write("a.cpp", own), self.write("b.cpp", own),
-                         self.write("c.cpp", "int Three() {\n    One();\n}\n")]
-                self.assertEqual(tidy.groups(files, 1), [[files[0], files[2]], [files[1]]])
+    def test_files_that_a_build_compiles_as_one_are_found_behind_it(self):
+        sources = [self.write("a.cpp", ""), self.write("b.cpp", "")]
+        (self.folder / "Unity").mkdir()
+        together = self.write("Unity/unity_0_cxx.cxx", "/* made */\n\n" + "".join(
+            f'#include "{source}"\n\n' for source in sources))
+        self.assertEqual(tidy.sources_of(together), sources)
+        self.assertEqual(tidy.sources_of(sources[0]), sources[:1])
 
     def test_files_that_are_clean_together_are_known_to_be_clean(self):
         files = [self.write(f"{index}.cpp", f"int a{index};\n") for index in range(3)]
@@ -72,6 +65,12 @@ class CheckTidy(unittest.TestCase):
         self.assertIn("b.cpp:4:", found)
         self.assertIn("modernize-use-nullptr", found)
         self.assertIn("clang-analyzer", found)
+
+    @unittest.skipUnless(shutil.which("clang-tidy"), "clang-tidy is not there")
+    def test_paths_through_the_code_are_followed_when_that_is_asked_for(self):
+        file = self.write("a.cpp", "int First() {\n    int* none = nullptr;\n    return *none;\n}\n")
+        self.assertEqual(tidy.check([file], ["-std=c++20", tidy.WITHOUT_PATHS], "tool"), [""])
+        self.assertIn("clang-analyzer", tidy.check([file], ["-std=c++20"], "tool")[0])
 
     @unittest.skipUnless(shutil.which("clang-tidy"), "clang-tidy is not there")
     def test_files_that_do_not_go_together_after_all_are_looked_at_in_halves(self):

@@ -3,6 +3,7 @@
 #include "platform/ComApartment.h"
 #include "platform/RunningObjects.h"
 #include "platform/Win32WaitingClock.h"
+#include "tests/fakes/Dose.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/ScratchRegistry.h"
 #include "tests/platform/SourceFile.h"
@@ -14,7 +15,6 @@
 #include <algorithm>
 #include <commctrl.h>
 #include <cstdio>
-#include <cstdlib>
 
 namespace {
 
@@ -30,10 +30,8 @@ constexpr std::size_t kHeapSlack = 16U * 1024U;
 constexpr std::size_t kHistoryBytes = 16U * 1024U;
 constexpr std::size_t kMemorySlack = 2048U * 1024U; // the allocator's pages come and go
 
-// How many rounds: TNT_ENDURANCE, else few enough for every run of the tests.
 int Rounds() {
-    const char* number = std::getenv("TNT_ENDURANCE");
-    return std::max(kSamples, number != nullptr ? std::atoi(number) : 30);
+    return Dose("TNT_ENDURANCE", 3 * kSamples);
 }
 
 void PrintRow(const char* what, int round, const HeldResources& held) {

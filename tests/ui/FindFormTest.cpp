@@ -238,7 +238,7 @@ TEST_F(FindForm, TimerTicksAsLongAsItIsWanted) {
     window.TickEvery(0);
     PumpMessages();
     const int before = recorded.ticks;
-    Sleep(50);
+    Sleep(50); // five of its paces: that no tick comes can only be waited for
     PumpMessages();
     EXPECT_EQ(recorded.ticks, before);
 }

@@ -1,6 +1,7 @@
 // Rules: Active-color editor
 #include "mainwindow/panes/FieldBorder.h"
 #include "shading/MaterialField.h"
+#include "tests/fakes/Dose.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/ScratchRegistry.h"
 #include "tests/ui/GuiObjects.h"
@@ -9,18 +10,12 @@
 #include "tests/ui/WindowPicture.h"
 
 #include <commctrl.h>
-#include <cstdlib>
 
 namespace {
 
 constexpr ColorValueArray kRed{200, 30, 20, 60, 80, 50, 40, 0, 0};
 constexpr ColorNumber kRedNumber = 0x141EC8;
 constexpr ColorValueArray kGreenGlass{20, 180, 90, 60, 80, 50, 40, 60, 10};
-
-// How many frames are painted: many where TNT_ENDURANCE asks for long runs.
-int Frames() {
-    return std::getenv("TNT_ENDURANCE") != nullptr ? 20000 : 2000;
-}
 
 WindowPicture PaintedPicture(HWND window) {
     PumpMessages();
@@ -147,7 +142,7 @@ TEST_F(MaterialPreviewField, NarrowFieldIsThePlainColorAsWithoutIt) {
 TEST_F(MaterialPreviewField, FramesHoldNoMoreGraphicsObjectsHoweverManyAreShown) {
     view.editor.ShowMaterial(true);
     GuiObjects first;
-    const int frames = Frames();
+    const int frames = Dose("TNT_FRAMES", 1000);
     for (int frame = 0; frame <= frames; ++frame) {
         ColorValueArray values = kRed;
         values.back() = static_cast<std::int16_t>(frame % 100);

@@ -4,6 +4,7 @@
 #include "platform/Utf16.h"
 #include "resources/controls.h"
 #include "standin/model/ObjectRows.h"
+#include "tests/fakes/Dose.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/ScratchRegistry.h"
 #include "tests/platform/SourceFile.h"
@@ -27,12 +28,6 @@ using Texts = std::vector<std::string>;
 constexpr unsigned kUsualSeed = 20;
 constexpr int kStepsBetweenChecks = 1000;
 constexpr int kFewestSteps = 20 * kStepsBetweenChecks;
-
-// How many steps: TNT_MONKEY, else few enough for every run of the tests.
-int Steps() {
-    const char* number = std::getenv("TNT_MONKEY");
-    return std::max(kFewestSteps, number != nullptr ? std::atoi(number) : 0);
-}
 
 // What is done: TNT_MONKEY_SEED, else the same in every run of the tests.
 unsigned Seed() {
@@ -509,7 +504,7 @@ void Monkey::ExpectAgreement() {
 } // namespace
 
 TEST_F(Monkey, AnyInputLeavesTheProgramWholeAndTreeListAndLibraryInAgreement) {
-    const int steps = Steps();
+    const int steps = Dose("TNT_MONKEY", kFewestSteps);
     std::cout << "seed " << Seed() << ", " << steps << " steps\n";
     Holdings before;
     for (int step = 1; step <= steps; ++step) {

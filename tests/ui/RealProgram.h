@@ -32,6 +32,9 @@
 
 // The whole program with its real forms, real files and the real private-profile functions. Message
 // boxes are kept instead of shown.
+//
+// Made and taken down in a file of its own: what that needs, the whole program, is compiled once
+// and not for each file of tests.
 class RealProgram {
 public:
     // programFolder: holds the language files.  codePage: that of the language files.
@@ -41,36 +44,19 @@ public:
     RealProgram(RegistryAccess& registryAccess, std::string programFolder,
                 const AnsiCodePage& codePage, AutomationService* solidWorksService = nullptr,
                 const std::string& bannerFolder = {},
-                std::size_t historyBytesOfUndo = LibraryHistory::kMostBytes)
-        : registry(registryAccess), folder(std::move(programFolder)), page(codePage),
-          banners(bannerFolder.empty() ? BannerPictures() : BannerPictures(bannerFolder)),
-          automation(solidWorksService != nullptr ? *solidWorksService : service),
-          historyBytes(historyBytesOfUndo) {
-        main.Attach(application.MainWindowEvents());
-        about.Attach(application.AboutWindowEvents());
-        textViewer.Attach(application.TextViewerWindowEvents());
-        progress.Attach(application.ProgressWindowEvents());
-        recover.Attach(application.RecoverWindowEvents());
-        find.Attach(application.FindWindowEvents());
-        levels.Attach(application.LevelsWindowEvents());
-    }
+                std::size_t historyBytesOfUndo = LibraryHistory::kMostBytes);
+    ~RealProgram();
+    RealProgram(const RealProgram&) = delete;
+    RealProgram& operator=(const RealProgram&) = delete;
 
     // The address of a banner picture, from 1.
-    static std::string BannerAddress(int index) {
-        return "https://www.example.org/" + std::to_string(index);
-    }
+    static std::string BannerAddress(int index);
 
     // As the menu does.
-    void Run(int command) {
-        SendMessageW(main.Handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
-    }
+    void Run(int command);
 
     // Closes the window by its close box; the end of the program is not carried out.
-    void Close() {
-        SendMessageW(main.Handle(), WM_CLOSE, 0, 0);
-        MSG quit{};
-        PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    }
+    void Close();
 
     RegistryAccess& registry;
     std::string folder;
@@ -114,10 +100,5 @@ public:
     SilenceAtScopeEnd silence{main};
 
 private:
-    static std::vector<std::string> BannerAddresses(int count) {
-        std::vector<std::string> addresses;
-        for (int index = 1; index <= count; ++index)
-            addresses.push_back(BannerAddress(index));
-        return addresses;
-    }
+    static std::vector<std::string> BannerAddresses(int count);
 };

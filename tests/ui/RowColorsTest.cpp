@@ -1,6 +1,7 @@
 // Rules: Tree and list views
 #include "mainwindow/panes/FieldBorder.h"
 #include "shading/SurfaceShade.h"
+#include "tests/fakes/Dose.h"
 #include "tests/platform/ScratchFolder.h"
 #include "tests/platform/ScratchRegistry.h"
 #include "tests/ui/GuiObjects.h"
@@ -9,7 +10,6 @@
 #include "tests/ui/WindowPicture.h"
 
 #include <commctrl.h>
-#include <cstdlib>
 
 namespace {
 
@@ -18,11 +18,6 @@ constexpr std::array kModes = {ListViewMode::LargeIcons, ListViewMode::SmallIcon
 
 constexpr ColorValueArray kRed{200, 30, 20, 60, 80, 50, 40, 0, 0};
 constexpr ColorValueArray kGreenGlass{20, 180, 90, 60, 80, 50, 40, 60, 10};
-
-// How many pages are shown: many where TNT_ENDURANCE asks for long runs.
-int Pages() {
-    return std::getenv("TNT_ENDURANCE") != nullptr ? 10000 : 1000;
-}
 
 void Repaint(HWND list) {
     PumpMessages();
@@ -192,7 +187,7 @@ TEST_F(RowColors, PagesOfColorsHoldNoMoreGraphicsObjectsHoweverManyAreShown) {
     view.list.ShowRowColors(true);
     form.Move({600, 600, 7000, 3500});
     GuiObjects first;
-    const int pages = Pages();
+    const int pages = Dose("TNT_PAGES", 500);
     for (int page = 0; page <= pages; ++page) {
         if (page % 50 == 0)
             view.list.SetListViewMode(kModes.at(static_cast<std::size_t>(page / 50) % 4));

@@ -1,0 +1,42 @@
+#include "tests/ui/RealProgram.h"
+
+#include <utility>
+
+RealProgram::RealProgram(RegistryAccess& registryAccess, std::string programFolder,
+                         const AnsiCodePage& codePage, AutomationService* solidWorksService,
+                         const std::string& bannerFolder, std::size_t historyBytesOfUndo)
+    : registry(registryAccess), folder(std::move(programFolder)), page(codePage),
+      banners(bannerFolder.empty() ? BannerPictures() : BannerPictures(bannerFolder)),
+      automation(solidWorksService != nullptr ? *solidWorksService : service),
+      historyBytes(historyBytesOfUndo) {
+    main.Attach(application.MainWindowEvents());
+    about.Attach(application.AboutWindowEvents());
+    textViewer.Attach(application.TextViewerWindowEvents());
+    progress.Attach(application.ProgressWindowEvents());
+    recover.Attach(application.RecoverWindowEvents());
+    find.Attach(application.FindWindowEvents());
+    levels.Attach(application.LevelsWindowEvents());
+}
+
+RealProgram::~RealProgram() = default;
+
+std::string RealProgram::BannerAddress(int index) {
+    return "https://www.example.org/" + std::to_string(index);
+}
+
+void RealProgram::Run(int command) {
+    SendMessageW(main.Handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+}
+
+void RealProgram::Close() {
+    SendMessageW(main.Handle(), WM_CLOSE, 0, 0);
+    MSG quit{};
+    PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+}
+
+std::vector<std::string> RealProgram::BannerAddresses(int count) {
+    std::vector<std::string> addresses;
+    for (int index = 1; index <= count; ++index)
+        addresses.push_back(BannerAddress(index));
+    return addresses;
+}
