@@ -5,6 +5,14 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+// About what a step and a change take, whatever they keep of colors that have left.
+constexpr std::size_t kStepBytes = 400;
+constexpr std::size_t kChangeBytes = 200;
+
+} // namespace
+
 LibraryHistory::LibraryHistory(LibraryTree& tree, ColorTable& colors)
     : tree_(tree), colors_(colors) {
     tree_.SetJournal(this);
@@ -37,8 +45,9 @@ void LibraryHistory::EndStep(StepLabel label, const LibraryView& view) {
     }
     open_.label = label;
     open_.after = view;
+    open_.keptBytes = kStepBytes;
     for (const auto& change : open_.changes)
-        open_.keptBytes += change->KeptBytes();
+        open_.keptBytes += kChangeBytes + change->KeptBytes();
     for (; steps_.size() > done_; steps_.pop_back())
         keptBytes_ -= steps_.back().keptBytes;
     keptBytes_ += open_.keptBytes;

@@ -26,7 +26,7 @@ using StepLabel = std::int32_t;
 // given meanwhile.
 class LibraryHistory : public ColorJournal, public TreeJournal {
 public:
-    // So much may the steps keep of colors that have left; for more the oldest ones go.
+    // So much may the steps keep; for more the oldest ones go.
     static constexpr std::size_t kMostBytes = std::size_t{512} * 1024 * 1024;
 
     LibraryHistory(LibraryTree& tree, ColorTable& colors);

@@ -6,7 +6,8 @@
 namespace {
 
 constexpr int kColors = 100;
-constexpr std::size_t kBytesOfAGroup = kColors * sizeof(RemovedColor);
+constexpr std::size_t kMostOfAStep = 1000; // what a step takes itself
+constexpr std::size_t kBytesOfAGroup = kColors * sizeof(RemovedColor) + kMostOfAStep;
 
 // A library whose groups of a hundred colors are deleted one after the other, the last one first.
 class LibraryHistoryBudget : public testing::Test {
@@ -41,6 +42,18 @@ TEST_F(LibraryHistoryBudget, OldestStepsGoWhenTheyKeepTooMuch) {
         DeleteLastGroup();
     EXPECT_EQ(UndoAll(), 3);
     EXPECT_EQ(library.Colors().UpperBound(), 3 * kColors);
+}
+
+TEST_F(LibraryHistoryBudget, StepsThatKeepNoColorsCountToo) {
+    library.History().SetMostBytes(100 * kMostOfAStep);
+    for (int step = 0; step < 1000; ++step) {
+        library.History().BeginStep({});
+        library.Tree().SetText("0D", "name " + std::to_string(step));
+        library.History().EndStep(1, {});
+    }
+    const int left = UndoAll();
+    EXPECT_GE(left, 100);
+    EXPECT_LE(left, 500);
 }
 
 TEST_F(LibraryHistoryBudget, LastStepStaysHoweverMuchItKeeps) {

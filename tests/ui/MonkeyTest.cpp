@@ -26,6 +26,8 @@ namespace {
 using Texts = std::vector<std::string>;
 
 constexpr unsigned kUsualSeed = 20;
+// Undo may keep so much that a short run already fills it.
+constexpr std::size_t kHistoryBytes = 64U * 1024U;
 constexpr int kStepsBetweenChecks = 1000;
 constexpr int kFewestSteps = 20 * kStepsBetweenChecks;
 
@@ -96,7 +98,8 @@ protected:
         folder.Write("palette.gpl", "GIMP Palette\n255 204 77 Sun\nrubbish\n0 0 0\n");
         registry.PutText(std::string(ProgramNames::RegistryPath), "DefaultColorFile",
                          folder.File("a.tnt"));
-        program = std::make_unique<RealProgram>(registry, folder.Path(), codePage);
+        program = std::make_unique<RealProgram>(registry, folder.Path(), codePage, nullptr, "",
+                                                kHistoryBytes);
         program->application.Start();
         PumpMessages();
         others = std::make_unique<OtherWindows>(program->main.Handle(), Seed());
