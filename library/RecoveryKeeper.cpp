@@ -145,12 +145,10 @@ void RecoveryKeeper::EndRests() {
 }
 
 void RecoveryKeeper::BeginWork() {
-    const auto resting =
-        std::ranges::stable_partition(waiting_, [this](const Job& job) { return !Rests(job); });
-    if (resting.begin() == waiting_.begin())
+    for (Job& job : std::exchange(waiting_, {}))
+        (Rests(job) ? waiting_ : underWay_).push_back(std::move(job));
+    if (underWay_.empty())
         return;
-    underWay_.assign(std::move_iterator(waiting_.begin()), std::move_iterator(resting.begin()));
-    waiting_.erase(waiting_.begin(), resting.begin());
     parts_.work.Start([this, open = IdsOfOpenLibraries()] {
         for (Job& job : underWay_)
             Carry(job);
