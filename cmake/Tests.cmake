@@ -77,7 +77,6 @@ else()
     list(FILTER bench_sources EXCLUDE REGEX "Windows\\.cpp$")
 endif()
 add_executable(library_bench ${bench_sources})
-tnt_unity(library_bench 10)
 target_link_libraries(library_bench PRIVATE $<IF:$<BOOL:${WIN32}>,tnt_forms,tnt_portable>)
 # Measures the preview of a material.
 add_executable(shading_bench tests/bench/ShadingBench.cpp)
