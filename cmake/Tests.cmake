@@ -117,6 +117,7 @@ if(WIN32)
     add_executable(preview_bench tests/bench/PreviewBench.cpp tests/platform/ScratchFolder.cpp
         resources/tnt4swx.rc)
     foreach(bench walk_bench groups_bench list_bench preview_bench)
+        target_sources(${bench} PRIVATE tests/ui/RealProgram.cpp)
         target_link_libraries(${bench} PRIVATE standin_model tnt_forms tnt_version)
     endforeach()
     target_compile_definitions(walk_bench PRIVATE ${program_folder}
