@@ -23,8 +23,8 @@ TEST(Win32AnsiCodePage, EveryByteOfTheWesternPageComesBack) {
 
 TEST(Win32AnsiCodePage, WesternPageIsTheOneThatIsUsedWhereThereIsNoWindows) {
     std::string bytes;
-    for (int byte = 0; byte < 256; ++byte)
-        bytes += static_cast<char>(byte);
+    for (int code = 0; code < 256; ++code)
+        bytes += static_cast<char>(code);
     EXPECT_EQ(Win32AnsiCodePage(1252).Decode(bytes), Windows1252::CodePage().Decode(bytes));
 }
 
