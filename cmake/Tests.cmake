@@ -94,7 +94,7 @@ if(WIN32)
     # Types of the shell have names that the stand-in's model uses, too.
     set_source_files_properties(tests/ui/MainPanesTest.cpp PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     # The forms' icons, and the manifest that gives the program its common controls.
-    target_sources(windows_tests PRIVATE resources/tnt4swx.rc)
+    target_sources(windows_tests PRIVATE resources/tnt4swx.rc tests/fakes/FakeProgram.cpp)
     # Started as processes of their own, by the tests of the server and of the program's start.
     add_dependencies(windows_tests swx_standin tnt4swx)
     set(program_folder TNT_PROGRAM_FOLDER="${test_root}$<TARGET_FILE_DIR:tnt4swx>")
