@@ -28,6 +28,7 @@ float MainList::ListWidth() const {
 
 void MainList::AddColumns(const std::vector<ListColumn>& columns) {
     std::vector<ListView::Column> added;
+    added.reserve(columns.size());
     for (const ListColumn& column : columns)
         added.push_back({column.caption, scale_.ToPixels(column.width)});
     control_.AddColumns(added);

@@ -5,6 +5,7 @@
 ;   OUTPUT     the installer to make
 
 Unicode true
+Target amd64-unicode
 RequestExecutionLevel user
 SilentInstall silent
 !include FileFunc.nsh

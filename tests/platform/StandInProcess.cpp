@@ -17,11 +17,17 @@ std::wstring Quoted(const std::wstring& text) {
     return L"\"" + text + L"\"";
 }
 
+// Wine fails now and then while another process is about to end, and does not a moment later.
 KernelHandle Start(std::wstring commandLine, const STARTUPINFOW& startup) {
     STARTUPINFOW information = startup;
     PROCESS_INFORMATION process{};
-    if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                       &information, &process) == FALSE)
+    bool isStarted = false;
+    const bool isDecided = PollUntil([&] {
+        isStarted = CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                                   nullptr, &information, &process) != FALSE;
+        return isStarted || GetLastError() != ERROR_INTERNAL_ERROR;
+    });
+    if (!isDecided || !isStarted)
         return {};
     CloseHandle(process.hThread);
     return KernelHandle(process.hProcess);
