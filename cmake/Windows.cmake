@@ -20,6 +20,9 @@ target_link_libraries(tnt_platform PUBLIC tnt_portable comctl32 comdlg32 gdi32 u
     oleaut32 uuid advapi32)
 tnt_target_options(tnt_platform)
 target_precompile_headers(tnt_platform PRIVATE ${standard_headers} <windows.h> <commctrl.h>)
+# The console program takes what it needs of these, file by file, and nothing of windows with it.
+file(GLOB ports_to_windows ${CMAKE_SOURCE_DIR}/platform/*.cpp)
+set_source_files_properties(${ports_to_windows} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 tnt_unity(tnt_platform 10)
 
 add_library(tnt_forms STATIC ${form_sources})

@@ -22,6 +22,7 @@ RELOCATIONS_STRIPPED = 0x0001
 SECTION_EXECUTABLE, SECTION_WRITABLE = 0x20000000, 0x80000000
 DIRECTORY_IMPORT, DIRECTORY_RESOURCE, DIRECTORY_RELOCATION = 1, 2, 5
 RESOURCE_MANIFEST = 24
+SUBSYSTEM_CONSOLE = 3
 
 CHARACTERISTICS = {
     0x0020: "addresses of 64 bits are not used (HIGH_ENTROPY_VA)",
@@ -51,6 +52,7 @@ class Image:
             "<HHIIIHH", data, start + 4)
         self.optional = start + 24
         self.magic = self.number("<H", self.optional)
+        self.subsystem = self.number("<H", self.optional + 68)
         self.dll_flags = self.number("<H", self.optional + 70)
         table = self.optional + optional_size
         self.sections = [self.section(table + 40 * i) for i in range(count)]
@@ -135,6 +137,8 @@ def faults_of_imports(image, manifest):
     for name in image.imports():
         if name.lower() not in ALLOWED_IMPORTS:
             yield f"{name} is loaded with the program, from its own folder first"
+        if name.lower() == "user32.dll" and image.subsystem == SUBSYSTEM_CONSOLE:
+            yield "a console program that loads the window system"
         bound = BOUND_BY_MANIFEST.get(name.lower())
         if bound and bound not in manifest:
             yield f"{name} is not bound to the system's copy by the manifest"

@@ -131,9 +131,9 @@ start_keeper() {
     mkfifo "$session/keeper"
     exec 8<>"$session/keeper"
     wine cmd.exe <"$session/keeper" >/dev/null 2>&1 8>&- &
-    # What Wine starts beside the first program has that one's output: it must not be the command's,
-    # which would never come to an end.
-    wine cmd.exe /c exit </dev/null >/dev/null 2>&1 8>&-
+    # What Wine starts beside the first program that looks at the desktop has that one's output: it
+    # must not be the command's, which would never come to an end.
+    wine rundll32.exe user32.dll,GetDesktopWindow </dev/null >/dev/null 2>&1 8>&-
 }
 
 mkdir "$session"

@@ -77,6 +77,11 @@ class Faults(unittest.TestCase):
         self.assertEqual(self.faults("-luxtheme", body=SEARCH + "IsAppThemed();" + ON_THE_STACK),
                          ["UxTheme.dll is loaded with the program, from its own folder first"])
 
+    def test_a_console_program_with_the_window_system(self):
+        body = SEARCH + "MessageBoxW(0, 0, 0, 0);" + ON_THE_STACK
+        self.assertEqual(self.faults(body=body), ["a console program that loads the window system"])
+        self.assertEqual(self.faults("-mwindows", body=body), [])
+
     def test_common_controls_without_the_manifest_that_binds_them(self):
         body = SEARCH + "InitCommonControls();" + ON_THE_STACK
         self.assertEqual(self.faults("-lcomctl32", body=body),
@@ -90,7 +95,7 @@ class Faults(unittest.TestCase):
     def test_a_folder_of_the_build_in_either_encoding(self):
         for text in ('"/home/build"', 'L"/home/build"'):
             body = f"{SEARCH} MessageBoxW(0, (const wchar_t*){text}, 0, 0); {ON_THE_STACK}"
-            self.assertEqual(self.faults(body=body, forbidden=["/home/build"]),
+            self.assertEqual(self.faults("-mwindows", body=body, forbidden=["/home/build"]),
                              ["holds the text /home/build"])
 
     def test_what_is_no_program_is_refused(self):
