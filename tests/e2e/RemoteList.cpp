@@ -3,7 +3,9 @@
 #include "platform/Utf16.h"
 #include "tests/e2e/RealInput.h"
 #include "tests/e2e/RemoteMemory.h"
+#include "tests/platform/PollUntil.h"
 
+#include <algorithm>
 #include <commctrl.h>
 #include <cstdlib>
 #include <stdexcept>
@@ -16,6 +18,13 @@ POINT AsideOfPointer(POINT at) {
     POINT pointer{};
     GetCursorPos(&pointer);
     return {std::abs(pointer.x - at.x) < reach ? at.x + 2 * reach : at.x, at.y};
+}
+
+std::string InBrackets(const std::vector<std::string>& names) {
+    std::string text;
+    for (const std::string& name : names)
+        text += " [" + name + "]";
+    return text;
 }
 
 } // namespace
@@ -86,10 +95,16 @@ std::vector<std::string> RemoteList::SelectedNames() const {
 }
 
 int RemoteList::FindRow(const std::string& name) const {
-    for (int row = 0; row < RowCount(); ++row)
-        if (Cell(row, 0) == name)
-            return row;
-    throw std::runtime_error("No row " + name);
+    Row names;
+    Row::iterator found;
+    const bool isThere = PollUntil([&] {
+        names = Names();
+        found = std::find(names.begin(), names.end(), name);
+        return found != names.end();
+    });
+    if (!isThere)
+        throw std::runtime_error("No row " + name + " among" + InBrackets(names));
+    return static_cast<int>(found - names.begin());
 }
 
 void RemoteList::ClickRow(const std::string& name) const {

@@ -17,7 +17,8 @@ public:
     [[nodiscard]] std::vector<Row> ReadRows() const;
     [[nodiscard]] std::vector<std::string> SelectedNames() const; // column 0
 
-    // The row with the text in column 0; throws std::runtime_error when there is none.
+    // The row with the text in column 0, as soon as there is one; throws std::runtime_error when
+    // none comes.
     [[nodiscard]] int FindRow(const std::string& name) const;
     void ClickRow(const std::string& name) const; // with the mouse, on the text of column 0
     void ClickColumn(int column) const;           // its header

@@ -1,5 +1,7 @@
 #include "tests/e2e/RemoteMemory.h"
 
+#include "tests/platform/PollUntil.h"
+
 #include <array>
 #include <stdexcept>
 
@@ -40,10 +42,23 @@ std::wstring RemoteMemory::Text() const {
     return text.data();
 }
 
+// The other process may be held by something else for a moment.
 void RemoteMemory::Write(const void* bytes, std::size_t size) const {
-    WriteProcessMemory(process_.Get(), memory_, bytes, size, nullptr);
+    const bool isWritten = PollUntil([&] {
+        SIZE_T written = 0;
+        return WriteProcessMemory(process_.Get(), memory_, bytes, size, &written) != FALSE &&
+               written == size;
+    });
+    if (!isWritten)
+        throw std::runtime_error("The window's process takes nothing into its memory");
 }
 
 void RemoteMemory::Read(std::size_t offset, void* bytes, std::size_t size) const {
-    ReadProcessMemory(process_.Get(), memory_ + offset, bytes, size, nullptr);
+    const bool isRead = PollUntil([&] {
+        SIZE_T read = 0;
+        return ReadProcessMemory(process_.Get(), memory_ + offset, bytes, size, &read) != FALSE &&
+               read == size;
+    });
+    if (!isRead)
+        throw std::runtime_error("The memory of the window's process cannot be read");
 }

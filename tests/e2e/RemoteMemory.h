@@ -32,6 +32,7 @@ public:
     }
 
 private:
+    // Throw std::runtime_error when the process gives or takes nothing.
     void Write(const void* bytes, std::size_t size) const;
     void Read(std::size_t offset, void* bytes, std::size_t size) const;
 
