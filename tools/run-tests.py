@@ -7,6 +7,7 @@
 import dataclasses
 import os
 import pathlib
+import re
 import signal
 import subprocess
 import sys
@@ -44,6 +45,17 @@ def suite(name, preset, command, limit, **options):
     return Step(name, tuple(command), limit, needs=(f"build-{preset}",), counts=True, **options)
 
 
+def shared_suite(name, preset, command, limit, shards, doses):
+    """A test program in shares, each a step of its own: more of them than run at a time let no core
+    wait for the longest."""
+    if shards == 1:
+        return [suite(name, preset, command, limit, environment=doses)]
+    return [suite(f"{name}-{index + 1}", preset, command, limit,
+                  environment=doses + (("GTEST_TOTAL_SHARDS", str(shards)),
+                                       ("GTEST_SHARD_INDEX", str(index))))
+            for index in range(shards)]
+
+
 def convert_tests(name, preset, *command):
     """The console program of a build as scripts see it."""
     return Step(name, (*command, sys.executable, "-m", "unittest", "discover", "-s",
@@ -55,11 +67,11 @@ def check(name, *command, limit=120, **options):
     return Step(name, command, limit, **options)
 
 
-def native_steps(doses=()):
+def native_steps(shards=1, doses=()):
     return [
         build("native", 1800),
-        suite("portable-tests", "native", ["build/native/portable_tests"], 900,
-              environment=doses),
+        *shared_suite("portable-tests", "native", ["build/native/portable_tests"], 900, shards,
+                      doses),
         convert_tests("convert-tests", "native"),
         # Whether it runs, at a small size; nothing is timed here.
         check("library-bench", "build/native/library_bench", "10000", "1",
@@ -89,16 +101,10 @@ def tidy_steps(with_paths=False):
 
 
 def windows_suites(shards, doses):
-    """The tests on real windows; each share of them has a session of its own.  More shares than run at
-    a time let no core wait for the longest."""
-    command = (*WINE, "wine", "build/windows/windows_tests.exe")
-    limit = 9000 if doses else 2400
-    if shards == 1:
-        return [suite("windows-tests", "windows", command, limit, environment=doses)]
-    return [suite(f"windows-tests-{index + 1}", "windows", command, limit,
-                  environment=doses + (("GTEST_TOTAL_SHARDS", str(shards)),
-                                       ("GTEST_SHARD_INDEX", str(index))))
-            for index in range(shards)]
+    """The tests on real windows; each share of them has a session of its own."""
+    return shared_suite("windows-tests", "windows",
+                        (*WINE, "wine", "build/windows/windows_tests.exe"),
+                        9000 if doses else 2400, shards, doses)
 
 
 def job(name):
@@ -161,7 +167,7 @@ def long_steps():
 
 def whole_plan(native=False, with_long=False, shards=1):
     doses = LONG_DOSES if with_long else ()
-    plan = native_steps(doses)
+    plan = native_steps(shards, doses)
     if not native:
         plan += windows_steps(shards, doses) + tidy_steps(with_long)
     return plan + (long_steps() if with_long else [])
@@ -214,7 +220,7 @@ def chosen_plan(arguments, cores):
         case []:
             return whole_plan(shards=2 * cores)
         case ["native"]:
-            return whole_plan(native=True)
+            return whole_plan(native=True, shards=2 * cores)
         case ["--long"]:
             return whole_plan(with_long=True, shards=2 * cores)
         case [name, *patterns] if not name.startswith("-"):
@@ -225,7 +231,7 @@ def chosen_plan(arguments, cores):
 def is_native(plan):
     """Whether nothing of it needs Windows, or what is like it."""
     native = {step.name for step in native_steps()}
-    return all(step.name in native for step in plan)
+    return all(re.sub(r"-\d+$", "", step.name) in native for step in plan)
 
 
 def main():

@@ -26,11 +26,12 @@ class Plan(unittest.TestCase):
         for command in commands(self.plans[1]).values():
             self.assertFalse({"tools/wine-session.sh", "windows"} & set(command), command)
 
-    def test_windows_tests_are_shared_out_among_sessions(self):
-        shares = [dict(step.environment) for step in self.plans[2]
-                  if step.name.startswith("windows-tests-")]
-        self.assertEqual([share["GTEST_SHARD_INDEX"] for share in shares], ["0", "1", "2"])
-        self.assertEqual({share["GTEST_TOTAL_SHARDS"] for share in shares}, {"3"})
+    def test_long_suites_are_shared_out(self):
+        for suite in ("windows-tests", "portable-tests"):
+            shares = [dict(step.environment) for step in self.plans[2]
+                      if step.name.removeprefix(suite + "-").isdecimal()]
+            self.assertEqual([share["GTEST_SHARD_INDEX"] for share in shares], ["0", "1", "2"])
+            self.assertEqual({share["GTEST_TOTAL_SHARDS"] for share in shares}, {"3"})
 
     def test_jobs_have_the_machine_to_themselves(self):
         alone = {step.name for step in self.plans[0] if step.alone}
@@ -44,6 +45,12 @@ class Plan(unittest.TestCase):
 
 
 class Choice(unittest.TestCase):
+    def test_native_choices_want_nothing_of_windows_installed(self):
+        for arguments in (["native"], ["portable", "Text*"], ["convert"], ["cppcheck"]):
+            self.assertTrue(tests.is_native(tests.chosen_plan(arguments, 2)), arguments)
+        for arguments in ([], ["--long"], ["windows"], ["convert-tests-wine"], ["coverage"]):
+            self.assertFalse(tests.is_native(tests.chosen_plan(arguments, 2)), arguments)
+
     def test_nothing_that_makes_sense_is_refused(self):
         for arguments in (["nonsense"], ["--unknown"], ["--long", "portable"], ["native", "x"]):
             self.assertIsNone(tests.chosen_plan(arguments, 2), arguments)
