@@ -108,6 +108,7 @@ EditingCommands::Parts Application::PartsOfEditing(const Platform& platform) {
 FileCommands::Parts Application::PartsOfFileCommands(const Platform& platform, const Data& data) {
     return {.library = library_,
             .files = shownFiles_,
+            .disk = platform.files,
             .newNodes = newNodes_,
             .editing = editing_,
             .bars = windows_.mainView.bars,

@@ -9,12 +9,12 @@ namespace {
 
 constexpr const char* kLibraryExtension = ".tnt";
 
-// Letters of A to Z count in either case.
-bool IsSameFile(const std::string& path, const std::string& other) {
-    return ToLowerAscii(path) == ToLowerAscii(other);
-}
-
 } // namespace
+
+// Also of a file that is not there; letters of A to Z count in either case.
+bool FileCommands::AreSame(const std::string& path, const std::string& other) const {
+    return ToLowerAscii(path) == ToLowerAscii(other) || parts_.disk.AreSame(path, other);
+}
 
 std::string FileCommands::Text(std::int32_t number) const {
     return parts_.texts.GetInfoText(number);
@@ -103,7 +103,7 @@ void FileCommands::mnuFileSaveAs_Click() {
     // The dialog has asked whether another file is to be replaced; of its own file the user cannot
     // know that it has something in it which the library has not.
     const bool isOwnFile =
-        IsSameFile(*path, library.file.value_or("")) || IsSameFile(*path, library.source);
+        AreSame(*path, library.file.value_or("")) || AreSame(*path, library.source);
     if (SaveTo({*path, *path, isOwnFile ? UnknownContent::Kept : UnknownContent::GivenUp}, mainKey))
         dialogFileName_ = *path;
 }

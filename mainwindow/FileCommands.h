@@ -2,6 +2,7 @@
 
 #include "common/Settings.h"
 #include "common/ports/AnsiCodePage.h"
+#include "common/ports/Files.h"
 #include "common/ports/InfoTexts.h"
 #include "common/ports/Prompts.h"
 #include "library/ColorLibrary.h"
@@ -20,6 +21,7 @@ public:
     struct Parts {
         ColorLibrary& library;
         ShownLibraryFiles& files;
+        Files& disk;
         NewNodes& newNodes;
         EditingCommands& editing;
         BarsPane& bars;
@@ -52,6 +54,7 @@ public:
 private:
     [[nodiscard]] FileDialogRequest Request(unsigned flags) const;
     [[nodiscard]] std::string Text(std::int32_t number) const;
+    [[nodiscard]] bool AreSame(const std::string& path, const std::string& other) const;
     bool OpenLibrary(const std::string& path);
     void TellOpenFailed(const std::string& path);
     void AskAutoload(const std::string& path);

@@ -10,6 +10,7 @@
 #include "platform/Win32OutputFile.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace {
 
@@ -32,6 +33,30 @@ bool Move(const std::string& from, const std::string& to, DWORD flags) {
     if (IsReadOnly(from) || IsReadOnly(to))
         return false;
     return MoveFileExW(ToPlatformPath(from).c_str(), ToPlatformPath(to).c_str(), flags) != FALSE;
+}
+
+struct FileIdentity {
+    DWORD volume;
+    std::uint64_t number; // of the file on it
+    bool operator==(const FileIdentity&) const = default;
+};
+
+KernelHandle OpenAttributes(const std::string& path) {
+    constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    return KernelHandle(CreateFileW(ToPlatformPath(path).c_str(), FILE_READ_ATTRIBUTES, kShare,
+                                    nullptr, OPEN_EXISTING, 0, nullptr));
+}
+
+// Nothing where the volume has no number for the file: 0, or all bits set.
+std::optional<FileIdentity> IdentityOf(const KernelHandle& file) {
+    constexpr std::uint64_t kNone = ~std::uint64_t{0};
+    BY_HANDLE_FILE_INFORMATION known{};
+    if (GetFileInformationByHandle(file.Get(), &known) == FALSE)
+        return std::nullopt;
+    const std::uint64_t number = std::uint64_t{known.nFileIndexHigh} << 32U | known.nFileIndexLow;
+    return number != 0 && number != kNone
+               ? std::optional(FileIdentity{known.dwVolumeSerialNumber, number})
+               : std::nullopt;
 }
 
 std::optional<std::size_t> ReadableSize(HANDLE file) {
@@ -74,6 +99,17 @@ std::string Win32Files::FindNormalFile(const std::string& path) {
 bool Win32Files::Exists(const std::string& path) {
     const DWORD attributes = GetFileAttributesW(ToPlatformPath(path).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+// Both are open while they are compared: a number may go to another file when its own is gone.
+bool Win32Files::AreSame(const std::string& path, const std::string& other) {
+    const KernelHandle one = OpenAttributes(path);
+    const KernelHandle two = OpenAttributes(other);
+    if (!one || !two)
+        return false;
+    const auto first = IdentityOf(one);
+    const auto second = IdentityOf(two);
+    return !first || !second || *first == *second;
 }
 
 std::optional<std::string> Win32Files::ReadWhole(const std::string& path) {

@@ -11,6 +11,9 @@ public:
 
     [[nodiscard]] bool Exists(const std::string& path) override;
 
+    // By the numbers that volumes give to files; some give none.
+    [[nodiscard]] bool AreSame(const std::string& path, const std::string& other) override;
+
     // A file that another program is writing, and one of more than 1 GiB, cannot be read.
     [[nodiscard]] std::optional<std::string> ReadWhole(const std::string& path) override;
 

@@ -40,6 +40,13 @@ bool IsReadOnly(const std::string& path) {
     return state && (state->st_mode & S_IWUSR) == 0;
 }
 
+// A pipe tells its size at its end only.
+bool IsTooLarge(const OpenFile& file) {
+    struct stat state {};
+    return file && fstat(file.Number(), &state) == 0 &&
+           state.st_size > static_cast<off_t>(kLargestFile);
+}
+
 bool MayBeReplaced(const std::string& path) {
     const auto state = StateOf(path);
     return !state || (S_ISREG(state->st_mode) && !IsReadOnly(path));
@@ -81,8 +88,16 @@ bool LinuxFiles::Exists(const std::string& path) {
     return state && !S_ISDIR(state->st_mode);
 }
 
+bool LinuxFiles::AreSame(const std::string& path, const std::string& other) {
+    const auto one = StateOf(path);
+    const auto two = StateOf(other);
+    return one && two && one->st_dev == two->st_dev && one->st_ino == two->st_ino;
+}
+
 std::optional<std::string> LinuxFiles::ReadWhole(const std::string& path) {
     const OpenFile file(path.c_str(), O_RDONLY);
+    if (IsTooLarge(file))
+        return std::nullopt;
     std::string content;
     ssize_t count = file ? 1 : -1;
     for (std::size_t size = 0; count > 0 && size <= kLargestFile;) {

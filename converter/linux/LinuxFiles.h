@@ -10,6 +10,9 @@ public:
 
     [[nodiscard]] bool Exists(const std::string& path) override;
 
+    // By device and number; a link is the file that it leads to.
+    [[nodiscard]] bool AreSame(const std::string& path, const std::string& other) override;
+
     // A pipe is read to its end.  What has more than 1 GiB cannot be read.
     [[nodiscard]] std::optional<std::string> ReadWhole(const std::string& path) override;
 

@@ -33,6 +33,11 @@ public:
         return found == contents.end() ? std::string() : path.substr(path.rfind('\\') + 1);
     }
     bool Exists(const std::string& path) override { return contents.contains(path); }
+    bool AreSame(const std::string& path, const std::string& other) override {
+        const auto name = otherNames.find(path);
+        return Exists(other) &&
+               (path == other || (name != otherNames.end() && name->second == other));
+    }
     std::optional<std::string> ReadWhole(const std::string& path) override {
         const auto found = contents.find(path);
         if (found == contents.end() || unreadable.contains(path))
@@ -91,11 +96,12 @@ public:
         return names;
     }
 
-    std::map<std::string, std::string> contents; // by path
-    std::map<std::string, bool> unreadable;      // paths that cannot be read
-    std::map<std::string, bool> locked;          // paths that cannot be renamed or replaced
-    std::map<std::string, bool> folders;         // paths of folders
-    Exchanged exchanges = Exchanged::Done;       // how far an exchange that does not fail comes
+    std::map<std::string, std::string> contents;   // by path
+    std::map<std::string, std::string> otherNames; // and the path that each leads to
+    std::map<std::string, bool> unreadable;        // paths that cannot be read
+    std::map<std::string, bool> locked;            // paths that cannot be renamed or replaced
+    std::map<std::string, bool> folders;           // paths of folders
+    Exchanged exchanges = Exchanged::Done;         // how far an exchange that does not fail comes
     std::string newcomer; // what somebody else puts in the place that an exchange left empty
 
     std::function<void(const std::string&)> onTurn; // when a turn with a path has come

@@ -3,6 +3,7 @@
 #include "common/ports/Prompts.h"
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -27,6 +28,8 @@ public:
 
     Answer ShowMessage(const std::string& prompt, int style, const std::string& title) override {
         messages.push_back({prompt, style, title});
+        if (onMessage)
+            onMessage();
         return Next(answers, Answer::Ok);
     }
     std::string AskText(const std::string& prompt, const std::string& title,
@@ -57,6 +60,8 @@ public:
     std::deque<std::optional<std::string>> chosenFiles;
     std::deque<std::vector<std::string>> chosenFileSets;
     std::deque<std::optional<ColorNumber>> chosenColors;
+
+    std::function<void()> onMessage; // while a message is shown
 
     std::vector<Message> messages;
     std::vector<Question> questions;

@@ -26,6 +26,7 @@ struct LibrarySession {
                         .progress = shown != nullptr ? *shown : progress}),
           commands({.library = library,
                     .files = libraryFiles,
+                    .disk = files,
                     .newNodes = newNodes,
                     .editing = editing,
                     .bars = view,

@@ -17,6 +17,9 @@ public:
         return files_.FindNormalFile(path);
     }
     bool Exists(const std::string& path) override { return files_.Exists(path); }
+    bool AreSame(const std::string& path, const std::string& other) override {
+        return files_.AreSame(path, other);
+    }
     std::optional<std::string> ReadWhole(const std::string& path) override {
         return files_.ReadWhole(path);
     }

@@ -196,6 +196,17 @@ TEST_F(KeptFilesTest, SaveAsOverTheLibrarysOwnFileIsASave) {
     EXPECT_EQ(files.contents.at("c:\\LIB\\A (kept 2024-03-09 080507).TNT"), kForeign);
 }
 
+// By its short name, for example; without backups nothing else would have the content.
+TEST_F(KeptFilesTest, SaveAsOverTheLibrarysOwnFileByAnotherNameIsASave) {
+    session.settings.createBackups = false;
+    session.Open(kA);
+    files.contents[kA] = kForeign;
+    files.contents["C:\\lib\\a~1.tnt"] = kForeign;
+    files.otherNames["C:\\lib\\a~1.tnt"] = kA;
+    session.SaveAs("C:\\lib\\a~1.tnt");
+    EXPECT_EQ(files.contents.at("C:\\lib\\a~1 (kept 2024-03-09 080507).tnt"), kForeign);
+}
+
 TEST_F(KeptFilesTest, LibraryWithoutGroupsKeepsWhatItMovesToTheBackup) {
     const std::string source = "\"D#Lib=0D:1\"\r\n\"G#broken\"\r\n";
     files.contents[kA] = source;

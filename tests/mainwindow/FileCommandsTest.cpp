@@ -38,6 +38,13 @@ TEST_F(FileCommandsTest, OpenAsksWithTitleFilterAndFlags) {
     EXPECT_EQ(prompts.fileRequests[0].flags, 0x1800U);
 }
 
+TEST_F(FileCommandsTest, StatusBarShowsTheOpenedFileWhileTheQuestionIsAsked) {
+    std::vector<std::string> before;
+    prompts.onMessage = [&] { before = view.infoPanels; };
+    Open(kA);
+    EXPECT_EQ(before, std::vector<std::string>{"Okay a.tnt"});
+}
+
 TEST_F(FileCommandsTest, SeveralDroppedLibrariesOpenInTheirOrderWithoutAQuestion) {
     commands.OpenDropped({kB, kA});
     EXPECT_EQ(view.infoPanels, (std::vector<std::string>{"Okay b.tnt", "Okay a.tnt"}));
@@ -161,6 +168,9 @@ TEST_F(FileCommandsTest, SaveAsPresetsTheLibrarysFile) {
     library.Tree().Select("0DG1");
     commands.mnuFileSaveAs_Click();
     EXPECT_EQ(prompts.fileRequests.back().fileName, kA);
+    EXPECT_EQ(prompts.fileRequests.back().title, "<20>");
+    EXPECT_EQ(prompts.fileRequests.back().filter, "<21>|*.tnt|<22>|*.*");
+    EXPECT_EQ(prompts.fileRequests.back().flags, 0x8806U);
 }
 
 TEST_F(FileCommandsTest, CancelledSaveAsGivesTheDialogItsFileNameBack) {

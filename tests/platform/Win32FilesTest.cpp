@@ -69,6 +69,16 @@ TEST_F(Win32FilesTest, MissingFileFolderAndEmptyNameCannotBeRead) {
     EXPECT_FALSE(files.ReadWhole(""));
 }
 
+TEST_F(Win32FilesTest, OneFileIsTheSameByEachOfItsNames) {
+    WriteThroughPort(folder.File("\xC3\xA4.tnt"), "x");
+    WriteThroughPort(folder.File("b.tnt"), "x");
+    EXPECT_TRUE(files.AreSame(folder.File("\xC3\xA4.tnt"), folder.File("\xC3\x84.TNT")));
+    EXPECT_TRUE(files.AreSame(folder.File("b.tnt"), folder.File(".\\b.tnt")));
+    EXPECT_FALSE(files.AreSame(folder.File("b.tnt"), folder.File("\xC3\xA4.tnt")));
+    EXPECT_FALSE(files.AreSame(folder.File("b.tnt"), folder.File("none.tnt")));
+    EXPECT_FALSE(files.AreSame(folder.File("none.tnt"), folder.File("none.tnt")));
+}
+
 TEST_F(Win32FilesTest, NamesOutsideTheCodePageWork) {
     const std::string name = "\xE8\x89\xB2\xC3\xBC\xD1\x86.tnt";
     WriteThroughPort(folder.File(name), "x");

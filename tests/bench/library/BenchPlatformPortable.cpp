@@ -33,6 +33,10 @@ public:
         return Exists(path) ? std::filesystem::path(path).filename().string() : std::string();
     }
     bool Exists(const std::string& path) override { return std::filesystem::exists(path); }
+    bool AreSame(const std::string& path, const std::string& other) override {
+        std::error_code error;
+        return std::filesystem::equivalent(path, other, error);
+    }
     std::optional<std::string> ReadWhole(const std::string& path) override {
         const OpenFile file(std::fopen(path.c_str(), "rb"));
         if (!file)

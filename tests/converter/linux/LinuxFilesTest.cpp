@@ -58,6 +58,16 @@ TEST_F(LinuxFilesTest, MoreThanAGibibyteIsNotRead) {
     EXPECT_FALSE(files.ReadWhole(path).has_value());
 }
 
+TEST_F(LinuxFilesTest, OneFileIsTheSameByEachOfItsNames) {
+    const std::string path = Make("a", "x");
+    fs::create_symlink(path, Path("link"));
+    EXPECT_TRUE(files.AreSame(path, folder.string() + "/./a"));
+    EXPECT_TRUE(files.AreSame(path, Path("link")));
+    EXPECT_FALSE(files.AreSame(path, Make("b", "x")));
+    EXPECT_FALSE(files.AreSame(path, Path("none")));
+    EXPECT_FALSE(files.AreSame(Path("none"), Path("none")));
+}
+
 TEST_F(LinuxFilesTest, PipeIsReadToItsEnd) {
     const std::string path = Path("pipe");
     ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
