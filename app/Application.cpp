@@ -27,7 +27,7 @@ Application::Application(const Platform& platform, const Windows& windows, const
                       data.recoveryFolder),
       recoveryKeeper_(PartsOfKeeper(platform)),
       solidWorks_({platform.automation, platform.retry, platform.prompts, language_,
-                   windows.progressView, platform.events, stopFlag_}),
+                   windows.progress, platform.events, stopFlag_}),
       links_(platform.shell),
       banner_(links_, data.bannerAddresses, [this](int index) { ShowBanner(index); }),
       systemInformation_(
@@ -39,7 +39,7 @@ Application::Application(const Platform& platform, const Windows& windows, const
               data.version}),
       textViewer_({windows.textViewer, language_, platform.files, platform.codePage, settings_,
                    banner_, data.programFolder}),
-      progress_(windows.progressWindow, windows.progressForm, language_, settings_, stopFlag_),
+      progress_(windows.progressWindow, language_, settings_, stopFlag_),
       panes_(windows.mainView, library_, platform.prompts, language_, platform.collation),
       newNodes_(PartsOfNewNodes(platform)), shownFiles_(PartsOfShownFiles(platform)),
       tips_(library_, language_), viewCommands_({.bars = windows.mainView.bars,
@@ -91,7 +91,7 @@ ShownLibraryFiles::Parts Application::PartsOfShownFiles(const Platform& platform
             .settings = settings_,
             .prompts = platform.prompts,
             .texts = language_,
-            .progress = windows_.progressView};
+            .progress = windows_.progress};
 }
 
 EditingCommands::Parts Application::PartsOfEditing(const Platform& platform) {
@@ -287,6 +287,7 @@ std::vector<LocalizableForm*> Application::LocalizableForms() const {
     std::vector<LocalizableForm*> forms{&windows_.mainForm};
     if (AboutView* about = windows_.about.IfMade())
         forms.push_back(about);
-    forms.push_back(&windows_.progressForm);
+    if (ProgressForm* progress = windows_.progressWindow.IfMade())
+        forms.push_back(progress);
     return forms;
 }

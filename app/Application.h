@@ -75,9 +75,8 @@ public:
         LocalizableForm& mainForm;
         OnDemand<AboutView>& about;
         OnDemand<TextViewerView>& textViewer;
-        ProgressView& progressView;
-        FormWindow& progressWindow;
-        LocalizableForm& progressForm;
+        ProgressView& progress;
+        OnDemand<ProgressForm>& progressWindow;
         OnDemand<RecoverView>& recover;
         OnDemand<FindView>& find;
         OnDemand<LevelsView>& levels;

@@ -27,9 +27,11 @@
 #include "platform/Win32RunningCopies.h"
 #include "platform/Win32Shell.h"
 #include "platform/Win32TextCollation.h"
+#include "platform/Win32Ticker.h"
 #include "platform/Win32WaitingClock.h"
 #include "support/language/ErrorReporter.h"
 #include "support/windows/BannerPictures.h"
+#include "support/windows/PatientProgress.h"
 #include "support/windows/frmAbout.h"
 #include "support/windows/frmProgress.h"
 #include "support/windows/frmTxtView.h"
@@ -68,6 +70,7 @@ struct Ports {
     Win32Clipboard clipboard{owner};
     clsMultiLanguage language{profile, files, codePage};
     ErrorReporter errors{prompts, language};
+    Win32Ticker ticker{errors};
 };
 
 // Empty where there is no folder for data.
@@ -79,13 +82,15 @@ std::string RecoveryFolderIn(const std::string& dataFolder) {
 struct AuxiliaryForms {
     AuxiliaryForms(HWND mainWindow, Ports& ports, const BannerPictures& banners)
         : about(mainWindow, ports.errors, banners), textViewer(mainWindow, ports.errors, banners),
-          progress(mainWindow, ports.errors, ports.clock, kProgressPatience),
+          progressWindow(mainWindow, ports.errors),
+          progress(progressWindow, ports.ticker, ports.clock, kProgressPatience),
           recover(mainWindow, ports.errors), find(mainWindow, ports.errors),
           levels(mainWindow, ports.errors) {}
 
     AboutOnDemand about;
     TextViewerOnDemand textViewer;
-    frmProgress progress;
+    ProgressOnDemand progressWindow;
+    PatientProgress progress;
     RecoverOnDemand recover;
     FindOnDemand find;
     LevelsOnDemand levels;
@@ -116,9 +121,8 @@ Application::Windows WindowsOf(frmMain& main, AuxiliaryForms& auxiliary) {
             .mainForm = main,
             .about = auxiliary.about,
             .textViewer = auxiliary.textViewer,
-            .progressView = auxiliary.progress,
-            .progressWindow = auxiliary.progress,
-            .progressForm = auxiliary.progress,
+            .progress = auxiliary.progress,
+            .progressWindow = auxiliary.progressWindow,
             .recover = auxiliary.recover,
             .find = auxiliary.find,
             .levels = auxiliary.levels};
@@ -128,7 +132,7 @@ void Attach(Application& application, frmMain& main, AuxiliaryForms& auxiliary) 
     main.Attach(application.MainWindowEvents());
     auxiliary.about.Attach(application.AboutWindowEvents());
     auxiliary.textViewer.Attach(application.TextViewerWindowEvents());
-    auxiliary.progress.Attach(application.ProgressWindowEvents());
+    auxiliary.progressWindow.Attach(application.ProgressWindowEvents());
     auxiliary.recover.Attach(application.RecoverWindowEvents());
     auxiliary.find.Attach(application.FindWindowEvents());
     auxiliary.levels.Attach(application.LevelsWindowEvents());

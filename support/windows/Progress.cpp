@@ -3,8 +3,8 @@
 #include "support/settings/modWindowsHandling.h"
 
 void Progress::ProgressLoading() {
-    language_.SetAllControlText(form_);
-    SetFormOnTop(window_, settings_.alwaysOnTop);
+    language_.SetAllControlText(window_.Get());
+    SetFormOnTop(window_.Get(), settings_.alwaysOnTop);
 }
 
 void Progress::StopClicked() {

@@ -10,19 +10,14 @@ constexpr int kWidth = 360;
 constexpr int kMargin = 12;
 constexpr int kBarHeight = 18;
 
-constexpr UINT_PTR kPatienceTimer = 1;
-constexpr UINT kPatienceTick = 50; // milliseconds
-constexpr unsigned kFewSteps = 64;
-
 FormDesign DesignFor(HWND owner) {
     return {L"frmProgress", L"TNT4SWX", kDialogStyle, WS_EX_DLGMODALFRAME, owner, {380, 140}, {}};
 }
 
 } // namespace
 
-frmProgress::frmProgress(HWND owner, ErrorSink& errors, const WaitingClock& clock,
-                         std::chrono::milliseconds patience)
-    : FormOf(DesignFor(owner), errors), clock_(clock), patience_(patience),
+frmProgress::frmProgress(HWND owner, ErrorSink& errors)
+    : FormOf(DesignFor(owner), errors),
       lblInfo_(Add<Label>(At("lblInfo", IDC_lblInfo), LabelText::Plain)),
       prbMain_(Add<ProgressBar>(At("prbMain", IDC_prbMain))),
       cmdCancel_(Add<CommandButton>(At("cmdCancel", IDC_cmdCancel))) {
@@ -31,39 +26,14 @@ frmProgress::frmProgress(HWND owner, ErrorSink& errors, const WaitingClock& cloc
     frmProgress::OnLayout();
 }
 
-// Nothing is done for a window that may never appear: most operations are over at once.
-void frmProgress::ShowProgress(const std::string& label, std::int32_t minimum,
-                               std::int32_t maximum) {
-    label_ = label;
-    minimum_ = minimum;
-    maximum_ = maximum;
-    value_ = minimum;
-    due_ = clock_.Now() + patience_;
-    waiting_ = true;
-    steps_ = 0;
-    // An operation that lets the window handle events is seen by the timer, any other by its steps.
-    SetTimer(Handle(), kPatienceTimer, kPatienceTick, nullptr);
-    if (IsWindowVisible(Handle()) != FALSE)
-        Appear();
-    else
-        AppearWhenDue();
-}
-
-void frmProgress::AppearWhenDue() {
-    if (waiting_ && clock_.Now() >= due_)
-        Appear();
-}
-
-void frmProgress::Appear() {
-    waiting_ = false;
-    KillTimer(Handle(), kPatienceTimer);
+void frmProgress::ShowProgress(const ProgressState& state) {
     if (!cursor_)
         cursor_.emplace();
     if (events_ != nullptr)
         events_->ProgressLoading();
-    lblInfo_.SetText(label_);
-    prbMain_.SetRange(minimum_, maximum_);
-    prbMain_.SetValue(value_);
+    lblInfo_.SetText(state.label);
+    prbMain_.SetRange(state.minimum, state.maximum);
+    prbMain_.SetValue(state.value);
     OnLayout();
     if (IsWindowVisible(Handle()) == FALSE)
         CentreOnOwner(Handle());
@@ -71,19 +41,8 @@ void frmProgress::Appear() {
     RefreshProgress();
 }
 
-MessageResult frmProgress::OnMessage(const WindowMessage& message) {
-    if (message.id != WM_TIMER)
-        return Form::OnMessage(message);
-    AppearWhenDue();
-    return 0;
-}
-
 void frmProgress::SetProgress(std::int32_t value) {
-    value_ = value;
-    if (!waiting_)
-        prbMain_.SetValue(value);
-    else if (++steps_ < kFewSteps || steps_ % kFewSteps == 0) // many steps are short ones
-        AppearWhenDue();
+    prbMain_.SetValue(value);
 }
 
 // UpdateWindow paints the window itself only; its parts are painted as well.
@@ -92,9 +51,7 @@ void frmProgress::RefreshProgress() {
 }
 
 void frmProgress::HideProgress() {
-    waiting_ = false;
     cursor_.reset();
-    KillTimer(Handle(), kPatienceTimer);
     if (IsWindowVisible(Handle()) != FALSE)
         Hide();
 }

@@ -129,7 +129,7 @@ void MeasureProgram(const std::string& program, std::vector<Phase>& phases) {
     WatchedStart start("\"" + program + "\"", phases);
     HWND window = nullptr;
     start.Until(0, [&] { return (window = WindowOf(L"frmMain", start.Id())) != nullptr; });
-    start.Until(1, [&] { return WindowOf(L"frmProgress", start.Id()) != nullptr; });
+    start.Until(1, [&] { return GetDlgItem(window, IDC_lblDrag) != nullptr; });
     start.Until(2, [&] { return IsWindowVisible(window) != FALSE; });
     const HWND tree = RemoteWindow(window).Child(IDC_tvColor).Handle();
     const HWND list = RemoteWindow(window).Child(IDC_lvColor).Handle();
@@ -154,7 +154,7 @@ void Measure(const std::string& folder, int repetitions) {
     std::vector<Phase> floor{{"started and ended", {}}};
     std::vector<Phase> editor{{"window made", {}}, {"window shown", {}}, {"painted", {}}};
     std::vector<Phase> program{{"main window made", {}},
-                               {"all windows made", {}},
+                               {"all its controls made", {}},
                                {"library loaded, window shown", {}},
                                {"painted", {}}};
     for (int repetition = -2; repetition < repetitions; ++repetition) {

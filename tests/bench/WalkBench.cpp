@@ -9,7 +9,9 @@
 #include "resources/controls.h"
 #include "solidworks/ResultKey.h"
 #include "solidworks/modSldTools.h"
+#include "platform/Win32Ticker.h"
 #include "support/windows/frmProgress.h"
+#include "support/windows/PatientProgress.h"
 #include "tests/fakes/FakePrompts.h"
 #include "tests/fakes/FakeRegistry.h"
 #include "tests/fakes/FakeTexts.h"
@@ -267,7 +269,9 @@ void Walk(std::string (modSldTools::*operation)(), EventPump& events) {
     FakePrompts prompts;
     FakeTexts texts;
     RecordingErrorSink errors;
-    frmProgress progress(nullptr, errors, clock, patience);
+    Win32Ticker ticker(errors);
+    ProgressOnDemand window(nullptr, errors);
+    PatientProgress progress(window, ticker, clock, patience);
     bool stopFlag = false;
     modSldTools tools({automation, retry, prompts, texts, progress, events, stopFlag});
     if ((tools.*operation)() != ResultKey::Okay)

@@ -136,12 +136,11 @@ public:
     RecordingView view{effects};
     clsMultiLanguage language{rest.profile, files, rest.codePage};
     ErrorReporter errors{rest.prompts, language};
-    Application application{{files, rest.codePage, registry, rest.prompts, rest.clipboard,
-                             rest.collation, rest.shell, rest.events, rest.service, rest.retry,
-                             language, errors, rest.calendar, rest.files, rest.copies,
-                             rest.background},
-                            {view.View(), window, form, rest.aboutWindow, rest.textViewerWindow,
-                             rest.progress, rest.progressWindow, rest.progressForm,
-                             rest.recoverWindow, rest.findWindow, rest.levelsWindow},
-                            {"C:\\prog", "1.2.7", {"https://www.example.org/1"}, "C:\\prog"}};
+    Application application{
+        {files, rest.codePage, registry, rest.prompts, rest.clipboard, rest.collation, rest.shell,
+         rest.events, rest.service, rest.retry, language, errors, rest.calendar, rest.files,
+         rest.copies, rest.background},
+        {view.View(), window, form, rest.aboutWindow, rest.textViewerWindow, rest.progress,
+         rest.progressWindow, rest.recoverWindow, rest.findWindow, rest.levelsWindow},
+        {"C:\\prog", "1.2.7", {"https://www.example.org/1"}, "C:\\prog"}};
 };

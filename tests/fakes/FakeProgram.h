@@ -15,6 +15,7 @@
 #include "tests/fakes/FakeOnDemand.h"
 #include "tests/fakes/FakeProfile.h"
 #include "tests/fakes/FakeProgress.h"
+#include "tests/fakes/FakeProgressForm.h"
 #include "tests/fakes/FakePrompts.h"
 #include "tests/fakes/FakeRegistry.h"
 #include "tests/fakes/FakeRunningCopies.h"
@@ -210,15 +211,15 @@ public:
     FakeOnDemand<LevelsView> levelsWindow{levels};
     FakeRunningCopies copies;
     FakeBackgroundWork background;
-    FakeFormWindow progressWindow{"frmProgress"};
-    FakeForm progressForm{"frmProgress"};
+    FakeProgressForm progressForm;
+    FakeOnDemand<ProgressForm> progressWindow{progressForm};
     clsMultiLanguage language{profile, files, codePage};
     ErrorReporter errors{prompts, language};
     Application application{
         {files, codePage, registry, prompts, clipboard, collation, shell, events, automation, retry,
          language, errors, calendar, files, copies, background},
         {view.View(), mainWindow, mainForm, aboutWindow, textViewerWindow, progress, progressWindow,
-         progressForm, recoverWindow, findWindow, levelsWindow},
+         recoverWindow, findWindow, levelsWindow},
         {"C:\\prog",
          "1.2.7",
          {"https://www.example.org/1", "https://www.example.org/2", "https://www.example.org/3"},

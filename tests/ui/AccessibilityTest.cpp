@@ -14,7 +14,6 @@
 #include "support/windows/frmAbout.h"
 #include "support/windows/frmProgress.h"
 #include "support/windows/frmTxtView.h"
-#include "tests/fakes/FakeWaitingClock.h"
 #include "tests/platform/SourceFile.h"
 #include "tests/ui/AccessibleNames.h"
 #include "tests/ui/MainFormTest.h"
@@ -84,8 +83,7 @@ TEST_P(Accessibility, Viewer) {
 }
 
 TEST_P(Accessibility, Progress) {
-    FakeWaitingClock clock;
-    frmProgress progress(form.Handle(), errors, clock);
+    frmProgress progress(form.Handle(), errors);
     SetDlgItemTextW(progress.Handle(), IDC_lblInfo, L"Reading the library ...");
     ExpectNamesInLanguage(progress);
 }

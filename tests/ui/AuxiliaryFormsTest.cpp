@@ -3,9 +3,11 @@
 #include "platform/InputBox.h"
 #include "platform/InputBoxControls.h"
 #include "platform/MessageLoop.h"
+#include "platform/Win32Ticker.h"
 #include "support/windows/frmAbout.h"
 #include "support/windows/frmProgress.h"
 #include "support/windows/frmTxtView.h"
+#include "support/windows/PatientProgress.h"
 #include "tests/fakes/FakeWaitingClock.h"
 #include "tests/ui/GuiObjects.h"
 #include "platform/ComApartment.h"
@@ -14,6 +16,7 @@
 #include "tests/ui/MessageCounter.h"
 
 #include <algorithm>
+#include <thread>
 
 using namespace std::chrono_literals;
 
@@ -57,16 +60,15 @@ protected:
     }
 
     RecordingEvents recorded;
-    FakeWaitingClock clock;
 };
 
 TEST_F(AuxiliaryForms, ProgressTakesItsTextsEachTimeItIsShown) {
-    frmProgress progress(form.Handle(), errors, clock);
+    frmProgress progress(form.Handle(), errors);
     progress.Attach(recorded);
     EXPECT_EQ(TextOf(progress.Handle()), L"TNT4SWX");
     EXPECT_EQ(TextOf(FindChild(progress.Handle(), IDC_cmdCancel)), L"Stop");
     for (int time = 0; time < 2; ++time) {
-        progress.ShowProgress("Farben werden entfernt ...", 10, 30);
+        progress.ShowProgress({"Farben werden entfernt ...", 10, 30, 10});
         EXPECT_NE(IsWindowVisible(progress.Handle()), FALSE);
         progress.HideProgress();
         EXPECT_EQ(IsWindowVisible(progress.Handle()), FALSE);
@@ -76,9 +78,9 @@ TEST_F(AuxiliaryForms, ProgressTakesItsTextsEachTimeItIsShown) {
 }
 
 TEST_F(AuxiliaryForms, ProgressBeyondTheMaximumStaysAtTheEnd) {
-    frmProgress progress(form.Handle(), errors, clock);
+    frmProgress progress(form.Handle(), errors);
     const HWND bar = FindChild(progress.Handle(), IDC_prbMain);
-    progress.ShowProgress("x", 10, 30);
+    progress.ShowProgress({"x", 10, 30, 10});
     EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 10);
     progress.SetProgress(20);
     EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 20);
@@ -88,9 +90,9 @@ TEST_F(AuxiliaryForms, ProgressBeyondTheMaximumStaysAtTheEnd) {
 }
 
 TEST_F(AuxiliaryForms, ProgressWithoutARangeTakesAnyValue) {
-    frmProgress progress(form.Handle(), errors, clock);
+    frmProgress progress(form.Handle(), errors);
     for (const int maximum : {5, 4}) {
-        progress.ShowProgress("x", 5, maximum);
+        progress.ShowProgress({"x", 5, maximum, 5});
         for (const int value : {-1, 4, 5, 6})
             progress.SetProgress(value);
     }
@@ -114,7 +116,7 @@ TEST_F(AuxiliaryForms, LongCaptionsOfAHandMadeLanguageStayInTheirWindows) {
         return HeightOf(place);
     };
     frmAbout about(form.Handle(), errors, banners);
-    frmProgress progress(form.Handle(), errors, clock);
+    frmProgress progress(form.Handle(), errors);
     const int line = expectInside(about.Handle(), IDC_lblMail);
     for (const char* name : {"cmdSysInfo", "cmdOK", "lblMail"})
         ControlOf(about, name).SetProperty("Caption", caption);
@@ -130,7 +132,7 @@ TEST_F(AuxiliaryForms, LongCaptionsOfAHandMadeLanguageStayInTheirWindows) {
 
 TEST_F(AuxiliaryForms, AboutAndProgressAreNeitherMinimisedNorMaximised) {
     frmAbout about(form.Handle(), errors, banners);
-    frmProgress progress(form.Handle(), errors, clock);
+    frmProgress progress(form.Handle(), errors);
     for (const HWND window : {about.Handle(), progress.Handle()}) {
         ShowWindow(window, SW_SHOW);
         PumpMessages();
@@ -147,7 +149,7 @@ TEST_F(AuxiliaryForms, AboutAndProgressAreNeitherMinimisedNorMaximised) {
 
 TEST_F(AuxiliaryForms, AboutAndProgressTakeTheirOwnSizeAgainWhenTheyAreGivenAnother) {
     frmAbout about(form.Handle(), errors, banners);
-    frmProgress progress(form.Handle(), errors, clock);
+    frmProgress progress(form.Handle(), errors);
     for (const HWND window : {about.Handle(), progress.Handle()}) {
         PumpMessages();
         RECT before{};
@@ -162,9 +164,9 @@ TEST_F(AuxiliaryForms, AboutAndProgressTakeTheirOwnSizeAgainWhenTheyAreGivenAnot
 }
 
 TEST_F(AuxiliaryForms, ProgressValuesThatLookAlikeAreNotSentToTheBar) {
-    frmProgress progress(form.Handle(), errors, clock);
+    frmProgress progress(form.Handle(), errors);
     const HWND bar = FindChild(progress.Handle(), IDC_prbMain);
-    progress.ShowProgress("x", 0, 1'000'000);
+    progress.ShowProgress({"x", 0, 1'000'000, 0});
     progress.SetProgress(4999);
     EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 0);
     progress.SetProgress(5000);
@@ -175,8 +177,8 @@ TEST_F(AuxiliaryForms, ProgressValuesThatLookAlikeAreNotSentToTheBar) {
 }
 
 TEST_F(AuxiliaryForms, ProgressOfAMillionStepsTellsItsBarTwoHundredTimesAtMost) {
-    frmProgress progress(form.Handle(), errors, clock);
-    progress.ShowProgress("x", 0, 1'000'000);
+    frmProgress progress(form.Handle(), errors);
+    progress.ShowProgress({"x", 0, 1'000'000, 0});
     const MessageCounter bar(FindChild(progress.Handle(), IDC_prbMain));
     for (std::int32_t value = 1; value <= 1'000'000; ++value)
         progress.SetProgress(value);
@@ -185,48 +187,67 @@ TEST_F(AuxiliaryForms, ProgressOfAMillionStepsTellsItsBarTwoHundredTimesAtMost) 
 }
 
 TEST_F(AuxiliaryForms, ProgressGivesTheHourGlassUntilTheOperationIsOver) {
-    frmProgress progress(form.Handle(), errors, clock);
+    frmProgress progress(form.Handle(), errors);
     SetCursor(LoadCursorW(nullptr, IDC_ARROW));
-    progress.ShowProgress("x", 0, 2);
-    progress.ShowProgress("y", 0, 2);
+    progress.ShowProgress({"x", 0, 2, 0});
+    progress.ShowProgress({"y", 0, 2, 0});
     EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_WAIT));
     progress.HideProgress();
     EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
 }
 
-TEST_F(AuxiliaryForms, ProgressOfLessThanASecondDoesNotAppear) {
-    frmProgress progress(form.Handle(), errors, clock, 1s);
-    progress.ShowProgress("x", 0, 2);
-    clock.now += 999ms;
-    progress.SetProgress(1);
-    SendMessageW(progress.Handle(), WM_TIMER, 1, 0);
-    EXPECT_EQ(IsWindowVisible(progress.Handle()), FALSE);
-    progress.HideProgress();
-    clock.now += 1s;
-    SendMessageW(progress.Handle(), WM_TIMER, 1, 0);
-    EXPECT_EQ(IsWindowVisible(progress.Handle()), FALSE);
-}
-
-TEST_F(AuxiliaryForms, ProgressAppearsWithTheFirstStepAfterASecond) {
-    frmProgress progress(form.Handle(), errors, clock, 1s);
-    progress.ShowProgress("x", 0, 2);
-    clock.now += 1s;
-    EXPECT_EQ(IsWindowVisible(progress.Handle()), FALSE);
-    progress.SetProgress(1);
-    EXPECT_NE(IsWindowVisible(progress.Handle()), FALSE);
-}
-
 TEST_F(AuxiliaryForms, ProgressAppearsWhileAnOperationLetsTheWindowHandleEvents) {
-    frmProgress progress(form.Handle(), errors, clock, 1s);
+    FakeWaitingClock clock;
+    Win32Ticker ticker(errors);
+    ProgressOnDemand window(form.Handle(), errors);
+    PatientProgress progress(window, ticker, clock, 1s);
     progress.ShowProgress("x", 0, 2);
     clock.now += 1s;
-    EXPECT_TRUE(PumpUntil([&] { return IsWindowVisible(progress.Handle()) != FALSE; }));
+    EXPECT_EQ(window.IfMade(), nullptr);
+    EXPECT_TRUE(PumpUntil([&] { return window.IfMade() != nullptr; }));
+    EXPECT_NE(IsWindowVisible(static_cast<frmProgress&>(window.Get()).Handle()), FALSE);
+}
+
+// An operation that is over may leave a tick behind, which comes to the next one.
+TEST_F(AuxiliaryForms, TickOfATimerThatWasStoppedIsNone) {
+    Win32Ticker ticker(errors);
+    int old = 0;
+    ticker.Start(10ms, [&] { ++old; });
+    MSG tick{};
+    EXPECT_TRUE(PumpUntil(
+        [&] { return PeekMessageW(&tick, nullptr, WM_TIMER, WM_TIMER, PM_REMOVE) != FALSE; }));
+    int next = 0;
+    ticker.Start(1h, [&] { ++next; });
+    old = 0; // those that came while a tick was waited for
+    DispatchMessageW(&tick);
+    EXPECT_EQ(old, 0);
+    EXPECT_EQ(next, 0);
+    ticker.Stop();
+    DispatchMessageW(&tick);
+    EXPECT_EQ(next, 0);
+}
+
+TEST_F(AuxiliaryForms, ErrorOfATickIsReported) {
+    Win32Ticker ticker(errors);
+    ticker.Start(10ms, [&] {
+        ticker.Stop();
+        throw RuntimeError(ErrorNumber::Internal, ErrorTexts::NoWindow, {"x"});
+    });
+    EXPECT_TRUE(PumpUntil([&] { return !errors.reports.empty(); }));
+}
+
+TEST_F(AuxiliaryForms, ProgressAppearsAsFarAsTheOperationIs) {
+    frmProgress progress(form.Handle(), errors);
+    const MessageCounter bar(FindChild(progress.Handle(), IDC_prbMain));
+    progress.ShowProgress({"x", 0, 100, 40});
+    EXPECT_EQ(SendMessageW(FindChild(progress.Handle(), IDC_prbMain), PBM_GETPOS, 0, 0), 40);
+    EXPECT_EQ(bar.Count(PBM_SETPOS), 1) << "painted once";
 }
 
 TEST_F(AuxiliaryForms, ButtonEscapeAndCloseBoxStopAndLeaveTheWindowOpen) {
-    frmProgress progress(form.Handle(), errors, clock);
+    frmProgress progress(form.Handle(), errors);
     progress.Attach(recorded);
-    progress.ShowProgress("x", 0, 1);
+    progress.ShowProgress({"x", 0, 1, 0});
     recorded.lines.clear();
     SendMessageW(FindChild(progress.Handle(), IDC_cmdCancel), BM_CLICK, 0, 0);
     SendMessageW(progress.Handle(), WM_CLOSE, 0, 0);
@@ -493,10 +514,10 @@ TEST_F(AuxiliaryForms, ViewerThatIsMaximisedStaysSoWhenItIsAskedForAgain) {
 }
 
 TEST_F(AuxiliaryForms, ProgressIsStoppedByEnterByEscapeAndByItsAccessKey) {
-    frmProgress progress(form.Handle(), errors, clock);
+    frmProgress progress(form.Handle(), errors);
     progress.Attach(recorded);
     ControlOf(progress, "cmdCancel").SetProperty("Caption", "&Stop");
-    progress.ShowProgress("x", 0, 1);
+    progress.ShowProgress({"x", 0, 1, 0});
     recorded.lines.clear();
     SetFocus(FindChild(progress.Handle(), IDC_cmdCancel));
     Press(progress, VK_RETURN);
@@ -506,8 +527,8 @@ TEST_F(AuxiliaryForms, ProgressIsStoppedByEnterByEscapeAndByItsAccessKey) {
 }
 
 TEST_F(AuxiliaryForms, ProgressShownHasTheFocusOnItsStopButton) {
-    frmProgress progress(form.Handle(), errors, clock);
-    progress.ShowProgress("x", 0, 1);
+    frmProgress progress(form.Handle(), errors);
+    progress.ShowProgress({"x", 0, 1, 0});
     EXPECT_EQ(GetFocus(), FindChild(progress.Handle(), IDC_cmdCancel));
 }
 
@@ -526,8 +547,8 @@ protected:
         viewer.ShowModeless();
         PumpMessages();
         SendMessageW(viewer.Handle(), WM_CLOSE, 0, 0);
-        frmProgress progress(form.Handle(), errors, clock);
-        progress.ShowProgress("x", 0, 9);
+        frmProgress progress(form.Handle(), errors);
+        progress.ShowProgress({"x", 0, 9, 0});
         progress.SetProgress(5);
         progress.RefreshProgress();
         progress.HideProgress();

@@ -8,7 +8,6 @@
 #include "support/language/clsMultiLanguage.h"
 #include "support/windows/frmAbout.h"
 #include "support/windows/frmProgress.h"
-#include "tests/fakes/FakeWaitingClock.h"
 #include "tests/platform/SourceFile.h"
 #include "tests/ui/MainFormTest.h"
 
@@ -102,8 +101,7 @@ protected:
     RecordingProfile profile;
     clsMultiLanguage language{profile, files, codePage};
     frmAbout about{form.Handle(), errors, banners};
-    FakeWaitingClock clock;
-    frmProgress progress{form.Handle(), errors, clock};
+    frmProgress progress{form.Handle(), errors};
     frmRecover recover{form.Handle(), errors};
     frmFind find{form.Handle(), errors};
     frmLevels levels{form.Handle(), errors};

@@ -92,7 +92,12 @@ protected:
         expectText(main, IDC_fraShowColor, "frmMain", "fraShowColor.Caption");
         expectText(main, IDC_lblAmbient, "frmMain", "lblAmbient.Caption");
         expectText(main, IDC_lblSpecular, "frmMain", "lblSpecular.Caption");
-        expectText(program->progress.Handle(), IDC_cmdCancel, "frmProgress", "cmdCancel.Caption");
+        program->progress.ShowProgress("x", 0, 1);
+        expectText(ProgressWindow(), IDC_cmdCancel, "frmProgress", "cmdCancel.Caption");
+        program->progress.HideProgress();
+    }
+    [[nodiscard]] HWND ProgressWindow() const {
+        return static_cast<frmProgress&>(program->progressWindow.Get()).Handle();
     }
     // Opens the About window, looks at it while it is shown, and closes it.
     void LookAtAbout(std::function<void(HWND)> look) const {
@@ -212,7 +217,7 @@ TEST_F(LanguageSwitch, LanguageNumberTwoLeavesTheBuiltInTexts) {
     EXPECT_EQ(MenuText(bar, IDM_mnuOptionsConfirmDel), "Löschen immer bestätigen");
     EXPECT_FALSE(IsChecked(IDM_mnuOptionsLngGerman));
     EXPECT_FALSE(IsChecked(IDM_mnuOptionsLngEnglish));
-    EXPECT_EQ(TextOf(FindChild(program->progress.Handle(), IDC_cmdCancel)), L"Stop");
+    EXPECT_EQ(TextOf(FindChild(ProgressWindow(), IDC_cmdCancel)), L"Stop");
     RenameAColor();
     EXPECT_EQ(MenuText(bar, IDM_mnuEditUndo), "&Rückgängig: Farbe umbenennen\tStrg+Z");
 }
@@ -237,7 +242,7 @@ TEST_F(LanguageSwitch, ProgressWindowIsShownInTheLanguageThatIsActiveThen) {
                                         std::pair{IDM_mnuOptionsLngEnglish, L"&Stop"}}) {
         program->Run(command);
         program->progress.ShowProgress("x", 0, 1);
-        EXPECT_EQ(TextOf(FindChild(program->progress.Handle(), IDC_cmdCancel)), text);
+        EXPECT_EQ(TextOf(FindChild(ProgressWindow(), IDC_cmdCancel)), text);
         program->progress.HideProgress();
     }
 }
@@ -256,11 +261,11 @@ TEST_F(LanguageSwitch, AlwaysOnTopIsTheStyleOfTheWindow) {
 TEST_F(LanguageSwitch, WindowThatOpensLaterTakesTheCurrentPlaceAboveOthers) {
     Start();
     program->progress.ShowProgress("x", 0, 1);
-    EXPECT_TRUE(IsTopmost(program->progress.Handle()));
+    EXPECT_TRUE(IsTopmost(ProgressWindow()));
     program->progress.HideProgress();
     program->Run(IDM_mnuOptionsAlwaysOnTop);
     program->progress.ShowProgress("x", 0, 1);
-    EXPECT_FALSE(IsTopmost(program->progress.Handle()));
+    EXPECT_FALSE(IsTopmost(ProgressWindow()));
     program->progress.HideProgress();
 }
 

@@ -12,7 +12,7 @@ RealProgram::RealProgram(RegistryAccess& registryAccess, std::string programFold
     main.Attach(application.MainWindowEvents());
     about.Attach(application.AboutWindowEvents());
     textViewer.Attach(application.TextViewerWindowEvents());
-    progress.Attach(application.ProgressWindowEvents());
+    progressWindow.Attach(application.ProgressWindowEvents());
     recover.Attach(application.RecoverWindowEvents());
     find.Attach(application.FindWindowEvents());
     levels.Attach(application.LevelsWindowEvents());

@@ -11,11 +11,13 @@
 #include "platform/Win32Files.h"
 #include "platform/Win32Folders.h"
 #include "platform/Win32PrivateProfile.h"
+#include "platform/Win32Ticker.h"
 #include "standin/model/StandInService.h"
 #include "support/language/ErrorReporter.h"
 #include "support/windows/BannerPictures.h"
 #include "support/windows/frmAbout.h"
 #include "support/windows/frmProgress.h"
+#include "support/windows/PatientProgress.h"
 #include "support/windows/frmTxtView.h"
 #include "tests/fakes/FakeCalendarClock.h"
 #include "tests/fakes/FakeClipboard.h"
@@ -82,7 +84,9 @@ public:
     AboutOnDemand about{main.Handle(), errors, banners};
     frmTxtView textViewer{main.Handle(), errors, banners};
     FakeOnDemand<TextViewerView> textViewerWindow{textViewer};
-    frmProgress progress{main.Handle(), errors, clock};
+    Win32Ticker ticker{errors};
+    ProgressOnDemand progressWindow{main.Handle(), errors};
+    PatientProgress progress{progressWindow, ticker, clock, std::chrono::milliseconds(0)};
     frmRecover recover{main.Handle(), errors};
     FakeOnDemand<RecoverView> recoverWindow{recover};
     FindOnDemand find{main.Handle(), errors};
@@ -93,8 +97,8 @@ public:
     Application application{{files, page, registry, prompts, clipboard, collation, shell, events,
                              automation, retry, language, errors, calendar, folders, copies,
                              background},
-                            {main.View(), main, main, about, textViewerWindow, progress, progress,
-                             progress, recoverWindow, find, levels},
+                            {main.View(), main, main, about, textViewerWindow, progress,
+                             progressWindow, recoverWindow, find, levels},
                             {folder, "1.0.0", BannerAddresses(banners.Count()), folder,
                              folder + "\\recovery", historyBytes}};
     SilenceAtScopeEnd silence{main};

@@ -10,7 +10,6 @@
 #include "support/windows/frmTxtView.h"
 #include "tests/fakes/LibraryNodes.h"
 #include "tests/platform/ScratchFolder.h"
-#include "tests/fakes/FakeWaitingClock.h"
 #include "tests/ui/MainFormTest.h"
 #include "tests/ui/WindowPicture.h"
 
@@ -239,10 +238,9 @@ TEST_F(Repaint, AboutWithOtherTexts) {
 
 TEST_F(Repaint, ProgressWithAnotherText) {
     const auto show = [this](const std::vector<std::string>& texts) {
-        const FakeWaitingClock clock;
-        frmProgress progress(nullptr, errors, clock);
+        frmProgress progress(nullptr, errors);
         for (const std::string& text : texts) {
-            progress.ShowProgress(text, 0, 10);
+            progress.ShowProgress({text, 0, 10, 0});
             WaitUntilPainted(progress.Handle());
         }
         return PictureOf(progress.Handle());

@@ -4,7 +4,9 @@
 #include "platform/Win32Files.h"
 #include "platform/Win32WaitingClock.h"
 #include "support/windows/BannerPictures.h"
+#include "platform/Win32Ticker.h"
 #include "support/windows/frmProgress.h"
+#include "support/windows/PatientProgress.h"
 #include "tests/bench/library/BenchPlatform.h"
 #include "tests/bench/library/Timing.h"
 #include "tests/ui/RecordingErrorSink.h"
@@ -25,7 +27,9 @@ struct BenchPlatform::Parts {
     Win32AnsiCodePage codePage{1252};
     RecordingErrorSink errors;
     Win32WaitingClock clock;
-    frmProgress progress{nullptr, errors, clock, kPatience};
+    Win32Ticker ticker{errors};
+    ProgressOnDemand window{nullptr, errors};
+    PatientProgress progress{window, ticker, clock, kPatience};
 };
 
 BenchPlatform::BenchPlatform() : parts_(std::make_unique<Parts>()) {}

@@ -94,10 +94,11 @@ TEST_F(AuxiliaryWindowsTest, AboutAndViewerTakeTheCurrentOnTopStateEachTimeTheyA
 
 TEST_F(AuxiliaryWindowsTest, AboutAndViewerAreMadeWhenTheyAreFirstShownAndGetTheBannerThen) {
     FakeProgram other;
-    other.aboutWindow.isMade = other.textViewerWindow.isMade = false;
+    other.aboutWindow.isMade = other.textViewerWindow.isMade = other.progressWindow.isMade = false;
     other.application.Start();
     other.Main().frame.RunCommand(IDM_mnuOptionsLngGerman);
     EXPECT_FALSE(other.aboutWindow.isMade || other.textViewerWindow.isMade);
+    EXPECT_FALSE(other.progressWindow.isMade);
     EXPECT_EQ(other.about.banner, -1);
     EXPECT_EQ(other.textViewer.banner, -1);
     other.Main().frame.RunCommand(IDM_mnuHlpAbout);
@@ -110,7 +111,7 @@ TEST_F(AuxiliaryWindowsTest, AboutAndViewerAreMadeWhenTheyAreFirstShownAndGetThe
 TEST_F(AuxiliaryWindowsTest, LanguageCommandGivesMainWindowAboutAndProgressTheirTextsInThisOrder) {
     program.mainForm.Add("lbl", "Label");
     program.about.form.Add("lbl", "Label");
-    program.progressForm.Add("lbl", "Label");
+    program.progressForm.form.Add("lbl", "Label");
     program.profile.asked.clear();
     program.Main().frame.RunCommand(IDM_mnuOptionsLngGerman);
     std::vector<std::string> captions;
@@ -260,8 +261,7 @@ TEST_F(AuxiliaryWindowsTest, ViewersTextLeavesItsMarginsAndIsNeverBelowFive) {
 TEST_F(AuxiliaryWindowsTest, StopButtonSetsTheStopFlagAndLeavesTheProgressWindowOpen) {
     const Settings settings;
     bool stopFlag = false;
-    Progress progress(program.progressWindow, program.progressForm, program.language, settings,
-                      stopFlag);
+    Progress progress(program.progressWindow, program.language, settings, stopFlag);
     progress.StopClicked();
     EXPECT_TRUE(stopFlag);
     EXPECT_TRUE(program.progress.calls.empty());
@@ -271,13 +271,13 @@ TEST_F(AuxiliaryWindowsTest, ProgressWindowTakesTheCurrentOnTopStateEachTimeItIs
     program.application.ProgressWindowEvents().ProgressLoading();
     program.Main().frame.RunCommand(IDM_mnuOptionsAlwaysOnTop);
     program.application.ProgressWindowEvents().ProgressLoading();
-    EXPECT_EQ(program.progressWindow.topmost, (std::vector<bool>{true, false}));
+    EXPECT_EQ(program.progressForm.window.topmost, (std::vector<bool>{true, false}));
 }
 
 TEST_F(AuxiliaryWindowsTest, ProgressWindowTakesItsTextsOfTheCurrentLanguage) {
     program.profile.values[{"C:\\prog\\tntlng_us.ini", "frmProgress", "cmdCancel.Caption"}] =
         "&Stop it";
-    FakeControl& button = program.progressForm.Add("cmdCancel", "CommandButton");
+    FakeControl& button = program.progressForm.form.Add("cmdCancel", "CommandButton");
     program.application.ProgressWindowEvents().ProgressLoading();
     EXPECT_EQ(button.Property("Caption"), "&Stop it");
 }
