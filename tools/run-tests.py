@@ -92,7 +92,7 @@ def native_steps(shards=1, doses=()):
 
 
 def tidy_steps(with_paths=False):
-    """They take what the others leave of the machine."""
+    """They take no lane from the others."""
     command = ("tools/check-tidy.py", *(["--paths"] if with_paths else []))
     return [check("tidy-portable", *command, "native", limit=7200, background=True,
                   needs=("build-native",), targets=("tnt_portable",)),
@@ -118,7 +118,6 @@ def windows_steps(shards, doses):
     own = [f"--objects=build/windows/lib{name}.a" for name in OWN_LIBRARIES]
     session = (*WINE, "wine")
     return [
-        # The native tests run beside it, not the native build.
         build("windows", 3600, follows=("build-native",)),
         *windows_suites(shards, doses),
         suite("portable-tests-wine", "windows", (*session, "build/windows/portable_tests.exe"),
@@ -169,7 +168,9 @@ def whole_plan(native=False, with_long=False, shards=1):
     doses = LONG_DOSES if with_long else ()
     plan = native_steps(shards, doses)
     if not native:
-        plan += windows_steps(shards, doses) + tidy_steps(with_long)
+        build_windows, *windows = windows_steps(shards, doses)
+        plan[1:1] = [build_windows]  # the native tests run beside it
+        plan += windows + tidy_steps(with_long)
     return plan + (long_steps() if with_long else [])
 
 

@@ -17,6 +17,7 @@ from count_tests import count
 JOBS = ("main", "files", "editor", "mouse", "windows")  # what a person does, one after the other
 
 TIMED_OUT = 124
+BACKGROUND = 5  # niceness: at 19 the busy loops of a neighbour would leave such a step nothing
 GRACE = 30  # seconds that an ended step has to tidy up
 PAUSE = 0.05  # seconds between two looks at what runs
 TOLD_LINES = 60
@@ -33,7 +34,7 @@ class Step:
     follows: tuple = ()  # names of steps that must have ended before
     counts: bool = False  # a test program: each of its tests counts
     alone: bool = False  # it works in real time, with nothing beside it
-    background: bool = False  # it takes only what the steps beside it leave of the machine
+    background: bool = False  # it takes no lane, and less of the machine than the steps beside it
     environment: tuple = ()  # pairs of name and value
     filter: str = ""  # the option that chooses among its tests
     targets: tuple = ()  # what of the build it needs when it is run by itself
@@ -82,7 +83,7 @@ class Running:
         self.started = clock()
         command = list(map(str, step.command))
         if step.background and os.name == "posix":
-            command[:0] = ["nice", "-n", "19"]
+            command[:0] = ["nice", "-n", str(BACKGROUND)]
         try:
             with open(log, "wb") as output:
                 self.process = subprocess.Popen(

@@ -33,6 +33,10 @@ class Plan(unittest.TestCase):
             self.assertEqual([share["GTEST_SHARD_INDEX"] for share in shares], ["0", "1", "2"])
             self.assertEqual({share["GTEST_TOTAL_SHARDS"] for share in shares}, {"3"})
 
+    def test_windows_half_is_built_beside_the_native_tests(self):
+        names = [step.name for step in self.plans[2]]
+        self.assertLess(names.index("build-windows"), names.index("portable-tests-1"))
+
     def test_jobs_have_the_machine_to_themselves(self):
         alone = {step.name for step in self.plans[0] if step.alone}
         self.assertEqual(alone, {f"{name}-job" for name in tests.JOBS} | {"packages"})
