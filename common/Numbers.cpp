@@ -14,9 +14,9 @@ namespace {
 
 constexpr const char* kBlanks = " \t\r\n\v\f";
 
-constexpr std::int64_t kHugeExponent = 1'000'000'000'000;
+constexpr std::int64_t kHugeExponent = 1'000'000'000'000; // no text has that many digits
 
-// "e-400" of the whole number; 0 without one.  Beyond 64 bits: huge, of the same sign.
+// "e-400" of the whole number; 0 without one.  Those that are larger than huge are huge.
 std::int64_t ExponentOf(std::string_view number) noexcept {
     std::size_t start = number.find_first_of("eE");
     if (start == std::string_view::npos)
@@ -29,7 +29,7 @@ std::int64_t ExponentOf(std::string_view number) noexcept {
         std::from_chars(number.data() + start, number.data() + number.size(), exponent);
     if (parsed.ec == std::errc::result_out_of_range)
         return number[start] == '-' ? -kHugeExponent : kHugeExponent;
-    return exponent;
+    return std::clamp(exponent, -kHugeExponent, kHugeExponent);
 }
 
 // Of a number that no double holds: true when it is too near to 0, false when it is too large.

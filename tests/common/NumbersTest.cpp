@@ -65,8 +65,8 @@ TEST(TextToInt16, RefusesWhatIsNoNumberOrDoesNotFit) {
 }
 
 TEST(TextToDouble, NumberTooNearToZeroIsZero) {
-    for (const char* text :
-         {"1e-400", "-1e-400", "+1E-400", "0.1e-99999999999", "123456789012345678901e-420"})
+    for (const char* text : {"1e-400", "-1e-400", "+1E-400", "0.1e-99999999999",
+                             "123456789012345678901e-420", ".001e-9223372036854775808"})
         EXPECT_EQ(TextToDouble(text), 0) << text;
     EXPECT_EQ(TextToDouble("0." + std::string(400, '0') + "1"), 0);
     EXPECT_EQ(TextToInt16("1e-400"), 0);
@@ -77,6 +77,7 @@ TEST(TextToDouble, NumberTooNearToZeroIsZero) {
 TEST(TextToDouble, NumberBeyondTheFormatIsInfiniteAndFitsNoInteger) {
     for (const std::string& text :
          {std::string("1e400"), std::string("-1e+400"), std::string("0.001e99999999999"),
+          std::string("1e9223372036854775807"), std::string("1e9223372036854775808"),
           std::string(400, '9'), "1" + std::string(400, '0') + "e-2"}) {
         EXPECT_TRUE(std::isinf(TextToDouble(text))) << text;
         EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(TextToInt32(text)); }),
