@@ -32,7 +32,7 @@ std::vector<std::string> PaletteCommands::AskPalettes() {
         {texts_.Text(InfoTextNumber::ImportPalettes, "Paletten importieren"),
          texts_.ImportFilter(),
          {},
-         FileDialogFlags::Open});
+         FileDialogFlags::Read});
 }
 
 void PaletteCommands::mnuFileImport_Click() {

@@ -35,11 +35,23 @@ void OrderWithoutOwned(HWND window) {
         SetWindowLongPtrW(each, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(window));
 }
 
+// Under Wine a window that stands directly above its owner would be put behind itself, and stay
+// where it is.
+void OrderWithoutOwner(HWND window) {
+    const LONG_PTR owner = SetWindowLongPtrW(window, GWLP_HWNDPARENT, 0);
+    Order(window, HWND_NOTOPMOST);
+    SetWindowLongPtrW(window, GWLP_HWNDPARENT, owner);
+}
+
 } // namespace
 
 void MakeWindowTopmost(HWND window, bool onTop) {
     Order(window, onTop ? HWND_TOPMOST : HWND_NOTOPMOST);
+    if (IsTopmost(window) == onTop)
+        return;
     // Wine raises the owned windows, tool tips among them, and leaves their owner where it was.
-    if (onTop && !IsTopmost(window))
+    if (onTop)
         OrderWithoutOwned(window);
+    else if (GetWindow(window, GW_OWNER) != nullptr)
+        OrderWithoutOwner(window);
 }

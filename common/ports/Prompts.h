@@ -23,6 +23,7 @@ enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 // File-dialog flags, as the platform counts them.
 namespace FileDialogFlags {
 inline constexpr unsigned Open = 0x1800;   // file must exist, path must exist
+inline constexpr unsigned Read = 0x1804;   // Open for files that are only read: hide read-only
 inline constexpr unsigned SaveAs = 0x8806; // overwrite prompt, hide read-only, path must exist,
                                            // no read-only return
 } // namespace FileDialogFlags

@@ -37,6 +37,7 @@ public:
     // The list's messages that are the hint's: of its labels, and the arrow keys.
     MessageResult OnMessage(const WindowMessage& message);
 
+    [[nodiscard]] bool IsShown() const noexcept { return !lines_.empty(); }
     [[nodiscard]] bool IsLabel(HWND window) const noexcept; // one of its lines
 
     std::function<void(int line)> onLink; // from 0; it was clicked

@@ -486,11 +486,12 @@ ListView::Cell ListView::CellAt(POINT point) const {
     return {hit.iItem, hit.iSubItem + 1};
 }
 
-// Over a row only its name, when it is cut off: anything else would hide what is to be clicked.
+// Over a row only its name, when it is cut off: anything else would hide what is to be clicked, as
+// it would beside the links of a hint.
 std::string ListView::TipText() const {
     const Cell cell = CellAt(Pointer());
     if (cell.row < 0)
-        return Control::TipText();
+        return hint_.IsShown() ? std::string() : Control::TipText();
     const std::string name = cell.column == 1 && cellText ? cellText(cell.row, 1) : std::string();
     return IsNameCut(cell.row, name) ? name : std::string();
 }

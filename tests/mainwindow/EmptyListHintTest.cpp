@@ -63,6 +63,17 @@ TEST_F(EmptyListHintTest, WithoutALibraryOneIsOpenedMadeOrImportedAndSamplesAreO
     EXPECT_FALSE(Lines().back().IsLink());
 }
 
+TEST_F(EmptyListHintTest, LibrariesThatWereNotSavedAreOfferedFirst) {
+    program.prompts.typed = {"Mine"};
+    Run(IDM_mnuFileNew);
+    program.Main().frame.SecondPassed();
+    program.background.Wait();
+    Run(IDM_mnuFileClose);
+    EXPECT_EQ(Title(), "<280>");
+    EXPECT_EQ(Commands().front(), IDM_mnuFileRecover);
+    EXPECT_EQ(Lines().at(1).text, "Nicht gespeicherte Bibliotheken wiederherstellen ...");
+}
+
 TEST_F(EmptyListHintTest, NoMoreThanThreeSamplesAreOfferedAndNoneIsNeeded) {
     for (const char* name : {"a", "b", "c", "d"})
         program.files.contents[std::string("C:\\prog\\samples\\") + name + ".tnt"] = "";
@@ -143,7 +154,7 @@ TEST(EmptyListHintTexts, BuiltInWordsAreThoseOfTheGermanFile) {
     files.contents["C:\\samples\\%1.tnt"] = "";
     LibraryOnFakes onFakes;
     ColorLibrary& library = onFakes.library;
-    const EmptyListHint hint({library, builtIn, files, "C:\\samples"});
+    const EmptyListHint hint({library, builtIn, files, "C:\\samples", [] { return true; }});
     const auto expectInFile = [&] {
         for (const HintLine& line : hint.HintLines())
             EXPECT_NE(german.find("=" + line.text + "\n"), std::string::npos) << line.text;

@@ -50,7 +50,7 @@ protected:
     // Built-in texts stay on the forms.
     void ExpectBuiltInTexts() const {
         EXPECT_EQ(Shown(IDM_mnuOptionsConfirmDel), "Löschen immer bestätigen");
-        EXPECT_EQ(TextOf(FindChild(program->progress.Handle(), IDC_cmdCancel)), L"Stop");
+        EXPECT_EQ(program->TextOfStop(), L"Stop");
     }
     void WriteLanguageFiles(const std::string& bytes) const {
         for (const char* name : {"tntlng_de.ini", "tntlng_us.ini"})

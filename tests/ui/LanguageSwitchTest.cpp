@@ -93,11 +93,8 @@ protected:
         expectText(main, IDC_lblAmbient, "frmMain", "lblAmbient.Caption");
         expectText(main, IDC_lblSpecular, "frmMain", "lblSpecular.Caption");
         program->progress.ShowProgress("x", 0, 1);
-        expectText(ProgressWindow(), IDC_cmdCancel, "frmProgress", "cmdCancel.Caption");
+        expectText(program->ProgressHandle(), IDC_cmdCancel, "frmProgress", "cmdCancel.Caption");
         program->progress.HideProgress();
-    }
-    [[nodiscard]] HWND ProgressWindow() const {
-        return static_cast<frmProgress&>(program->progressWindow.Get()).Handle();
     }
     // Opens the About window, looks at it while it is shown, and closes it.
     void LookAtAbout(std::function<void(HWND)> look) const {
@@ -217,7 +214,7 @@ TEST_F(LanguageSwitch, LanguageNumberTwoLeavesTheBuiltInTexts) {
     EXPECT_EQ(MenuText(bar, IDM_mnuOptionsConfirmDel), "Löschen immer bestätigen");
     EXPECT_FALSE(IsChecked(IDM_mnuOptionsLngGerman));
     EXPECT_FALSE(IsChecked(IDM_mnuOptionsLngEnglish));
-    EXPECT_EQ(TextOf(FindChild(ProgressWindow(), IDC_cmdCancel)), L"Stop");
+    EXPECT_EQ(program->TextOfStop(), L"Stop");
     RenameAColor();
     EXPECT_EQ(MenuText(bar, IDM_mnuEditUndo), "&Rückgängig: Farbe umbenennen\tStrg+Z");
 }
@@ -241,9 +238,7 @@ TEST_F(LanguageSwitch, ProgressWindowIsShownInTheLanguageThatIsActiveThen) {
     for (const auto& [command, text] : {std::pair{IDM_mnuOptionsLngGerman, L"&Stopp"},
                                         std::pair{IDM_mnuOptionsLngEnglish, L"&Stop"}}) {
         program->Run(command);
-        program->progress.ShowProgress("x", 0, 1);
-        EXPECT_EQ(TextOf(FindChild(ProgressWindow(), IDC_cmdCancel)), text);
-        program->progress.HideProgress();
+        EXPECT_EQ(program->TextOfStop(), text);
     }
 }
 
@@ -261,11 +256,11 @@ TEST_F(LanguageSwitch, AlwaysOnTopIsTheStyleOfTheWindow) {
 TEST_F(LanguageSwitch, WindowThatOpensLaterTakesTheCurrentPlaceAboveOthers) {
     Start();
     program->progress.ShowProgress("x", 0, 1);
-    EXPECT_TRUE(IsTopmost(ProgressWindow()));
+    EXPECT_TRUE(IsTopmost(program->ProgressHandle()));
     program->progress.HideProgress();
     program->Run(IDM_mnuOptionsAlwaysOnTop);
     program->progress.ShowProgress("x", 0, 1);
-    EXPECT_FALSE(IsTopmost(ProgressWindow()));
+    EXPECT_FALSE(IsTopmost(program->ProgressHandle()));
     program->progress.HideProgress();
 }
 

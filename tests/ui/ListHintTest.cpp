@@ -1,5 +1,6 @@
 // Rules: Empty list
 // What the real list shows and does while it has no rows.
+#include "platform/controls/Control.h"
 #include "platform/Utf16.h"
 #include "tests/ui/MainFormTest.h"
 #include "tests/ui/WindowPicture.h"
@@ -58,6 +59,20 @@ protected:
         return GetFocus() == List() ? "list" : ToUtf8(TextOf(GetFocus()));
     }
 };
+
+// It would lie on the links.
+TEST_F(ListHintForm, ListHasNoTipWhileItStandsThere) {
+    const auto controls = form.Controls();
+    const auto found = std::ranges::find(controls, std::string("lvColor"), &FormControl::Name);
+    ASSERT_NE(found, controls.end());
+    auto& list = dynamic_cast<::Control&>(**found);
+    list.SetProperty("ToolTipText", "Colors of the group");
+    ShowHint();
+    EXPECT_EQ(list.TipText(), "");
+    events.hintLines.clear();
+    view.list.RowsChanged(0);
+    EXPECT_EQ(list.TipText(), "Colors of the group");
+}
 
 TEST_F(ListHintForm, IsThereWithoutRowsAndGoneWithTheFirstOne) {
     ShowHint();

@@ -1,5 +1,8 @@
 #include "tests/ui/RealProgram.h"
 
+#include "resources/controls.h"
+
+#include <array>
 #include <utility>
 
 RealProgram::RealProgram(RegistryAccess& registryAccess, std::string programFolder,
@@ -26,6 +29,14 @@ std::string RealProgram::BannerAddress(int index) {
 
 void RealProgram::Run(int command) {
     SendMessageW(main.Handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+}
+
+std::wstring RealProgram::TextOfStop() {
+    progress.ShowProgress("x", 0, 1);
+    std::array<wchar_t, 64> text{};
+    GetDlgItemTextW(ProgressHandle(), IDC_cmdCancel, text.data(), static_cast<int>(text.size()));
+    progress.HideProgress();
+    return text.data();
 }
 
 void RealProgram::Close() {

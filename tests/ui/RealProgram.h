@@ -57,6 +57,14 @@ public:
     // As the menu does.
     void Run(int command);
 
+    // The progress window, also while it is hidden.
+    [[nodiscard]] HWND ProgressHandle() {
+        return static_cast<frmProgress&>(progressWindow.Get()).Handle();
+    }
+
+    // The text of the Stop button while the progress window is shown.
+    [[nodiscard]] std::wstring TextOfStop();
+
     // Closes the window by its close box; the end of the program is not carried out.
     void Close();
 
