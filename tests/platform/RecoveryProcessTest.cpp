@@ -28,6 +28,8 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kColors = 12;
 constexpr auto kOldestLoss = 5000ms; // of work that was done
+constexpr auto kLongestCrash = 25s;  // then the program is ended
+constexpr unsigned kEndedByLimit = 0xE0545443;
 
 std::string NameOfColor(int number) {
     return "color " + std::to_string(number);
@@ -190,8 +192,13 @@ TEST_F(RecoveryProcess, CrashLeavesAReportThatTheNextStartTellsOnce) {
         ASSERT_TRUE(PollUntil([&] { return IsKept(kColors - 1); }));
         const auto crashed = Clock::now();
         crashedIn = program.Crash();
-        EXPECT_EQ(program.WaitForExitCode(), EXCEPTION_ACCESS_VIOLATION);
-        std::cout << "ended after " << (Clock::now() - crashed) / 1ms << " ms\n";
+        const std::optional<unsigned> code = program.WaitForExitCode();
+        const auto took = Clock::now() - crashed;
+        std::cout << "ended after " << took / 1ms << " ms\n";
+        // A dump that takes longer than a crash may, on a machine full of other work, is cut off.
+        EXPECT_TRUE(code == EXCEPTION_ACCESS_VIOLATION ||
+                    (took >= kLongestCrash && code == kEndedByLimit))
+            << code.value_or(0);
     }
     const auto reports = kept.Files(".new");
     ASSERT_EQ(reports.size(), 1U);
