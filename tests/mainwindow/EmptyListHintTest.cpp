@@ -64,14 +64,14 @@ TEST_F(EmptyListHintTest, WithoutALibraryOneIsOpenedMadeOrImportedAndSamplesAreO
 }
 
 TEST_F(EmptyListHintTest, LibrariesThatWereNotSavedAreOfferedFirst) {
-    program.prompts.typed = {"Mine"};
-    Run(IDM_mnuFileNew);
-    program.Main().frame.SecondPassed();
-    program.background.Wait();
-    Run(IDM_mnuFileClose);
+    const std::string kept = std::string(FakeProgram::kRecoveryFolder) + "\\a1";
+    program.files.contents[kept + ".tnt"] = "\"D#Mine=0D:1\"\r\n\"G#g=0DG1\"\r\n";
+    program.files.contents[kept + ".txt"] = "Mine\r\n\r\n2024-03-01 10:00:00\r\n7\r\n";
     EXPECT_EQ(Title(), "<280>");
     EXPECT_EQ(Commands().front(), IDM_mnuFileRecover);
-    EXPECT_EQ(Lines().at(1).text, "Nicht gespeicherte Bibliotheken wiederherstellen ...");
+    EXPECT_EQ(Lines().at(1).text, "<247>");
+    OpenEmptyGroup();
+    EXPECT_NE(Commands().front(), IDM_mnuFileRecover);
 }
 
 TEST_F(EmptyListHintTest, NoMoreThanThreeSamplesAreOfferedAndNoneIsNeeded) {
