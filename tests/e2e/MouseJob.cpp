@@ -99,6 +99,10 @@ void MouseJob::CarryTo(POINT to) {
 
 void MouseJob::Drop() {
     RealInput::ReleaseLeft();
+    CheckDropped();
+}
+
+void MouseJob::CheckDropped() {
     Report().Check(PollUntil([this] { return !Main().Window().HoldsMouse(); }), "the drag is over");
     Report().CheckEqual("marked node", Main().Tree().DropTarget(), std::string());
 }
@@ -137,7 +141,8 @@ void MouseJob::CopyWithCtrl() {
     RealInput::HoldKey(VK_CONTROL);
     PickUp("Gems", "Ruby");
     CarryToGroup("Rubber");
-    Drop();
+    RealInput::ReleaseLeftWithCtrl(); // the display may have taken the held key back meanwhile
+    CheckDropped();
     RealInput::ReleaseKey(VK_CONTROL);
     groups_["Rubber"].emplace_back("Ruby");
     Report().CheckBecomes(

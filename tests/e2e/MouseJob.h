@@ -40,6 +40,7 @@ private:
     void CarryTo(POINT to);
     void CarryToGroup(const std::string& group);
     void Drop();
+    void CheckDropped();
     void CarryOverAGroup();
     void DropOnTheGroup();
     void CopyWithCtrl();

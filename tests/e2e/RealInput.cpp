@@ -142,6 +142,10 @@ void RealInput::ReleaseLeft() {
     Send({MouseButton(MOUSEEVENTF_LEFTUP)});
 }
 
+void RealInput::ReleaseLeftWithCtrl() {
+    Send({Key(VK_CONTROL), MouseButton(MOUSEEVENTF_LEFTUP), Key(VK_CONTROL, KEYEVENTF_KEYUP)});
+}
+
 void RealInput::TurnWheel(POINT at, int notches) {
     INPUT turn = MouseButton(MOUSEEVENTF_WHEEL);
     turn.mi.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);

@@ -20,6 +20,7 @@ void MoveTo(POINT at);
 void PressLeft();
 void Glide(POINT from, POINT to); // in several steps
 void ReleaseLeft();
+void ReleaseLeftWithCtrl(); // Ctrl is down for no longer
 
 void PressKey(WORD virtualKey);
 void PressWithAlt(WORD virtualKey);
