@@ -48,8 +48,8 @@ public:
     [[nodiscard]] virtual bool Exists(const std::string& path) = 0;
 
     // Whether both names lead to one file that is there: in another letter case, by a short name,
-    // by a link or by way of a shared folder.  True also for two files of which nobody
-    // can tell.
+    // by a link or by way of a shared folder.  True also for two files of which
+    // nobody can tell.
     [[nodiscard]] virtual bool AreSame(const std::string& path, const std::string& other) = 0;
 
     // The whole content; nothing when it cannot be read.

@@ -39,7 +39,7 @@ void PatientProgress::Appear() {
 }
 
 // The operation matters more than its window.
-ProgressForm* PatientProgress::MadeWindow() noexcept {
+ProgressForm* PatientProgress::MadeWindow() {
     try {
         return &window_.Get();
     } catch (const RuntimeError&) {

@@ -26,7 +26,7 @@ public:
 private:
     void AppearWhenDue();
     void Appear();
-    [[nodiscard]] ProgressForm* MadeWindow() noexcept;
+    [[nodiscard]] ProgressForm* MadeWindow(); // null: it cannot be made
     void StopWaiting();
 
     OnDemand<ProgressForm>& window_;
