@@ -164,6 +164,7 @@ inline constexpr std::int32_t GroupIsEmpty = 289;
 inline constexpr std::int32_t HintNewColor = 290;
 inline constexpr std::int32_t HintPickUp = 291;
 inline constexpr std::int32_t HintPaste = 292;
+inline constexpr std::int32_t HintRecover = 247;
 
 // By which the controls of the text viewer are announced.
 inline constexpr std::int32_t ViewedDocument = 293;

@@ -26,6 +26,11 @@ std::vector<HintLine> EmptyListHint::LinesWithoutLibrary() const {
          .command = IDM_mnuFileNew},
         {.text = Text(InfoTextNumber::HintImport, "Farbpalette importieren ..."),
          .command = IDM_mnuFileImport}};
+    if (parts_.canRecover()) // first: who lost work looks for nothing else
+        lines.insert(lines.begin() + 1,
+                     {.text = Text(InfoTextNumber::HintRecover,
+                                   "Nicht gespeicherte Bibliotheken wiederherstellen ..."),
+                      .command = IDM_mnuFileRecover});
     std::ranges::move(Samples(), std::back_inserter(lines));
     lines.push_back(
         {.text = Text(InfoTextNumber::HintDropFiles, "Dateien lassen sich auch hierher ziehen.")});

@@ -5,6 +5,7 @@
 #include "library/ColorLibrary.h"
 #include "mainwindow/ListPane.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,7 +16,8 @@ public:
         const ColorLibrary& library;
         InfoTexts& texts;
         Folders& folders;
-        std::string sampleFolder; // its libraries are offered while none is open
+        std::string sampleFolder;         // its libraries are offered while none is open
+        std::function<bool()> canRecover; // whether libraries that were not saved can come back
     };
 
     // As many of the samples are offered, in the order of their names.

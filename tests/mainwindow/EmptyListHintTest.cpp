@@ -63,6 +63,17 @@ TEST_F(EmptyListHintTest, WithoutALibraryOneIsOpenedMadeOrImportedAndSamplesAreO
     EXPECT_FALSE(Lines().back().IsLink());
 }
 
+TEST_F(EmptyListHintTest, LibrariesThatWereNotSavedAreOfferedFirst) {
+    const std::string kept = std::string(FakeProgram::kRecoveryFolder) + "\\a1";
+    program.files.contents[kept + ".tnt"] = "\"D#Mine=0D:1\"\r\n\"G#g=0DG1\"\r\n";
+    program.files.contents[kept + ".txt"] = "Mine\r\n\r\n2024-03-01 10:00:00\r\n7\r\n";
+    EXPECT_EQ(Title(), "<280>");
+    EXPECT_EQ(Commands().front(), IDM_mnuFileRecover);
+    EXPECT_EQ(Lines().at(1).text, "<247>");
+    OpenEmptyGroup();
+    EXPECT_NE(Commands().front(), IDM_mnuFileRecover);
+}
+
 TEST_F(EmptyListHintTest, NoMoreThanThreeSamplesAreOfferedAndNoneIsNeeded) {
     for (const char* name : {"a", "b", "c", "d"})
         program.files.contents[std::string("C:\\prog\\samples\\") + name + ".tnt"] = "";
@@ -143,7 +154,7 @@ TEST(EmptyListHintTexts, BuiltInWordsAreThoseOfTheGermanFile) {
     files.contents["C:\\samples\\%1.tnt"] = "";
     LibraryOnFakes onFakes;
     ColorLibrary& library = onFakes.library;
-    const EmptyListHint hint({library, builtIn, files, "C:\\samples"});
+    const EmptyListHint hint({library, builtIn, files, "C:\\samples", [] { return true; }});
     const auto expectInFile = [&] {
         for (const HintLine& line : hint.HintLines())
             EXPECT_NE(german.find("=" + line.text + "\n"), std::string::npos) << line.text;
