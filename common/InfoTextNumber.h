@@ -87,6 +87,7 @@ inline constexpr std::int32_t Palettes = 211;
 inline constexpr std::int32_t ImportedGroup = 212; // of colors without one
 inline constexpr std::int32_t ImportedColors = 213;
 inline constexpr std::int32_t NotAllImported = 214;
+inline constexpr std::int32_t NothingImported = 248;
 inline constexpr std::int32_t PaletteNotOpened = 215;
 inline constexpr std::int32_t NoPalette = 216;
 inline constexpr std::int32_t EmptyPalette = 217;

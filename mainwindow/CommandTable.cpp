@@ -114,7 +114,7 @@ constexpr std::array kMenuRows = {
     Step(Reporting(IDM_mnuFileImport, "mnuFileImport", "Importieren ...",
                    [](Commands c) { c.palettes.mnuFileImport_Click(); })),
     Step(Reporting(IDM_mnuFileImportGroups, "mnuFileImportGroups",
-                   "In die Bibliothek importieren ...",
+                   "In die Bibliothek importieren (Gruppen) ...",
                    [](Commands c) { c.palettes.mnuFileImportGroups_Click(); })),
     Reporting(IDM_mnuFileExport, "mnuFileExport", "Exportieren ...",
               [](Commands c) { c.palettes.mnuFileExport_Click(); }),

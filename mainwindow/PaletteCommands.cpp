@@ -61,6 +61,7 @@ bool PaletteCommands::IsDroppedPalette(const std::string& path) const {
 // All are read and looked at before the first one is added: what stops one of them stops all.
 void PaletteCommands::Import(const std::vector<std::string>& paths, const std::string& mainKey) {
     std::string report;
+    bool isAnyImported = false;
     {
         const WaitingShown waiting(parts_.frame);
         std::vector<ReadFile> files;
@@ -73,11 +74,15 @@ void PaletteCommands::Import(const std::vector<std::string>& paths, const std::s
         std::string firstGroup;
         for (const ReadFile& file : files)
             firstGroup = Add(file, mainKey, material);
-        if (!files.empty())
+        isAnyImported = !files.empty();
+        if (isAnyImported)
             ShowImported(files, firstGroup);
     }
     if (!report.empty())
-        Tell(texts_.Text(InfoTextNumber::NotAllImported, "Nicht alles wurde importiert:") + report);
+        Tell((isAnyImported
+                  ? texts_.Text(InfoTextNumber::NotAllImported, "Nicht alles wurde importiert:")
+                  : texts_.Text(InfoTextNumber::NothingImported, "Nichts wurde importiert:")) +
+             report);
 }
 
 std::optional<Palette> PaletteCommands::Read(const std::string& path, std::string& report) const {

@@ -58,8 +58,10 @@ void RecoverCommands::mnuFileRecover_Click() {
     if (!position_.RestoreForm(true))
         position_.CenterForm();
     SetFormOnTop(view, parts_.settings.alwaysOnTop);
-    if (const std::optional<int> row = view.ShowModal())
-        Open(RecoveryEntry(entries_.at(static_cast<std::size_t>(*row))));
+    std::vector<RecoveryEntry> chosen;
+    for (const int row : view.ShowModal())
+        chosen.push_back(entries_.at(static_cast<std::size_t>(row)));
+    Open(chosen);
 }
 
 void RecoverCommands::ShowEntries() {
@@ -77,6 +79,20 @@ RecoverRow RecoverCommands::RowOf(const RecoveryEntry& entry) const {
             info.filePath.empty() ? Text(InfoTextNumber::NeverSaved, "(nie gespeichert)")
                                   : info.filePath,
             info.time, std::to_string(info.colorCount)};
+}
+
+// One that cannot be opened keeps none of the others; it is told at the end.
+void RecoverCommands::Open(const std::vector<RecoveryEntry>& entries) {
+    std::exception_ptr error;
+    for (const RecoveryEntry& entry : entries) {
+        try {
+            Open(entry);
+        } catch (const RuntimeError&) {
+            error = std::current_exception();
+        }
+    }
+    if (error)
+        std::rethrow_exception(error);
 }
 
 // It is the library that it was: a save goes to its own file, and what that has in it stays beside.

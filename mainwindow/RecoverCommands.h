@@ -50,6 +50,7 @@ private:
     [[nodiscard]] std::string Text(std::int32_t number, const char* builtIn) const;
     void ShowEntries();
     [[nodiscard]] RecoverRow RowOf(const RecoveryEntry& entry) const;
+    void Open(const std::vector<RecoveryEntry>& entries);
     void Open(const RecoveryEntry& entry);
     void TakeOver(const RecoveryEntry& entry, ReadResult result);
     void SetPlace(const std::string& mainKey, const std::string& filePath);

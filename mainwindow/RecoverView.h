@@ -4,7 +4,6 @@
 #include "common/ports/LocalizableForm.h"
 
 #include <array>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,9 +20,9 @@ public:
     // The row stays selected by its number, as far as there is one.
     virtual void SetRows(const std::vector<RecoverRow>& rows) = 0;
 
-    // Shows the window modally over the main window, with the first row selected.  Gives the row,
-    // from 0, that is to be opened; nothing when the window was closed.
-    [[nodiscard]] virtual std::optional<int> ShowModal() = 0;
+    // Shows the window modally over the main window, with the first row selected.  Gives the rows,
+    // from 0, that are to be opened; none when the window was closed.
+    [[nodiscard]] virtual std::vector<int> ShowModal() = 0;
 };
 
 // What the user did in frmRecover.

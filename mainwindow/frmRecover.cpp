@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 
 namespace {
 
@@ -30,12 +31,14 @@ frmRecover::frmRecover(HWND owner, ErrorSink& errors)
       lvRecover_(Add<ListView>(At("lvRecover", IDC_lvRecover),
                                ListView::Images{imlLarge_, imlSmall_, kRowIcon})),
       cmdOpen_(Add<CommandButton>(At("cmdOpen", IDC_cmdOpen), ButtonRole::Default)),
+      cmdOpenAll_(Add<CommandButton>(At("cmdOpenAll", IDC_cmdOpenAll))),
       cmdDelete_(Add<CommandButton>(At("cmdDelete", IDC_cmdDelete))),
       cmdEmpty_(Add<CommandButton>(At("cmdEmpty", IDC_cmdEmpty))),
       cmdClose_(Add<CommandButton>(At("cmdClose", IDC_cmdClose))) {
     lblRecover_.SetText("Bibliotheken, die geändert und nicht gespeichert wurden. Öffnen bringt "
                         "eine zurück, so wie sie war.");
     cmdOpen_.SetText("Öffnen");
+    cmdOpenAll_.SetText("Alle öffnen");
     cmdDelete_.SetText("Löschen ...");
     cmdEmpty_.SetText("Alle löschen ...");
     cmdClose_.SetText("Schließen");
@@ -44,8 +47,9 @@ frmRecover::frmRecover(HWND owner, ErrorSink& errors)
     };
     lvRecover_.mayEdit = [] { return false; };
     lvRecover_.onClick = [this](int) { ShowWhatCanBeDone(); };
-    lvRecover_.onDoubleClick = [this] { Choose(); };
-    cmdOpen_.onClick = [this] { Choose(); };
+    lvRecover_.onDoubleClick = [this] { ChooseSelected(); };
+    cmdOpen_.onClick = [this] { ChooseSelected(); };
+    cmdOpenAll_.onClick = [this] { ChooseAll(); };
     cmdDelete_.onClick = [this] { ReportDelete(); };
     cmdClose_.onClick = [this] { done_ = true; };
     SetDefaultButton(IDC_cmdOpen);
@@ -84,14 +88,21 @@ void frmRecover::ShowWhatCanBeDone() {
     if (!isSelected && IsWindowVisible(Handle()) != FALSE)
         lvRecover_.Focus(); // before a button that has it turns grey
     cmdOpen_.SetEnabled(isSelected);
+    cmdOpenAll_.SetEnabled(!rows_.empty());
     cmdDelete_.SetEnabled(isSelected);
     cmdEmpty_.SetEnabled(!rows_.empty());
 }
 
-void frmRecover::Choose() {
+void frmRecover::ChooseSelected() {
     if (lvRecover_.SelectedRow() < 0)
         return;
-    chosen_ = lvRecover_.SelectedRow();
+    chosen_ = {lvRecover_.SelectedRow()};
+    done_ = true;
+}
+
+void frmRecover::ChooseAll() {
+    chosen_.resize(rows_.size());
+    std::iota(chosen_.begin(), chosen_.end(), 0);
     done_ = true;
 }
 
@@ -100,10 +111,10 @@ void frmRecover::ReportDelete() {
         events_->DeleteClicked(lvRecover_.SelectedRow());
 }
 
-std::optional<int> frmRecover::ShowModal() {
+std::vector<int> frmRecover::ShowModal() {
     OnLayout();
     done_ = false;
-    chosen_.reset();
+    chosen_.clear();
     if (!rows_.empty())
         lvRecover_.SelectRow(0);
     {
@@ -133,6 +144,7 @@ bool frmRecover::TranslateShortcut(MSG& message) {
 }
 
 void frmRecover::OnLayout() {
-    ListLayout{lblRecover_, lvRecover_, {&cmdOpen_, &cmdDelete_, &cmdEmpty_, &cmdClose_}}.Place(
-        ClientArea(), Scale());
+    ListLayout{
+        lblRecover_, lvRecover_, {&cmdOpen_, &cmdOpenAll_, &cmdDelete_, &cmdEmpty_, &cmdClose_}}
+        .Place(ClientArea(), Scale());
 }

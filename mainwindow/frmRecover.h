@@ -19,7 +19,7 @@ public:
     void SetWindowCaption(const std::string& caption) override;
     void SetColumnCaptions(const RecoverRow& captions) override;
     void SetRows(const std::vector<RecoverRow>& rows) override;
-    std::optional<int> ShowModal() override;
+    std::vector<int> ShowModal() override;
 
 protected:
     MessageResult OnMessage(const WindowMessage& message) override;
@@ -29,13 +29,14 @@ protected:
 
 private:
     [[nodiscard]] ControlPlace At(const char* name, int id) const { return {name, id, Handle()}; }
-    void Choose();
+    void ChooseSelected();
+    void ChooseAll();
     void ReportDelete();
     void ShowWhatCanBeDone();
 
     RecoverEvents* events_ = nullptr;
     std::vector<RecoverRow> rows_;
-    std::optional<int> chosen_;
+    std::vector<int> chosen_;
     bool done_ = true;
     bool hasColumns_ = false;
     IconList imlLarge_;
@@ -45,6 +46,7 @@ private:
     Label& lblRecover_;
     ListView& lvRecover_;
     CommandButton& cmdOpen_;
+    CommandButton& cmdOpenAll_;
     CommandButton& cmdDelete_;
     CommandButton& cmdEmpty_;
     CommandButton& cmdClose_;

@@ -61,6 +61,7 @@
 #define IDC_cmdDelete 1504
 #define IDC_cmdEmpty 1505
 #define IDC_cmdClose 1506
+#define IDC_cmdOpenAll 1507
 
 // frmFind
 #define IDC_lblFind 1601

@@ -168,10 +168,13 @@ void WindowsJob::CloseRecover(WORD key, LRESULT newNodes) {
 
 void WindowsJob::OpenSample() {
     constexpr int kTitle = 1; // numbers of the list's lines, from the top
-    constexpr int kFirstSample = 5;
+    constexpr int kRecover = 2;
+    constexpr int kFirstSample = 6;
     const RemoteWindow list = Main().Window().Child(IDC_lvColor);
     Report().CheckEqual("empty list", list.Child(kTitle).Text(),
                         std::string("No library is open."));
+    Report().CheckEqual("first link", list.Child(kRecover).Text(),
+                        std::string("Recover libraries that were not saved ..."));
     const RemoteWindow link = list.Child(kFirstSample);
     Report().CheckEqual("link", link.Text(), std::string("Open the sample: materials"));
     link.Click();

@@ -96,9 +96,9 @@ public:
 
     void SetColumnCaptions(const RecoverRow& texts) override { columns = texts; }
     void SetRows(const std::vector<RecoverRow>& newRows) override { rows = newRows; }
-    std::optional<int> ShowModal() override { return work ? work() : std::nullopt; }
+    std::vector<int> ShowModal() override { return work ? work() : std::vector<int>(); }
 
-    std::function<std::optional<int>()> work; // what the user does while it is shown
+    std::function<std::vector<int>()> work; // what the user does while it is shown
     RecoverRow columns;
     std::vector<RecoverRow> rows;
 };

@@ -190,7 +190,7 @@ TEST_F(PaletteCommandsTest, DroppedTextWithColorsIsATable) {
 TEST_F(PaletteCommandsTest, DroppedPaletteIsToldWhenItCannotBeRead) {
     program.Main().frame.FilesDropped({"C:\\gone.gpl"});
     EXPECT_EQ(program.prompts.messages,
-              (std::vector<Message>{{"<214>\r\ngone.gpl: <215>", 48, "<98>"}}));
+              (std::vector<Message>{{"<248>\r\ngone.gpl: <215>", 48, "<98>"}}));
 }
 
 TEST_F(PaletteCommandsTest, ErrorOfADroppedLibraryLetsThePalettesIn) {

@@ -64,7 +64,7 @@ TEST_F(RecoverCommandsTest, CloseKeepsWhatIsNotSaved) {
     Run(IDM_mnuFileClose);
     EXPECT_EQ(program.view.nodes.size(), 0U);
     SecondPasses();
-    program.recover.work = [] { return std::nullopt; };
+    program.recover.work = [] { return std::vector<int>(); };
     Run(IDM_mnuFileRecover);
     ASSERT_EQ(program.recover.rows.size(), 1U);
     EXPECT_EQ(program.recover.rows[0][0], "mine");
@@ -106,7 +106,7 @@ TEST_F(RecoverCommandsTest, StartTellsOfACrashOnce) {
 TEST_F(RecoverCommandsTest, WindowListsTheLatestFirst) {
     Leave("gone-1", "Reds", "C:\\reds.tnt");
     Leave("gone-2", "Blues", "");
-    program.recover.work = [] { return std::nullopt; };
+    program.recover.work = [] { return std::vector<int>(); };
     Run(IDM_mnuFileRecover);
     EXPECT_EQ(program.recover.caption, "<180>");
     EXPECT_EQ(program.recover.columns, (RecoverRow{"<182>", "<183>", "<184>", "<185>"}));
@@ -118,7 +118,7 @@ TEST_F(RecoverCommandsTest, WindowListsTheLatestFirst) {
 TEST_F(RecoverCommandsTest, OpenedLibraryIsWhatItWas) {
     Leave("gone-1", "Reds", "C:\\reds.tnt");
     program.files.contents["C:\\reds.tnt"] = "from someone else";
-    program.recover.work = [] { return 0; };
+    program.recover.work = [] { return std::vector{0}; };
     Run(IDM_mnuFileRecover);
     EXPECT_EQ(program.view.nodes["0D"], "Reds");
     EXPECT_EQ(program.view.infoPanel, "Okay Reds");
@@ -134,17 +134,37 @@ TEST_F(RecoverCommandsTest, OpenedLibraryIsWhatItWas) {
 
 TEST_F(RecoverCommandsTest, LibraryThatWasNeverSavedIsSavedByTheDialog) {
     Leave("gone-1", "Reds", "");
-    program.recover.work = [] { return 0; };
+    program.recover.work = [] { return std::vector{0}; };
     Run(IDM_mnuFileRecover);
     program.prompts.chosenFiles.emplace_back("C:\\new.tnt");
     Run(IDM_mnuFileSave);
     EXPECT_TRUE(program.files.contents.contains("C:\\new.tnt"));
 }
 
+TEST_F(RecoverCommandsTest, AllAreOpenedAlsoBesideOneThatIsBroken) {
+    Leave("gone-1", "Reds", "C:\\reds.tnt");
+    Leave("gone-2", "Broken", "");
+    Leave("gone-3", "Blues", "");
+    program.files.contents[std::string(FakeProgram::kRecoveryFolder) + "\\gone-2.tnt"] = "rubbish";
+    program.recover.work = [&] {
+        EXPECT_EQ(program.recover.rows.size(), 3U);
+        return std::vector{0, 1, 2};
+    };
+    Run(IDM_mnuFileRecover);
+    EXPECT_EQ(program.view.nodes["0D"], "Blues"); // the latest first
+    EXPECT_EQ(program.view.nodes["1D"], "Reds");
+    EXPECT_EQ(program.prompts.messages.size(), 1U);
+    program.recover.work = [&] {
+        EXPECT_EQ(program.recover.rows.size(), 1U);
+        return std::vector<int>();
+    };
+    Run(IDM_mnuFileRecover);
+}
+
 TEST_F(RecoverCommandsTest, BrokenEntryIsToldAndStays) {
     Leave("gone-1", "Reds", "");
     program.files.contents[std::string(FakeProgram::kRecoveryFolder) + "\\gone-1.tnt"] = "rubbish";
-    program.recover.work = [] { return 0; };
+    program.recover.work = [] { return std::vector{0}; };
     Run(IDM_mnuFileRecover);
     ASSERT_FALSE(program.prompts.messages.empty());
     EXPECT_EQ(program.prompts.messages.back().style, MessageStyle::Critical);
@@ -163,7 +183,7 @@ TEST_F(RecoverCommandsTest, WhatCanBeReadOfADamagedEntryDoesNotLiveInTheFolder) 
         "0\xF7"
         "0\xF7"
         "0\"\r\n";
-    program.recover.work = [] { return 0; };
+    program.recover.work = [] { return std::vector{0}; };
     EXPECT_THROW(Run(IDM_mnuFileRecover), RuntimeError);
     EXPECT_EQ(program.view.nodes["0D"], "Reds");
     Run(IDM_mnuFileSave);
@@ -181,7 +201,7 @@ TEST_F(RecoverCommandsTest, DeletingAsksFirst) {
         EXPECT_EQ(program.recover.rows.size(), 2U);
         program.prompts.answers = {Answer::Yes};
         program.application.RecoverWindowEvents().DeleteClicked(0);
-        return std::nullopt;
+        return std::vector<int>();
     };
     Run(IDM_mnuFileRecover);
     ASSERT_EQ(program.recover.rows.size(), 1U);
@@ -199,7 +219,7 @@ TEST_F(RecoverCommandsTest, EmptyingAsksFirst) {
         program.prompts.answers = {Answer::Yes};
         program.application.RecoverWindowEvents().EmptyClicked();
         program.application.RecoverWindowEvents().EmptyClicked(); // nothing to ask about
-        return std::nullopt;
+        return std::vector<int>();
     };
     Run(IDM_mnuFileRecover);
     EXPECT_TRUE(program.recover.rows.empty());
@@ -218,7 +238,7 @@ TEST_F(RecoverCommandsTest, PositionOfTheWindowIsKept) {
     program.recover.work = [&] {
         program.recover.bounds = {1500, 1500, 7500, 4500};
         program.application.RecoverWindowEvents().RecoverUnloading();
-        return std::nullopt;
+        return std::vector<int>();
     };
     Run(IDM_mnuFileRecover);
     program.recover.bounds = {};

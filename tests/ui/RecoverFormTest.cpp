@@ -8,7 +8,6 @@
 #include <array>
 #include <commctrl.h>
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +15,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 using Rows = std::vector<RecoverRow>;
+using Chosen = std::vector<int>;
 
 class RecordingRecoverEvents : public RecoverEvents {
 public:
@@ -48,7 +48,7 @@ protected:
     }
 
     // Opens the window with rows, does the action in it, and closes it if it is still open then.
-    std::optional<int> Opened(const Rows& rows, std::function<void()> action) {
+    std::vector<int> Opened(const Rows& rows, std::function<void()> action) {
         window.SetRows(rows);
         static std::function<void()> pending;
         pending = [this, action = std::move(action)] {
@@ -100,20 +100,20 @@ TEST_F(RecoverForm, CaptionsGivenAgainReplaceThoseBefore) {
 TEST_F(RecoverForm, ButtonsAreGreyWithoutRowsAndNotWithThem) {
     for (const Rows& rows : {Rows(), TwoRows(), Rows()}) {
         window.SetRows(rows);
-        for (const int button : {IDC_cmdOpen, IDC_cmdDelete, IDC_cmdEmpty})
+        for (const int button : {IDC_cmdOpen, IDC_cmdOpenAll, IDC_cmdDelete, IDC_cmdEmpty})
             EXPECT_EQ(IsEnabled(button), !rows.empty()) << button;
         EXPECT_TRUE(IsEnabled(IDC_cmdClose));
     }
 }
 
 TEST_F(RecoverForm, EnterOpensTheSelectedRow) {
-    EXPECT_EQ(Opened(TwoRows(), [&] { Press(VK_RETURN); }), 0);
+    EXPECT_EQ(Opened(TwoRows(), [&] { Press(VK_RETURN); }), Chosen{0});
     EXPECT_EQ(Opened(TwoRows(),
                      [&] {
                          Press(VK_DOWN);
                          Press(VK_RETURN);
                      }),
-              1);
+              Chosen{1});
     EXPECT_EQ(recorded.lines, (Lines{"unloading", "unloading"}));
 }
 
@@ -123,15 +123,19 @@ TEST_F(RecoverForm, DoubleClickAndTheButtonOpenTheSelectedRow) {
                          Press(VK_DOWN);
                          DoubleClick(1);
                      }),
-              1);
-    EXPECT_EQ(Opened(TwoRows(), [&] { PressButton(IDC_cmdOpen); }), 0);
-    EXPECT_EQ(Opened(TwoRows(), [&] { DoubleClick(-1); }), std::nullopt) << "beside the rows";
+              Chosen{1});
+    EXPECT_EQ(Opened(TwoRows(), [&] { PressButton(IDC_cmdOpen); }), Chosen{0});
+    EXPECT_EQ(Opened(TwoRows(), [&] { DoubleClick(-1); }), Chosen{}) << "beside the rows";
+}
+
+TEST_F(RecoverForm, OpenAllOpensEachRow) {
+    EXPECT_EQ(Opened(TwoRows(), [&] { PressButton(IDC_cmdOpenAll); }), (Chosen{0, 1}));
 }
 
 TEST_F(RecoverForm, EscapeTheCloseBoxAndItsButtonOpenNothing) {
-    EXPECT_EQ(Opened(TwoRows(), [&] { Press(VK_ESCAPE); }), std::nullopt);
-    EXPECT_EQ(Opened(TwoRows(), [] {}), std::nullopt);
-    EXPECT_EQ(Opened(TwoRows(), [&] { PressButton(IDC_cmdClose); }), std::nullopt);
+    EXPECT_EQ(Opened(TwoRows(), [&] { Press(VK_ESCAPE); }), Chosen{});
+    EXPECT_EQ(Opened(TwoRows(), [] {}), Chosen{});
+    EXPECT_EQ(Opened(TwoRows(), [&] { PressButton(IDC_cmdClose); }), Chosen{});
     EXPECT_EQ(recorded.lines, (Lines{"unloading", "unloading", "unloading"}));
     EXPECT_EQ(IsWindowVisible(window.Handle()), FALSE);
     EXPECT_NE(IsWindowEnabled(form.Handle()), FALSE);
@@ -144,7 +148,7 @@ TEST_F(RecoverForm, KeysWithoutRowsDoNothingButClose) {
             Press(key);
         staysOpen = IsWindowVisible(window.Handle()) != FALSE;
     });
-    EXPECT_EQ(chosen, std::nullopt);
+    EXPECT_EQ(chosen, Chosen{});
     EXPECT_TRUE(staysOpen);
     EXPECT_EQ(recorded.lines, Lines{"unloading"});
 }
@@ -175,8 +179,8 @@ TEST_F(RecoverForm, FocusGoesToTheListWhenTheLastRowIsDeletedByTheButton) {
 TEST_F(RecoverForm, TabVisitsTheListAndTheButtonsThatCanBePressed) {
     std::vector<int> order;
     static_cast<void>(Opened(TwoRows(), [&] { order = TabOrder(); }));
-    EXPECT_EQ(order, (std::vector<int>{IDC_lvRecover, IDC_cmdOpen, IDC_cmdDelete, IDC_cmdEmpty,
-                                       IDC_cmdClose}));
+    EXPECT_EQ(order, (std::vector<int>{IDC_lvRecover, IDC_cmdOpen, IDC_cmdOpenAll, IDC_cmdDelete,
+                                       IDC_cmdEmpty, IDC_cmdClose}));
     static_cast<void>(Opened({}, [&] { order = TabOrder(); }));
     EXPECT_EQ(order, (std::vector<int>{IDC_lvRecover, IDC_cmdClose}));
 }
@@ -194,7 +198,8 @@ TEST_F(RecoverForm, SmallestWindowHoldsItsButtonsBesideEachOther) {
     RECT area{};
     GetClientRect(window.Handle(), &area);
     LONG last = 0;
-    for (const int button : {IDC_cmdOpen, IDC_cmdDelete, IDC_cmdEmpty, IDC_cmdClose}) {
+    for (const int button :
+         {IDC_cmdOpen, IDC_cmdOpenAll, IDC_cmdDelete, IDC_cmdEmpty, IDC_cmdClose}) {
         RECT place{};
         GetWindowRect(Inside(button), &place);
         MapWindowPoints(nullptr, window.Handle(), reinterpret_cast<POINT*>(&place), 2);
