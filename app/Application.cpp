@@ -256,6 +256,7 @@ void Application::Start() {
                                          {Joined(unreadable)}));
     windows_.mainView.frame.ShowWindow();
     recover_.TellAtStart(crashReports_.TakeNew());
+    windows_.mainView.list.HintChanged(); // too old copies are gone since it was asked
 }
 
 // A library that cannot be read must not keep the window from being shown.

@@ -26,28 +26,31 @@ RecoveryKeeper::~RecoveryKeeper() {
 }
 
 // Nobody waits for a look, so nobody is told of an error but as of a copy that cannot be written.
-void RecoveryKeeper::Look() {
+bool RecoveryKeeper::Look() {
     try {
-        LookOrThrow();
+        return LookOrThrow();
     } catch (...) { // no memory
         looksToRest_ = kRestAfterFailure;
         TellOfFailure();
+        return false;
     }
 }
 
-void RecoveryKeeper::LookOrThrow() {
+bool RecoveryKeeper::LookOrThrow() {
     if (!parts_.folder.IsUsable() || parts_.work.IsBusy())
-        return;
+        return false;
+    const bool hasWritten = !underWay_.empty();
     Finish();
     if (looksToRest_ > 0) {
         --looksToRest_;
-        return;
+        return hasWritten;
     }
     TakeUpChanges();
     BeginWork();
     ForgetTheGone();
     for (auto& [library, kept] : kept_)
         kept.looksToRest = std::max(0, kept.looksToRest - 1);
+    return hasWritten;
 }
 
 // Libraries that are closed and cannot come back by undo, unless their last copies are under way.

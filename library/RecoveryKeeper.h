@@ -37,8 +37,9 @@ public:
     // Called once, when a library could not be kept.
     std::function<void()> onFailed;
 
-    // Takes up what has changed since the last look; to be called every second.
-    void Look();
+    // Takes up what has changed since the last look; to be called every second.  True when
+    // Entries may be others since then, because copies were written.
+    bool Look();
 
     // The same for all libraries; returns when it is done.
     void KeepAll();
@@ -75,7 +76,7 @@ private:
         Outcome outcome = Outcome::Failed;
     };
 
-    void LookOrThrow();
+    bool LookOrThrow();
     void KeepBeforeItLeaves(const std::string& mainKey);
     void TakeUpChanges();
     void TakeUp(const std::string& mainKey, Colors& colors);

@@ -83,6 +83,12 @@ void MainWindow::ShowWhatFollows() {
     parts_.commands.levels.FollowLanguage();
 }
 
+// An empty list offers what can be recovered as soon as it is kept.
+void MainWindow::SecondPassed() {
+    if (parts_.keeper.Look())
+        parts_.view.list.HintChanged();
+}
+
 void MainWindow::RunStep(const MenuRow& row) {
     std::optional<HistoryStep> step;
     if (row.isStep)

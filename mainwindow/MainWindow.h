@@ -48,7 +48,7 @@ public:
     void SampleChosen(const std::string& path) override;
     void WindowClosing() override;
     void SessionEnding() override;
-    void SecondPassed() override { parts_.keeper.Look(); }
+    void SecondPassed() override;
 
 private:
     void Run(const MenuRow& row);

@@ -2,6 +2,7 @@
 
 #include "common/ErrorText.h"
 #include "common/FileNames.h"
+#include "common/FirstError.h"
 #include "common/InfoTextNumber.h"
 #include "common/ProgramNames.h"
 #include "common/Text.h"
@@ -81,18 +82,12 @@ RecoverRow RecoverCommands::RowOf(const RecoveryEntry& entry) const {
             info.time, std::to_string(info.colorCount)};
 }
 
-// One that cannot be opened keeps none of the others; it is told at the end.
+// One that is damaged keeps none of the others closed.
 void RecoverCommands::Open(const std::vector<RecoveryEntry>& entries) {
-    std::exception_ptr error;
-    for (const RecoveryEntry& entry : entries) {
-        try {
-            Open(entry);
-        } catch (const RuntimeError&) {
-            error = std::current_exception();
-        }
-    }
-    if (error)
-        std::rethrow_exception(error);
+    FirstError first;
+    for (const RecoveryEntry& entry : entries)
+        first.Watch([&] { Open(entry); });
+    first.Rethrow();
 }
 
 // It is the library that it was: a save goes to its own file, and what that has in it stays beside.

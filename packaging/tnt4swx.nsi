@@ -30,6 +30,10 @@ SetDateSave off ; the same files give the same installer, whenever they were mad
 !define MUI_ICON "${STAGE}\tnt4swx.ico"
 !define MUI_UNICON "${STAGE}\tnt4swx.ico"
 !define MUI_ABORTWARNING
+!define MUI_CUSTOMFUNCTION_GUIINIT ComeToTheTop
+!define MUI_CUSTOMFUNCTION_UNGUIINIT un.ComeToTheTop
+!define MUI_WELCOMEPAGE_TEXT "$(WELCOME)"
+!define MUI_UNCONFIRMPAGE_TEXT_TOP "$(WHAT_STAYS)"
 
 !insertmacro MUI_PAGE_WELCOME
 !insertmacro MUI_PAGE_LICENSE "$(TERMS)"
@@ -82,6 +86,15 @@ VIFileVersion "${VERSION}.0"
 
 !include "${STAGE}\lists.nsh" ; InstallFiles, RemoveFiles
 
+; The program that is to be closed may lie above all other windows.
+!macro DefineComeToTheTop PREFIX
+Function ${PREFIX}ComeToTheTop
+    System::Call 'user32::SetWindowPos(p $HWNDPARENT, p -1, i 0, i 0, i 0, i 0, i 0x3)' ; no size, no move
+FunctionEnd
+!macroend
+!insertmacro DefineComeToTheTop ""
+!insertmacro DefineComeToTheTop "un."
+
 ; Waits until a program is closed, or gives up: a file that runs cannot be opened for writing.
 !macro DefineWaitUntilClosed PREFIX
 Function ${PREFIX}WaitUntilClosed
@@ -97,7 +110,7 @@ Function ${PREFIX}WaitUntilClosed
             FileClose $1
             ${ExitDo}
         ${EndIf}
-        ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(CLOSE_FIRST)" /SD IDCANCEL IDCANCEL`
+        ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION|MB_TOPMOST "$(CLOSE_FIRST)" /SD IDCANCEL IDCANCEL`
             SetErrorLevel 3
             Abort "$(CLOSE_FIRST)"
         ${EndIf}

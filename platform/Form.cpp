@@ -268,7 +268,8 @@ void Form::LoadIcons() {
 // A window of one size; a window manager may offer more than the style does.
 void Form::RemoveSizeCommands() const noexcept {
     if (HasOneSize())
-        for (const UINT command : {SC_SIZE, SC_MINIMIZE, SC_MAXIMIZE, SC_RESTORE})
+        for (const UINT command :
+             {UINT{SC_SIZE}, UINT{SC_MINIMIZE}, UINT{SC_MAXIMIZE}, UINT{SC_RESTORE}})
             RemoveMenu(GetSystemMenu(window_, FALSE), command, MF_BYCOMMAND);
 }
 

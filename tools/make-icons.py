@@ -34,7 +34,7 @@ def mask_line(row):
 
 
 def encode_bitmap(rows):
-    """Icon entry: header with twice the height, colours and mask, both bottom up."""
+    """Icon entry: header with twice the height, colors and mask, both bottom up."""
     size = len(rows)
     bottom_up = rows[::-1]
     pixels = b"".join(bgra(row) for row in bottom_up)

@@ -177,7 +177,7 @@ def web_colors():
 
 
 def library_file(name, groups):
-    """Bytes of a ".tnt" file: a header, the groups, then the colours, each line in quotes."""
+    """Bytes of a ".tnt" file: a header, the groups, then the colors, each line in quotes."""
     count = len(groups) + sum(len(colors) for colors in groups.values())
     records = [f"D#{name}=0D:{count}"]
     keys = {group: f"0DG{number}" for number, group in enumerate(groups, 1)}

@@ -70,8 +70,8 @@ def check(name, *command, limit=120, **options):
 def native_steps(shards=1, doses=()):
     return [
         build("native", 1800),
-        *shared_suite("portable-tests", "native", ["build/native/portable_tests"], 900, shards,
-                      doses),
+        *shared_suite("portable-tests", "native", ["build/native/portable_tests"],
+                      3600 if doses else 900, shards, doses),
         convert_tests("convert-tests", "native"),
         # Whether it runs, at a small size; nothing is timed here.
         check("library-bench", "build/native/library_bench", "10000", "1",
@@ -121,12 +121,12 @@ def windows_steps(shards, doses):
         build("windows", 3600, follows=("build-native",)),
         *windows_suites(shards, doses),
         suite("portable-tests-wine", "windows", (*session, "build/windows/portable_tests.exe"),
-              900, environment=doses),
+              3600 if doses else 900, environment=doses),
         convert_tests("convert-tests-wine", "windows", *WINE, "env",
                       "TNT_CONVERT=build/windows/bin/tnt-convert.exe"),
         suite("file-faults", "windows",
-              (*WINE, "tools/run-file-faults.sh", "build/windows/file_faults.exe"), 900,
-              environment=doses),
+              (*WINE, "tools/run-file-faults.sh", "build/windows/file_faults.exe"),
+              3600 if doses else 900, environment=doses),
         # What protects the programs and their user, and that nothing of this machine is in them.
         check("hardening", "tools/check-hardening.py", *own, f"--forbid={ROOT}", "--forbid=/usr/",
               *programs, needs=("build-windows",), targets=PROGRAMS),
@@ -202,10 +202,12 @@ def only_targets(step, targets):
 
 def named_plan(name, patterns):
     """One step with what it needs, building nothing else; None when there is no such step."""
-    plan = whole_plan(with_long=True)
-    found = [step for wanted in (name, f"{name}-tests", f"{name}-job")
-             for step in plan if step.name == wanted]
-    if not found:
+    names = (name, f"{name}-tests", f"{name}-job")
+    for plan in (whole_plan(), whole_plan(with_long=True)):  # as in every run, if it is in that
+        found = [step for wanted in names for step in plan if step.name == wanted]
+        if found:
+            break
+    else:
         return None
     step, before = found[0], needed(found[0], plan)
     targets = dict.fromkeys(target for each in (step, *before) for target in each.targets)

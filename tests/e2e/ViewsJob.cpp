@@ -71,6 +71,14 @@ void ViewsJob::SpeakGerman() {
     Report().CheckBecomes(
         "caption of the editor", [this] { return Main().Window().Child(IDC_fraShowColor).Text(); },
         std::string("Aktive Farbe"));
+    RestPointer();
+}
+
+// Where no tip belongs to anything; the one that is there goes.
+void ViewsJob::RestPointer() {
+    RealInput::MoveTo(Main().Tree().PointBelowTheNodes());
+    Report().CheckBecomes(
+        "tip", [this] { return FirstColorOfTip(); }, CLR_INVALID);
 }
 
 // The ball of large icons is lit, so that its middle has no known color.
@@ -125,7 +133,7 @@ POINT ViewsJob::PointOfBall() const {
 // The ball is lit, so that its color is not known; the band below it has the plain one.
 void ViewsJob::PreviewMaterial() {
     ShowEditor(true);
-    RealInput::MoveTo(Field().Centre()); // the tip of the tree goes
+    RestPointer();
     Report().CheckBecomes(
         "plain color", [this] { return Field().ColorAt(PointOfBall()); }, gold_);
     PostMessageW(Main().Window().Handle(), WM_COMMAND, IDM_mnuViewMaterialPreview, 0);

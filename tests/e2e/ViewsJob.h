@@ -17,6 +17,7 @@ private:
     void ShowMode(int command, DWORD style);
     void ShowEditor(bool large);
     void SpeakGerman();
+    void RestPointer();
     void SwitchColorsOn();
     void ShowColors(int command, DWORD style);
     [[nodiscard]] COLORREF FirstColorOfTip() const;

@@ -1,7 +1,9 @@
 #include "tests/e2e/WindowsJob.h"
 
+#include "common/CalendarText.h"
 #include "common/ProgramNames.h"
 #include "platform/Utf16.h"
+#include "platform/Win32CalendarClock.h"
 #include "platform/Win32Folders.h"
 #include "resources/controls.h"
 #include "tests/e2e/RealInput.h"
@@ -31,7 +33,10 @@ void WindowsJob::Work() {
     Report().Step("close the viewer by Escape", [this] { CloseViewer(); });
     Report().Step("progress", [this] { ClearWholePart("&Stop"); });
     Report().Step("stop by Enter", [this] { Stop(); });
-    Report().Step("recover", [this] { OpenRecover("&Delete ..."); });
+    Report().Step("recover", [this] {
+        ClickRecover();
+        SeeRecover("&Delete ...");
+    });
     Report().Step("close it by Escape", [this] { CloseRecover(VK_ESCAPE, 0); });
     Report().Step("open a sample from the empty list", [this] { OpenSample(); });
     Report().Step("find while typing", [this] { Find(); });
@@ -57,7 +62,10 @@ void WindowsJob::Work() {
     Report().Step("close the viewer by Escape again", [this] { CloseViewer(); });
     Report().Step("progress in German", [this] { ClearWholePart("&Stopp"); });
     Report().Step("stop by Enter again", [this] { Stop(); });
-    Report().Step("recover in German", [this] { OpenRecover("&Löschen ..."); });
+    Report().Step("recover in German", [this] {
+        Choose(IDM_mnuFileRecover);
+        SeeRecover("&Löschen ...");
+    });
     Report().Step("bring a library back by Enter", [this] { CloseRecover(VK_RETURN, 2); });
     Report().Step("end the programs", [this] {
         EndMain();
@@ -68,11 +76,10 @@ void WindowsJob::Work() {
 // The stand-in has a part that takes a while.
 void WindowsJob::Start() {
     StartStandIn("--scenario features=4000");
-    LeaveLibrary("20240102-100000000-1-1", "Lacke", "C:\\Users\\Public\\Farben\\Lacke.tnt");
-    LeaveLibrary("20240102-100000000-1-2", "Metals", "");
     StartMain();
     Main().Window().Place(kMargin, kMargin, GetSystemMetrics(SM_CXSCREEN) - 2 * kMargin,
                           GetSystemMetrics(SM_CYSCREEN) - 2 * kMargin);
+    LeaveLibraries(); // after the first picture's texts: it is that of a new user
 }
 
 void WindowsJob::SpeakGerman() {
@@ -128,7 +135,12 @@ void WindowsJob::Stop() {
     CheckGone(progress_);
 }
 
-// As if the program had been killed while it was open.
+void WindowsJob::LeaveLibraries() {
+    LeaveLibrary("20240102-100000000-1-1", "Lacke", "C:\\Users\\Public\\Farben\\Lacke.tnt");
+    LeaveLibrary("20240102-100000000-1-2", "Metals", "");
+}
+
+// As if another copy of the program had been killed a moment ago while it was open.
 void WindowsJob::LeaveLibrary(const std::string& id, const std::string& name,
                               const std::string& file) {
     const std::string folder = LocalDataFolder() + ProgramNames::RecoveryFolder;
@@ -137,16 +149,24 @@ void WindowsJob::LeaveLibrary(const std::string& id, const std::string& name,
     std::ofstream(std::filesystem::path(path + L".tnt"), std::ios::binary)
         << "\"D#" + name + "=0D:1\"\r\n\"G#Group=0DG1\"\r\n";
     std::ofstream(std::filesystem::path(path + L".txt"), std::ios::binary)
-        << name + "\r\n" + file + "\r\n2026-11-0" + id.back() + " 10:30:00\r\n12\r\n";
+        << name + "\r\n" + file + "\r\n" + CalendarText(Win32CalendarClock().Now()) + "\r\n12\r\n";
 }
 
 LRESULT WindowsJob::CountNodes() const {
     return SendMessageW(Main().Window().Child(IDC_tvColor).Handle(), TVM_GETCOUNT, 0, 0);
 }
 
-void WindowsJob::OpenRecover(const std::string& deleteCaption) {
+// The empty list offers it as its first link.
+void WindowsJob::ClickRecover() {
+    constexpr int kFirstLink = 2; // number of the list's line, from the top
+    const RemoteWindow link = Main().Window().Child(IDC_lvColor).Child(kFirstLink);
+    Report().CheckEqual("link", link.Text(),
+                        std::string("Recover libraries that were not saved ..."));
+    link.Click();
+}
+
+void WindowsJob::SeeRecover(const std::string& deleteCaption) {
     nodesBefore_ = CountNodes();
-    Choose(IDM_mnuFileRecover);
     recover_ = Wait(L"frmRecover");
     Report().CheckEqual("button", recover_.Child(IDC_cmdDelete).Text(), deleteCaption);
     Report().CheckBecomes(
@@ -168,13 +188,10 @@ void WindowsJob::CloseRecover(WORD key, LRESULT newNodes) {
 
 void WindowsJob::OpenSample() {
     constexpr int kTitle = 1; // numbers of the list's lines, from the top
-    constexpr int kRecover = 2;
     constexpr int kFirstSample = 6;
     const RemoteWindow list = Main().Window().Child(IDC_lvColor);
     Report().CheckEqual("empty list", list.Child(kTitle).Text(),
                         std::string("No library is open."));
-    Report().CheckEqual("first link", list.Child(kRecover).Text(),
-                        std::string("Recover libraries that were not saved ..."));
     const RemoteWindow link = list.Child(kFirstSample);
     Report().CheckEqual("link", link.Text(), std::string("Open the sample: materials"));
     link.Click();

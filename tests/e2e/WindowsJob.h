@@ -25,9 +25,11 @@ private:
     void ClearWholePart(const std::string& stop);
     void Stop();
 
+    static void LeaveLibraries();
     static void LeaveLibrary(const std::string& id, const std::string& name,
                              const std::string& file);
-    void OpenRecover(const std::string& deleteCaption);
+    void ClickRecover();
+    void SeeRecover(const std::string& deleteCaption);
     void CloseRecover(WORD key, LRESULT newNodes);
     [[nodiscard]] LRESULT CountNodes() const; // of the tree
     void OpenSample();

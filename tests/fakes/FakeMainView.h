@@ -79,9 +79,14 @@ public:
     }
     void SetListViewMode(ListViewMode mode) override { listMode = mode; }
     void ShowRowColors(bool shown) override { rowColorsShown = shown; }
-    void HintChanged() override { ++hintChanges; }
+    void HintChanged() override {
+        ++hintChanges;
+        if (onHintChanged)
+            onHintChanged();
+    }
 
     int hintChanges = 0;
+    std::function<void()> onHintChanged;
     std::function<void()> openEdit; // reports its text when it ends
 
     // Editor

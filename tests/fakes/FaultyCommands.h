@@ -2,8 +2,11 @@
 
 #include "tests/fakes/FaultRuns.h"
 
+#include <algorithm>
+#include <iterator>
 #include <stdexcept>
 #include <string_view>
+#include <vector>
 
 // What is selected in SolidWorks before a command.
 namespace FaultySelection {
@@ -77,13 +80,11 @@ void ReadAndClear(FakeProgram& program) {
 
 } // namespace FaultyLevels
 
-// All commands, with what makes each of them do all that it does.
-[[nodiscard]] inline std::vector<FaultyCommand> FaultyCommands() {
+// Commands that move colors, with what makes each of them do all that it does.
+[[nodiscard]] inline std::vector<FaultyCommand> FaultyColorCommands() {
     using namespace FaultySelection;
     using namespace FaultyGroup;
     const char* const table = "standard-colors=1";
-    const auto clear = FaultyLevels::ReadAndClear<0>;
-    const auto clearSecond = FaultyLevels::ReadAndClear<1>;
     return {
         {"GetColor", "default", IDM_mnuSWXGetColor, AFace},
         {"GetColorOfTheDocument", "default", IDM_mnuSWXGetColor},
@@ -106,6 +107,15 @@ void ReadAndClear(FakeProgram& program) {
         {"SetStandardColor", table, IDM_mnuSWXSetStandardColor, {}, AsTheTable},
         {"SetStandardColorOfAnotherName", table, IDM_mnuSWXSetStandardColor, {}, WithAnotherName},
         {"SetStandardColorOfAnotherSize", table, IDM_mnuSWXSetStandardColor, {}, WithOneMore},
+    };
+}
+
+// Reading the levels of every kind of selection, and taking a color off each that can be.
+[[nodiscard]] inline std::vector<FaultyCommand> FaultyLevelCommands() {
+    using namespace FaultySelection;
+    const auto clear = FaultyLevels::ReadAndClear<0>;
+    const auto clearSecond = FaultyLevels::ReadAndClear<1>;
+    return {
         {"ColorLevels", "default", IDM_mnuSWXColorLevels, AFace},
         {"ColorLevelsOfTheDocument", "default", IDM_mnuSWXColorLevels},
         {"ColorLevelsOfAFeature", "default", IDM_mnuSWXColorLevels, AFeature},
@@ -132,6 +142,13 @@ void ReadAndClear(FakeProgram& program) {
         {"ClearLevelOfAFeature", "default", IDM_mnuSWXColorLevels, AFeature, {}, {}, clear},
         {"ClearLevelOfAComponent", "assembly", IDM_mnuSWXColorLevels, AComponent, {}, {}, clear},
     };
+}
+
+// All commands.
+[[nodiscard]] inline std::vector<FaultyCommand> FaultyCommands() {
+    std::vector<FaultyCommand> commands = FaultyColorCommands();
+    std::ranges::move(FaultyLevelCommands(), std::back_inserter(commands));
+    return commands;
 }
 
 [[nodiscard]] inline FaultyCommand FaultyCommandNamed(std::string_view name) {

@@ -74,6 +74,34 @@ TEST_F(EmptyListHintTest, LibrariesThatWereNotSavedAreOfferedFirst) {
     EXPECT_NE(Commands().front(), IDM_mnuFileRecover);
 }
 
+TEST_F(EmptyListHintTest, LibraryThatWasClosedIsOfferedAsSoonAsItIsKept) {
+    program.prompts.typed = {"mine", "group"};
+    Run(IDM_mnuColorNewMainNode);
+    Run(IDM_mnuColorNewGroup);
+    program.Main().tree.NodeClicked("0D");
+    Run(IDM_mnuFileClose);
+    program.view.hintChanges = 0;
+    program.Main().frame.SecondPassed();
+    program.background.Wait();
+    EXPECT_EQ(program.view.hintChanges, 0);
+    program.Main().frame.SecondPassed();
+    EXPECT_EQ(std::exchange(program.view.hintChanges, 0), 1);
+    EXPECT_EQ(Commands().front(), IDM_mnuFileRecover);
+    program.Main().frame.SecondPassed();
+    EXPECT_EQ(program.view.hintChanges, 0) << "nothing was written";
+}
+
+TEST_F(EmptyListHintTest, CopiesThatAreTooOldAreNotOfferedAtTheStart) {
+    FakeProgram next;
+    const std::string kept = std::string(FakeProgram::kRecoveryFolder) + "\\old-1";
+    next.files.contents[kept + ".tnt"] = "\"D#Mine=0D:1\"\r\n\"G#g=0DG1\"\r\n";
+    next.files.contents[kept + ".txt"] = "Mine\r\n\r\n2023-03-01 10:00:00\r\n7\r\n";
+    int shown = 0; // command of the first link
+    next.view.onHintChanged = [&] { shown = next.Main().hints.HintLines().at(1).command; };
+    next.application.Start();
+    EXPECT_EQ(shown, IDM_mnuFileOpen);
+}
+
 TEST_F(EmptyListHintTest, NoMoreThanThreeSamplesAreOfferedAndNoneIsNeeded) {
     for (const char* name : {"a", "b", "c", "d"})
         program.files.contents[std::string("C:\\prog\\samples\\") + name + ".tnt"] = "";

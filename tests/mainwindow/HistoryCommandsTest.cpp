@@ -102,7 +102,7 @@ TEST_F(HistoryCommandsTest, DragIsOneStep) {
         DragPoint onGroup;
         onGroup.node = "0DG2";
         program.Main().drag.ListPressed();
-        program.Main().drag.DragStarted(keys, {});
+        static_cast<void>(program.Main().drag.DragStarted(keys, {}));
         program.Main().drag.DragDropped(onGroup);
     };
     drop({});

@@ -164,6 +164,8 @@ TEST_F(PaletteCommandsTest, WhatCouldNotBeReadIsToldInOneMessageWithCountAndPlac
 
 TEST_F(PaletteCommandsTest, FilesWithoutAPaletteChangeNothingAndAreNoStep) {
     Import({"C:\\missing.ase"});
+    EXPECT_EQ(program.prompts.messages,
+              (std::vector<Message>{{"<248>\r\nmissing.ase: <215>", 48, "<98>"}}));
     EXPECT_TRUE(Nodes().empty());
     EXPECT_EQ(program.view.infoPanels.back(), "");
     EXPECT_FALSE(program.view.menuEnabled.at(IDM_mnuEditUndo));

@@ -9,6 +9,16 @@
 
 namespace {
 
+constexpr const char* kLineOfADamagedColor = "\"E#red=0DG1:red\xF7x\xF7"
+                                             "0\xF7"
+                                             "0\xF7"
+                                             "0\xF7"
+                                             "0\xF7"
+                                             "0\xF7"
+                                             "0\xF7"
+                                             "0\xF7"
+                                             "0\"\r\n";
+
 class RecoverCommandsTest : public testing::Test {
 protected:
     RecoverCommandsTest() { program.application.Start(); }
@@ -141,21 +151,22 @@ TEST_F(RecoverCommandsTest, LibraryThatWasNeverSavedIsSavedByTheDialog) {
     EXPECT_TRUE(program.files.contents.contains("C:\\new.tnt"));
 }
 
-TEST_F(RecoverCommandsTest, AllAreOpenedAlsoBesideOneThatIsBroken) {
+TEST_F(RecoverCommandsTest, AllAreOpenedAlsoBesideOneThatIsBrokenAndOneThatIsDamaged) {
     Leave("gone-1", "Reds", "C:\\reds.tnt");
     Leave("gone-2", "Broken", "");
-    Leave("gone-3", "Blues", "");
+    Leave("gone-3", "Damaged", "");
     program.files.contents[std::string(FakeProgram::kRecoveryFolder) + "\\gone-2.tnt"] = "rubbish";
+    program.files.contents[std::string(FakeProgram::kRecoveryFolder) + "\\gone-3.tnt"] +=
+        kLineOfADamagedColor;
     program.recover.work = [&] {
         EXPECT_EQ(program.recover.rows.size(), 3U);
         return std::vector{0, 1, 2};
     };
-    Run(IDM_mnuFileRecover);
-    EXPECT_EQ(program.view.nodes["0D"], "Blues"); // the latest first
+    EXPECT_THROW(Run(IDM_mnuFileRecover), RuntimeError);
+    EXPECT_EQ(program.view.nodes["0D"], "Damaged"); // the latest first
     EXPECT_EQ(program.view.nodes["1D"], "Reds");
-    EXPECT_EQ(program.prompts.messages.size(), 1U);
     program.recover.work = [&] {
-        EXPECT_EQ(program.recover.rows.size(), 1U);
+        EXPECT_EQ(program.recover.rows.size(), 2U);
         return std::vector<int>();
     };
     Run(IDM_mnuFileRecover);
@@ -174,15 +185,7 @@ TEST_F(RecoverCommandsTest, BrokenEntryIsToldAndStays) {
 TEST_F(RecoverCommandsTest, WhatCanBeReadOfADamagedEntryDoesNotLiveInTheFolder) {
     Leave("gone-1", "Reds", "C:\\reds.tnt");
     program.files.contents[std::string(FakeProgram::kRecoveryFolder) + "\\gone-1.tnt"] +=
-        "\"E#red=0DG1:red\xF7x\xF7"
-        "0\xF7"
-        "0\xF7"
-        "0\xF7"
-        "0\xF7"
-        "0\xF7"
-        "0\xF7"
-        "0\xF7"
-        "0\"\r\n";
+        kLineOfADamagedColor;
     program.recover.work = [] { return std::vector{0}; };
     EXPECT_THROW(Run(IDM_mnuFileRecover), RuntimeError);
     EXPECT_EQ(program.view.nodes["0D"], "Reds");

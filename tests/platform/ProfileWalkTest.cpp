@@ -1,5 +1,6 @@
 // Rules: Language files and control texts
 // A walk that reads a section once gives what the platform gives text by text, whatever the file.
+#include "platform/Utf16.h"
 #include "platform/Win32PrivateProfile.h"
 #include "tests/fakes/Dose.h"
 #include "tests/platform/ScratchFolder.h"
@@ -7,6 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -66,7 +70,95 @@ std::vector<Question> QuestionsAbout(const std::string& content) {
     return questions;
 }
 
-TEST_F(ProfileWalkTest, ShippedLanguageFiles) {
+// Of a file of any bytes: keys as they stand before its signs of equality, and none.
+std::vector<Question> QuestionsAboutAny(const std::string& content) {
+    std::vector<Question> questions = QuestionsAbout(content);
+    std::erase_if(questions, [](const Question& asked) { // no program asks so
+        return std::ranges::any_of(asked.key, [](unsigned char sign) { return sign < ' '; });
+    });
+    for (const char* section : {"frmMain", "Info", "Position", "none", ""})
+        for (const char* key : {"x", "Text.1", "t.New.Caption", "none", ""})
+            questions.push_back({section, key, "otherwise"});
+    return questions;
+}
+
+// What files of odd parts are made of, beside two long ones.
+constexpr std::array kOddParts = {"[frmMain]",
+                                  "[FRMMAIN]",
+                                  "[ frmMain ]",
+                                  "[frmMain",
+                                  "frmMain]",
+                                  "[Info]",
+                                  "[]",
+                                  "[frmMain] ; x",
+                                  "\r\n",
+                                  "\r\n",
+                                  "\r\n",
+                                  "\r\n",
+                                  "\n",
+                                  "\r",
+                                  "\t",
+                                  " ",
+                                  "a",
+                                  "b",
+                                  "A",
+                                  "a.Caption",
+                                  "=",
+                                  "=",
+                                  "=",
+                                  "==",
+                                  ";",
+                                  "#",
+                                  "\"",
+                                  "'",
+                                  "\"x\"",
+                                  "'x'",
+                                  " x ",
+                                  "&Datei ...",
+                                  "Gr\xFCn",
+                                  "\xDF",
+                                  "\x80",
+                                  "%s",
+                                  "\\",
+                                  "0",
+                                  "-1",
+                                  "\x1A",
+                                  "a=1\r\n",
+                                  "b=2\r\n",
+                                  "a=\"1\r\n",
+                                  "a= 3 \r\n",
+                                  "a =4\r\n",
+                                  ";a=5\r\n",
+                                  "a b=6\r\n",
+                                  "a b",
+                                  "a B.c=\"7\r\n",
+                                  "[frmMain]\r\na=1\r\n",
+                                  "[Info]\r\nb=2\r\n"};
+
+std::string OddPart(std::size_t number) {
+    if (number < kOddParts.size())
+        return kOddParts.at(number);
+    return number == kOddParts.size() ? std::string(254, 'y') : std::string(256, 'z');
+}
+
+std::string OddContent(std::mt19937& random) {
+    std::string content;
+    for (std::size_t count = random() % 40; count > 0; --count)
+        content += OddPart(random() % (kOddParts.size() + 2));
+    return content;
+}
+
+std::vector<Question> OddQuestions() {
+    std::vector<Question> questions;
+    for (const char* section : {"frmMain", "Info", "none", ""})
+        for (const char* key : {"a", "b", "A", "a.Caption", "a b", "a  b", "A b.c", "a ", " a",
+                                "none", ";a", "x", "0", "="})
+            for (const char* fallback : {"", "otherwise", "blank at the end ", "\"quoted\""})
+                questions.push_back({section, key, fallback});
+    return questions;
+}
+
+TEST_F(ProfileWalkTest, WalkGivesWhatSingleReadsGiveOfTheShippedLanguageFiles) {
     for (const char* code : {"de", "us"}) {
         const std::string path =
             SourceFile(std::string("resources/language/tntlng_") + code + ".ini");
@@ -75,74 +167,28 @@ TEST_F(ProfileWalkTest, ShippedLanguageFiles) {
     EXPECT_GT(compared, 1000);
 }
 
-// Files of odd parts in any order: quotes, blanks, comments, keys and sections that are there
-// twice, lines without an end, bytes beyond ASCII, long values.
-TEST_F(ProfileWalkTest, OddFiles) {
-    const std::vector<std::string> parts = {"[frmMain]",
-                                            "[FRMMAIN]",
-                                            "[ frmMain ]",
-                                            "[frmMain",
-                                            "frmMain]",
-                                            "[Info]",
-                                            "[]",
-                                            "[frmMain] ; x",
-                                            "\r\n",
-                                            "\r\n",
-                                            "\r\n",
-                                            "\r\n",
-                                            "\n",
-                                            "\r",
-                                            "\t",
-                                            " ",
-                                            "a",
-                                            "b",
-                                            "A",
-                                            "a.Caption",
-                                            "=",
-                                            "=",
-                                            "=",
-                                            "==",
-                                            ";",
-                                            "#",
-                                            "\"",
-                                            "'",
-                                            "\"x\"",
-                                            "'x'",
-                                            " x ",
-                                            "&Datei ...",
-                                            "Gr\xFCn",
-                                            "\xDF",
-                                            "\x80",
-                                            "%s",
-                                            "\\",
-                                            "0",
-                                            "-1",
-                                            "\x1A",
-                                            "a=1\r\n",
-                                            "b=2\r\n",
-                                            "a=\"1\r\n",
-                                            "a= 3 \r\n",
-                                            "a =4\r\n",
-                                            ";a=5\r\n",
-                                            "a b=6\r\n",
-                                            "a b",
-                                            "a B.c=\"7\r\n",
-                                            std::string(254, 'y'),
-                                            std::string(256, 'z'),
-                                            "[frmMain]\r\na=1\r\n",
-                                            "[Info]\r\nb=2\r\n"};
-    std::vector<Question> questions;
-    for (const char* section : {"frmMain", "Info", "none", ""})
-        for (const char* key : {"a", "b", "A", "a.Caption", "a b", "a  b", "A b.c", "a ", " a",
-                                "none", ";a", "x", "0", "="})
-            for (const char* fallback : {"", "otherwise", "blank at the end ", "\"quoted\""})
-                questions.push_back({section, key, fallback});
+TEST_F(ProfileWalkTest, WalkGivesWhatSingleReadsGiveOfEveryFileThatFuzzingKept) {
+    int files = 0;
+    const std::filesystem::path corpora = ToUtf16(SourceFile("tests/fuzz/corpus"));
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(corpora)) {
+        if (!entry.is_regular_file())
+            continue;
+        const std::string path = ToUtf8(entry.path().native());
+        SCOPED_TRACE(path);
+        ExpectSame(path, QuestionsAboutAny(BytesOf(path)));
+        ++files;
+    }
+    EXPECT_GT(files, 15);
+}
+
+// Quotes, blanks, comments, keys and sections that are there twice, lines without an end, bytes
+// beyond ASCII, long values, in any order.
+TEST_F(ProfileWalkTest, WalkGivesWhatSingleReadsGiveOfFilesOfOddParts) {
+    const std::vector<Question> questions = OddQuestions();
     std::mt19937 random(20'261'122);
     const int files = Dose("TNT_FILES", 50);
     for (int number = 0; number < files; ++number) {
-        std::string content;
-        for (std::size_t count = random() % 40; count > 0; --count)
-            content += parts[random() % parts.size()];
+        const std::string content = OddContent(random);
         const std::string name = std::to_string(number) + ".ini";
         folder.Write(name, content);
         SCOPED_TRACE(testing::Message() << "file: " << testing::PrintToString(content));

@@ -295,7 +295,7 @@ TEST_F(Levels, ClearOfTheComponentOfAFaceLeavesTheFaceAlone) {
 }
 
 TEST_F(Levels, ClearOfOneLevelLeavesWhatElseIsSelectedColoredAndSelected) {
-    for (const std::size_t face : {2, 7, 9})
+    for (const std::size_t face : {std::size_t{2}, std::size_t{7}, std::size_t{9}})
         FaceAt(face)->Select(true);
     FeatureAt(2)->Select(true);
     const auto before = Selected();

@@ -71,7 +71,7 @@ class Ways(unittest.TestCase):
     def leads_somewhere(way, entries):
         """way: what stands behind the menu and its ">"."""
         for name, submenu in entries:
-            plain = re.sub(r" \(.*\)$", "", name)  # an access key of its own
+            plain = re.sub(r" \(.*\)$", "", name)  # a way may leave it out
             rest = way.removeprefix(plain)
             if rest != way and not rest[:1].isalpha():
                 return not rest.startswith(" > ") or any(rest[3:].startswith(entry)

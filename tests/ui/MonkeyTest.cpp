@@ -318,6 +318,8 @@ void Monkey::KeepSmall() {
     prompts.questions.clear();
     prompts.fileRequests.clear();
     prompts.colorRequests.clear();
+    program->shell.requests.clear();
+    program->solidWorks.Log().Clear();
     while (SendMessageW(Tree(), TVM_GETCOUNT, 0, 0) > 40) {
         prompts.answers.assign(1, Answer::Yes);
         program->Run(IDM_mnuFileClose);
