@@ -54,6 +54,23 @@ class Commands(unittest.TestCase):
                     self.assertEqual(bullet[:len(sentence)], sentence)
 
 
+class Buttons(unittest.TestCase):
+    """Of the windows beside the main one; those that close a window or stop work need no words."""
+
+    NEED_NO_WORDS = {"OK", "Close", "Schließen", "Stop", "Stopp"}
+
+    def test_readme_names_every_button(self):
+        for language in LANGUAGES:
+            entries = LANGUAGE_CHECK.parse(LANGUAGE_CHECK.language_file(language).read_bytes())[0]
+            told = words(document("readme", language)).casefold()
+            for (section, key), value in entries.items():
+                caption = re.sub(r" \.\.\.$| \(F\d\)$", "", value.replace("&", ""))
+                if (section != "frmMain" and re.fullmatch(r"cmd\w+\.Caption", key) and
+                        caption not in self.NEED_NO_WORDS):
+                    with self.subTest(language=language, window=section, button=caption):
+                        self.assertIn(caption.casefold(), told)
+
+
 class Ways(unittest.TestCase):
     """"Menu > Entry" leads somewhere, wherever it is said."""
 
