@@ -64,6 +64,7 @@ void ViewsJob::ShowEditor(bool large) {
         Main().ClickButton(IDM_mnuViewHugeColorDialog);
     Report().CheckBecomes(
         "the large editor is shown", [this] { return Main().IsLargeEditorShown(); }, large);
+    RestPointer();
 }
 
 void ViewsJob::SpeakGerman() {
@@ -71,7 +72,6 @@ void ViewsJob::SpeakGerman() {
     Report().CheckBecomes(
         "caption of the editor", [this] { return Main().Window().Child(IDC_fraShowColor).Text(); },
         std::string("Aktive Farbe"));
-    RestPointer();
 }
 
 // Where no tip belongs to anything; the one that is there goes.
@@ -133,7 +133,6 @@ POINT ViewsJob::PointOfBall() const {
 // The ball is lit, so that its color is not known; the band below it has the plain one.
 void ViewsJob::PreviewMaterial() {
     ShowEditor(true);
-    RestPointer();
     Report().CheckBecomes(
         "plain color", [this] { return Field().ColorAt(PointOfBall()); }, gold_);
     PostMessageW(Main().Window().Handle(), WM_COMMAND, IDM_mnuViewMaterialPreview, 0);
