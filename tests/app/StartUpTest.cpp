@@ -1,6 +1,7 @@
 // Rules: Start-up and shut-down
 #include "resources/controls.h"
 #include "tests/fakes/FakeProgram.h"
+#include "tests/fakes/LibraryText.h"
 
 #include <gtest/gtest.h>
 
@@ -140,16 +141,8 @@ TEST_F(StartUpTest, DefaultLibraryWithAFaultGivesTheInvalidFileMessageAndKeepsWh
 }
 
 TEST_F(StartUpTest, DefaultLibraryWithABrokenValueIsReportedAndTheWindowIsShown) {
-    program.files.contents["C:\\a.tnt"] = "\"D#L=0D:1\"\r\n\"G#g=0DG1\"\r\n\"E#a=0DG1:a\xF7"
-                                          "99999\xF7"
-                                          "0\xF7"
-                                          "0\xF7"
-                                          "0\xF7"
-                                          "0\xF7"
-                                          "0\xF7"
-                                          "0\xF7"
-                                          "0\xF7"
-                                          "0\"\r\n";
+    program.files.contents["C:\\a.tnt"] =
+        "\"D#L=0D:1\"\r\n\"G#g=0DG1\"\r\n" + ColorLine("0DG1", "a", "99999");
     program.registry.SetText(FakeProgram::Setting("DefaultColorFile"), "C:\\a.tnt");
     program.application.Start();
     ASSERT_EQ(program.prompts.messages.size(), 1U);

@@ -4,6 +4,7 @@
 #include "common/InfoTextNumber.h"
 #include "resources/controls.h"
 #include "tests/fakes/FakeProgram.h"
+#include "tests/fakes/LibraryText.h"
 #include "tests/fakes/LibraryOutline.h"
 
 #include <gtest/gtest.h>
@@ -196,11 +197,8 @@ TEST_F(PaletteCommandsTest, DroppedPaletteIsToldWhenItCannotBeRead) {
 }
 
 TEST_F(PaletteCommandsTest, ErrorOfADroppedLibraryLetsThePalettesIn) {
-    std::string color = "\"E#a=0DG1:a\xF7"
-                        "99999";
-    for (int value = 2; value <= 9; ++value)
-        color += "\xF7" + std::to_string(value);
-    program.files.contents["C:\\bad.tnt"] = "\"D#Lib=0D:2\"\r\n\"G#g=0DG1\"\r\n" + color + "\"\r\n";
+    program.files.contents["C:\\bad.tnt"] =
+        "\"D#Lib=0D:2\"\r\n\"G#g=0DG1\"\r\n" + ColorLine("0DG1", "a", "99999");
     EXPECT_THROW(program.Main().frame.FilesDropped({"C:\\bad.tnt", kCsv}), RuntimeError);
     EXPECT_EQ(Nodes(), (Texts{"0D Lib", "0DG1 g", "1D table", "1DG1 warm", "1DG2 cold"}));
 }

@@ -4,20 +4,11 @@
 #include "common/InfoTextNumber.h"
 #include "resources/controls.h"
 #include "tests/fakes/FakeProgram.h"
+#include "tests/fakes/LibraryText.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-constexpr const char* kLineOfADamagedColor = "\"E#red=0DG1:red\xF7x\xF7"
-                                             "0\xF7"
-                                             "0\xF7"
-                                             "0\xF7"
-                                             "0\xF7"
-                                             "0\xF7"
-                                             "0\xF7"
-                                             "0\xF7"
-                                             "0\"\r\n";
 
 class RecoverCommandsTest : public testing::Test {
 protected:
@@ -157,7 +148,7 @@ TEST_F(RecoverCommandsTest, AllAreOpenedAlsoBesideOneThatIsBrokenAndOneThatIsDam
     Leave("gone-3", "Damaged", "");
     program.files.contents[std::string(FakeProgram::kRecoveryFolder) + "\\gone-2.tnt"] = "rubbish";
     program.files.contents[std::string(FakeProgram::kRecoveryFolder) + "\\gone-3.tnt"] +=
-        kLineOfADamagedColor;
+        ColorLine("0DG1", "red", "x");
     program.recover.work = [&] {
         EXPECT_EQ(program.recover.rows.size(), 3U);
         return std::vector{0, 1, 2};
@@ -185,7 +176,7 @@ TEST_F(RecoverCommandsTest, BrokenEntryIsToldAndStays) {
 TEST_F(RecoverCommandsTest, WhatCanBeReadOfADamagedEntryDoesNotLiveInTheFolder) {
     Leave("gone-1", "Reds", "C:\\reds.tnt");
     program.files.contents[std::string(FakeProgram::kRecoveryFolder) + "\\gone-1.tnt"] +=
-        kLineOfADamagedColor;
+        ColorLine("0DG1", "red", "x");
     program.recover.work = [] { return std::vector{0}; };
     EXPECT_THROW(Run(IDM_mnuFileRecover), RuntimeError);
     EXPECT_EQ(program.view.nodes["0D"], "Reds");
