@@ -21,7 +21,7 @@ Microsoft::WRL::ComPtr<IMessageFilter> RegisteredFilter() {
 TEST(BusyMessageFilter, RejectedCallComesBackToItsCallerAtOnce) {
     const ComApartment apartment;
     BusyMessageFilter filter;
-    for (const DWORD reason : {SERVERCALL_REJECTED, SERVERCALL_RETRYLATER})
+    for (const DWORD reason : {DWORD{SERVERCALL_REJECTED}, DWORD{SERVERCALL_RETRYLATER}})
         EXPECT_EQ(filter.RetryRejectedCall(nullptr, 0, reason), kGiveUp);
 }
 

@@ -50,8 +50,8 @@ private:
 
 TEST(Win32EventPump, EventsAreProcessedAndClicksAndKeysAreThrownAway) {
     CountingWindow window;
-    for (const UINT input :
-         {WM_LBUTTONDOWN, WM_NCLBUTTONDOWN, WM_KEYDOWN, WM_MOUSEWHEEL, WM_SYSKEYDOWN})
+    for (const UINT input : {UINT{WM_LBUTTONDOWN}, UINT{WM_NCLBUTTONDOWN}, UINT{WM_KEYDOWN},
+                             UINT{WM_MOUSEWHEEL}, UINT{WM_SYSKEYDOWN}})
         PostMessageW(window.Handle(), input, VK_F1, 0);
     PostMessageW(window.Handle(), WM_COMMAND, 1, 0);
     EXPECT_FALSE(Win32EventPump().ProcessEventsWithoutInput());

@@ -136,7 +136,7 @@ TEST_F(AuxiliaryForms, AboutAndProgressAreNeitherMinimisedNorMaximised) {
     for (const HWND window : {about.Handle(), progress.Handle()}) {
         ShowWindow(window, SW_SHOW);
         PumpMessages();
-        for (const WPARAM command : {SC_MAXIMIZE, SC_MINIMIZE, SC_SIZE}) {
+        for (const WPARAM command : {WPARAM{SC_MAXIMIZE}, WPARAM{SC_MINIMIZE}, WPARAM{SC_SIZE}}) {
             SendMessageW(window, WM_SYSCOMMAND, command, 0);
             EXPECT_EQ(IsZoomed(window), FALSE);
             EXPECT_EQ(IsIconic(window), FALSE);

@@ -152,7 +152,8 @@ TEST_F(ListHintForm, ArrowKeysGoFromLinkToLinkAndEnterTakesOne) {
     ShowHint();
     SetFocus(List());
     Texts way;
-    for (const WPARAM key : {VK_DOWN, VK_DOWN, VK_DOWN, VK_UP, VK_UP, VK_UP}) {
+    for (const WPARAM key : {WPARAM{VK_DOWN}, WPARAM{VK_DOWN}, WPARAM{VK_DOWN}, WPARAM{VK_UP},
+                             WPARAM{VK_UP}, WPARAM{VK_UP}}) {
         Press(key);
         way.push_back(Focused());
     }

@@ -144,7 +144,8 @@ TEST_F(RecoverForm, EscapeTheCloseBoxAndItsButtonOpenNothing) {
 TEST_F(RecoverForm, KeysWithoutRowsDoNothingButClose) {
     bool staysOpen = false;
     const auto chosen = Opened({}, [&] {
-        for (const WPARAM key : {VK_RETURN, VK_DELETE, VK_DOWN, VK_F2})
+        for (const WPARAM key :
+             {WPARAM{VK_RETURN}, WPARAM{VK_DELETE}, WPARAM{VK_DOWN}, WPARAM{VK_F2}})
             Press(key);
         staysOpen = IsWindowVisible(window.Handle()) != FALSE;
     });
