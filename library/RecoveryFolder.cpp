@@ -156,10 +156,10 @@ void RecoveryFolder::Tidy(const std::vector<std::string>& staying) {
     RemoveRemains();
     int count = 0;
     for (const RecoveryEntry& entry : All()) {
+        if (std::ranges::find(staying, entry.id) != staying.end())
+            continue;
         ++count;
-        const bool mayGo = !IsOfAnotherRunningCopy(entry.id) &&
-                           std::ranges::find(staying, entry.id) == staying.end();
-        if (mayGo && (count > kMostLibraries || IsTooOld(entry.info)))
+        if (!IsOfAnotherRunningCopy(entry.id) && (count > kMostLibraries || IsTooOld(entry.info)))
             Remove(entry.id);
     }
 }

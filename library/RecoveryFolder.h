@@ -60,7 +60,7 @@ public:
     [[nodiscard]] std::string LibraryPath(const std::string& id) const;
 
     // Removes remains, what is too old and, the oldest first, what is too much; never what another
-    // copy that runs has kept, nor what is named here.
+    // copy that runs has kept, nor what is named here, which takes no room from the others.
     void Tidy(const std::vector<std::string>& staying);
 
 private:

@@ -56,6 +56,7 @@ ListHint::~ListHint() = default;
 bool ListHint::Show(const std::vector<Line>& lines) {
     if (lines == lines_)
         return false;
+    const std::string focused = FocusedLink();
     if (lines.empty())
         GiveFocusBack();
     for (std::size_t line = 0; line < lines_.size(); ++line)
@@ -64,7 +65,25 @@ bool ListHint::Show(const std::vector<Line>& lines) {
     MakeLabels();
     for (std::size_t line = 0; line < lines_.size(); ++line)
         LabelOf(line).SetText(lines_[line].text);
+    if (!focused.empty())
+        FocusLinkNamed(focused);
     return true;
+}
+
+// Text of the link that has the focus; empty: none.
+std::string ListHint::FocusedLink() const {
+    const HWND focused = GetFocus();
+    for (std::size_t line = 0; line < lines_.size(); ++line)
+        if (lines_[line].isLink && LabelOf(line).Handle() == focused)
+            return lines_[line].text;
+    return {};
+}
+
+// Where the lines change under the user's hand the key means what it meant.
+void ListHint::FocusLinkNamed(const std::string& text) {
+    const auto line = std::ranges::find(lines_, Line{.text = text, .isLink = true});
+    if (line != lines_.end())
+        LabelOf(static_cast<std::size_t>(line - lines_.begin())).Focus();
 }
 
 // Those that are there already stay: a click on one may be what brings other lines.

@@ -57,6 +57,8 @@ private:
     bool FocusLink(std::ptrdiff_t line, int step);
     void LeaveList() const;
     void GiveFocusBack() const;
+    [[nodiscard]] std::string FocusedLink() const;
+    void FocusLinkNamed(const std::string& text);
 
     ControlHost& host_;
     Control& list_;

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <numeric>
+
 namespace {
 
 class RecoverCommandsTest : public testing::Test {
@@ -161,6 +163,28 @@ TEST_F(RecoverCommandsTest, AllAreOpenedAlsoBesideOneThatIsBrokenAndOneThatIsDam
         return std::vector<int>();
     };
     Run(IDM_mnuFileRecover);
+}
+
+// An opened library is there twice until its own copy is written.
+TEST_F(RecoverCommandsTest, OpeningAllPushesOutNothingThatIsNotOpenYet) {
+    constexpr int kAsManyAsStay = 20;
+    for (char letter = 'a'; letter < 'a' + kAsManyAsStay; ++letter)
+        Leave(std::string("gone-") + letter + '2', std::string(1, letter), "");
+    Leave("gone-x1", "Oldest", "");
+    program.files.contents.erase(std::string(FakeProgram::kRecoveryFolder) + "\\gone-t2.tnt");
+    program.recover.work = [&] {
+        EXPECT_EQ(program.recover.rows.back()[0], "Oldest");
+        std::vector<int> allButTheLast(program.recover.rows.size() - 1);
+        std::iota(allButTheLast.begin(), allButTheLast.end(), 0);
+        return allButTheLast;
+    };
+    Run(IDM_mnuFileRecover);
+    SecondPasses();
+    SecondPasses();
+    program.recover.work = [] { return std::vector<int>(); };
+    Run(IDM_mnuFileRecover);
+    ASSERT_EQ(program.recover.rows.size(), 1U);
+    EXPECT_EQ(program.recover.rows[0][0], "Oldest");
 }
 
 TEST_F(RecoverCommandsTest, BrokenEntryIsToldAndStays) {

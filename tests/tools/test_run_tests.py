@@ -65,6 +65,12 @@ class Choice(unittest.TestCase):
             "portable-tests": ("build/native/portable_tests",
                                "--gtest_filter=ColorTable*:Text.Ends")})
 
+    def test_a_named_step_is_that_of_every_run_if_it_is_in_that(self):
+        self.assertNotIn("--paths", commands(tests.chosen_plan(["tidy-portable"], 2))
+                         ["tidy-portable"])
+        limits = {step.name: step.limit for step in tests.chosen_plan(["portable"], 2)}
+        self.assertEqual(limits["portable-tests"], 900)
+
     def test_a_bare_word_is_the_beginning_of_a_name(self):
         plan = commands(tests.chosen_plan(["windows", "Monkey"], 2))
         self.assertEqual(plan["windows-tests"][-1], "--gtest_filter=Monkey*")

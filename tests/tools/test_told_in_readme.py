@@ -62,13 +62,13 @@ class Buttons(unittest.TestCase):
     def test_readme_names_every_button(self):
         for language in LANGUAGES:
             entries = LANGUAGE_CHECK.parse(LANGUAGE_CHECK.language_file(language).read_bytes())[0]
-            told = words(document("readme", language)).casefold()
+            told = words(document("readme", language))
             for (section, key), value in entries.items():
                 caption = re.sub(r" \.\.\.$| \(F\d\)$", "", value.replace("&", ""))
                 if (section != "frmMain" and re.fullmatch(r"cmd\w+\.Caption", key) and
                         caption not in self.NEED_NO_WORDS):
                     with self.subTest(language=language, window=section, button=caption):
-                        self.assertIn(caption.casefold(), told)
+                        self.assertRegex(told, rf"(?<!\w){re.escape(caption)}(?!\w)")
 
 
 class Ways(unittest.TestCase):

@@ -167,6 +167,20 @@ TEST_F(ListHintForm, ArrowKeysGoFromLinkToLinkAndEnterTakesOne) {
     EXPECT_EQ(events.lines, Texts{"sample C:\\samples\\a.tnt"});
 }
 
+TEST_F(ListHintForm, FocusStaysOnItsLinkWhenAnotherOneComesBeforeIt) {
+    ShowHint();
+    SetFocus(List());
+    Press(VK_DOWN);
+    ASSERT_EQ(Focused(), "Open a library ...");
+    events.hintLines.insert(events.hintLines.begin() + 1,
+                            {.text = "Recover ...", .command = IDM_mnuFileRecover});
+    view.list.HintChanged();
+    EXPECT_EQ(Shown().at(1), "Recover ...");
+    EXPECT_EQ(Focused(), "Open a library ...");
+    Press(VK_RETURN);
+    EXPECT_EQ(events.commands, std::vector<int>{IDM_mnuFileOpen});
+}
+
 TEST_F(ListHintForm, TabLeavesALinkAsItLeavesTheList) {
     ShowHint();
     SetFocus(List());
