@@ -67,11 +67,16 @@ def check(name, *command, limit=120, **options):
     return Step(name, command, limit, **options)
 
 
+def patience(doses):
+    """Seconds for a suite that goes on longer with long doses."""
+    return 3600 if doses else 900
+
+
 def native_steps(shards=1, doses=()):
     return [
         build("native", 1800),
         *shared_suite("portable-tests", "native", ["build/native/portable_tests"],
-                      3600 if doses else 900, shards, doses),
+                      patience(doses), shards, doses),
         convert_tests("convert-tests", "native"),
         # Whether it runs, at a small size; nothing is timed here.
         check("library-bench", "build/native/library_bench", "10000", "1",
@@ -121,12 +126,12 @@ def windows_steps(shards, doses):
         build("windows", 3600, follows=("build-native",)),
         *windows_suites(shards, doses),
         suite("portable-tests-wine", "windows", (*session, "build/windows/portable_tests.exe"),
-              3600 if doses else 900, environment=doses),
+              patience(doses), environment=doses),
         convert_tests("convert-tests-wine", "windows", *WINE, "env",
                       "TNT_CONVERT=build/windows/bin/tnt-convert.exe"),
         suite("file-faults", "windows",
               (*WINE, "tools/run-file-faults.sh", "build/windows/file_faults.exe"),
-              3600 if doses else 900, environment=doses),
+              patience(doses), environment=doses),
         # What protects the programs and their user, and that nothing of this machine is in them.
         check("hardening", "tools/check-hardening.py", *own, f"--forbid={ROOT}", "--forbid=/usr/",
               *programs, needs=("build-windows",), targets=PROGRAMS),
